@@ -1,0 +1,30 @@
+#pragma once
+
+// A picture of at most 256 colours in memory: what a drawn chart becomes on its way into a file.
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace kladez {
+
+struct Rgb {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+
+  bool operator==(const Rgb&) const = default;
+};
+
+using ColourTable = std::array<Rgb, 256>;
+
+// Sizes in pixels. `pixels` holds the rows from top to bottom without padding, one index into
+// `colours` a pixel.
+struct IndexedImage {
+  int width = 0;
+  int height = 0;
+  ColourTable colours{};
+  std::vector<std::uint8_t> pixels;
+};
+
+}  // namespace kladez
