@@ -1,0 +1,294 @@
+#include "formats/Numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <type_traits>
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+// What a parse has collected for the conversion to double: sign, digits, point, exponent.
+class Digits {
+ public:
+  void Add(char16_t c) {
+    if (used_ < text_.size()) {
+      text_[used_++] = static_cast<char>(c);
+    } else {
+      overflow_.append(text_.data(), used_);
+      used_ = 0;
+      text_[used_++] = static_cast<char>(c);
+    }
+  }
+  std::optional<double> Value() const {
+    const std::string all = overflow_.empty() ? std::string() : overflow_ + Tail();
+    const std::string_view text =
+        overflow_.empty() ? std::string_view(text_.data(), used_) : std::string_view(all);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error == std::errc::result_out_of_range) {
+      // An underflow is 0; only too large a number is none.
+      const auto exponent = text.find_first_of("eE");
+      const bool tiny = (exponent != text.npos && text.substr(exponent).find('-') != text.npos) ||
+                        text.substr(0, 2) == "0." || text.substr(0, 1) == ".";
+      if (tiny) return 0;
+      return std::nullopt;
+    }
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return value;
+  }
+
+ private:
+  std::string Tail() const { return {text_.data(), used_}; }
+  std::array<char, 64> text_;
+  size_t used_ = 0;
+  std::string overflow_;
+};
+
+// Both parses walk the characters of either a text or a file's bytes.
+template <typename Char>
+class Cursor {
+ public:
+  Cursor(const Char* from, const Char* to) : at_(from), end_(to) {}
+  bool AtEnd() const { return at_ == end_; }
+  char16_t Now() const {
+    if constexpr (std::is_same_v<Char, QChar>) {
+      return at_->unicode();
+    } else {
+      return static_cast<unsigned char>(*at_);
+    }
+  }
+  char16_t Ahead() const { return at_ + 1 < end_ ? Cursor(at_ + 1, end_).Now() : u'\0'; }
+  void Step() { ++at_; }
+  void SkipBlanks() {
+    while (!AtEnd() && Now() == u' ') Step();
+  }
+  bool Take(char16_t a, char16_t b) {
+    if (AtEnd() || (Now() != a && Now() != b)) return false;
+    Step();
+    return true;
+  }
+
+ private:
+  const Char* at_;
+  const Char* end_;
+};
+
+template <typename Char>
+int TakeDigits(Cursor<Char>& in, Digits& out, bool grouped) {
+  int count = 0;
+  while (!in.AtEnd()) {
+    if (IsDigit(in.Now())) {
+      out.Add(in.Now());
+      ++count;
+      in.Step();
+    } else if (grouped && count > 0 && in.Now() == u' ') {
+      Cursor<Char> ahead = in;
+      ahead.SkipBlanks();
+      if (ahead.AtEnd() || !IsDigit(ahead.Now())) break;
+      in = ahead;
+    } else {
+      break;
+    }
+  }
+  return count;
+}
+
+template <typename Char>
+std::optional<double> ParseStrictly(Cursor<Char> in) {
+  Digits digits;
+  in.SkipBlanks();
+  bool negative = false;
+  if (!in.AtEnd() && (in.Now() == u'-' || in.Now() == u'+')) {
+    negative = in.Now() == u'-';
+    in.Step();
+    in.SkipBlanks();
+  }
+  int count = TakeDigits(in, digits, true);
+  if (in.Take(u'.', u'.')) {
+    if (count == 0) digits.Add(u'0');
+    digits.Add(u'.');
+    const int decimals = TakeDigits(in, digits, false);
+    if (decimals == 0) digits.Add(u'0');
+    count += decimals;
+  }
+  if (count == 0) return std::nullopt;
+  if (in.Take(u'e', u'E')) {
+    digits.Add(u'e');
+    if (!in.AtEnd() && (in.Now() == u'-' || in.Now() == u'+')) {
+      if (in.Now() == u'-') digits.Add(u'-');
+      in.Step();
+    }
+    if (TakeDigits(in, digits, false) == 0) return std::nullopt;
+  }
+  in.SkipBlanks();
+  if (!in.AtEnd()) return std::nullopt;
+  const auto value = digits.Value();
+  if (!value) return std::nullopt;
+  return negative ? -*value : *value;
+}
+
+// The digits of a number rounded to 15 significant ones: 0.d1d2d3... times ten to `exponent`.
+struct Decimal {
+  bool negative;
+  std::string digits;  // no trailing zeros; empty for zero
+  int exponent;
+};
+
+Decimal ToDecimal(double value) {
+  std::array<char, 40> buffer;
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                    std::chars_format::scientific, 14);
+  const std::string text(buffer.data(), result.ptr);
+  const auto mark = text.find('e');
+  Decimal decimal{value < 0, text.substr(0, 1) + text.substr(2, mark - 2),
+                  std::atoi(text.c_str() + mark + 1) + 1};
+  decimal.digits.erase(decimal.digits.find_last_not_of('0') + 1);
+  return decimal;
+}
+
+// Rounds half away from zero to `places` digits after the point.
+void RoundAt(Decimal& decimal, int places) {
+  const int keep = decimal.exponent + places;
+  if (keep < 0) {
+    decimal.digits.clear();
+    return;
+  }
+  if (keep >= static_cast<int>(decimal.digits.size())) return;
+  const bool up = decimal.digits[keep] >= '5';
+  decimal.digits.resize(keep);
+  if (!up) return;
+  int i = keep - 1;
+  while (i >= 0 && decimal.digits[i] == '9') decimal.digits[i--] = '0';
+  if (i >= 0) {
+    ++decimal.digits[i];
+  } else {
+    decimal.digits.insert(decimal.digits.begin(), '1');
+    ++decimal.exponent;
+  }
+}
+
+QString WithTwoDecimals(double value, bool grouped) {
+  if (!std::isfinite(value)) return u"0.00"_s;
+  Decimal decimal = ToDecimal(value);
+  RoundAt(decimal, 2);
+  std::string& digits = decimal.digits;
+  const bool zero = digits.find_first_not_of('0') == digits.npos;
+  if (zero) return u"0.00"_s;
+  if (decimal.exponent <= 0) {
+    digits.insert(0, static_cast<size_t>(1 - decimal.exponent), '0');
+    decimal.exponent = 1;
+  }
+  const auto whole = static_cast<size_t>(decimal.exponent);
+  digits.resize(std::max(digits.size(), whole + 2), '0');
+  std::string text = digits.substr(0, whole) + '.' + digits.substr(whole, 2);
+  if (grouped) {
+    for (int at = static_cast<int>(whole) - 3; at > 0; at -= 3) text.insert(at, 1, ' ');
+  }
+  if (decimal.negative) text.insert(0, 1, '-');
+  return QString::fromLatin1(text);
+}
+
+std::optional<double> ParseTurned(const QString& text, QString* turned) {
+  const QChar from = text.contains(u'.') ? u'.' : u',';
+  const qsizetype at = text.indexOf(from);
+  if (at < 0) return std::nullopt;
+  *turned = text;
+  (*turned)[at] = from == u'.' ? u',' : u'.';
+  return ParseStrict(*turned);
+}
+
+}  // namespace
+
+std::optional<double> ParseStrict(QStringView text) {
+  return ParseStrictly(Cursor<QChar>(text.begin(), text.end()));
+}
+
+std::optional<double> ParseStrict(QByteArrayView bytes) {
+  return ParseStrictly(Cursor<char>(bytes.data(), bytes.data() + bytes.size()));
+}
+
+double ParseLenient(QStringView text) {
+  const QString packed = text.toString().remove(u' ');
+  Cursor<QChar> in(packed.cbegin(), packed.cend());
+  Digits digits;
+  bool negative = false;
+  if (!in.AtEnd() && (in.Now() == u'-' || in.Now() == u'+')) {
+    negative = in.Now() == u'-';
+    in.Step();
+  }
+  int count = TakeDigits(in, digits, false);
+  if (in.Take(u'.', u'.')) {
+    if (count == 0) digits.Add(u'0');
+    digits.Add(u'.');
+    const int decimals = TakeDigits(in, digits, false);
+    if (decimals == 0) digits.Add(u'0');
+    count += decimals;
+  }
+  if (count == 0) return 0;
+  if (in.Take(u'e', u'E')) {
+    const bool minus = in.Take(u'-', u'-');
+    if (!minus) in.Take(u'+', u'+');
+    if (!in.AtEnd() && IsDigit(in.Now())) {
+      digits.Add(u'e');
+      if (minus) digits.Add(u'-');
+      TakeDigits(in, digits, false);
+    }
+  }
+  const double value = digits.Value().value_or(0);
+  return negative ? -value : value;
+}
+
+QString ToNumberOr(const QString& text, const QString& otherwise) {
+  if (ParseStrict(text)) return text;
+  QString turned;
+  if (ParseTurned(text, &turned)) return turned;
+  return otherwise.isEmpty() ? u"0"_s : otherwise;
+}
+
+double NumberOr(QStringView text, double otherwise) {
+  if (const auto value = ParseStrict(text)) return *value;
+  QString turned;
+  return ParseTurned(text.toString(), &turned).value_or(otherwise);
+}
+
+double NumberOr(QByteArrayView bytes, double otherwise) {
+  if (const auto value = ParseStrict(bytes)) return *value;
+  return NumberOr(QString::fromLatin1(bytes), otherwise);
+}
+
+QString FormatMoney(double value) { return WithTwoDecimals(value, false); }
+
+QString FormatGrouped(double value) { return WithTwoDecimals(value, true); }
+
+QString FormatLedger(double value) { return WithTwoDecimals(value, false); }
+
+double RoundMoney(double value) { return ParseStrict(FormatMoney(value)).value_or(0); }
+
+QString GeneralText(double value) {
+  if (value == 0 || !std::isfinite(value)) return u"0"_s;
+  const Decimal decimal = ToDecimal(value);
+  std::string text = decimal.digits;
+  const int size = static_cast<int>(text.size());
+  const double magnitude = std::fabs(value);
+  if (magnitude >= 1e15 || magnitude < 1e-15) {
+    if (size > 1) text.insert(1, 1, '.');
+    const int exponent = decimal.exponent - 1;
+    text += std::string(exponent < 0 ? "E-" : "E+") + (std::abs(exponent) < 10 ? "0" : "") +
+            std::to_string(std::abs(exponent));
+  } else if (decimal.exponent <= 0) {
+    text.insert(0, "0." + std::string(static_cast<size_t>(-decimal.exponent), '0'));
+  } else if (decimal.exponent >= size) {
+    text.append(static_cast<size_t>(decimal.exponent - size), '0');
+  } else {
+    text.insert(static_cast<size_t>(decimal.exponent), 1, '.');
+  }
+  return QString::fromLatin1((decimal.negative ? "-" : "") + text);
+}
+
+}  // namespace kladez

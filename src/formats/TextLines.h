@@ -1,0 +1,55 @@
+// The text of every file of a Database: Windows-1251, lines ended by CR LF, no header, no mark at
+// the end. All 256 byte values survive reading and writing (the one that the code page leaves
+// undefined, 0x98, is kept as U+0098), so a foreign line is never damaged by being rewritten.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+namespace kladez {
+
+// Windows-1251 bytes to text; never fails.
+QString DecodeText(QByteArrayView bytes);
+
+// Whether Windows-1251 holds the character. Input fields refuse what it does not.
+bool CanEncode(QChar c);
+
+// Text to Windows-1251 bytes. Throws std::system_error (illegal byte sequence) for a character that
+// the code page lacks: input fields keep such characters away from writers.
+QByteArray EncodeText(QStringView text);
+
+// Walks the lines of a file's bytes. Past the end it gives empty lines, so that the last record of
+// a file that was cut reads as a record whose missing fields are empty.
+class LineReader {
+ public:
+  explicit LineReader(QByteArrayView bytes) : rest_(bytes) {}
+
+  bool AtEnd() const { return rest_.isEmpty(); }
+  // The next line without its CR LF; the last line of a file may lack the CR LF.
+  QByteArrayView NextRaw();
+  QString Next() { return DecodeText(NextRaw()); }
+  // The first byte of the next line, 0 at the end or before an empty line.
+  char Peek() const;
+
+ private:
+  QByteArrayView rest_;
+};
+
+// Gathers the bytes of a file line by line.
+class LineWriter {
+ public:
+  void Add(QStringView line);
+  void AddRaw(QByteArrayView line);
+  void Reserve(qsizetype bytes) { bytes_.reserve(bytes); }
+  QByteArray Take() { return std::move(bytes_); }
+
+ private:
+  QByteArray bytes_;
+};
+
+QStringList DecodeLines(QByteArrayView bytes);
+QByteArray EncodeLines(const QStringList& lines);
+
+}  // namespace kladez

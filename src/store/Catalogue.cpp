@@ -1,0 +1,106 @@
+#include "store/Catalogue.h"
+
+#include <cerrno>
+#include <cmath>
+
+#include "formats/CurrencyFile.h"
+#include "formats/Numbers.h"
+#include "formats/TextLines.h"
+#include "store/Errors.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr QStringView kExtension = u".us";
+
+void RefuseForeignPath(const CatalogueEntry& entry) {
+  if (IsPlainTreePath(entry.descriptor.path)) return;
+  ThrowFileError(u"База указывает не на каталог рядом с собой"_s, entry.descriptor.path, EINVAL);
+}
+
+}  // namespace
+
+std::vector<CatalogueEntry> ListDatabases(const DataDir& data) {
+  std::vector<CatalogueEntry> entries;
+  data.ForEachFile({}, kExtension, [&](const QString& file, auto bytes) {
+    entries.push_back({file, bytes ? ReadDescriptor(*bytes) : DatabaseDescriptor{}});
+    return true;
+  });
+  return entries;
+}
+
+QString NumberedName(int number) { return u"%1"_s.arg(number, 4, 10, QLatin1Char('0')); }
+
+int NextDatabaseNumber(const DataDir& data) {
+  const QStringList files = data.List({}, kExtension);
+  if (files.isEmpty()) return 1;
+  const double last = NumberOr(files.constLast().chopped(kExtension.size()));
+  return std::fabs(last) < 1e9 ? static_cast<int>(last) + 1 : 1;
+}
+
+QString AddNewDatabase(SaveSet& save, int number, const QString& name) {
+  const QString base = NumberedName(number) + u'\\';
+  save.Write(NumberedName(number) + kExtension, WriteDescriptor({base, name}));
+  save.MakeDirectory(base);
+  for (const char16_t* directory : {u"KASS", u"KASS\\PRH", u"KASS\\UHD", u"SPR", u"ВНПЕР"}) {
+    save.MakeDirectory(base + QStringView(directory));
+  }
+  const QString warehouse = u"Главный склад"_s;
+  save.Write(base + u"marked", {});
+  save.Write(base + u"склад.usd", EncodeLines({warehouse}));
+  save.Write(base + u"currency.usd", WriteCurrency(RoubleCurrency()));
+  AddNewWarehouse(save, base + warehouse);
+  QStringList firm(15, u"-"_s);
+  firm.first() = u"Ваша фирма"_s;
+  save.Write(base + u"SPR\\firma.spr", EncodeLines(firm));
+  for (const char16_t* file : {u"SPR\\klient.spr", u"SPR\\post.spr", u"SPR\\товар.spr"}) {
+    save.Write(base + QStringView(file), {});
+  }
+  return base;
+}
+
+void AddNewWarehouse(SaveSet& save, const QString& path) {
+  save.MakeDirectory(path);
+  for (const char16_t* directory : {u"\\OPR", u"\\PRH", u"\\PRICE", u"\\UHD"}) {
+    save.MakeDirectory(path + QStringView(directory));
+  }
+  save.Write(path + u"\\price.usd", EncodeLines({u"Розница"_s, u"Мелкий опт"_s, u"Опт"_s}));
+  save.Write(path + u"\\товар.usl", {});
+  for (int number = 1; number <= 5; ++number) {
+    save.Write(path + u"\\PRICE\\" + NumberedName(number) + u".prc", {});
+  }
+}
+
+QString CreateDatabase(const DataDir& data, const QString& name) {
+  SaveSet save(data);
+  const int number = NextDatabaseNumber(data);
+  if (data.DirectoryExists(NumberedName(number))) {
+    ThrowFileError(u"Не удалось создать базу"_s, NumberedName(number), EEXIST);
+  }
+  QString base = AddNewDatabase(save, number, name);
+  save.Commit();
+  return base;
+}
+
+void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name) {
+  SaveSet save(data);
+  save.Write(entry.file, WriteDescriptor({entry.descriptor.path, name}));
+  save.Commit();
+}
+
+void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
+  RefuseForeignPath(entry);
+  SaveSet save(data);
+  save.DeleteTree(entry.descriptor.path);
+  save.Delete(entry.file);
+  save.Commit();
+}
+
+QString DirectorPassword(const DataDir& data) {
+  const QByteArray bytes = data.ReadIfAny(u"bases.psw"_s).value_or(QByteArray());
+  return LineReader(bytes).Next();
+}
+
+}  // namespace kladez

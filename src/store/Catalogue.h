@@ -1,0 +1,44 @@
+// The catalogue of Databases: whatever descriptors ("0001.us") lie in the data directory at the
+// moment. It has no file of its own.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "formats/DescriptorFile.h"
+#include "store/DataDir.h"
+#include "store/SaveSet.h"
+
+namespace kladez {
+
+struct CatalogueEntry {
+  QString file;  // "0001.us"
+  DatabaseDescriptor descriptor;
+};
+
+// All descriptors in the order of their file names; one that can't be read is an entry with empty
+// texts. Throws filesystem_error when the directory itself can't be listed.
+std::vector<CatalogueEntry> ListDatabases(const DataDir& data);
+
+// A number as files are named by it: "0###", "0012".
+QString NumberedName(int number);
+
+// The number for a new Database: one above the number of the last descriptor by name, 1 when there
+// is none. A gap in the middle is not filled.
+int NextDatabaseNumber(const DataDir& data);
+
+// Adds the descriptor and the whole tree of a new Database to a save; gives its path, "0001\".
+QString AddNewDatabase(SaveSet& save, int number, const QString& name);
+// Adds the directories and files of a new warehouse, `path` being its directory.
+void AddNewWarehouse(SaveSet& save, const QString& path);
+
+// Each is one save, and throws filesystem_error. An entry whose path is not one plain directory
+// name is refused (see IsPlainTreePath).
+QString CreateDatabase(const DataDir& data, const QString& name);
+void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name);
+void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry);
+
+// The first line of bases.psw, empty when there is none: no password then.
+QString DirectorPassword(const DataDir& data);
+
+}  // namespace kladez

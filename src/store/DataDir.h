@@ -1,0 +1,53 @@
+// The data directory: descriptors, Databases and print-outs lie in it. Paths of the system are
+// relative to it and written as in the files ("0001\spr\firma.spr"); the one resolver here finds
+// them whatever the letter case of what is on the disk, and refuses whatever would lead out.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <optional>
+
+namespace kladez {
+
+class DataDir {
+ public:
+  // `root` is a directory of the machine; the program gives its working directory.
+  explicit DataDir(const QString& root);
+
+  const QString& Root() const { return root_; }
+
+  // The machine's path of a path of the system. Parts that exist are found by their exact spelling
+  // first, else whatever their case, Latin and Cyrillic; parts that don't keep the spelling given.
+  // Throws filesystem_error for an absolute path, an empty part, ".", "..", a part with "/" or a
+  // NUL, and for a link that leads out of the directory. One backslash at the end is passed over.
+  QString Resolve(const QString& path) const;
+
+  bool FileExists(const QString& path) const;       // false too for a path that Resolve refuses
+  bool DirectoryExists(const QString& path) const;  // likewise
+
+  // The bytes of a file. Throws filesystem_error.
+  QByteArray Read(const QString& path) const;
+  // The same; nothing where the file can't be read.
+  std::optional<QByteArray> ReadIfAny(const QString& path) const;
+
+  // Names of the files of a directory that end in `extension` (".prh", whatever its case), ordered
+  // by the upper-cased name; an empty directory is the data directory itself. Throws
+  // filesystem_error.
+  QStringList List(const QString& directory, QStringView extension) const;
+
+  // Reads the files of List in its order. A file that can't be opened is handed over as nothing;
+  // `visit` returns false to stop. The bytes are valid during the call only.
+  using Visitor = std::function<bool(const QString& name, std::optional<QByteArrayView> bytes)>;
+  void ForEachFile(const QString& directory, QStringView extension, const Visitor& visit) const;
+
+ private:
+  QString root_;  // canonical, without a separator at the end
+};
+
+// "0001\": one plain directory name with a backslash, the only form of a Database's path that is
+// opened, deleted or copied.
+bool IsPlainTreePath(const QString& path);
+
+}  // namespace kladez

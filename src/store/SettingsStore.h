@@ -1,0 +1,63 @@
+// The per-user settings: text values by application root, section and key, kept in one file of the
+// user's configuration directory. They follow the user from one Database to another.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+class QSettings;
+
+namespace kladez {
+
+struct Setting {
+  QStringView root;
+  QStringView section;
+  QStringView key;
+  QStringView otherwise;  // what an absent key reads as
+};
+
+// Every setting of the program.
+namespace settings {
+inline constexpr Setting kBaseName{u"Kladez4", u"Main", u"basename", u""};
+inline constexpr Setting kBaseTitle{u"Kladez4", u"Main", u"basename1", u""};
+inline constexpr Setting kFilePos{u"Kladez4", u"Options", u"FilePos", u"1"};
+inline constexpr Setting kRole{u"Kladez4", u"Options", u"Chel",
+                               u""};  // never read back, on purpose
+inline constexpr Setting kTip{u"Kladez4", u"Options", u"Tip", u"1"};
+inline constexpr Setting kReport{u"Kladez4", u"Options", u"Report", u"1"};
+inline constexpr Setting kPanel{u"Kladez4", u"Options", u"Panel", u"1"};
+inline constexpr Setting kPriceGroups{u"Kladez4", u"Price", u"op1", u"True"};
+inline constexpr Setting kPriceGoodsOnly{u"Kladez4", u"Price", u"op2", u"False"};
+inline constexpr Setting kStockGroups{u"Kladez4", u"Sklad", u"op1", u"True"};
+inline constexpr Setting kStockGoodsOnly{u"Kladez4", u"Sklad", u"op2", u"False"};
+inline constexpr Setting kGoodsGroups{u"Kladez4", u"Spr", u"op1", u"True"};
+inline constexpr Setting kGoodsGoodsOnly{u"Kladez4", u"Spr", u"op2", u"False"};
+// Column widths "c1" to "c6" of the goods directory are written and never read back.
+inline constexpr Setting kGoodsColumn{u"Kladez4", u"SPRSklad", u"c", u""};
+inline constexpr Setting kSort{u"Kladez4", u"Sorting", u"Sort", u"AZ"};
+// The register of transfers keeps its order apart from the others, under the shorter root.
+inline constexpr Setting kTransferSort{u"Kladez", u"Sorting", u"Sort", u"AZ"};
+inline constexpr Setting kInvoiceTrader{u"Kladez4", u"chFact", u"IP", u""};
+inline constexpr Setting kRate{u"Kladez4", u"nums", u"doll", u"1"};
+inline constexpr Setting kVat{u"Kladez4", u"nums", u"nds", u""};       // written only
+inline constexpr Setting kSalesTax{u"Kladez4", u"nums", u"nsp", u""};  // written only
+}  // namespace settings
+
+class SettingsStore {
+ public:
+  // The settings of the machine's user, or those in a file of the caller's choice.
+  explicit SettingsStore(const QString& file = {});
+  ~SettingsStore();
+
+  // A read that fails gives the setting's default.
+  QString Read(const Setting& setting) const;
+  bool ReadBool(const Setting& setting) const;  // "True" or "False", or a number other than 0
+  int ReadInt(const Setting& setting) const;
+  void Write(const Setting& setting, const QString& text);
+  void WriteBool(const Setting& setting, bool on);  // "True" or "False"
+
+ private:
+  std::unique_ptr<QSettings> store_;
+};
+
+}  // namespace kladez

@@ -1,0 +1,146 @@
+#include "store/SystemCalls.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+
+namespace kladez::syscalls {
+namespace {
+
+FaultHook& Hook() {
+  static FaultHook hook;
+  return hook;
+}
+
+int Fault(std::string_view call, const QByteArray& path) { return Hook() ? Hook()(call, path) : 0; }
+
+int Result(int returned) { return returned < 0 ? errno : 0; }
+
+// Keeps a descriptor open for the length of a call.
+class Descriptor {
+ public:
+  explicit Descriptor(int fd) : fd_(fd) {}
+  ~Descriptor() {
+    if (fd_ >= 0) ::close(fd_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int Get() const { return fd_; }
+  explicit operator bool() const { return fd_ >= 0; }
+
+ private:
+  int fd_;
+};
+
+int WriteAll(int fd, QByteArrayView bytes, const QByteArray& path) {
+  constexpr qsizetype kPiece = 1 << 20;
+  do {
+    if (const int error = Fault("write", path)) return error;
+    const qsizetype size = std::min(bytes.size(), kPiece);
+    const ssize_t written = ::write(fd, bytes.data(), static_cast<size_t>(size));
+    if (written < 0 && errno != EINTR) return errno;
+    if (written > 0) bytes = bytes.sliced(written);
+  } while (!bytes.isEmpty());
+  return 0;
+}
+
+int CopyFile(const QByteArray& from, const QByteArray& to) {
+  const Descriptor in(::open(from.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
+  if (!in) return errno;
+  const Descriptor out(::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  if (!out) return errno;
+  std::array<char, 1 << 16> buffer;
+  while (true) {
+    const ssize_t got = ::read(in.Get(), buffer.data(), buffer.size());
+    if (got < 0) return errno;
+    if (got == 0) return Result(::fsync(out.Get()));
+    if (const int error = WriteAll(out.Get(), {buffer.data(), got}, to)) return error;
+  }
+}
+
+}  // namespace
+
+void SetFaultHook(FaultHook hook) { Hook() = std::move(hook); }
+
+int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {
+  if (const int error = Fault("create", path)) return error;
+  const Descriptor out(
+      ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666));
+  if (!out) return errno;
+  if (mode != 0 && ::fchmod(out.Get(), mode) < 0) return errno;
+  if (const int error = WriteAll(out.Get(), bytes, path)) return error;
+  if (const int error = Fault("fsync", path)) return error;
+  return Result(::fsync(out.Get()));
+}
+
+int SyncDirectory(const QByteArray& path) {
+  if (const int error = Fault("fsync", path)) return error;
+  const Descriptor directory(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!directory) return errno;
+  const int error = Result(::fsync(directory.Get()));
+  return error == EINVAL ? 0 : error;  // some file systems cannot sync a directory
+}
+
+int Rename(const QByteArray& from, const QByteArray& to) {
+  if (const int error = Fault("rename", to)) return error;
+  return Result(::rename(from.constData(), to.constData()));
+}
+
+int RenameToNew(const QByteArray& from, const QByteArray& to) {
+  if (const int error = Fault("rename", to)) return error;
+  const int error =
+      Result(::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE));
+  if (error != EINVAL) return error;
+  // The file system knows no such flag: the test and the rename are two steps there.
+  struct stat there;
+  if (::lstat(to.constData(), &there) == 0) return EEXIST;
+  return Result(::rename(from.constData(), to.constData()));
+}
+
+int KeepCopy(const QByteArray& of, const QByteArray& as) {
+  if (const int error = Fault("link", as)) return error;
+  if (::link(of.constData(), as.constData()) == 0) return 0;
+  if (errno == ENOENT) return ENOENT;
+  return CopyFile(of, as);
+}
+
+int Unlink(const QByteArray& path) {
+  if (const int error = Fault("unlink", path)) return error;
+  return Result(::unlink(path.constData()));
+}
+
+int MakeDirectory(const QByteArray& path) {
+  if (const int error = Fault("mkdir", path)) return error;
+  return Result(::mkdir(path.constData(), 0777));
+}
+
+int RemoveDirectory(const QByteArray& path) {
+  if (const int error = Fault("rmdir", path)) return error;
+  return Result(::rmdir(path.constData()));
+}
+
+int RemoveTree(const QByteArray& path) {
+  struct stat status;
+  if (::lstat(path.constData(), &status) < 0) return errno == ENOENT ? 0 : errno;
+  if (!S_ISDIR(status.st_mode)) return Unlink(path);
+  ::chmod(path.constData(), 0700);
+  {
+    const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.constData()), &::closedir);
+    if (!directory) return errno;
+    while (const dirent* entry = ::readdir(directory.get())) {
+      const QByteArray name(entry->d_name);
+      if (name == "." || name == "..") continue;
+      if (const int error = RemoveTree(path + "/" + name)) return error;
+    }
+  }
+  return RemoveDirectory(path);
+}
+
+}  // namespace kladez::syscalls

@@ -1,0 +1,28 @@
+// Every call that changes the disk goes through these, so that a test can let each of them fail, or
+// kill the process at it, one after the other.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <functional>
+#include <string_view>
+
+namespace kladez::syscalls {
+
+// Asked before each call with its name ("write", "fsync", "rename", "link", "unlink", "mkdir",
+// "rmdir") and its path; a result other than 0 is the errno with which the call fails.
+using FaultHook = std::function<int(std::string_view call, const QByteArray& path)>;
+void SetFaultHook(FaultHook hook);
+
+// All paths are absolute and in the file system's encoding. Each returns 0 or an errno.
+int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode);  // made, synced
+int SyncDirectory(const QByteArray& path);
+int Rename(const QByteArray& from, const QByteArray& to);       // replaces `to`
+int RenameToNew(const QByteArray& from, const QByteArray& to);  // fails where `to` exists
+int KeepCopy(const QByteArray& of, const QByteArray& as);       // a link, else a copy
+int Unlink(const QByteArray& path);
+int MakeDirectory(const QByteArray& path);
+int RemoveDirectory(const QByteArray& path);
+int RemoveTree(const QByteArray& path);  // with all that it holds, read-only or not
+
+}  // namespace kladez::syscalls
