@@ -25,8 +25,8 @@ class SaveSet {
   // Adds to the end of a file as it is now; the file must exist.
   void Append(const QString& path, QByteArrayView bytes);
   void Delete(const QString& path);
-  void MakeDirectory(const QString& path);                    // nothing to do where it exists
-  void DeleteTree(const QString& path);                       // with all it holds, read-only or not
+  void MakeDirectory(const QString& path);  // nothing to do where it exists
+  void DeleteTree(const QString& path);     // with all it holds, read-only or not
   void RenameDirectory(const QString& from, const QString& to);  // fails where `to` exists
 
   // Makes all changes, in the order in which they were added, and syncs them to the disk. Throws

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QString>
 #include <algorithm>
 #include <array>
 #include <cerrno>
