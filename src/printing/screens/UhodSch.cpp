@@ -1,0 +1,10 @@
+#include "printing/screens/UhodSch.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+UhodSch::UhodSch(AppContext& context, const PrintSource& source, QWidget* parent)
+    : InvoiceScreen(context, source, u"UhodSch"_s, parent) {}
+
+}  // namespace kladez
