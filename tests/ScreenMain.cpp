@@ -1,12 +1,13 @@
+// main of every test binary that opens windows; the platform is offscreen unless told otherwise.
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QStandardPaths>
 
-// Screens are tested without a display, even where there is one: no window flashes up, and pictures
-// come out alike everywhere.
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  ::testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
-  testing::InitGoogleTest(&argc, argv);
+  QStandardPaths::setTestModeEnabled(true);
   return RUN_ALL_TESTS();
 }

@@ -1,0 +1,137 @@
+// Drives real windows from a test: finds controls by name, types and clicks, answers modal dialogs
+// as they come up, and holds what every screen is given.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+#include "TempData.h"
+#include "shell/AppContext.h"
+
+namespace kladez {
+
+// A data directory with one open Database and all that a screen is given.
+class ScreenWorld {
+ public:
+  explicit ScreenWorld(QDate today = QDate(2026, 11, 22))
+      : settings_(temp_.Root() + QStringLiteral("/../") + QFileInfo(temp_.Root()).fileName() +
+                  QStringLiteral(".ini")),
+        clock_(QDateTime(today, QTime(12, 0))),
+        print_outs_(temp_.Data(), [this] { ++viewer_starts_; }),
+        context_{temp_.Data(), session_, settings_, clock_, print_outs_} {}
+  ~ScreenWorld() { QFile::remove(temp_.Root() + QStringLiteral(".ini")); }
+
+  AppContext& Context() { return context_; }
+  TempData& Temp() { return temp_; }
+  Session& TheSession() { return session_; }
+  SettingsStore& Settings() { return settings_; }
+  int ViewerStarts() const { return viewer_starts_; }
+
+ private:
+  TempData temp_;
+  Session session_;
+  SettingsStore settings_;
+  Clock clock_;
+  int viewer_starts_ = 0;
+  PrintOutDesk print_outs_;
+  AppContext context_;
+};
+
+template <typename Control>
+Control* Find(QWidget* screen, const char* name) {
+  auto* control = screen->findChild<Control*>(QString::fromUtf8(name));
+  EXPECT_NE(control, nullptr) << "no control " << name << " on "
+                              << screen->objectName().toStdString();
+  return control;
+}
+
+// Shows a window and waits until it has the keyboard.
+inline void ShowActive(QWidget* screen) {
+  screen->show();
+  screen->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(screen));
+}
+
+// Types a text key by key into a control; QTest::keyClicks knows ASCII only.
+inline void Type(QWidget* control, const QString& text) {
+  for (const QChar c : text) {
+    QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString(c), Qt::NoModifier);
+  }
+}
+
+inline void Click(QWidget* screen, const char* name) {
+  QTest::mouseClick(Find<QAbstractButton>(screen, name), Qt::LeftButton);
+}
+
+// Answers the modal dialogs of one command in the order in which they come. Each step gets the
+// dialog and must close it. Left over or missing steps fail the test.
+class ModalAnswers {
+ public:
+  using Step = std::function<void(QWidget* dialog)>;
+
+  explicit ModalAnswers(std::initializer_list<Step> steps) : steps_(steps) {
+    timer_.setInterval(1);
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Poll(); });
+    timer_.start();
+  }
+  ~ModalAnswers() { EXPECT_TRUE(steps_.empty()) << steps_.size() << " dialogs did not come up"; }
+
+ private:
+  void Poll() {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || dialog == busy_ || !dialog->isVisible()) return;
+    if (steps_.empty()) {
+      if (dialog == outer_) return;
+      ADD_FAILURE() << "unexpected dialog " << dialog->windowTitle().toStdString();
+      dialog->close();
+      return;
+    }
+    const Step step = steps_.front();
+    steps_.pop_front();
+    QWidget* before = busy_;
+    busy_ = dialog;  // a nested dialog is another widget and has a step of its own
+    step(dialog);
+    busy_ = before;
+  }
+
+  std::deque<Step> steps_;
+  QTimer timer_;
+  QWidget* busy_ = nullptr;
+  QWidget* outer_ = QApplication::activeModalWidget();
+};
+
+// Steps for ModalAnswers.
+inline ModalAnswers::Step Press(QMessageBox::StandardButton button, const QString& text = {}) {
+  return [=](QWidget* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    ASSERT_NE(box, nullptr) << dialog->objectName().toStdString() << " is no message";
+    if (!text.isEmpty()) {
+      EXPECT_EQ(box->text(), text);
+    }
+    ASSERT_NE(box->button(button), nullptr);
+    QTest::mouseClick(box->button(button), Qt::LeftButton);
+  };
+}
+inline ModalAnswers::Step AnswerText(const QString& typed) {
+  return [=](QWidget* dialog) {
+    auto* field = dialog->findChild<QLineEdit*>(QStringLiteral("Text1"));
+    ASSERT_NE(field, nullptr);
+    field->selectAll();
+    Type(field, typed);
+    QTest::keyClick(field, Qt::Key_Return);
+  };
+}
+inline ModalAnswers::Step Escape() {
+  return [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); };
+}
+
+}  // namespace kladez
