@@ -6,12 +6,20 @@
 
 namespace kladez {
 
+// What a goods line is picked for, which decides what the picker asks about it.
+enum class PickFor {
+  kReceipt,       // a line of a receipt: quantity and purchase price
+  kPriceList,     // a row of a price list: quantity
+  kOpeningStock,  // a row of opening balances: quantity and purchase price
+  kGoodsChart,    // the goods of a chart: only their name
+};
+
 struct GoodsPick {
   QString name;
-  QString quantity;
+  QString quantity;  // of a group empty
   QString unit;
   QString cost;   // purchase price as the picked row shows it
-  QString price;  // price asked for, "#0.00"
+  QString price;  // price asked for, "#0.00"; where none was asked for, the row's in that form
   bool is_group = false;
 };
 
