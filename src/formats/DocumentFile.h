@@ -2,11 +2,12 @@
 // head of a fixed number of lines, then one group of lines for each goods line; they differ only in
 // which fields stand in which line (see the table in the source).
 //
-//   receipt   number, date, supplier, sum, "да"/"нет";                      name, quantity, unit,
-//   price shipment  number, date, client, sum, discount, net sum, "да"/"нет";    name, quantity,
-//   unit, cost,
-//                                                                          price, net price
-//   transfer  number, date, from, to, sum;                 name, quantity, unit, cost, price
+//   receipt:  number, date, supplier, sum, "да" or "нет";
+//             name, quantity, unit, price
+//   shipment: number, date, client, sum, discount, net sum, "да" or "нет";
+//             name, quantity, unit, cost, price, net price
+//   transfer: number, date, from, to, sum;
+//             name, quantity, unit, cost, price
 #pragma once
 
 #include <QByteArray>

@@ -1,5 +1,7 @@
 #include "formats/Numbers.h"
 
+#include <QVarLengthArray>
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -13,41 +15,38 @@ using namespace Qt::StringLiterals;
 
 bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
-// What a parse has collected for the conversion to double: sign, digits, point, exponent.
+// What a parse has collected for the conversion to double: digits, a point, an exponent.
 class Digits {
  public:
-  void Add(char16_t c) {
-    if (used_ < text_.size()) {
-      text_[used_++] = static_cast<char>(c);
-    } else {
-      overflow_.append(text_.data(), used_);
-      used_ = 0;
-      text_[used_++] = static_cast<char>(c);
-    }
-  }
+  void Add(char16_t c) { text_.append(static_cast<char>(c)); }
+  // Nothing for a number too large; one too small is 0.
   std::optional<double> Value() const {
-    const std::string all = overflow_.empty() ? std::string() : overflow_ + Tail();
-    const std::string_view text =
-        overflow_.empty() ? std::string_view(text_.data(), used_) : std::string_view(all);
     double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error == std::errc::result_out_of_range) {
-      // An underflow is 0; only too large a number is none.
-      const auto exponent = text.find_first_of("eE");
-      const bool tiny = (exponent != text.npos && text.substr(exponent).find('-') != text.npos) ||
-                        text.substr(0, 2) == "0." || text.substr(0, 1) == ".";
-      if (tiny) return 0;
-      return std::nullopt;
-    }
-    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-    return value;
+    const auto [end, error] = std::from_chars(text_.begin(), text_.end(), value);
+    if (error != std::errc::result_out_of_range) return value;
+    if (Magnitude() > 0) return std::nullopt;
+    return 0;
   }
 
  private:
-  std::string Tail() const { return {text_.data(), used_}; }
-  std::array<char, 64> text_;
-  size_t used_ = 0;
-  std::string overflow_;
+  // The power of ten above the first digit that is not 0.
+  double Magnitude() const {
+    const std::string_view text(text_.data(), static_cast<size_t>(text_.size()));
+    const size_t mark = text.find('e');
+    const std::string_view mantissa = text.substr(0, mark);
+    const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<double>(mantissa.find_first_of("123456789"));
+    double exponent = 0;
+    if (mark != text.npos) {
+      for (const char c : text.substr(mark + 1)) {
+        if (c != '-') exponent = std::min(exponent * 10 + (c - '0'), 1e9);
+      }
+      if (text[mark + 1] == '-') exponent = -exponent;
+    }
+    return point - first + exponent;
+  }
+
+  QVarLengthArray<char, 64> text_;
 };
 
 // Both parses walk the characters of either a text or a file's bytes.
@@ -275,12 +274,11 @@ QString GeneralText(double value) {
   const Decimal decimal = ToDecimal(value);
   std::string text = decimal.digits;
   const int size = static_cast<int>(text.size());
-  const double magnitude = std::fabs(value);
-  if (magnitude >= 1e15 || magnitude < 1e-15) {
+  // Asked of the rounded digits: 999999999999999.9 is 1E+15 once it has 15 of them.
+  const int exponent = decimal.exponent - 1;
+  if (exponent >= 15 || exponent < -15) {
     if (size > 1) text.insert(1, 1, '.');
-    const int exponent = decimal.exponent - 1;
-    text += std::string(exponent < 0 ? "E-" : "E+") + (std::abs(exponent) < 10 ? "0" : "") +
-            std::to_string(std::abs(exponent));
+    text += (exponent < 0 ? "E-" : "E+") + std::to_string(std::abs(exponent));
   } else if (decimal.exponent <= 0) {
     text.insert(0, "0." + std::string(static_cast<size_t>(-decimal.exponent), '0'));
   } else if (decimal.exponent >= size) {

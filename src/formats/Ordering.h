@@ -1,5 +1,5 @@
-// The one order of names: upper-cased, code by code, "Ё" directly after "Е". Listings of files and
-// sorted lists use it, so that every machine shows them alike.
+// The one order of names, so that every machine shows them alike: upper-cased, code by code, and in
+// sorted lists "Ё" directly after "Е". Listings of files (DataDir) keep to the codes alone.
 #pragma once
 
 #include <QString>

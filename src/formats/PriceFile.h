@@ -11,6 +11,8 @@
 #include <QString>
 #include <vector>
 
+#include "formats/GoodsFile.h"
+
 namespace kladez {
 
 struct PriceRecord {
@@ -19,7 +21,7 @@ struct PriceRecord {
   QString purchase;
   QString sale;
 
-  bool IsGroup() const { return name.startsWith(u' '); }
+  bool IsGroup() const { return IsGroupName(name); }
   bool operator==(const PriceRecord&) const = default;
 };
 

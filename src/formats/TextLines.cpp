@@ -66,7 +66,7 @@ QByteArray EncodeText(QStringView text) {
   for (QChar c : text) {
     if (!CanEncode(c)) {
       throw std::system_error(std::make_error_code(std::errc::illegal_byte_sequence),
-                              "Знака нет в кодировке файла: " + QString(c).toStdString());
+                              "Не удалось записать знак «" + QString(c).toStdString() + "»");
     }
     *out++ = static_cast<char>(kEncode[c.unicode()]);
   }
@@ -90,8 +90,10 @@ void LineWriter::AddRaw(QByteArrayView line) {
   const qsizetype start = bytes_.size();
   bytes_.append(line);
   // A line end inside a line would shift every later record of the file.
-  if (FindLineEnd(QByteArrayView(bytes_).sliced(start)) >= 0) {
-    bytes_.replace(bytes_.indexOf(kLineEnd, start), kLineEnd.size(), "  ");
+  for (qsizetype at = start, found;
+       (found = FindLineEnd(QByteArrayView(bytes_).sliced(at))) >= 0;) {
+    at += found;
+    bytes_.replace(at, kLineEnd.size(), "  ");
   }
   bytes_.append(kLineEnd);
 }
