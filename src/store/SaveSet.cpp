@@ -26,10 +26,13 @@ void SaveSet::Append(const QString& path, QByteArrayView bytes) {
   const auto same = std::find_if(changes_.begin(), changes_.end(), [&](const Change& change) {
     return change.kind == Kind::kWrite && change.path == target;
   });
+  QByteArray whole = same != changes_.end() ? std::move(same->bytes) : data_.Read(path);
+  if (!whole.isEmpty() && !whole.endsWith("\r\n")) whole.append("\r\n");
+  whole.append(bytes);
   if (same != changes_.end()) {
-    same->bytes.append(bytes);
+    same->bytes = std::move(whole);
   } else {
-    Add(Kind::kWrite, path, data_.Read(path).append(bytes));
+    Add(Kind::kWrite, path, std::move(whole));
   }
 }
 

@@ -22,7 +22,8 @@ class SaveSet {
 
   // Each takes paths of the system and throws filesystem_error for one that leads out.
   void Write(const QString& path, QByteArray bytes);
-  // Adds to the end of a file as it is now; the file must exist.
+  // Adds lines to the end of a file as it is now; the file must exist. A last line that lacks its
+  // CR LF gets it first, or the first new line would run into it.
   void Append(const QString& path, QByteArrayView bytes);
   void Delete(const QString& path);
   void MakeDirectory(const QString& path);  // nothing to do where it exists

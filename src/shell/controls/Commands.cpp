@@ -1,0 +1,34 @@
+#include "shell/controls/Commands.h"
+
+#include <QHBoxLayout>
+
+namespace kladez {
+
+QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& caption) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  // Enter in a field belongs to the default command, wherever the focus was last.
+  button->setAutoDefault(false);
+  return button;
+}
+
+QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& caption,
+                        look::IconName icon) {
+  QPushButton* button = NewCommand(parent, name, caption);
+  button->setIcon(look::Icon(icon));
+  return button;
+}
+
+QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(look::kGrid);
+  row->addStretch();
+  for (QPushButton* button : {yes, no}) {
+    button->setMinimumWidth(12 * look::kGrid);
+    row->addWidget(button);
+  }
+  yes->setDefault(true);
+  return row;
+}
+
+}  // namespace kladez
