@@ -1,0 +1,29 @@
+// The help file, its topic pages and the product's pages, shown by the desktop's own browser. None
+// of them is part of the program: where one is missing, a message says so.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "store/DataDir.h"
+
+class QUrl;
+class QWidget;
+
+namespace kladez {
+
+inline constexpr QStringView kHelpFile = u"kladez.chm";
+inline constexpr QStringView kProductPage = u"https://kladez.example/";
+inline constexpr QStringView kNewsPage = u"https://kladez.example/news/";
+inline constexpr QStringView kProductMail = u"mailto:info@kladez.example";
+
+// A page of the folder "help" beside the Databases, such as "workdb.htm".
+void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page);
+// The help file as a whole.
+void OpenHelpFile(QWidget* parent, const DataDir& data);
+void OpenAddress(QWidget* parent, QStringView address);
+
+// Hands an address to the desktop; a test puts its own in its place.
+void SetAddressOpener(std::function<bool(const QUrl& address)> opener);
+
+}  // namespace kladez
