@@ -30,7 +30,10 @@ PageCell TextCell(const QString& text, int width) { return {text, width}; }
 PageCell CenterCell(const QString& text, int width) { return {text, width, CellAlign::kCenter}; }
 
 QString FontHtml(PageFont font, const QString& text) {
-  const QString open = u"<FONT FACE=Arial SIZE="_s + GeneralText(font.size) + u'>';
+  const QString size = font.points > 0
+                           ? QString(u"style=font-size:"_s + GeneralText(font.points) + u"pt"_s)
+                           : QString(u"SIZE="_s + GeneralText(font.size));
+  const QString open = u"<FONT FACE=Arial "_s + size + u'>';
   if (font.bold) return open + u"<b>"_s + text + u"</b></FONT>"_s;
   return open + text + u"</FONT>"_s;
 }

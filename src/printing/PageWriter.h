@@ -30,6 +30,7 @@ PageCell CenterCell(const QString& text, int width = 0);
 struct PageFont {
   int size = 3;  // of HTML, 1 to 5
   bool bold = false;
+  int points = 0;  // instead of the size
 };
 
 // "<FONT FACE=Arial SIZE=3>text</FONT>", with <b> inside when bold.
