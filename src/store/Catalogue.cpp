@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cmath>
+#include <cstdlib>
 
 #include "formats/CurrencyFile.h"
 #include "formats/Numbers.h"
@@ -31,7 +32,10 @@ std::vector<CatalogueEntry> ListDatabases(const DataDir& data) {
   return entries;
 }
 
-QString NumberedName(int number) { return u"%1"_s.arg(number, 4, 10, QLatin1Char('0')); }
+QString NumberedName(qint64 number) {
+  const QString digits = u"%1"_s.arg(std::abs(number), 4, 10, QLatin1Char('0'));
+  return number < 0 ? QString(u'-' + digits) : digits;
+}
 
 int NextDatabaseNumber(const DataDir& data) {
   const QStringList files = data.List({}, kExtension);

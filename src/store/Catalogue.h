@@ -21,7 +21,7 @@ struct CatalogueEntry {
 std::vector<CatalogueEntry> ListDatabases(const DataDir& data);
 
 // A number as files are named by it: "0###", "0012".
-QString NumberedName(int number);
+QString NumberedName(qint64 number);
 
 // The number for a new Database: one above the number of the last descriptor by name, 1 when there
 // is none. A gap in the middle is not filled.
