@@ -1,6 +1,5 @@
-#pragma once
-
 // Turns an indexed picture into the bytes of a GIF file ("temp.gif" of a printed chart).
+#pragma once
 
 #include <QByteArray>
 

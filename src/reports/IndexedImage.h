@@ -1,6 +1,5 @@
-#pragma once
-
 // A picture of at most 256 colours in memory: what a drawn chart becomes on its way into a file.
+#pragma once
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,6 @@
-#pragma once
-
 // A GIF reader for tests only, written apart from the writer and strict: whatever a viewer could
 // stumble over throws std::runtime_error.
+#pragma once
 
 #include <QByteArray>
 

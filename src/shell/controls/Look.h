@@ -23,15 +23,16 @@ constexpr int FromTwips(int twips) { return twips / 15; }
 inline constexpr QColor kAccent{0x1F, 0x4E,
                                 0x5F};  // deep blue-green: panel, chart, default command
 inline constexpr QColor kAccentLight{0xE3, 0xEE, 0xF1};  // the strip, chosen options
-inline constexpr QColor kWarm{0xC7, 0x7B, 0x30};         // the second series of a chart
-inline constexpr QColor kOnAccent{0xFF, 0xFF, 0xFF};     // headings on the panel
-inline constexpr QColor kLink{0xFF, 0xFF, 0xC0};         // links on the panel: light yellow
-inline constexpr QColor kLinkHover{0xFF, 0xE0, 0xC0};    // the link under the pointer: peach
-inline constexpr QColor kGroupRow{0, 0, 255};            // rows of goods groups
-inline constexpr QColor kQuiet{0x6B, 0x76, 0x7B};        // notes, empty lists
-inline constexpr QColor kLine{0xD5, 0xDC, 0xDF};         // thin separators
-inline constexpr QColor kStripe{0xF6, 0xF9, 0xFA};       // every second row of a list
-inline constexpr QColor kWarning{0xA8, 0x32, 0x1E};      // a refused character, a field at fault
+// The second series of a chart: light enough to differ from the accent in a black and white print.
+inline constexpr QColor kWarm{0xE0, 0x9F, 0x4A};
+inline constexpr QColor kOnAccent{0xFF, 0xFF, 0xFF};   // headings on the panel
+inline constexpr QColor kLink{0xFF, 0xFF, 0xC0};       // links on the panel: light yellow
+inline constexpr QColor kLinkHover{0xFF, 0xE0, 0xC0};  // the link under the pointer: peach
+inline constexpr QColor kGroupRow{0, 0, 255};          // rows of goods groups
+inline constexpr QColor kQuiet{0x6B, 0x76, 0x7B};      // notes, empty lists
+inline constexpr QColor kLine{0xD5, 0xDC, 0xDF};       // thin separators
+inline constexpr QColor kStripe{0xF6, 0xF9, 0xFA};     // every second row of a list
+inline constexpr QColor kWarning{0xA8, 0x32, 0x1E};    // a refused character, a field at fault
 
 enum class IconName {
   kAdd,

@@ -1,0 +1,47 @@
+// What a chart shows: a small table of numbers, one row a month or a day, one or two data columns.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstddef>
+#include <vector>
+
+namespace kladez {
+
+// The numbers are those of the chart's kind as the program stores and passes it.
+enum class ChartKind { k3DBars = 0, k2DBars = 1, k3DLines = 2, k2DLines = 3 };
+
+struct ChartColumn {
+  QString name;  // shown in the legend when there are two columns
+  std::vector<double> values;
+};
+
+// Every column has as many values as there are row labels.
+struct ChartGrid {
+  QString title;
+  QStringList row_labels;
+  std::vector<ChartColumn> columns;
+
+  int RowCount() const { return static_cast<int>(row_labels.size()); }
+
+  double& Cell(int row, int column) {
+    return columns[static_cast<std::size_t>(column)].values[static_cast<std::size_t>(row)];
+  }
+  double Cell(int row, int column) const {
+    return columns[static_cast<std::size_t>(column)].values[static_cast<std::size_t>(row)];
+  }
+};
+
+// A grid of zeros whose rows are labelled "1", "2", ... as the months of a year or days of a month.
+inline ChartGrid NumberedChartGrid(const QString& title, int rows,
+                                   const QStringList& column_names) {
+  ChartGrid grid;
+  grid.title = title;
+  for (int row = 1; row <= rows; ++row) grid.row_labels.append(QString::number(row));
+  for (const QString& name : column_names) {
+    grid.columns.push_back({name, std::vector<double>(static_cast<std::size_t>(rows), 0.0)});
+  }
+  return grid;
+}
+
+}  // namespace kladez
