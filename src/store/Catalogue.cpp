@@ -1,5 +1,6 @@
 #include "store/Catalogue.h"
 
+#include <QFile>
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
@@ -8,6 +9,7 @@
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
 #include "store/Errors.h"
+#include "store/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -15,11 +17,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr QStringView kExtension = u".us";
-
-void RefuseForeignPath(const CatalogueEntry& entry) {
-  if (IsPlainTreePath(entry.descriptor.path)) return;
-  ThrowFileError(u"База указывает не на каталог рядом с собой"_s, entry.descriptor.path, EINVAL);
-}
 
 }  // namespace
 
@@ -42,6 +39,34 @@ int NextDatabaseNumber(const DataDir& data) {
   if (files.isEmpty()) return 1;
   const double last = NumberOr(files.constLast().chopped(kExtension.size()));
   return std::fabs(last) < 1e9 ? static_cast<int>(last) + 1 : 1;
+}
+
+int FreeDatabaseNumber(const DataDir& data) {
+  const int number = NextDatabaseNumber(data);
+  const QString name = NumberedName(number);
+  for (const QString& path : {name, QString(name + kExtension)}) {
+    if (data.FileExists(path) || data.DirectoryExists(path)) {
+      ThrowFileError(u"Не удалось создать базу"_s, path, EEXIST);
+    }
+  }
+  return number;
+}
+
+void RequirePlainPath(const CatalogueEntry& entry) {
+  if (IsPlainTreePath(entry.descriptor.path)) return;
+  ThrowFileError(u"В описании базы "_s + entry.file +
+                     u" указан путь не к каталогу рядом с ним, работать с ней нельзя"_s,
+                 entry.descriptor.path, EINVAL);
+}
+
+int RowAtPosition(int position, int rows) {
+  const int row = position > rows ? position - 2 : position - 1;
+  return row >= 0 && row < rows ? row : rows > 0 ? 0 : -1;
+}
+
+int ImportRowAtPosition(int position, int rows) {
+  const int row = position > rows ? rows - position - 1 : position - 1;
+  return row >= 0 && row < rows ? row : rows > 0 ? 0 : -1;
 }
 
 QString AddNewDatabase(SaveSet& save, int number, const QString& name) {
@@ -79,11 +104,7 @@ void AddNewWarehouse(SaveSet& save, const QString& path) {
 
 QString CreateDatabase(const DataDir& data, const QString& name) {
   SaveSet save(data);
-  const int number = NextDatabaseNumber(data);
-  if (data.DirectoryExists(NumberedName(number))) {
-    ThrowFileError(u"Не удалось создать базу"_s, NumberedName(number), EEXIST);
-  }
-  QString base = AddNewDatabase(save, number, name);
+  QString base = AddNewDatabase(save, FreeDatabaseNumber(data), name);
   save.Commit();
   return base;
 }
@@ -95,9 +116,12 @@ void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QStr
 }
 
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
-  RefuseForeignPath(entry);
+  RequirePlainPath(entry);
   SaveSet save(data);
-  save.DeleteTree(entry.descriptor.path);
+  if (data.DirectoryExists(entry.descriptor.path)) {
+    syscalls::ClearReadOnly(QFile::encodeName(data.Resolve(entry.descriptor.path)));
+    save.DeleteTree(entry.descriptor.path);
+  }
   save.Delete(entry.file);
   save.Commit();
 }

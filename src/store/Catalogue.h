@@ -32,9 +32,24 @@ QString AddNewDatabase(SaveSet& save, int number, const QString& name);
 // Adds the directories and files of a new warehouse, `path` being its directory.
 void AddNewWarehouse(SaveSet& save, const QString& path);
 
-// Each is one save, and throws filesystem_error. An entry whose path is not one plain directory
-// name is refused (see IsPlainTreePath).
-QString CreateDatabase(const DataDir& data, const QString& name);
+// The number for a new Database, once it is certain that nothing stands under it. Throws
+// filesystem_error (EEXIST) where a directory or a descriptor does.
+int FreeDatabaseNumber(const DataDir& data);
+
+// Throws filesystem_error for an entry whose path is not one plain directory name (see
+// IsPlainTreePath): it is listed, but neither opened nor deleted, copied or imported from.
+void RequirePlainPath(const CatalogueEntry& entry);
+
+// The row (from 0) that a catalogue list selects: `position` is the setting "FilePos", from 1. One
+// past the end, as a creation leaves it, gives the last row, anything further out the first; -1 in
+// an empty list. The list of sources for an import takes the count less the position where that is
+// past the end, which is no row and so gives the first.
+int RowAtPosition(int position, int rows);
+int ImportRowAtPosition(int position, int rows);
+
+// Each is one save, and throws filesystem_error. Deleting clears read-only marks; a tree that is
+// gone already is no reason to keep its descriptor.
+QString CreateDatabase(const DataDir& data, const QString& name);  // gives the path, "0001\"
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name);
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry);
 

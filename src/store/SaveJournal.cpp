@@ -1,7 +1,6 @@
 #include "store/SaveJournal.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <cerrno>
@@ -15,6 +14,7 @@ namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
+using syscalls::Exists;
 using Kind = SaveSet::Kind;
 using Change = SaveSet::Change;
 
@@ -22,21 +22,7 @@ void Check(int error, const QByteArray& path) {
   if (error != 0) ThrowFileError(u"Не удалось записать"_s, QFile::decodeName(path), error);
 }
 
-bool Exists(const QByteArray& path) {
-  struct stat status;
-  return ::lstat(path.constData(), &status) == 0;
-}
-
 QByteArray ParentOf(const QByteArray& path) { return path.left(path.lastIndexOf('/')); }
-
-// A file or directory without any right to write is refused even to the superuser, to whom the
-// system itself would refuse nothing.
-int WriteRefusal(const QByteArray& path) {
-  struct stat status;
-  if (::stat(path.constData(), &status) < 0) return errno;
-  if ((status.st_mode & 0222) == 0) return EACCES;
-  return ::access(path.constData(), W_OK) < 0 ? errno : 0;
-}
 
 // The manifest holds paths relative to the data directory, which may be reached by another name
 // after the crash; fields are parted by NUL, which no path holds.
@@ -94,7 +80,7 @@ void SaveJournal::Stage(std::vector<Change>& changes) {
   for (size_t i = 0; i < changes.size(); ++i) {
     Change& change = changes[i];
     const QByteArray parent = ParentOf(change.path);
-    if (!made.contains(parent)) Check(WriteRefusal(parent), parent);
+    if (!made.contains(parent)) Check(syscalls::WriteRefusal(parent), parent);
     StageOne(i, change);
     if (change.kind == Kind::kMakeDirectory) made.insert(change.path);
   }
@@ -108,7 +94,7 @@ void SaveJournal::StageOne(size_t index, Change& change) {
     case Kind::kWrite:
       if (exists) {
         if (!S_ISREG(status.st_mode)) Check(S_ISDIR(status.st_mode) ? EISDIR : ELOOP, change.path);
-        Check(WriteRefusal(change.path), change.path);
+        Check(syscalls::WriteRefusal(change.path), change.path);
         Check(syscalls::KeepCopy(change.path, Old(index)), change.path);
       }
       Check(syscalls::WriteNewFile(New(index), change.bytes, exists ? status.st_mode & 0777 : 0),

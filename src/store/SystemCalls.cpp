@@ -52,18 +52,23 @@ int WriteAll(int fd, QByteArrayView bytes, const QByteArray& path) {
   return 0;
 }
 
+int CopyBytes(int in, int out, const QByteArray& to) {
+  std::array<char, 1 << 16> buffer;
+  while (true) {
+    const ssize_t got = ::read(in, buffer.data(), buffer.size());
+    if (got < 0) return errno;
+    if (got == 0) return 0;
+    if (const int error = WriteAll(out, {buffer.data(), got}, to)) return error;
+  }
+}
+
 int CopyFile(const QByteArray& from, const QByteArray& to) {
   const Descriptor in(::open(from.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
   if (!in) return errno;
   const Descriptor out(::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   if (!out) return errno;
-  std::array<char, 1 << 16> buffer;
-  while (true) {
-    const ssize_t got = ::read(in.Get(), buffer.data(), buffer.size());
-    if (got < 0) return errno;
-    if (got == 0) return Result(::fsync(out.Get()));
-    if (const int error = WriteAll(out.Get(), {buffer.data(), got}, to)) return error;
-  }
+  if (const int error = CopyBytes(in.Get(), out.Get(), to)) return error;
+  return Result(::fsync(out.Get()));
 }
 
 }  // namespace
@@ -112,6 +117,28 @@ int KeepCopy(const QByteArray& of, const QByteArray& as) {
   return CopyFile(of, as);
 }
 
+int CopyNewFile(const QByteArray& from, const QByteArray& to) {
+  if (const int error = Fault("copy", from)) return error;
+  // Without O_NONBLOCK a pipe put in the place of the file meanwhile would hang the program.
+  const Descriptor in(::open(from.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+  if (!in) return errno;
+  struct stat status;
+  if (::fstat(in.Get(), &status) < 0) return errno;
+  const Descriptor out(::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  if (!out) return errno;
+  if (const int error = CopyBytes(in.Get(), out.Get(), to)) return error;
+  const std::array<timespec, 2> times = {status.st_atim, status.st_mtim};
+  ::futimens(out.Get(), times.data());  // a file system that keeps no times is no fault
+  return 0;
+}
+
+int SyncFileSystem(const QByteArray& path) {
+  if (const int error = Fault("syncfs", path)) return error;
+  const Descriptor directory(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!directory) return errno;
+  return Result(::syncfs(directory.Get()));
+}
+
 int Unlink(const QByteArray& path) {
   if (const int error = Fault("unlink", path)) return error;
   return Result(::unlink(path.constData()));
@@ -125,6 +152,24 @@ int MakeDirectory(const QByteArray& path) {
 int RemoveDirectory(const QByteArray& path) {
   if (const int error = Fault("rmdir", path)) return error;
   return Result(::rmdir(path.constData()));
+}
+
+void ClearReadOnly(const QByteArray& path) {
+  struct stat status;
+  if (::lstat(path.constData(), &status) < 0 || !S_ISDIR(status.st_mode)) return;
+  ::chmod(path.constData(), (status.st_mode & 07777) | 0700);
+}
+
+bool Exists(const QByteArray& path) {
+  struct stat status;
+  return ::lstat(path.constData(), &status) == 0;
+}
+
+int WriteRefusal(const QByteArray& path) {
+  struct stat status;
+  if (::stat(path.constData(), &status) < 0) return errno;
+  if ((status.st_mode & 0222) == 0) return EACCES;
+  return ::access(path.constData(), W_OK) < 0 ? errno : 0;
 }
 
 int RemoveTree(const QByteArray& path) {

@@ -9,8 +9,9 @@
 
 namespace kladez::syscalls {
 
-// Asked before each call with its name ("write", "fsync", "rename", "link", "unlink", "mkdir",
-// "rmdir") and its path; a result other than 0 is the errno with which the call fails.
+// Asked before each call with its name ("create", "write", "copy", "fsync", "syncfs", "rename",
+// "link", "unlink", "mkdir", "rmdir") and its path; a result other than 0 is the errno with which
+// the call fails.
 using FaultHook = std::function<int(std::string_view call, const QByteArray& path)>;
 void SetFaultHook(FaultHook hook);
 
@@ -20,9 +21,18 @@ int SyncDirectory(const QByteArray& path);
 int Rename(const QByteArray& from, const QByteArray& to);       // replaces `to`
 int RenameToNew(const QByteArray& from, const QByteArray& to);  // fails where `to` exists
 int KeepCopy(const QByteArray& of, const QByteArray& as);       // a link, else a copy
+int CopyNewFile(const QByteArray& from, const QByteArray& to);  // keeps the time; not synced
+int SyncFileSystem(const QByteArray& path);                     // all that was written to it
 int Unlink(const QByteArray& path);
 int MakeDirectory(const QByteArray& path);
 int RemoveDirectory(const QByteArray& path);
-int RemoveTree(const QByteArray& path);  // with all that it holds, read-only or not
+int RemoveTree(const QByteArray& path);      // with all that it holds, read-only or not
+void ClearReadOnly(const QByteArray& path);  // so that the owner may rename or delete it
+
+bool Exists(const QByteArray& path);  // a link counts, wherever it leads
+// The errno with which writing to a file or into a directory would be refused, 0 when it would not.
+// One without any right to write is refused even to the superuser, to whom the system itself would
+// refuse nothing.
+int WriteRefusal(const QByteArray& path);
 
 }  // namespace kladez::syscalls

@@ -1,0 +1,40 @@
+// Copies files and whole directories of the machine, as backup and restore do. What is to be copied
+// is gathered first and nothing of it is written: a link, a pipe or a directory that can't be read
+// is found before the first byte is copied.
+#pragma once
+
+#include <QByteArray>
+#include <functional>
+#include <vector>
+
+namespace kladez {
+
+class TreeCopy {
+ public:
+  // Paths are absolute and in the file system's encoding. Both throw filesystem_error with the path
+  // at fault. The directory itself is made by Run; nothing may stand under its new name then.
+  void AddTree(const QByteArray& from, const QByteArray& to);
+  void AddFile(const QByteArray& from, const QByteArray& to);
+
+  // How much there is to copy, and was copied, in units for a progress bar.
+  qint64 Size() const { return size_; }
+  // Told after each piece how much of Size is done; false stops the copy.
+  using Progress = std::function<bool(qint64 done)>;
+
+  // Makes the directories and copies the files; false when `progress` stopped it. Throws
+  // filesystem_error with the file at fault. What was copied until then stays: the caller removes
+  // it.
+  bool Run(const Progress& progress) const;
+
+ private:
+  struct Piece {
+    QByteArray from;  // empty for a directory
+    QByteArray to;
+    qint64 size;
+  };
+
+  std::vector<Piece> pieces_;
+  qint64 size_ = 0;
+};
+
+}  // namespace kladez
