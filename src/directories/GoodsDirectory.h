@@ -5,13 +5,12 @@
 
 #include <vector>
 
+#include "directories/GoodsView.h"
 #include "formats/GoodsFile.h"
 #include "store/DataDir.h"
 #include "store/Session.h"
 
 namespace kladez {
-
-enum class GoodsView { kGroups, kGoodsOnly };
 
 class GoodsDirectory {
  public:

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <QString>
+#include <optional>
+
+#include "formats/GoodsFile.h"
 
 namespace kladez {
 
@@ -22,5 +25,10 @@ struct GoodsPick {
   QString price;  // price asked for, "#0.00"; where none was asked for, the row's in that form
   bool is_group = false;
 };
+
+// The row as it is handed over before anything is asked: of a group the name alone.
+GoodsPick PickOf(const GoodsRecord& record);
+// Nothing when the quantity is no number: that ends the pick.
+std::optional<GoodsPick> WithQuantity(GoodsPick pick, const QString& quantity);
 
 }  // namespace kladez

@@ -24,6 +24,7 @@ QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no) {
   row->setSpacing(look::kGrid);
   row->addStretch();
   for (QPushButton* button : {yes, no}) {
+    if (button == nullptr) continue;
     button->setMinimumWidth(12 * look::kGrid);
     row->addWidget(button);
   }

@@ -16,7 +16,7 @@ QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& cap
                         look::IconName icon);
 
 // The two that end a dialog, at the lower right: `yes` is the default command and `no` the one of
-// the Escape key.
+// the Escape key, where there is one.
 QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no);
 
 }  // namespace kladez

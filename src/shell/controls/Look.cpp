@@ -89,6 +89,12 @@ void SetPanelMargins(QLayout* layout) {
   layout->setSpacing(kGrid);
 }
 
+void MakeQuiet(QWidget* widget) {
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::WindowText, kQuiet);
+  widget->setPalette(palette);
+}
+
 QWidget* NewSeparator(QWidget* parent) {
   auto* line = new QFrame(parent);
   line->setFrameShape(QFrame::HLine);

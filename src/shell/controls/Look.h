@@ -75,6 +75,9 @@ QFont HeadingFont(const QFont& base);
 void SetDialogMargins(QLayout* layout);
 void SetPanelMargins(QLayout* layout);
 
+// Notes and examples stand back behind what they are written for.
+void MakeQuiet(QWidget* widget);
+
 // A thin line across a layout.
 QWidget* NewSeparator(QWidget* parent);
 
