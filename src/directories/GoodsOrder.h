@@ -15,14 +15,14 @@ namespace kladez {
 // Equal names keep their order.
 template <typename Row>
 std::vector<Row> SortedByName(std::vector<Row> rows) {
-  std::vector<std::pair<QString, Row>> keyed;
+  std::vector<std::pair<QString, size_t>> keyed;
   keyed.reserve(rows.size());
-  for (Row& row : rows) keyed.emplace_back(OrderKey(row.name), std::move(row));
-  std::stable_sort(keyed.begin(), keyed.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
-  rows.clear();
-  for (auto& [key, row] : keyed) rows.push_back(std::move(row));
-  return rows;
+  for (size_t i = 0; i < rows.size(); ++i) keyed.emplace_back(OrderKey(rows[i].name), i);
+  std::sort(keyed.begin(), keyed.end());
+  std::vector<Row> sorted;
+  sorted.reserve(rows.size());
+  for (const auto& [key, at] : keyed) sorted.push_back(std::move(rows[at]));
+  return sorted;
 }
 
 // A group without goods vanishes; goods before the first group stay at the top, without a row of a

@@ -1,23 +1,20 @@
 #include "formats/GoodsFile.h"
 
 #include "formats/Numbers.h"
-#include "formats/TextLines.h"
 
 namespace kladez {
 
 std::vector<GoodsRecord> ReadGoods(QByteArrayView bytes) {
   std::vector<GoodsRecord> records;
-  for (LineReader reader(bytes); !reader.AtEnd();) {
-    GoodsRecord record{
-        .name = reader.Next(), .country = {}, .declaration = {}, .unit = {}, .price = {}};
-    if (!record.IsGroup()) {
-      record.country = reader.Next();
-      record.declaration = reader.Next();
-      record.unit = reader.Next();
-      record.price = ToNumberOr(reader.Next());
-    }
-    records.push_back(std::move(record));
-  }
+  ForEachGoods(bytes, [&](const RawGoods& goods) {
+    GoodsRecord& record = records.emplace_back();
+    record.name = DecodeText(goods.name);
+    if (goods.IsGroup()) return;
+    record.country = DecodeText(goods.country);
+    record.declaration = DecodeText(goods.declaration);
+    record.unit = DecodeText(goods.unit);
+    record.price = ToNumberOr(DecodeText(goods.price));
+  });
   return records;
 }
 

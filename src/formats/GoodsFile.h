@@ -12,6 +12,8 @@
 #include <QString>
 #include <vector>
 
+#include "formats/TextLines.h"
+
 namespace kladez {
 
 // A row that begins with a blank is a group, in every list and file of the system.
@@ -27,6 +29,32 @@ struct GoodsRecord {
   bool IsGroup() const { return IsGroupName(name); }
   bool operator==(const GoodsRecord&) const = default;
 };
+
+// The raw bytes of a record's lines, for whoever needs a few fields of a long directory.
+struct RawGoods {
+  QByteArrayView name;
+  QByteArrayView country;
+  QByteArrayView declaration;
+  QByteArrayView unit;
+  QByteArrayView price;  // as it stands, number or not
+
+  bool IsGroup() const { return name.startsWith(' '); }
+};
+
+template <typename Visit>
+void ForEachGoods(QByteArrayView bytes, Visit&& visit) {
+  for (LineReader reader(bytes); !reader.AtEnd();) {
+    RawGoods goods;
+    goods.name = reader.NextRaw();
+    if (!goods.IsGroup()) {
+      for (auto field :
+           {&RawGoods::country, &RawGoods::declaration, &RawGoods::unit, &RawGoods::price}) {
+        goods.*field = reader.NextRaw();
+      }
+    }
+    visit(goods);
+  }
+}
 
 // A price that is no number reads as "0"; an item cut off by the end of the file keeps what it has.
 std::vector<GoodsRecord> ReadGoods(QByteArrayView bytes);

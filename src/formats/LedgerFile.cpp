@@ -6,15 +6,10 @@ namespace kladez {
 
 std::vector<LedgerRecord> ReadLedger(QByteArrayView bytes) {
   std::vector<LedgerRecord> records;
-  for (LineReader reader(bytes); !reader.AtEnd();) {
-    if (reader.Peek() == ' ') {
-      reader.NextRaw();
-      continue;
-    }
-    QString name = reader.Next();
-    QString quantity = reader.Next();
-    records.push_back({std::move(name), std::move(quantity), reader.Next()});
-  }
+  ForEachLedgerRecord(
+      bytes, [&](QByteArrayView name, QByteArrayView quantity, QByteArrayView unit) {
+        records.push_back({DecodeText(name), DecodeText(quantity), DecodeText(unit)});
+      });
   return records;
 }
 

@@ -11,6 +11,8 @@
 #include <QString>
 #include <vector>
 
+#include "formats/TextLines.h"
+
 namespace kladez {
 
 struct LedgerRecord {
@@ -20,6 +22,21 @@ struct LedgerRecord {
 
   bool operator==(const LedgerRecord&) const = default;
 };
+
+// Calls visit(name, quantity, unit) with the raw bytes of each record's lines, group lines skipped:
+// for whoever reads the ledgers of many warehouses at once.
+template <typename Visit>
+void ForEachLedgerRecord(QByteArrayView bytes, Visit&& visit) {
+  for (LineReader reader(bytes); !reader.AtEnd();) {
+    if (reader.Peek() == ' ') {
+      reader.NextRaw();
+      continue;
+    }
+    const QByteArrayView name = reader.NextRaw();
+    const QByteArrayView quantity = reader.NextRaw();
+    visit(name, quantity, reader.NextRaw());
+  }
+}
 
 // The records without the group lines. Postings work on the plain lines instead (StockLedger).
 std::vector<LedgerRecord> ReadLedger(QByteArrayView bytes);

@@ -193,6 +193,17 @@ QString WithTwoDecimals(double value, bool grouped) {
   return QString::fromLatin1(text);
 }
 
+// "0.50", "1234.00": up to 15 digits, all of which count.
+bool IsMoneyPicture(QStringView text) {
+  const qsizetype point = text.size() - 3;
+  if (point < 1 || point > 13 || text[point] != u'.') return false;
+  if (text[0] == u'0' && point > 1) return false;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (i != point && !IsDigit(text[i].unicode())) return false;
+  }
+  return true;
+}
+
 std::optional<double> ParseTurned(const QString& text, QString* turned) {
   const QChar from = text.contains(u'.') ? u'.' : u',';
   const qsizetype at = text.indexOf(from);
@@ -263,6 +274,12 @@ double NumberOr(QByteArrayView bytes, double otherwise) {
 
 QString FormatMoney(double value) { return WithTwoDecimals(value, false); }
 
+QString MoneyText(const QString& text) {
+  // Files are full of prices in the picture already, and a text shared is much cheaper than one
+  // made.
+  return IsMoneyPicture(text) ? text : FormatMoney(NumberOr(text));
+}
+
 QString FormatGrouped(double value) { return WithTwoDecimals(value, true); }
 
 QString FormatLedger(double value) { return WithTwoDecimals(value, false); }
@@ -287,6 +304,17 @@ QString GeneralText(double value) {
     text.insert(static_cast<size_t>(decimal.exponent), 1, '.');
   }
   return QString::fromLatin1((decimal.negative ? "-" : "") + text);
+}
+
+double RoundGeneral(double value) {
+  // Whole numbers of up to 15 digits come back as they are, and most quantities are whole.
+  if (std::fabs(value) < 1e15 && value == std::trunc(value)) return value;
+  std::array<char, 40> buffer;
+  const auto text = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                  std::chars_format::scientific, 14);
+  double rounded = value;
+  std::from_chars(buffer.data(), text.ptr, rounded);
+  return rounded;
 }
 
 }  // namespace kladez

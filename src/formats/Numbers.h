@@ -28,9 +28,10 @@ double NumberOr(QByteArrayView bytes, double otherwise = 0);
 
 // The pictures round half away from zero on the decimal digits of the number's text of 15
 // significant digits (1.005 gives "1.01"); what rounds to zero has no sign.
-QString FormatMoney(double value);    // "#0.00"
-QString FormatGrouped(double value);  // "##,##0.00": grouped by one blank, "1 234.50"
-QString FormatLedger(double value);   // "#0.#0": always two decimals, as ledgers keep them
+QString FormatMoney(double value);       // "#0.00"
+QString MoneyText(const QString& text);  // the same of a file's number text; "0.00" for no number
+QString FormatGrouped(double value);     // "##,##0.00": grouped by one blank, "1 234.50"
+QString FormatLedger(double value);      // "#0.#0": always two decimals, as ledgers keep them
 
 // The picture "#0.00" taken back as a number.
 double RoundMoney(double value);
@@ -38,5 +39,9 @@ double RoundMoney(double value);
 // The general text: up to 15 significant digits, no trailing zeros, no grouping, no exponent
 // between 1e-15 and 1e15.
 QString GeneralText(double value);
+
+// The general text taken back as a number: what a sum is that lies in a list or file as text
+// between two additions, so that 0.1 and 0.2 less 0.3 leave nothing.
+double RoundGeneral(double value);
 
 }  // namespace kladez

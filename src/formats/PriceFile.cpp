@@ -1,31 +1,25 @@
 #include "formats/PriceFile.h"
 
-#include "formats/TextLines.h"
-
 namespace kladez {
 
 std::vector<PriceRecord> ReadPrices(QByteArrayView bytes) {
   std::vector<PriceRecord> records;
-  for (LineReader reader(bytes); !reader.AtEnd();) {
-    PriceRecord record;
-    record.name = reader.Next();
-    if (!record.IsGroup()) {
-      record.unit = reader.Next();
-      record.purchase = reader.Next();
-      record.sale = reader.Next();
-    }
-    records.push_back(std::move(record));
-  }
+  ForEachPrice(bytes, [&](QByteArrayView name, QByteArrayView unit, QByteArrayView purchase,
+                          QByteArrayView sale) {
+    records.push_back({DecodeText(name), DecodeText(unit), DecodeText(purchase), DecodeText(sale)});
+  });
   return records;
+}
+
+void AddPrice(LineWriter& writer, const PriceRecord& record) {
+  writer.Add(record.name);
+  if (record.IsGroup()) return;
+  for (const QString* field : {&record.unit, &record.purchase, &record.sale}) writer.Add(*field);
 }
 
 QByteArray WritePrices(const std::vector<PriceRecord>& records) {
   LineWriter writer;
-  for (const PriceRecord& record : records) {
-    writer.Add(record.name);
-    if (record.IsGroup()) continue;
-    for (const QString* field : {&record.unit, &record.purchase, &record.sale}) writer.Add(*field);
-  }
+  for (const PriceRecord& record : records) AddPrice(writer, record);
   return writer.Take();
 }
 

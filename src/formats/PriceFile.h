@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "formats/GoodsFile.h"
+#include "formats/TextLines.h"
 
 namespace kladez {
 
@@ -25,7 +26,25 @@ struct PriceRecord {
   bool operator==(const PriceRecord&) const = default;
 };
 
+// Calls visit(name, unit, purchase, sale) with the raw bytes of each record's lines; of a group
+// only the name is not empty.
+template <typename Visit>
+void ForEachPrice(QByteArrayView bytes, Visit&& visit) {
+  for (LineReader reader(bytes); !reader.AtEnd();) {
+    const QByteArrayView name = reader.NextRaw();
+    if (name.startsWith(' ')) {
+      visit(name, QByteArrayView(), QByteArrayView(), QByteArrayView());
+      continue;
+    }
+    const QByteArrayView unit = reader.NextRaw();
+    const QByteArrayView purchase = reader.NextRaw();
+    visit(name, unit, purchase, reader.NextRaw());
+  }
+}
+
 std::vector<PriceRecord> ReadPrices(QByteArrayView bytes);
 QByteArray WritePrices(const std::vector<PriceRecord>& records);
+// Adds the lines of one record.
+void AddPrice(LineWriter& writer, const PriceRecord& record);
 
 }  // namespace kladez

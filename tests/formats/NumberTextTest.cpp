@@ -129,5 +129,24 @@ TEST(NumberText, EveryTextOfANumberIsReadAgain) {
   }
 }
 
+// The short cut for texts in the picture already must not let others through as they stand.
+TEST(NumberText, MoneyOfATextIsThePictureOfItsNumber) {
+  for (const char16_t* text :
+       {u"0.50", u"12.00", u"007.00", u"00.10", u"-0.00", u"-1.50", u".50", u"1.5", u"1.500", u"5",
+        u"1,25", u"1 200.00", u"", u"нет", u"12345678901234567.00", u"1.0e", u"9999999999999.99"}) {
+    const QString price = QString::fromUtf16(text);
+    EXPECT_EQ(MoneyText(price).toStdString(), FormatMoney(NumberOr(price)).toStdString())
+        << price.toStdString();
+  }
+}
+
+TEST(NumberText, ASumKeptAsTextIsTheSumRoundedLikeText) {
+  EXPECT_EQ(RoundGeneral(RoundGeneral(0.1 + 0.2) - 0.3), 0);
+  for (const double value : {0.1 + 0.2, 5.0, -1e14, 1e15, 123456789012345678.0, -2.0 / 3, 1e-20,
+                             999999999999999.9, 0.1 + 1e9}) {
+    EXPECT_EQ(RoundGeneral(value), ParseStrict(GeneralText(value))) << value;
+  }
+}
+
 }  // namespace
 }  // namespace kladez

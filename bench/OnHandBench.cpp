@@ -1,0 +1,101 @@
+// Stock on hand of 40 warehouses with 20,000 records each, joined with 20,000 goods, against
+// reading the same files into decoded lines, and against reading their bare bytes. Prints the
+// ratios.
+#include <QTemporaryDir>
+
+#include "RatioReporter.h"
+#include "formats/TextLines.h"
+#include "stock/OnHand.h"
+#include "store/SaveSet.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kWarehouses = 40;
+constexpr int kGoods = 20'000;
+
+QString GoodsName(int i) { return u"Чай чёрный байховый № %1, 100 г"_s.arg(i); }
+
+// Ledgers in orders of their own; every fifth record is a name that only begins longer ones, and
+// every third quantity has decimals.
+struct Books {
+  Books() : data(directory.path()) {
+    session.basedir = u"0001\\"_s;
+    SaveSet save(data);
+    save.MakeDirectory(u"0001"_s);
+    save.MakeDirectory(u"0001\\spr"_s);
+    LineWriter goods;
+    for (int i = 0; i < kGoods; ++i) {
+      if (i % 50 == 0) goods.Add(u" Группа %1"_s.arg(i / 50));
+      goods.Add(GoodsName(i));
+      for (const QString& line : {u"Индия"_s, u"10702030/010105/0001"_s, u"пач."_s, u"45.50"_s})
+        goods.Add(line);
+    }
+    save.Write(u"0001\\spr\\товар.spr"_s, goods.Take());
+    for (int w = 0; w < kWarehouses; ++w) {
+      session.SkladNames.append(u"Склад %1"_s.arg(w));
+      save.MakeDirectory(u"0001\\"_s + session.SkladNames.back());
+      LineWriter ledger;
+      for (int i = 0; i < kGoods; ++i) {
+        const int item = static_cast<int>((qint64(i) * 7919 + w * 331) % kGoods);
+        const QString name = GoodsName(item);
+        ledger.Add(item % 5 == 0 ? name.chopped(7) : name);
+        ledger.Add(item % 3 == 0 ? u"%1.25"_s.arg(item % 90) : QString::number(item % 900));
+        ledger.Add(u"пач."_s);
+      }
+      save.Write(session.Path(session.SkladNames.back(), u"товар.usl"), ledger.Take());
+    }
+    save.Commit();
+  }
+
+  QStringList Files() const {
+    QStringList files{session.Path(u"spr\\товар.spr")};
+    for (const QString& name : session.SkladNames) files.append(session.Path(name, u"товар.usl"));
+    return files;
+  }
+
+  QTemporaryDir directory;
+  DataDir data;
+  Session session;
+};
+
+const Books& TheBooks() {
+  static const Books books;
+  return books;
+}
+
+void ReadDecodedLines(benchmark::State& state) {
+  const Books& books = TheBooks();
+  for (auto _ : state) {
+    for (const QString& file : books.Files()) {
+      benchmark::DoNotOptimize(DecodeLines(books.data.Read(file)));
+    }
+  }
+}
+
+void Load(benchmark::State& state, GoodsView view) {
+  const Books& books = TheBooks();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(LoadOnHand(books.data, books.session, books.session.SkladNames, view));
+  }
+}
+
+void Register(const std::string& name, GoodsView view) {
+  benchmark::RegisterBenchmark((name + "/ours").c_str(), Load, view)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark((name + "/baseline decoded lines").c_str(), ReadDecodedLines)
+      ->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+}  // namespace kladez
+
+int main(int argc, char** argv) {
+  using namespace kladez;
+  benchmark::Initialize(&argc, argv);
+  Register("on hand, groups", GoodsView::kGroups);
+  Register("on hand, goods only", GoodsView::kGoodsOnly);
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+}

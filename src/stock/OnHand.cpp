@@ -1,0 +1,139 @@
+#include "stock/OnHand.h"
+
+#include "directories/GoodsOrder.h"
+#include "formats/LedgerFile.h"
+#include "formats/Numbers.h"
+#include "formats/TextLines.h"
+#include "stock/PrefixIndex.h"
+#include "store/SaveSet.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kNothing = u"0"_s;
+
+QString LedgerPath(const Session& session, const QString& warehouse) {
+  return session.Path(warehouse, u"товар.usl");
+}
+
+bool IsKept(const OnHandRow& row) { return !row.IsGroup() && row.quantity != kNothing; }
+
+void SaveLedger(const DataDir& data, const QString& path, QByteArray bytes) {
+  SaveSet save(data);
+  save.Write(path, std::move(bytes));
+  save.Commit();
+}
+
+}  // namespace
+
+OnHandList::OnHandList(QByteArrayView goods, const std::vector<QByteArray>& ledgers,
+                       GoodsView view) {
+  QString group;
+  for (GoodsRecord& record : ReadGoods(goods)) {
+    if (record.IsGroup()) {
+      group = record.name;
+      if (view == GoodsView::kGroups) rows_.push_back({record.name, {}, {}, {}, group});
+    } else {
+      rows_.push_back({std::move(record.name), kNothing, std::move(record.unit),
+                       std::move(record.price), group});
+    }
+  }
+  // Sorted before the join: "the first row" is the first of the list as it is shown.
+  if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
+  AddLedgers(ledgers);
+}
+
+void OnHandList::AddLedgers(const std::vector<QByteArray>& ledgers) {
+  std::vector<QByteArray> names;
+  names.reserve(rows_.size());
+  for (const OnHandRow& row : rows_) names.push_back(EncodeText(row.name));
+  const PrefixIndex index(std::move(names));
+
+  struct Sum {
+    double value = 0;
+    bool touched = false;
+  };
+  std::vector<Sum> sums(rows_.size());
+  for (const QByteArray& ledger : ledgers) {
+    ForEachLedgerRecord(ledger,
+                        [&](QByteArrayView name, QByteArrayView quantity, QByteArrayView /*unit*/) {
+                          const int row = index.FirstBeginning(name);
+                          if (row < 0) return;
+                          Sum& sum = sums[row];
+                          sum.value = RoundGeneral(sum.value + NumberOr(quantity));
+                          sum.touched = true;
+                        });
+  }
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    // A record without a name begins every name, a group's too, and a group has no stock.
+    if (sums[row].touched && !rows_[row].IsGroup()) {
+      rows_[row].quantity = GeneralText(sums[row].value);
+    }
+  }
+}
+
+OnHandList::Totals OnHandList::Total() const {
+  Totals total;
+  for (const OnHandRow& row : rows_) {
+    if (row.IsGroup()) continue;
+    const double quantity = NumberOr(row.quantity);
+    if (quantity == 0) continue;
+    ++total.names;
+    total.sum += quantity * NumberOr(row.price);
+  }
+  return total;
+}
+
+QString OnHandList::StatusText() const {
+  const Totals total = Total();
+  return u"Итого наименований: "_s + QString::number(total.names) + u"     на сумму: "_s +
+         FormatMoney(total.sum);
+}
+
+bool OnHandList::ChangeQuantity(int row, const QString& quantity) {
+  OnHandRow& changed = rows_.at(row);
+  if (changed.IsGroup() || changed.quantity == quantity || !ParseStrict(quantity)) return false;
+  changed.quantity = quantity;
+  return true;
+}
+
+QByteArray OnHandList::LedgerBytes() const {
+  LineWriter writer;
+  for (const OnHandRow& row : rows_) {
+    if (!IsKept(row)) continue;
+    for (const QString* line : {&row.name, &row.quantity, &row.unit}) writer.Add(*line);
+  }
+  return writer.Take();
+}
+
+QByteArray OnHandList::ZeroedLedgerBytes() const {
+  LineWriter writer;
+  for (const OnHandRow& row : rows_) {
+    if (!IsKept(row)) continue;
+    for (const QString* line : {&row.name, &kNothing, &kNothing}) writer.Add(*line);
+  }
+  return writer.Take();
+}
+
+OnHandList LoadOnHand(const DataDir& data, const Session& session, const QStringList& warehouses,
+                      GoodsView view) {
+  std::vector<QByteArray> ledgers;
+  for (const QString& warehouse : warehouses) {
+    ledgers.push_back(data.Read(LedgerPath(session, warehouse)));
+  }
+  return {data.Read(session.Path(u"spr\\товар.spr")), ledgers, view};
+}
+
+void SaveOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+                const QString& warehouse) {
+  SaveLedger(data, LedgerPath(session, warehouse), list.LedgerBytes());
+}
+
+void ZeroOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+                const QString& warehouse) {
+  SaveLedger(data, LedgerPath(session, warehouse), list.ZeroedLedgerBytes());
+}
+
+}  // namespace kladez
