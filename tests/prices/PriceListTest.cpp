@@ -54,7 +54,7 @@ const Case kCases[] = {
      {},
      {},
      GoodsView::kGroups,
-     {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|0.00|0.00"_s,
+     {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|1.50"_s,
       u"Ёлка|шт.|0.00|0.00"_s}},
     {"SalePriceOfTheListAndPurchasePriceOfTheDirectory",
      kGoods,
@@ -62,7 +62,7 @@ const Case kCases[] = {
       u"дорого"_s},
      {},
      GoodsView::kGroups,
-     {u" Чай"_s, u"Чай чёрный|пач.|45.00|0.00"_s, u" Кофе"_s, u"Кофе|кг|0.00|7.13"_s,
+     {u" Чай"_s, u"Чай чёрный|пач.|45.00|0.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|7.13"_s,
       u"Ёлка|шт.|0.00|0.00"_s}},
     {"NamesAreJoinedExactlyAndLostOnesDropped",
      kGoods,
@@ -70,7 +70,7 @@ const Case kCases[] = {
       u""_s, u""_s, u"3"_s},
      {u"Чай"_s, u"кофе"_s},
      GoodsView::kGroups,
-     {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|0.00|0.00"_s,
+     {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|1.50"_s,
       u"Ёлка|шт.|0.00|0.00"_s}},
     {"FirstRowOfANameGetsPriceAndTick",
      kTwins,
@@ -83,24 +83,24 @@ const Case kCases[] = {
      {},
      {u"Чай зелёный"_s, u"Ёлка"_s},
      GoodsView::kGroups,
-     {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|0.00|0.00"_s,
+     {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|1.50"_s,
       u"+Ёлка|шт.|0.00|0.00"_s}},
     {"GoodsAloneAreSortedAndGroupsLeftOut",
      kGoods,
      {u" Чай"_s, u"Кофе"_s, u"кг"_s, u"0.00"_s, u"9.00"_s},
      {u"Кофе"_s},
      GoodsView::kGoodsOnly,
-     {u"Ёлка|шт.|0.00|0.00"_s, u"+Кофе|кг|0.00|9.00"_s, u"Чай чёрный|пач.|45.00|45.00"_s}},
+     {u"Ёлка|шт.|0.00|0.00"_s, u"+Кофе|кг|1.50|9.00"_s, u"Чай чёрный|пач.|45.00|45.00"_s}},
     {"ACutListReadsItsLastPriceAsZero",
      kGoods,
      {u"Чай чёрный"_s, u"пач."_s},
      {},
      GoodsView::kGroups,
-     {u" Чай"_s, u"Чай чёрный|пач.|45.00|0.00"_s, u" Кофе"_s, u"Кофе|кг|0.00|0.00"_s,
+     {u" Чай"_s, u"Чай чёрный|пач.|45.00|0.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|1.50"_s,
       u"Ёлка|шт.|0.00|0.00"_s}},
 };
 INSTANTIATE_TEST_SUITE_P(PriceList, Loading, testing::ValuesIn(kCases),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& test) { return test.param.name; });
 
 TEST(PriceListFiles, GroupsAreOneLineAndGoodsFour) {
   PriceList list = Load(kGoods, {u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s}, {});
@@ -108,7 +108,7 @@ TEST(PriceListFiles, GroupsAreOneLineAndGoodsFour) {
   list.SetTick(4, true);
   EXPECT_EQ(DecodeLines(list.PriceBytes()),
             (QStringList{u" Чай"_s, u"Чай чёрный"_s, u"пач."_s, u"45.00"_s, u"45.00"_s, u" Кофе"_s,
-                         u"Кофе"_s, u"кг"_s, u"0.00"_s, u"2.00"_s, u"Ёлка"_s, u"шт."_s, u"0.00"_s,
+                         u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s, u"Ёлка"_s, u"шт."_s, u"0.00"_s,
                          u"0.00"_s}));
   EXPECT_EQ(DecodeLines(list.MarkedBytes()), (QStringList{u"Чай чёрный"_s, u"Ёлка"_s}));
 }
@@ -122,7 +122,7 @@ TEST(PriceListRows, APickGoesBelowTheCurrentRowWithTheQuantityInTheSalePriceColu
   EXPECT_EQ(list.InsertPick(-1, item), 7);
   EXPECT_EQ(Shown(list),
             (QStringList{u" Чай"_s, u"Сахар|кг|30.00|12"_s, u"Чай чёрный|пач.|45.00|45.00"_s,
-                         u" Кофе"_s, u"Кофе|кг|0.00|0.00"_s, u"Ёлка|шт.|0.00|0.00"_s, u" Бакалея"_s,
+                         u" Кофе"_s, u"Кофе|кг|1.50|1.50"_s, u"Ёлка|шт.|0.00|0.00"_s, u" Бакалея"_s,
                          u"Сахар|кг|30.00|12"_s}));
   EXPECT_TRUE(list.Rows()[1].picked);
   EXPECT_FALSE(list.Rows()[2].picked);

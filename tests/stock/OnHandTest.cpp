@@ -104,7 +104,7 @@ const Case kCases[] = {
      u"Итого наименований: 0     на сумму: 0.00"_s},
 };
 INSTANTIATE_TEST_SUITE_P(OnHand, Joining, testing::ValuesIn(kCases),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& test) { return test.param.name; });
 
 // Against the plain walk over all names, on names that often begin each other.
 TEST(OnHandIndex, FindsTheFirstRowThatBeginsSo) {
