@@ -284,7 +284,18 @@ QString FormatGrouped(double value) { return WithTwoDecimals(value, true); }
 
 QString FormatLedger(double value) { return WithTwoDecimals(value, false); }
 
-double RoundMoney(double value) { return ParseStrict(FormatMoney(value)).value_or(0); }
+double RoundMoney(double value) {
+  // Most amounts are far from the middle between two kopecks: the nearest one is the same then as
+  // by the decimal digits, and a whole number by a hundred is the number that its text reads as.
+  constexpr double kLarge = 1e9;
+  constexpr double kNearMiddle = 1e-3;
+  if (std::fabs(value) < kLarge) {
+    const double kopecks = value * 100;
+    const double whole = std::round(kopecks);
+    if (0.5 - std::fabs(kopecks - whole) > kNearMiddle) return whole == 0 ? 0 : whole / 100;
+  }
+  return ParseStrict(FormatMoney(value)).value_or(0);
+}
 
 QString GeneralText(double value) {
   if (value == 0 || !std::isfinite(value)) return u"0"_s;

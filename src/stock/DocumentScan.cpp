@@ -18,8 +18,8 @@ size_t PlaceOf(const std::vector<Field>& fields, Field field) {
 }  // namespace
 
 ScannedDocument::ScannedDocument(const DocumentFormat& format, const QString& file,
-                                 QByteArrayView bytes)
-    : format_(format), file_(file), rest_(bytes) {
+                                 QByteArrayView bytes, double part)
+    : format_(format), file_(file), part_(part), rest_(bytes) {
   Q_ASSERT(format.head.size() <= kMostLines && format.line.size() <= kMostLines);
   while (head_lines_ < format_.head.size() && !rest_.AtEnd()) {
     head_[head_lines_++] = rest_.NextRaw();
@@ -56,19 +56,18 @@ QByteArrayView ScannedDocument::Line(QString DocumentLine::*field) const {
 void ScanDocuments(const DataDir& data, DocumentKind kind, const QString& directory,
                    Unreadable unreadable, const std::function<bool(ScannedDocument&)>& visit) {
   const DocumentFormat& format = FormatOf(kind);
-  data.ForEachFile(directory, format.extension,
-                   [&](const QString& name, std::optional<QByteArrayView> bytes) {
-                     if (bytes) {
-                       ScannedDocument document(format, name, *bytes);
-                       return visit(document);
-                     }
-                     // Read once more for the error that tells why; a file that can be read by now
-                     // will do.
-                     if (unreadable == Unreadable::kPassOver) return true;
-                     const QByteArray again = data.Read(directory + u'\\' + name);
-                     ScannedDocument document(format, name, again);
-                     return visit(document);
-                   });
+  data.ForEachFile(directory, format.extension, [&](const DataDir::ListedFile& file) {
+    const double part = static_cast<double>(file.index) / static_cast<double>(file.count);
+    if (file.bytes) {
+      ScannedDocument document(format, file.name, *file.bytes, part);
+      return visit(document);
+    }
+    // Read once more for the error that tells why; a file that can be read by now will do.
+    if (unreadable == Unreadable::kPassOver) return true;
+    const QByteArray again = data.Read(directory + u'\\' + file.name);
+    ScannedDocument document(format, file.name, again, part);
+    return visit(document);
+  });
 }
 
 }  // namespace kladez

@@ -24,9 +24,11 @@ namespace kladez {
 
 class ScannedDocument {
  public:
-  ScannedDocument(const DocumentFormat& format, const QString& file, QByteArrayView bytes);
+  ScannedDocument(const DocumentFormat& format, const QString& file, QByteArrayView bytes,
+                  double part = 0);
 
   const QString& File() const { return file_; }  // "0012.uhd"
+  double Part() const { return part_; }  // how much of its directory stands before it, 0 to 1
 
   // A line of the head; empty where the kind has no such field or the file ends before it.
   QByteArrayView Head(QString DocumentHead::*field) const;
@@ -48,6 +50,7 @@ class ScannedDocument {
 
   const DocumentFormat& format_;
   const QString& file_;
+  double part_;
   LineReader rest_;
   std::array<QByteArrayView, kMostLines> head_;
   std::array<QByteArrayView, kMostLines> line_;

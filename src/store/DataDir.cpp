@@ -178,10 +178,10 @@ void DataDir::ForEachFile(const QString& directory, QStringView extension,
   const Directory entries = OpenDirectory(path);
   if (!entries) ThrowFileError(u"Не удалось прочитать каталог"_s, path, errno);
   QByteArray bytes;  // one buffer for all files
-  for (const QString& name : names) {
-    const bool good = ReadAt(::dirfd(entries.get()), QFile::encodeName(name), bytes);
+  for (qsizetype i = 0; i < names.size(); ++i) {
+    const bool good = ReadAt(::dirfd(entries.get()), QFile::encodeName(names[i]), bytes);
     const auto contents = good ? std::optional<QByteArrayView>(bytes) : std::nullopt;
-    if (!visit(name, contents)) return;
+    if (!visit({names[i], contents, i, names.size()})) return;
   }
 }
 

@@ -37,9 +37,14 @@ class DataDir {
   // filesystem_error.
   QStringList List(const QString& directory, QStringView extension) const;
 
-  // Reads the files of List in its order. A file that can't be opened is handed over as nothing;
-  // `visit` returns false to stop. The bytes are valid during the call only.
-  using Visitor = std::function<bool(const QString& name, std::optional<QByteArrayView> bytes)>;
+  // Reads the files of List in its order; `visit` returns false to stop.
+  struct ListedFile {
+    const QString& name;
+    std::optional<QByteArrayView> bytes;  // nothing where it can't be read; valid during the visit
+    qsizetype index;                      // its place among `count` files, for progress
+    qsizetype count;
+  };
+  using Visitor = std::function<bool(const ListedFile& file)>;
   void ForEachFile(const QString& directory, QStringView extension, const Visitor& visit) const;
 
  private:

@@ -29,6 +29,7 @@ constexpr std::array kReasons = {
     Reason{EINVAL, u"недопустимое имя"},
     Reason{ELOOP, u"ссылка ведёт за пределы каталога данных"},
     Reason{EIO, u"ошибка чтения или записи диска"},
+    Reason{EBADMSG, u"файл повреждён"},
     Reason{EBUSY, u"файл занят"},
     Reason{EILSEQ, u"знака нет в кодировке файла"},
 };

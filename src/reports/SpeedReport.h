@@ -1,0 +1,35 @@
+// The sales speed report: how much of each item was shipped in a period, for how much, and with
+// what profit. The discount of the documents plays no part here.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "reports/ReportScope.h"
+
+namespace kladez {
+
+struct SpeedReport {
+  struct Row {
+    QString name;
+    QString unit;      // of the item's first line
+    QString quantity;  // as written, until something was added to it
+    double sales;
+    double profit;
+  };
+  std::vector<Row> rows;  // by name
+
+  double TotalQuantity() const;
+  // Rounded after each addition.
+  double TotalSales() const;
+  double TotalProfit() const;
+};
+
+// As CollectSales.
+std::optional<SpeedReport> CollectSpeed(const DataDir& data, const Session& session,
+                                        const ReportScope& scope, const Progress& progress = {});
+QByteArray SpeedReportPage(const SpeedReport& report, const ReportScope& scope);
+
+}  // namespace kladez

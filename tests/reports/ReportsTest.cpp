@@ -1,0 +1,219 @@
+#include <gtest/gtest.h>
+
+#include "ShipmentsOnDisk.h"
+#include "reports/ChartSeries.h"
+#include "reports/FlowReport.h"
+#include "reports/SalesFigures.h"
+#include "reports/SalesReport.h"
+#include "reports/SpeedReport.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QDate kToday(2026, 11, 22);
+
+ReportScope Scope(const QString& warehouse, PeriodKind kind, QDate from = {}, QDate to = {}) {
+  return {warehouse, {kind, kToday, from, to}};
+}
+
+QStringList PageLines(const QByteArray& page) { return DecodeLines(page); }
+
+class Reports : public ::testing::Test, protected ShipmentsOnDisk {};
+
+TEST_F(Reports, SalesPageIsWholeAndRoundsTheSumAfterEachAddition) {
+  Ship(0, u"0001.uhd"_s, u"22.11.2026 "_s, u"10"_s, u"0"_s,
+       {u"Чай <чёрный> & Ко"_s, u"0.125"_s, u"кг"_s, u"1.00"_s, u"1.005"_s, u"x"_s,  //
+        u"Сахар"_s, u"3,5"_s, u"кг"_s, u"1"_s, u"61.25"_s, u"x"_s});
+  Ship(1, u"0001.uhd"_s, u"03.01.2026"_s, u"0"_s, u"0"_s,
+       {u"Соль"_s, u"пять"_s, u"пач."_s, u""_s, u"18.40"_s, u"x"_s});
+  const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
+  const auto report = CollectSales(temp.Data(), session, scope);
+  ASSERT_TRUE(report);
+  const QString cell = u"<FONT FACE=Arial SIZE=3>"_s;
+  const auto row = [&](const QStringList& v, const QString& first = u"VALIGN"_s,
+                       bool bold = false) {
+    const QString b = bold ? u"<b>"_s : QString();
+    const QString e = bold ? u"</b>"_s : QString();
+    return QString(u"<tr><TD WIDTH=5% "_s + first + u"=TOP>"_s + cell + b + u"&nbsp;"_s + v[0] + e +
+                   u"</FONT></TD><TD WIDTH=30% VALIGN=TOP>"_s + cell + b + u"&nbsp;"_s + v[1] + e +
+                   u"</FONT></TD><TD WIDTH=10% VALIGN=TOP ALIGN=right>"_s + cell + b + v[2] +
+                   u"&nbsp;"_s + e + u"</FONT></TD><TD WIDTH=10% VALIGN=TOP ALIGN=right>"_s + cell +
+                   b + v[3] + u"&nbsp;"_s + e +
+                   u"</FONT></TD><TD WIDTH=10% VALIGN=TOP ALIGN=right>"_s + cell + b + v[4] +
+                   u"&nbsp;"_s + e + u"</FONT></TD></tr>"_s);
+  };
+  QString heads = row({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s});
+  heads.replace(u"SIZE=3"_s, u"SIZE=4"_s);
+  const QStringList expected = {
+      u"<HTML><HEAD><meta http-equiv=\"Content-Type\" content=\"text/html; charset=windows-1251\">"
+      "<TITLE>Отчет от 22 ноября 2026</TITLE></HEAD><BODY BGCOLOR=#ffffff>"_s,
+      u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>Отчет по продажам от 22 ноября 2026</FONT></B>"
+      "<br></p>"_s,
+      u"<FONT FACE=Arial SIZE=3>ВСЕ СКЛАДЫ</FONT><br>"_s, u"<br>"_s, u"<CENTER>"_s,
+      u"<TABLE style=border-Collapse:Collapse bgcolor=#ffffff bordercolor=#000000 cellspacing=0 "
+      "cellpadding=0 BORDER=1 WIDTH=100%>"_s,
+      heads, row({u"03.01.26"_s, u"Соль"_s, u"пач."_s, u"0"_s, u"0.00"_s}),
+      // 1.005 less 10 per cent is 0.9045, printed and taken back as 0.90.
+      row({u"22.11.26"_s, u"Чай <чёрный> & Ко"_s, u"кг"_s, u"0.125"_s, u"0.11"_s}),
+      row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3.5"_s, u"192.96"_s}),
+      row({u"ИТОГО:"_s, {}, {}, u"3.625"_s, u"193.07"_s}, u"VALING"_s, true), u"<tr>"_s,
+      u"</center></table><p></p>"_s, u"</body></html>"_s};
+  EXPECT_EQ(PageLines(SalesReportPage(*report, scope)), expected);
+}
+
+TEST_F(Reports, CurrentMonthCountsThatMonthOfEveryYearAndARangeComparesTwoDigitsOfTheYear) {
+  int file = 1;
+  for (const QString& date : {u"05.11.2025"_s, u"05.11.2026"_s, u"05.10.2026"_s, u"01.01.1999"_s}) {
+    Ship(0, u"%1.uhd"_s.arg(file++, 4, 10, QLatin1Char('0')), date, u"0"_s, u"0"_s,
+         {date, u"1"_s, u"шт."_s, u"1"_s, u"1"_s, u"1"_s});
+  }
+  const auto names = [&](const ReportScope& scope) {
+    const auto report = CollectSales(temp.Data(), session, scope);
+    QStringList list;
+    for (const auto& row : report->rows) list.append(report->texts.Text(row.name));
+    return list;
+  };
+  const QString warehouse = session.SkladNames.first();
+  EXPECT_EQ(names(Scope(warehouse, PeriodKind::kCurrentMonth)),
+            (QStringList{u"05.11.2025"_s, u"05.11.2026"_s}));
+  EXPECT_EQ(names(Scope(warehouse, PeriodKind::kRange, QDate(2026, 10, 5), QDate(2026, 11, 5))),
+            (QStringList{u"05.10.2026"_s, u"05.11.2026"_s}));
+  EXPECT_EQ(names(Scope(warehouse, PeriodKind::kRange, QDate(2026, 1, 1), QDate(2099, 12, 31))),
+            (QStringList{u"05.10.2026"_s, u"05.11.2026"_s, u"01.01.1999"_s}));
+}
+
+TEST_F(Reports, DamagedShipmentsGiveTheirWholeLinesAndStopNothing) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"0"_s, u"5.00"_s,
+       {u"Чай"_s, u"1"_s, u"шт."_s, u"1"_s, u"2"_s, u"2"_s, u"Кофе"_s, u"1"_s});
+  Ship(0, u"0002.uhd"_s, u"когда-то"_s, u"0"_s, u"9.00"_s,
+       {u"Соль"_s, u"1"_s, u"шт."_s, u"1"_s, u"2"_s, u"2"_s});
+  temp.Put(u"0001\\Главный склад\\UHD\\0003.uhd"_s, {});
+  QByteArray noise(100000, '\0');
+  for (int i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>(i * 7919 >> 3);
+  temp.Put(u"0001\\Главный склад\\UHD\\0004.uhd"_s, noise);
+  const ReportScope scope = Scope(session.SkladNames.first(), PeriodKind::kAll);
+  const auto sales = CollectSales(temp.Data(), session, scope);
+  ASSERT_EQ(sales->rows.size(), 1u);
+  EXPECT_EQ(sales->texts.Text(sales->rows[0].name), u"Чай"_s);
+  const auto flow = CollectFlow(temp.Data(), session, scope);
+  EXPECT_EQ(flow->days.at(261105).sales, 5.0);
+  EXPECT_EQ(CollectSalesFigures(temp.Data(), session, kToday)->month, 5.0);
+}
+
+TEST_F(Reports, SpeedAddsUpItemsByTheirExactNameAndKeepsALoneQuantityAsWritten) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"50"_s, u"0"_s,
+       {u"Чай"_s, u"2.50"_s, u"пач."_s, u"1.10"_s, u"2.005"_s, u"x"_s,  //
+        u"чай"_s, u"1.50"_s, u"кг"_s, u""_s, u"3"_s, u"x"_s});
+  Ship(1, u"0001.uhd"_s, u"06.11.2026"_s, u"0"_s, u"0"_s,
+       {u"Чай"_s, u"0.5"_s, u"шт."_s, u"9"_s, u"2"_s, u"x"_s});
+  const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
+  const auto report = CollectSpeed(temp.Data(), session, scope);
+  ASSERT_EQ(report->rows.size(), 2u);
+  const SpeedReport::Row& tea = report->rows[0];
+  EXPECT_EQ(tea.name, u"Чай"_s);
+  EXPECT_EQ(tea.unit, u"пач."_s);
+  EXPECT_EQ(tea.quantity, u"3"_s);
+  EXPECT_EQ(tea.sales, 6.01);    // 5.0125 is 5.01, plus 1.00
+  EXPECT_EQ(tea.profit, -1.24);  // 2.2625 is 2.26, less 3.50
+  EXPECT_EQ(report->rows[1].quantity, u"1.50"_s);
+  EXPECT_EQ(report->rows[1].profit, 4.5) << "an empty cost counts as 0";
+  const QStringList page = PageLines(SpeedReportPage(*report, scope));
+  EXPECT_TRUE(page[page.size() - 4].startsWith(u"<tr><TD WIDTH=25% VALING=TOP>"_s));
+  EXPECT_TRUE(page[page.size() - 4].contains(u"<b>4.5&nbsp;</b>"_s));
+  EXPECT_TRUE(page[page.size() - 4].contains(u"<b>10.51&nbsp;</b>"_s));
+  EXPECT_TRUE(page[page.size() - 4].contains(u"<b>3.26&nbsp;</b>"_s));
+}
+
+TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
+  Receive(0, u"0001.prh"_s, u"05.11.2026"_s, u"100.50"_s);
+  Receive(1, u"0001.prh"_s, u"05.11.2026"_s, u"0.25"_s);
+  Ship(1, u"0001.uhd"_s, u"05.11.2026"_s, u"0"_s, u"40.00"_s, {});
+  Ship(0, u"0001.uhd"_s, u"6.11.2026"_s, u"0"_s, u"7,5"_s, {});
+  const ReportScope scope =
+      Scope(kAllWarehouses.toString(), PeriodKind::kRange, QDate(2026, 11, 5), QDate(2026, 11, 6));
+  const auto report = CollectFlow(temp.Data(), session, scope);
+  const QStringList page = PageLines(FlowReportPage(*report, scope));
+  const auto row = [](const QStringList& v, bool total = false) {
+    const QString b = total ? u"<b>"_s : QString();
+    const QString e = total ? u"</b>"_s : QString();
+    QString html = u"<tr><TD WIDTH=25% "_s + (total ? u"VALING"_s : u"VALIGN"_s) +
+                   u"=TOP><FONT FACE=Arial SIZE=3>"_s + b + u"&nbsp;"_s + v[0] + e +
+                   u"</FONT></TD>"_s;
+    for (int i = 1; i < 4; ++i) {
+      html += u"<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=3>"_s + b + v[i] +
+              u"&nbsp;"_s + e + u"</FONT></TD>"_s;
+    }
+    return QString(html + u"</tr>"_s);
+  };
+  EXPECT_EQ(page[3], u"<FONT FACE=Arial SIZE=3>Период: с 05.11.2026 по 06.11.2026</FONT><br>"_s);
+  EXPECT_EQ(page.mid(8, 3),
+            (QStringList{row({u"05.11.26"_s, u"100.75"_s, u"40.00"_s, u"-60.75"_s}),
+                         row({u"06.11.26"_s, u"0.00"_s, u"7.50"_s, u"7.50"_s}),
+                         row({u"ИТОГО:"_s, u"100.75"_s, u"47.50"_s, u"-53.25"_s}, true)}));
+}
+
+TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {
+  session.SkladNames.append(u"Стёртый"_s);
+  const ReportScope scope = Scope(u"Стёртый"_s, PeriodKind::kCurrentMonth);
+  const QStringList page =
+      PageLines(SalesReportPage(*CollectSales(temp.Data(), session, scope), scope));
+  EXPECT_EQ(page[3], u"<FONT FACE=Arial SIZE=3>Месяц: Ноябрь</FONT><br>"_s);
+  EXPECT_EQ(page.filter(u"<tr><TD"_s).size(), 2);
+}
+
+TEST_F(Reports, ChartsTakeNetPricesAndStopAtACutDocument) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"10"_s, u"0"_s,
+       {u"Чай"_s, u"2"_s, u"шт."_s, u"30"_s, u"20"_s, u"18.00"_s});
+  Ship(1, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"0"_s,
+       {u"Чай"_s, u"1,5"_s, u"шт."_s, u"1"_s, u"20"_s, u"20"_s,  //
+        u"чай"_s, u"7"_s, u"шт."_s, u"0"_s, u"1"_s, u"1"_s});
+  const ChartScope year{kAllWarehouses.toString(), false, 2026, 0};
+  const auto months = CollectSalesChart(temp.Data(), session, year);
+  EXPECT_EQ(months->title, u"График продаж за 2026 год"_s);
+  ASSERT_EQ(months->RowCount(), 12);
+  EXPECT_EQ(months->Cell(10, 0), 36.0 + 20.0 + 7.0) << "a decimal comma ends a chart's number";
+  EXPECT_EQ(months->Cell(10, 1), -24.0 + 19.0 + 7.0);
+  EXPECT_EQ(months->Cell(9, 0), 0.0);
+  const ChartScope month{kAllWarehouses.toString(), true, 2026, 11};
+  const auto days = CollectGoodsChart(temp.Data(), session, u"Чай"_s, month);
+  EXPECT_EQ(days->title, u"График реализации товара Чай за Ноябрь 2026"_s);
+  ASSERT_EQ(days->RowCount(), 30);
+  EXPECT_EQ(days->Cell(4, 0), 2.0);
+  EXPECT_EQ(days->Cell(21, 0), 1.0);
+  Ship(1, u"0002.uhd"_s, u"01.02.2020"_s, u"0"_s, u"0"_s, {u"Чай"_s, u"1"_s});
+  try {
+    CollectSalesChart(temp.Data(), session, year);
+    FAIL() << "a cut shipment must stop the chart";
+  } catch (const std::filesystem::filesystem_error& error) {
+    EXPECT_EQ(error.path1().filename(), "0002.uhd");
+  }
+}
+
+TEST_F(Reports, HomeScreenSumsTodayThisMonthAndThisYear) {
+  Ship(0, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"10.00"_s, {}, u"нет"_s);
+  Ship(1, u"0001.uhd"_s, u"21.11.2026"_s, u"0"_s, u"5.50"_s, {});
+  Ship(1, u"0002.uhd"_s, u"01.01.2026"_s, u"0"_s, u"100"_s, {});
+  Ship(1, u"0003.uhd"_s, u"22.11.2025"_s, u"0"_s, u"1000"_s, {});
+  Ship(1, u"0004.uhd"_s, u"20.11.2026"_s, u"0"_s, u"мало"_s, {});
+  const auto figures = CollectSalesFigures(temp.Data(), session, kToday);
+  EXPECT_EQ(figures->day, 10.0);
+  EXPECT_EQ(figures->month, 15.5);
+  EXPECT_EQ(figures->year, 115.5);
+  ASSERT_EQ(figures->by_day.RowCount(), 30);
+  EXPECT_EQ(figures->by_day.Cell(20, 0), 5.5);
+  EXPECT_EQ(figures->by_day.Cell(21, 0), 10.0);
+  EXPECT_EQ(CollectSalesFigures(temp.Data(), session, QDate(2027, 2, 3))->by_day.RowCount(), 28);
+}
+
+TEST_F(Reports, ClosingTheProgressEndsTheWork) {
+  Ship(0, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"10.00"_s, {});
+  const auto stop = [](double) { return false; };
+  EXPECT_FALSE(CollectSalesFigures(temp.Data(), session, kToday, stop));
+  EXPECT_FALSE(
+      CollectFlow(temp.Data(), session, Scope(kAllWarehouses.toString(), PeriodKind::kAll), stop));
+}
+
+}  // namespace
+}  // namespace kladez
