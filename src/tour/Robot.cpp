@@ -1,0 +1,310 @@
+#include "tour/Robot.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QEventLoop>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QTest>
+#include <QThread>
+#include <QWidget>
+#include <exception>
+#include <stdexcept>
+#include <thread>
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kPatience = 20000;  // milliseconds until a step counts as failed
+
+[[noreturn]] void Fail(const QString& what) { throw std::runtime_error(what.toStdString()); }
+
+// The window that a person would type into now.
+QWidget* Front() {
+  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->isVisible()) return widget;
+  }
+  return nullptr;
+}
+
+QWidget* FindVisible(const QString& name) {
+  QWidget* front = Front();
+  if (front == nullptr) return nullptr;
+  if (front->objectName() == name) return front;
+  for (QWidget* widget : front->findChildren<QWidget*>(name)) {
+    if (widget->isVisible()) return widget;
+  }
+  return nullptr;
+}
+
+QWidget* Control(const QString& name) {
+  QWidget* control = FindVisible(name);
+  if (control == nullptr) {
+    QWidget* front = Front();
+    Fail(u"Нет элемента "_s + name + u" в окне "_s +
+         (front != nullptr ? front->objectName() : u"-"_s));
+  }
+  return control;
+}
+
+template <typename Kind>
+Kind* ControlOf(const QString& name) {
+  auto* control = qobject_cast<Kind*>(Control(name));
+  if (control == nullptr) Fail(u"Элемент "_s + name + u" другого вида"_s);
+  return control;
+}
+
+void TypeText(QWidget* into, const QString& text) {
+  for (const QChar c : text) {
+    QTest::sendKeyEvent(QTest::Click, into, Qt::Key_unknown, QString(c), Qt::NoModifier);
+  }
+}
+
+QModelIndex RowOf(QAbstractItemView* list, const QString& first_column) {
+  for (int row = 0; row < list->model()->rowCount(); ++row) {
+    const QModelIndex index = list->model()->index(row, 0);
+    if (index.data().toString() == first_column) return index;
+  }
+  Fail(u"Нет строки "_s + first_column);
+}
+
+QString ShownText(QWidget* control) {
+  if (const auto* label = qobject_cast<QLabel*>(control)) return label->text();
+  if (const auto* line = qobject_cast<QLineEdit*>(control)) return line->text();
+  if (const auto* combo = qobject_cast<QComboBox*>(control)) return combo->currentText();
+  if (const auto* button = qobject_cast<QAbstractButton*>(control)) return button->text();
+  if (const auto* date = qobject_cast<QDateTimeEdit*>(control)) return date->text();
+  return control->windowTitle();
+}
+
+}  // namespace
+
+Robot::Robot(const QString& picture_folder) : picture_folder_(picture_folder) {
+  if (!picture_folder_.isEmpty()) QDir().mkpath(picture_folder_);
+}
+
+void Robot::Run(const std::function<void(Robot&)>& script) {
+  QEventLoop loop;
+  std::exception_ptr failure;
+  std::thread player([&] {
+    try {
+      script(*this);
+    } catch (...) {
+      failure = std::current_exception();
+    }
+    QMetaObject::invokeMethod(
+        &loop,
+        [&] {
+          // Dialogs that a failed script left open would keep their own loops running.
+          while (QWidget* modal = QApplication::activeModalWidget()) {
+            modal->close();
+            if (QApplication::activeModalWidget() == modal) modal->hide();
+          }
+          loop.quit();
+        },
+        Qt::QueuedConnection);
+  });
+  loop.exec();
+  player.join();
+  if (failure) std::rethrow_exception(failure);
+}
+
+// The action is posted, not called: it may open a dialog and come back only when that has closed.
+// A second post tells that the first one has ended or waits inside a dialog.
+void Robot::InWindow(const std::function<void()>& action) {
+  auto failure = std::make_shared<std::exception_ptr>();
+  QMetaObject::invokeMethod(
+      qApp,
+      [action, failure] {
+        try {
+          action();
+        } catch (...) {
+          *failure = std::current_exception();
+        }
+      },
+      Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      qApp, [] {}, Qt::BlockingQueuedConnection);
+  if (*failure) std::rethrow_exception(*failure);
+}
+
+template <typename Value>
+Value Robot::Ask(const std::function<Value()>& question) {
+  Value answer{};
+  std::exception_ptr failure;
+  QMetaObject::invokeMethod(
+      qApp,
+      [&] {
+        try {
+          answer = question();
+        } catch (...) {
+          failure = std::current_exception();
+        }
+      },
+      Qt::BlockingQueuedConnection);
+  if (failure) std::rethrow_exception(failure);
+  return answer;
+}
+
+void Robot::WaitUntil(const QString& what, const std::function<bool()>& holds) {
+  const QDeadlineTimer deadline(kPatience);
+  while (!Ask<bool>(holds)) {
+    if (deadline.hasExpired()) {
+      const QString front = Ask<QString>([] {
+        QWidget* window = Front();
+        if (window == nullptr) return u"-"_s;
+        const auto* box = qobject_cast<QMessageBox*>(window);
+        return QString(window->objectName() + u' ' + window->windowTitle() +
+                       (box != nullptr ? u": "_s + box->text() : QString()));
+      });
+      Fail(u"Не дождались: "_s + what + u"; впереди окно "_s + front);
+    }
+    QThread::msleep(5);
+  }
+}
+
+void Robot::WaitFor(const QString& screen) {
+  WaitUntil(screen, [screen] { return FindVisible(screen) != nullptr; });
+}
+
+void Robot::AnswerMessage(const QString& button, const QString& text) {
+  WaitUntil(u"сообщение "_s + text, [] { return qobject_cast<QMessageBox*>(Front()) != nullptr; });
+  InWindow([=] {
+    auto* box = qobject_cast<QMessageBox*>(Front());
+    if (!text.isEmpty() && box->text() != text) {
+      Fail(u"Другое сообщение: "_s + box->text() + u" вместо "_s + text);
+    }
+    for (QAbstractButton* choice : box->buttons()) {
+      if (choice->text().remove(u'&') != button) continue;
+      QTest::mouseClick(choice, Qt::LeftButton);
+      return;
+    }
+    Fail(u"Нет кнопки "_s + button);
+  });
+}
+
+void Robot::Click(const QString& control) {
+  WaitUntil(control, [control] {
+    QWidget* widget = FindVisible(control);
+    return widget != nullptr && widget->isEnabled();
+  });
+  InWindow([=] { QTest::mouseClick(Control(control), Qt::LeftButton); });
+}
+
+void Robot::SelectRow(const QString& list, const QString& first_column) {
+  InWindow([=] {
+    auto* view = ControlOf<QAbstractItemView>(list);
+    const QModelIndex index = RowOf(view, first_column);
+    view->scrollTo(index);
+    view->setFocus();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+  });
+}
+
+void Robot::DoubleClickRow(const QString& list, const QString& first_column) {
+  SelectRow(list, first_column);
+  InWindow([=] {
+    auto* view = ControlOf<QAbstractItemView>(list);
+    const QPoint at = view->visualRect(RowOf(view, first_column)).center();
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
+  });
+}
+
+void Robot::Type(const QString& control, const QString& text) {
+  InWindow([=] {
+    QWidget* widget = Control(control);
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+      if (combo->lineEdit() != nullptr) widget = combo->lineEdit();
+    }
+    auto* line = qobject_cast<QLineEdit*>(widget);
+    if (line == nullptr) Fail(u"В элемент "_s + control + u" не печатают"_s);
+    line->setFocus(Qt::TabFocusReason);
+    line->selectAll();
+    TypeText(line, text);
+  });
+}
+
+void Robot::TypeHere(const QString& text) {
+  InWindow([=] {
+    QWidget* widget = QApplication::focusWidget();
+    if (widget == nullptr) Fail(u"Печатать некуда: "_s + text);
+    TypeText(widget, text);
+  });
+}
+
+void Robot::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  InWindow([=] {
+    QWidget* widget = QApplication::focusWidget();
+    QTest::keyClick(widget != nullptr ? widget : Front(), key, modifiers);
+  });
+}
+
+void Robot::Choose(const QString& combo, const QString& entry) {
+  InWindow([=] {
+    auto* box = ControlOf<QComboBox>(combo);
+    const int index = box->findText(entry);
+    if (index < 0) Fail(u"В списке "_s + combo + u" нет "_s + entry);
+    box->setFocus();
+    while (box->currentIndex() != index) {
+      QTest::keyClick(box, box->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
+    }
+  });
+}
+
+void Robot::OpenMenu(const QString& action) {
+  InWindow([=] {
+    QWidget* front = Front();
+    auto* command = front != nullptr ? front->findChild<QAction*>(action) : nullptr;
+    if (command == nullptr || !command->isEnabled()) Fail(u"Нет команды "_s + action);
+    command->trigger();
+  });
+}
+
+void Robot::Check(const QString& control, bool on) {
+  InWindow([=] {
+    auto* box = ControlOf<QAbstractButton>(control);
+    if (box->isChecked() != on) {
+      box->setFocus();
+      QTest::keyClick(box, Qt::Key_Space);
+    }
+    if (box->isChecked() != on) Fail(u"Не переключается "_s + control);
+  });
+}
+
+QString Robot::TextOf(const QString& control) {
+  return Ask<QString>([control] { return ShownText(Control(control)); });
+}
+
+void Robot::Expect(const QString& control, const QString& text) {
+  const QString shown = TextOf(control);
+  if (shown != text) Fail(u"В "_s + control + u" стоит "_s + shown + u" вместо "_s + text);
+}
+
+void Robot::Picture(const QString& name) {
+  if (picture_folder_.isEmpty()) return;
+  const QString file = picture_folder_ + u'/' +
+                       QString::number(pictures_.size() + 1).rightJustified(2, u'0') + u'-' + name +
+                       u".png"_s;
+  const bool saved = Ask<bool>([file] {
+    QWidget* front = Front();
+    return front != nullptr && front->grab().save(file);
+  });
+  if (!saved) Fail(u"Не удалось сохранить снимок "_s + file);
+  pictures_.append(file);
+}
+
+}  // namespace kladez

@@ -1,0 +1,58 @@
+// Plays a script against the real windows with key and mouse events, as a person would: the guided
+// tour and the end-to-end test are such scripts. The script runs beside the event loop, so that it
+// reads in one line from top to bottom although dialogs wait inside each other.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+class QWidget;
+
+namespace kladez {
+
+class Robot {
+ public:
+  // Pictures go to the folder, numbered in order; without a folder none are taken.
+  explicit Robot(const QString& picture_folder = {});
+
+  // Runs the script and returns when it has ended; the event loop runs meanwhile. Throws
+  // std::runtime_error, with the step at fault, for a window, control or text that did not come.
+  void Run(const std::function<void(Robot&)>& script);
+
+  // What follows is for the script. Controls are named by their objectName on the window in front.
+
+  // Waits until the screen is in front: a dialog, a message, or the child screen of the main
+  // window.
+  void WaitFor(const QString& screen);
+  // Waits for a message box, checks its text where one is given, presses the button so called.
+  void AnswerMessage(const QString& button, const QString& text = {});
+
+  void Click(const QString& control);
+  void DoubleClickRow(const QString& list, const QString& first_column);
+  void SelectRow(const QString& list, const QString& first_column);
+  void Type(const QString& control, const QString& text);  // replaces what stands there
+  void TypeHere(const QString& text);                      // into the control with the focus
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  void Choose(const QString& combo, const QString& entry);
+  void OpenMenu(const QString& action);  // a menu command, by the objectName of its action
+  void Check(const QString& control, bool on);
+
+  QString TextOf(const QString& control);
+  void Expect(const QString& control, const QString& text);
+
+  // Saves a picture of the window in front under the name.
+  void Picture(const QString& name);
+  const QStringList& Pictures() const { return pictures_; }
+
+ private:
+  void InWindow(const std::function<void()>& action);
+  template <typename Value>
+  Value Ask(const std::function<Value()>& question);
+  void WaitUntil(const QString& what, const std::function<bool()>& holds);
+
+  QString picture_folder_;
+  QStringList pictures_;
+};
+
+}  // namespace kladez
