@@ -5,6 +5,6 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 PrihNakl::PrihNakl(AppContext& context, const PrintSource& source, QWidget* parent)
-    : WaybillScreen(context, source, u"PrihNakl"_s, parent) {}
+    : WaybillScreen(context, source, u"PrihNakl"_s, DocumentKind::kShipment, parent) {}
 
 }  // namespace kladez

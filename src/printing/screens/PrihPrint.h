@@ -1,23 +1,50 @@
-// "Приходный кассовый ордер": the cash receipt order КО-1 with its tear-off receipt for a shipment,
-// drawn to scale, filled in place and printed on one page.
+// "Приходный кассовый ордер": the cash receipt order КО-1 with its tear-off receipt for a shipment.
+// The screen is the form itself, filled in place; printing draws it on one page, without the frame
+// of the parameters. No file is written.
 #pragma once
 
-#include <QDialog>
+#include <QHash>
 
-#include "printing/PrintSource.h"
-#include "shell/AppContext.h"
+#include "printing/screens/CashOrderSheet.h"
+#include "printing/screens/PrintScreen.h"
+
+class QGroupBox;
+class QPrinter;
 
 namespace kladez {
 
-class PrihPrint : public QDialog {
+class TextLine;
+
+class PrihPrint : public PrintScreen {
   Q_OBJECT
 
  public:
   PrihPrint(AppContext& context, const PrintSource& source, QWidget* parent = nullptr);
 
+  // The fields of the form by their names, as they stand.
+  SheetTexts Texts() const;
+  // Draws the form on the printer's page; always one page.
+  void PaintOn(QPrinter& printer) const;
+
+  QGroupBox* Frame1;      // the parameters
+  TextLine* Text45;       // "Сумма %:"
+  TextLine* Text44;       // "НДС:"
+  TextLine* Text43;       // "НСП:"
+  QPushButton* Command1;  // "Закрыть"
+  QPushButton* Command2;  // "Печать"
+
+ protected:
+  void Load() override;
+  void SaveRates() override;
+
  private:
-  AppContext& context_;
-  const PrintSource source_;
+  void Build();
+  QGroupBox* NewParametersFrame();
+  QWidget* NewSheet();
+  void Show(const CashOrder& order);
+  void Print();
+
+  QHash<QString, QWidget*> fields_;
 };
 
 }  // namespace kladez

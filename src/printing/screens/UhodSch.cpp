@@ -5,6 +5,6 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 UhodSch::UhodSch(AppContext& context, const PrintSource& source, QWidget* parent)
-    : InvoiceScreen(context, source, u"UhodSch"_s, parent) {}
+    : InvoiceScreen(context, source, u"UhodSch"_s, InvoiceKind::kBill, parent) {}
 
 }  // namespace kladez

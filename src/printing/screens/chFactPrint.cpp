@@ -5,6 +5,6 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 chFactPrint::chFactPrint(AppContext& context, const PrintSource& source, QWidget* parent)
-    : InvoiceScreen(context, source, u"chFactPrint"_s, parent) {}
+    : InvoiceScreen(context, source, u"chFactPrint"_s, InvoiceKind::kTaxInvoice, parent) {}
 
 }  // namespace kladez

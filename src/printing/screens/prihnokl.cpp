@@ -5,6 +5,6 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 prihnokl::prihnokl(AppContext& context, const PrintSource& source, QWidget* parent)
-    : WaybillScreen(context, source, u"prihnokl"_s, parent) {}
+    : WaybillScreen(context, source, u"prihnokl"_s, DocumentKind::kReceipt, parent) {}
 
 }  // namespace kladez

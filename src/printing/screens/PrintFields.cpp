@@ -1,0 +1,118 @@
+#include "printing/screens/PrintFields.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "shell/controls/Fields.h"
+#include "shell/controls/Look.h"
+
+namespace kladez {
+
+TextLine* NewText(QWidget* parent, const QString& name, const QString& text) {
+  auto* field = new TextLine(parent);
+  field->setObjectName(name);
+  field->setText(text);
+  return field;
+}
+
+TextLine* NewFigure(QWidget* parent, const QString& name, const QString& text) {
+  TextLine* field = NewText(parent, name, text);
+  field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  field->setMinimumWidth(8 * look::kGrid);
+  return field;
+}
+
+QCheckBox* NewTick(QWidget* parent, const QString& name, const QString& caption, bool on) {
+  auto* tick = new QCheckBox(caption, parent);
+  tick->setObjectName(name);
+  tick->setChecked(on);
+  return tick;
+}
+
+void ShowText(TextLine* field, const QString& text) {
+  field->setText(text);
+  field->setCursorPosition(0);
+}
+
+void KeepRoomFor(TextLine* field, int figures) {
+  const int text = field->fontMetrics().horizontalAdvance(u'0') * figures;
+  field->setMinimumWidth(text + look::kMargin);
+}
+
+QComboBox* NewTextCombo(QWidget* parent, const QString& name) {
+  auto* combo = new QComboBox(parent);
+  combo->setObjectName(name);
+  combo->setEditable(true);
+  combo->setLineEdit(new TextLine(combo));
+  combo->setInsertPolicy(QComboBox::NoInsert);
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  combo->setMinimumContentsLength(16);
+  return combo;
+}
+
+void SetEntries(QComboBox* combo, const QStringList& entries) {
+  const QString text = combo->currentText();
+  combo->clear();
+  combo->addItems(entries);
+  combo->setEditText(text);
+}
+
+QLabel* NewCaption(QWidget* parent, const QString& caption, QWidget* field) {
+  auto* label = new QLabel(caption, parent);
+  label->setBuddy(field);
+  return label;
+}
+
+QHBoxLayout* SideBySide(std::initializer_list<QWidget*> widgets) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(look::kTight);
+  for (QWidget* widget : widgets) {
+    const bool field = qobject_cast<QLineEdit*>(widget) || qobject_cast<QComboBox*>(widget);
+    row->addWidget(widget, field ? 1 : 0);
+  }
+  return row;
+}
+
+void SetTabChain(std::initializer_list<QWidget*> widgets) {
+  QWidget* before = nullptr;
+  for (QWidget* widget : widgets) {
+    if (widget == nullptr) continue;
+    if (before != nullptr) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+namespace {
+
+constexpr int kColumnsOfGroup = 3;
+
+}  // namespace
+
+FieldGrid::FieldGrid(QGridLayout* grid, int groups) : grid_(grid), groups_(groups) {
+  grid_->setHorizontalSpacing(look::kGrid);
+  grid_->setVerticalSpacing(look::kTight);
+  for (int group = 0; group < groups; ++group) {
+    grid_->setColumnStretch(group * kColumnsOfGroup + 1, 1);
+  }
+}
+
+int FieldGrid::CaptionWidth() { return 17 * look::kGrid; }
+
+void FieldGrid::Add(QWidget* caption, QWidget* field, QWidget* hint) {
+  auto* cell = new QHBoxLayout;
+  cell->addWidget(field);
+  Add(caption, cell, hint);
+}
+
+void FieldGrid::Add(QWidget* caption, QLayout* fields, QWidget* hint) {
+  const int row = next_ / groups_;
+  const int column = next_ % groups_ * kColumnsOfGroup;
+  grid_->addWidget(caption, row, column);
+  grid_->addLayout(fields, row, column + 1);
+  if (hint != nullptr) grid_->addWidget(hint, row, column + 2);
+  ++next_;
+}
+
+}  // namespace kladez

@@ -1,0 +1,58 @@
+// The controls that print screens are made of, and how they stand in aligned columns.
+#pragma once
+
+#include <QString>
+#include <initializer_list>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QLayout;
+class QWidget;
+
+namespace kladez {
+
+class TextLine;
+
+TextLine* NewText(QWidget* parent, const QString& name, const QString& text = {});
+// A text of figures: right-aligned, a few characters wide.
+TextLine* NewFigure(QWidget* parent, const QString& name, const QString& text = {});
+QCheckBox* NewTick(QWidget* parent, const QString& name, const QString& caption, bool on);
+// Fills a field so that its beginning is in sight.
+void ShowText(TextLine* field, const QString& text);
+// Keeps room for so many figures.
+void KeepRoomFor(TextLine* field, int figures);
+// A list to pick from in which any text may be typed; its line is a TextLine.
+QComboBox* NewTextCombo(QWidget* parent, const QString& name);
+// The same with new entries; the text stays.
+void SetEntries(QComboBox* combo, const QStringList& entries);
+// A caption; Alt and its letter lead to the field.
+QLabel* NewCaption(QWidget* parent, const QString& caption, QWidget* field);
+
+// Several controls side by side in one cell of a grid; the fields among them share the room.
+QHBoxLayout* SideBySide(std::initializer_list<QWidget*> widgets);
+
+// The order in which Tab goes through the controls; absent ones are passed over.
+void SetTabChain(std::initializer_list<QWidget*> widgets);
+
+// A grid that is filled row by row with groups of caption or tick box, field, question mark;
+// `groups` of them stand side by side.
+class FieldGrid {
+ public:
+  explicit FieldGrid(QGridLayout* grid, int groups = 1);
+
+  // Grids above each other have their fields in line when their captions have one width.
+  static int CaptionWidth();
+
+  void Add(QWidget* caption, QWidget* field, QWidget* hint = nullptr);
+  void Add(QWidget* caption, QLayout* fields, QWidget* hint = nullptr);
+
+ private:
+  QGridLayout* grid_;
+  int groups_;
+  int next_ = 0;
+};
+
+}  // namespace kladez

@@ -1,0 +1,103 @@
+#include "printing/screens/PrintScreen.h"
+
+#include <QCoreApplication>
+#include <QFocusEvent>
+#include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+
+#include "formats/TextLines.h"
+#include "printing/InputError.h"
+#include "shell/Hints.h"
+#include "shell/controls/Fields.h"
+#include "shell/controls/Guard.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+PrintScreen::PrintScreen(AppContext& context, const PrintSource& source, const QString& name,
+                         QWidget* parent)
+    : QDialog(parent), context_(context), source_(source) {
+  setObjectName(name);
+  DecText1 = new TextLineDecimal(this);
+  DecText1->setObjectName(u"DecText1"_s);
+  ReloadWhenLeft(DecText1);
+}
+
+void PrintScreen::Reload() {
+  try {
+    Load();
+  } catch (const InputError&) {
+    TellLater(u"Ошибка ввода"_s);
+  } catch (const std::exception& error) {
+    TellLater(ErrorText(error));
+  }
+}
+
+void PrintScreen::TellLater(const QString& text) {
+  if (untold_failure_) return;
+  untold_failure_ = true;
+  QTimer::singleShot(0, this, [this, text] {
+    untold_failure_ = false;
+    ShowError(this, text);
+  });
+}
+
+void PrintScreen::ReloadWhenLeft(QLineEdit* rate) {
+  rates_.push_back(rate);
+  rate->installEventFilter(this);
+}
+
+bool PrintScreen::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusOut && isVisible()) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    // Another window or a context menu does not leave the field.
+    const bool left = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+    if (left && std::find(rates_.begin(), rates_.end(), watched) != rates_.end()) {
+      SaveRates();
+      Reload();
+    }
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+bool PrintScreen::LeaveRates() {
+  QWidget* focus = focusWidget();
+  if (std::find(rates_.begin(), rates_.end(), focus) != rates_.end()) focus->clearFocus();
+  return !untold_failure_;
+}
+
+void PrintScreen::PrintPage(const QString& file, const std::function<QByteArray()>& page) {
+  if (!LeaveRates()) return;
+  const PrintOutDesk& desk = context_.print_outs;
+  Guarded(this, [&] {
+    desk.Write(file, page());
+    accept();
+    QCoreApplication::processEvents();
+    desk.OpenPrintOut(file);
+  });
+}
+
+Currency PrintScreen::TheCurrency() const {
+  return ReadCurrency(context_.data.Read(context_.session.Path(u"currency.usd")));
+}
+
+QString PrintScreen::FirstFirm() const {
+  const QByteArray firms = context_.data.Read(context_.session.Path(u"spr\\firma.spr"));
+  return LineReader(firms).Next();
+}
+
+HintPicture* PrintScreen::NewHint(QStringView place) {
+  return new HintPicture(HintFor(objectName(), place), this);
+}
+
+void PrintScreen::AddTwin(const QString& name, QPushButton* of) {
+  auto* twin = new QPushButton(this);
+  twin->setObjectName(name);
+  twin->setAutoDefault(false);
+  twin->hide();
+  connect(twin, &QPushButton::clicked, of, &QPushButton::click);
+}
+
+}  // namespace kladez
