@@ -33,6 +33,10 @@ class TempData {
   void PutLines(const QString& path, const QStringList& lines) const {
     Put(path, EncodeLines(lines));
   }
+  // For calls of the system.
+  QByteArray MachinePath(const QString& path) const {
+    return QFile::encodeName(data_.Resolve(path));
+  }
   QByteArray Bytes(const QString& path) const { return data_.ReadIfAny(path).value_or("<none>"); }
   QStringList Lines(const QString& path) const { return DecodeLines(Bytes(path)); }
 

@@ -1,6 +1,5 @@
 #include "store/Catalogue.h"
 
-#include <QFile>
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
@@ -9,7 +8,6 @@
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
 #include "store/Errors.h"
-#include "store/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -73,7 +71,7 @@ int ImportRowAtPosition(int position, int rows) {
 QString AddNewDatabase(SaveSet& save, int number, const QString& name) {
   const QString base = NumberedName(number) + u'\\';
   save.Write(NumberedName(number) + kExtension, WriteDescriptor({base, name}));
-  save.MakeDirectory(base);
+  save.MakeNewDirectory(base);
   for (const char16_t* directory : {u"KASS", u"KASS\\PRH", u"KASS\\UHD", u"SPR", u"ВНПЕР"}) {
     save.MakeDirectory(base + QStringView(directory));
   }
@@ -92,7 +90,8 @@ QString AddNewDatabase(SaveSet& save, int number, const QString& name) {
 }
 
 void AddNewWarehouse(SaveSet& save, const QString& path) {
-  save.MakeDirectory(path);
+  // Names that differ in letter case only are one directory: it must not be filled anew.
+  save.MakeNewDirectory(path);
   for (const char16_t* directory : {u"\\OPR", u"\\PRH", u"\\PRICE", u"\\UHD"}) {
     save.MakeDirectory(path + QStringView(directory));
   }
@@ -111,18 +110,17 @@ QString CreateDatabase(const DataDir& data, const QString& name) {
 }
 
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name) {
+  DatabaseDescriptor descriptor = ReadDescriptor(data.Read(entry.file));
+  descriptor.name = name;
   SaveSet save(data);
-  save.Write(entry.file, WriteDescriptor({entry.descriptor.path, name}));
+  save.Write(entry.file, WriteDescriptor(descriptor));
   save.Commit();
 }
 
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
   RequirePlainPath(entry);
   SaveSet save(data);
-  if (data.DirectoryExists(entry.descriptor.path)) {
-    syscalls::ClearReadOnly(QFile::encodeName(data.Resolve(entry.descriptor.path)));
-    save.DeleteTree(entry.descriptor.path);
-  }
+  if (data.DirectoryExists(entry.descriptor.path)) save.DeleteTree(entry.descriptor.path);
   save.Delete(entry.file);
   save.Commit();
 }

@@ -29,7 +29,8 @@ int NextDatabaseNumber(const DataDir& data);
 
 // Adds the descriptor and the whole tree of a new Database to a save; gives its path, "0001\".
 QString AddNewDatabase(SaveSet& save, int number, const QString& name);
-// Adds the directories and files of a new warehouse, `path` being its directory.
+// Adds the directories and files of a new warehouse, `path` being its directory; the save fails
+// where something of that name, whatever its letter case, is there already.
 void AddNewWarehouse(SaveSet& save, const QString& path);
 
 // The number for a new Database, once it is certain that nothing stands under it. Throws
@@ -47,8 +48,8 @@ void RequirePlainPath(const CatalogueEntry& entry);
 int RowAtPosition(int position, int rows);
 int ImportRowAtPosition(int position, int rows);
 
-// Each is one save, and throws filesystem_error. Deleting clears read-only marks; a tree that is
-// gone already is no reason to keep its descriptor.
+// Each is one save, and throws filesystem_error. A read-only tree is deleted all the same; one that
+// is gone already is no reason to keep its descriptor.
 QString CreateDatabase(const DataDir& data, const QString& name);  // gives the path, "0001\"
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name);
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry);

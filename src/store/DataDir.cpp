@@ -31,6 +31,9 @@ bool IsPlainPart(QStringView part) {
          !part.contains(u'\\') && !part.contains(QChar(0));
 }
 
+// Files are read whole; a larger one is no file of a shop, and memory might not hold it.
+constexpr off_t kLargestFile = off_t{1} << 30;
+
 // The spelling under which a name lies in a directory; the name itself where it does not.
 QString SpellingIn(const QString& directory, const QString& name) {
   const Directory entries = OpenDirectory(directory);
@@ -50,6 +53,10 @@ bool ReadWhole(int fd, QByteArray& bytes) {
   if (::fstat(fd, &status) < 0) return false;
   if (!S_ISREG(status.st_mode)) {
     errno = EISDIR;
+    return false;
+  }
+  if (status.st_size > kLargestFile) {
+    errno = EFBIG;
     return false;
   }
   bytes.resize(status.st_size);
@@ -100,7 +107,9 @@ QString DataDir::Resolve(const QString& path) const {
   if (plain.endsWith(u'\\')) plain.chop(1);
   QString resolved = root_;
   bool exists = true;
-  for (QStringView part : plain.split(u'\\')) {
+  const QList<QStringView> parts = plain.split(u'\\');
+  if (FoldCase(parts.first()) == FoldCase(QString::fromLatin1(kStagingName))) refuse(EINVAL);
+  for (QStringView part : parts) {
     if (!IsPlainPart(part)) refuse(EINVAL);
     const QString parent = resolved;
     resolved += u'/' + part.toString();
@@ -115,7 +124,7 @@ QString DataDir::Resolve(const QString& path) const {
     }
     if (exists && S_ISLNK(status.st_mode)) {
       const QString target = QFileInfo(resolved).canonicalFilePath();
-      if (!target.startsWith(root_ + u'/')) refuse(ELOOP);
+      if (!target.startsWith(root_ + u'/') || !QFileInfo::exists(resolved)) refuse(ELOOP);
       resolved = target;
     }
   }

@@ -11,6 +11,10 @@
 
 namespace kladez {
 
+// The directory inside the data directory where saves are staged; no path of the system leads
+// there.
+inline constexpr char kStagingName[] = ".kladez-save";
+
 class DataDir {
  public:
   // `root` is a directory of the machine; the program gives its working directory.
@@ -21,7 +25,8 @@ class DataDir {
   // The machine's path of a path of the system. Parts that exist are found by their exact spelling
   // first, else whatever their case, Latin and Cyrillic; parts that don't keep the spelling given.
   // Throws filesystem_error for an absolute path, an empty part, ".", "..", a part with "/" or a
-  // NUL, and for a link that leads out of the directory. One backslash at the end is passed over.
+  // NUL, the staging directory, and for a link that leads out of the directory. One backslash at
+  // the end is passed over.
   QString Resolve(const QString& path) const;
 
   bool FileExists(const QString& path) const;       // false too for a path that Resolve refuses

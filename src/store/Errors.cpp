@@ -30,7 +30,9 @@ constexpr std::array kReasons = {
     Reason{ELOOP, u"ссылка ведёт за пределы каталога данных"},
     Reason{EIO, u"ошибка чтения или записи диска"},
     Reason{EBADMSG, u"файл повреждён"},
-    Reason{EBUSY, u"файл занят"},
+    Reason{EBUSY, u"занято другой программой"},
+    Reason{ECANCELED, u"действие не выполнено"},
+    Reason{EFBIG, u"файл слишком велик"},
     Reason{EILSEQ, u"знака нет в кодировке файла"},
 };
 

@@ -1,50 +1,56 @@
 // The staging directory of a SaveSet and the steps by which a set is staged, made final, carried
-// out and taken back. Every step may be repeated after a crash without harm.
+// out and taken back. Every step may be repeated after a crash without harm. The data directory is
+// locked for as long as the journal lives.
 #pragma once
 
 #include <QByteArray>
 #include <span>
 #include <vector>
 
+#include "store/DirectoryLock.h"
 #include "store/SaveSet.h"
 
 namespace kladez {
 
 class SaveJournal {
  public:
+  // Throws filesystem_error where another program holds the data directory for too long.
   explicit SaveJournal(const DataDir& data);
 
-  // Writes new contents and keeps what they will replace. Throws; Discard then.
-  void Stage(std::vector<SaveSet::Change>& changes);
-  // From here on the set survives a crash.
-  void MakeFinal(std::span<const SaveSet::Change> changes);
-  // Makes the changes on the disk; throws at the first that fails. TakeBack then.
-  void CarryOut(std::span<const SaveSet::Change> changes);
-  void TakeBack(std::span<const SaveSet::Change> changes);
-  // Removes the staging directory; what it still holds is no longer needed.
-  void Discard();
-
-  // A set of one file needs no manifest: one rename is all or nothing by itself.
-  void CarryOutAlone(const SaveSet::Change& change);
-
+  // All changes or, when it throws, none. Where it first has to heal what a crash left it throws
+  // too ("cancelled"): the caller may have read files that were changed in part only.
+  void Commit(std::vector<SaveSet::Change>& changes);
   void Recover();
 
  private:
-  QByteArray New(size_t index) const {
-    return stage_ + "/new." + QByteArray::number(qulonglong(index));
+  using Change = SaveSet::Change;
+
+  QByteArray Staged(const char* name, size_t index) const {
+    return stage_ + '/' + name + '.' + QByteArray::number(static_cast<qulonglong>(index));
   }
-  QByteArray Old(size_t index) const {
-    return stage_ + "/old." + QByteArray::number(qulonglong(index));
-  }
+  QByteArray New(size_t index) const { return Staged("new", index); }
+  QByteArray Old(size_t index) const { return Staged("old", index); }
   QByteArray Manifest() const { return stage_ + "/manifest"; }
   QByteArray TakingBack() const { return stage_ + "/taking-back"; }
 
-  void StageOne(size_t index, SaveSet::Change& change);
-  void MakeOne(size_t index, const SaveSet::Change& change);
-  void TakeBackOne(size_t index, const SaveSet::Change& change);
+  // False where only leftovers without meaning lay there, or nothing.
+  bool Heal();
+  // Writes new contents and keeps what they will replace.
+  void Stage(std::vector<Change>& changes);
+  void StageOne(size_t index, Change& change);
+  void StageWrite(size_t index, Change& change);
+  // From here on the set survives a crash.
+  void MakeFinal(std::span<const Change> changes);
+  void CarryOut(std::span<const Change> changes);
+  void MakeOne(size_t index, const Change& change);
+  void TakeBack(std::span<const Change> changes);
+  void TakeBackOne(size_t index, const Change& change);
+  // Removes the staging directory, whose contents are no longer needed; 0 or an errno.
+  int Discard();
 
   QByteArray root_;
   QByteArray stage_;
+  DirectoryLock lock_;
 };
 
 }  // namespace kladez

@@ -9,76 +9,82 @@
 
 namespace kladez {
 
-void SaveSet::Add(Kind kind, const QString& path, QByteArray bytes) {
-  changes_.push_back({.kind = kind,
-                      .path = QFile::encodeName(data_.Resolve(path)),
-                      .to = {},
-                      .fresh = false,
-                      .bytes = std::move(bytes)});
+// What this set makes is found whatever its letter case, as if it lay on the disk already.
+QByteArray SaveSet::Target(const QString& path) const {
+  QString target = data_.Resolve(path);
+  if (QFileInfo::exists(target)) return QFile::encodeName(target);
+  for (const Change& change : changes_) {
+    if (change.kind != Kind::kWrite && change.kind != Kind::kMakeDirectory) continue;
+    const QString made = QFile::decodeName(change.path);
+    if (!target.startsWith(made, Qt::CaseInsensitive)) continue;
+    if (target.size() > made.size() && target[made.size()] != u'/') continue;
+    target.replace(0, made.size(), made);
+  }
+  return QFile::encodeName(target);
+}
+
+SaveSet::Change* SaveSet::LastChangeOf(const QByteArray& target) {
+  const auto found = std::find_if(changes_.rbegin(), changes_.rend(), [&](const Change& change) {
+    return change.path == target || change.to == target;
+  });
+  return found == changes_.rend() ? nullptr : &*found;
 }
 
 void SaveSet::Write(const QString& path, QByteArray bytes) {
-  Add(Kind::kWrite, path, std::move(bytes));
-}
-
-void SaveSet::Append(const QString& path, QByteArrayView bytes) {
-  const QByteArray target = QFile::encodeName(data_.Resolve(path));
-  const auto same = std::find_if(changes_.begin(), changes_.end(), [&](const Change& change) {
-    return change.kind == Kind::kWrite && change.path == target;
-  });
-  QByteArray whole = same != changes_.end() ? std::move(same->bytes) : data_.Read(path);
-  if (!whole.isEmpty() && !whole.endsWith("\r\n")) whole.append("\r\n");
-  whole.append(bytes);
-  if (same != changes_.end()) {
-    same->bytes = std::move(whole);
+  QByteArray target = Target(path);
+  Change* last = LastChangeOf(target);
+  if (last != nullptr && last->kind == Kind::kWrite) {
+    last->bytes = std::move(bytes);
   } else {
-    Add(Kind::kWrite, path, std::move(whole));
+    changes_.push_back(
+        {.kind = Kind::kWrite, .path = std::move(target), .to = {}, .bytes = std::move(bytes)});
   }
 }
 
-void SaveSet::Delete(const QString& path) { Add(Kind::kDelete, path); }
+void SaveSet::Append(const QString& path, QByteArrayView lines) {
+  const Change* last = LastChangeOf(Target(path));
+  QByteArray bytes = last != nullptr && last->kind == Kind::kWrite ? last->bytes : data_.Read(path);
+  // The last line of a file that was made by hand may lack its end.
+  if (!bytes.isEmpty() && !bytes.endsWith("\r\n")) bytes.append("\r\n");
+  Write(path, bytes.append(lines));
+}
 
-void SaveSet::DeleteTree(const QString& path) { Add(Kind::kDelete, path); }
+void SaveSet::Delete(const QString& path) {
+  changes_.push_back({.kind = Kind::kDelete, .path = Target(path), .to = {}, .bytes = {}});
+}
+
+void SaveSet::DeleteTree(const QString& path) {
+  changes_.push_back({.kind = Kind::kDeleteTree, .path = Target(path), .to = {}, .bytes = {}});
+}
 
 void SaveSet::MakeDirectory(const QString& path) {
-  if (!QFileInfo(data_.Resolve(path)).isDir()) Add(Kind::kMakeDirectory, path);
+  const QByteArray target = Target(path);
+  const Change* last = LastChangeOf(target);
+  const bool made = last != nullptr && last->kind == Kind::kMakeDirectory;
+  if (!made && !QFileInfo(QFile::decodeName(target)).isDir()) MakeNewDirectory(path);
+}
+
+void SaveSet::MakeNewDirectory(const QString& path) {
+  changes_.push_back({.kind = Kind::kMakeDirectory, .path = Target(path), .to = {}, .bytes = {}});
 }
 
 void SaveSet::RenameDirectory(const QString& from, const QString& to) {
-  Add(Kind::kRename, from);
-  // The resolver would find the old name again where only the letter case changes.
-  const QString target = data_.Resolve(to);
-  const QString exact = QFileInfo(target).path() + u'/' + to.mid(to.lastIndexOf(u'\\') + 1);
-  const bool case_only = QFile::encodeName(target) == changes_.back().path;
-  changes_.back().to = QFile::encodeName(case_only ? exact : target);
+  QByteArray source = Target(from);
+  QByteArray target = Target(to);
+  if (target == source) {
+    // The resolver finds the old name again where only the letter case changes.
+    QStringView name(to);
+    if (name.endsWith(u'\\')) name.chop(1);
+    name = name.sliced(name.lastIndexOf(u'\\') + 1);
+    target = target.left(target.lastIndexOf('/') + 1) + QFile::encodeName(name.toString());
+  }
+  changes_.push_back(
+      {.kind = Kind::kRename, .path = std::move(source), .to = std::move(target), .bytes = {}});
 }
 
 void SaveSet::Commit() {
   if (changes_.empty()) return;
-  SaveJournal journal(data_);
-  try {
-    journal.Stage(changes_);
-    if (changes_.size() > 1) journal.MakeFinal(changes_);
-  } catch (...) {
-    journal.Discard();
-    throw;
-  }
-  if (changes_.size() == 1) {
-    try {
-      journal.CarryOutAlone(changes_.front());
-    } catch (...) {
-      journal.Discard();
-      throw;
-    }
-  } else {
-    try {
-      journal.CarryOut(changes_);
-    } catch (...) {
-      journal.TakeBack(changes_);
-      throw;
-    }
-  }
-  journal.Discard();
+  SaveJournal(data_).Commit(changes_);
   changes_.clear();
 }
 

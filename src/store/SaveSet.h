@@ -20,24 +20,28 @@ class SaveSet {
  public:
   explicit SaveSet(const DataDir& data) : data_(data) {}
 
-  // Each takes paths of the system and throws filesystem_error for one that leads out.
+  // Each takes paths of the system and throws filesystem_error for one that leads out. A path is
+  // looked up on the disk as it is before the commit, so nothing inside a directory that the same
+  // set renames may be named by its new path.
   void Write(const QString& path, QByteArray bytes);
-  // Adds lines to the end of a file as it is now; the file must exist. A last line that lacks its
-  // CR LF gets it first, or the first new line would run into it.
-  void Append(const QString& path, QByteArrayView bytes);
-  void Delete(const QString& path);
-  void MakeDirectory(const QString& path);  // nothing to do where it exists
-  void DeleteTree(const QString& path);     // with all it holds, read-only or not
+  // Adds lines to the end of a file as it is now; the file must exist.
+  void Append(const QString& path, QByteArrayView lines);
+  void Delete(const QString& path);                              // a file; fails if read-only
+  void MakeDirectory(const QString& path);                       // nothing to do where it exists
+  void MakeNewDirectory(const QString& path);                    // fails where it exists
+  void DeleteTree(const QString& path);                          // all it holds, read-only or not
   void RenameDirectory(const QString& from, const QString& to);  // fails where `to` exists
 
   // Makes all changes, in the order in which they were added, and syncs them to the disk. Throws
   // filesystem_error with the path at fault; nothing has changed then.
   void Commit();
 
-  // Finishes or takes back what a crash left. Call it before the first file is read.
+  // Finishes or takes back what a crash left. Call it before the first file is read. Throws
+  // filesystem_error.
   static void Recover(const DataDir& data);
 
-  enum class Kind { kWrite, kDelete, kMakeDirectory, kRename };
+  // The numbers stand in manifests.
+  enum class Kind { kWrite, kDelete, kDeleteTree, kMakeDirectory, kRename, kLast = kRename };
   struct Change {
     Kind kind;
     QByteArray path;     // absolute, in the file system's encoding
@@ -47,7 +51,8 @@ class SaveSet {
   };
 
  private:
-  void Add(Kind kind, const QString& path, QByteArray bytes = {});
+  QByteArray Target(const QString& path) const;
+  Change* LastChangeOf(const QByteArray& target);
 
   const DataDir& data_;
   std::vector<Change> changes_;

@@ -30,7 +30,10 @@ SettingsStore::SettingsStore(const QString& file)
 SettingsStore::~SettingsStore() = default;
 
 QString SettingsStore::Read(const Setting& setting) const {
-  return store_->value(KeyOf(setting), setting.otherwise.toString()).toString();
+  const QVariant value = store_->value(KeyOf(setting));
+  // A file edited by hand may hold a list where a text belongs.
+  const bool text = value.typeId() == QMetaType::QString;
+  return text ? value.toString() : setting.otherwise.toString();
 }
 
 bool SettingsStore::ReadBool(const Setting& setting) const {
@@ -46,6 +49,7 @@ int SettingsStore::ReadInt(const Setting& setting) const {
 
 void SettingsStore::Write(const Setting& setting, const QString& text) {
   store_->setValue(KeyOf(setting), text);
+  store_->sync();  // the program may end at once, without another chance
 }
 
 void SettingsStore::WriteBool(const Setting& setting, bool on) {

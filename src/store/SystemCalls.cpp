@@ -65,8 +65,11 @@ int CopyBytes(int in, int out, const QByteArray& to) {
 int CopyFile(const QByteArray& from, const QByteArray& to) {
   const Descriptor in(::open(from.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
   if (!in) return errno;
+  struct stat status;
+  if (::fstat(in.Get(), &status) < 0) return errno;
   const Descriptor out(::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   if (!out) return errno;
+  ::fchmod(out.Get(), status.st_mode & 0777);
   if (const int error = CopyBytes(in.Get(), out.Get(), to)) return error;
   return Result(::fsync(out.Get()));
 }
@@ -80,7 +83,7 @@ int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {
   const Descriptor out(
       ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666));
   if (!out) return errno;
-  if (mode != 0 && ::fchmod(out.Get(), mode) < 0) return errno;
+  if (mode != 0) ::fchmod(out.Get(), mode);  // file systems without modes refuse, and need none
   if (const int error = WriteAll(out.Get(), bytes, path)) return error;
   if (const int error = Fault("fsync", path)) return error;
   return Result(::fsync(out.Get()));
@@ -110,11 +113,25 @@ int RenameToNew(const QByteArray& from, const QByteArray& to) {
   return Result(::rename(from.constData(), to.constData()));
 }
 
+int MoveAway(const QByteArray& from, const QByteArray& to) {
+  const int error = Rename(from, to);
+  struct stat status;
+  if (error != EACCES || ::lstat(from.constData(), &status) < 0 || !S_ISDIR(status.st_mode)) {
+    return error;
+  }
+  // A directory's own entry of its parent is written by the move, which takes the right to write.
+  if (::chmod(from.constData(), status.st_mode | 0700) < 0) return errno;
+  const int again = Rename(from, to);
+  if (again != 0) ::chmod(from.constData(), status.st_mode);
+  return again;
+}
+
 int KeepCopy(const QByteArray& of, const QByteArray& as) {
-  if (const int error = Fault("link", as)) return error;
-  if (::link(of.constData(), as.constData()) == 0) return 0;
-  if (errno == ENOENT) return ENOENT;
-  return CopyFile(of, as);
+  int error = Fault("link", as);
+  if (error == 0) error = Result(::link(of.constData(), as.constData()));
+  // Memory sticks have no links, and some systems allow none to files of others.
+  const bool no_links = error == EPERM || error == EMLINK || error == ENOTSUP || error == EXDEV;
+  return no_links ? CopyFile(of, as) : error;
 }
 
 int CopyNewFile(const QByteArray& from, const QByteArray& to) {
@@ -152,12 +169,6 @@ int MakeDirectory(const QByteArray& path) {
 int RemoveDirectory(const QByteArray& path) {
   if (const int error = Fault("rmdir", path)) return error;
   return Result(::rmdir(path.constData()));
-}
-
-void ClearReadOnly(const QByteArray& path) {
-  struct stat status;
-  if (::lstat(path.constData(), &status) < 0 || !S_ISDIR(status.st_mode)) return;
-  ::chmod(path.constData(), (status.st_mode & 07777) | 0700);
 }
 
 bool Exists(const QByteArray& path) {

@@ -20,14 +20,14 @@ int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode);  
 int SyncDirectory(const QByteArray& path);
 int Rename(const QByteArray& from, const QByteArray& to);       // replaces `to`
 int RenameToNew(const QByteArray& from, const QByteArray& to);  // fails where `to` exists
+int MoveAway(const QByteArray& from, const QByteArray& to);     // also a read-only directory
 int KeepCopy(const QByteArray& of, const QByteArray& as);       // a link, else a copy
 int CopyNewFile(const QByteArray& from, const QByteArray& to);  // keeps the time; not synced
 int SyncFileSystem(const QByteArray& path);                     // all that was written to it
 int Unlink(const QByteArray& path);
 int MakeDirectory(const QByteArray& path);
 int RemoveDirectory(const QByteArray& path);
-int RemoveTree(const QByteArray& path);      // with all that it holds, read-only or not
-void ClearReadOnly(const QByteArray& path);  // so that the owner may rename or delete it
+int RemoveTree(const QByteArray& path);  // with all that it holds, read-only or not
 
 bool Exists(const QByteArray& path);  // a link counts, wherever it leads
 // The errno with which writing to a file or into a directory would be refused, 0 when it would not.

@@ -87,6 +87,18 @@ TEST(Catalogue, NothingThatStandsUnderTheNumberIsWrittenOver) {
   }
 }
 
+// "Лавка" and "лавка" are one directory: its ledger must not be emptied.
+TEST(Catalogue, ANewWarehouseNeverTakesOverAnotherOfTheSameLetters) {
+  const TempData temp;
+  CreateDatabase(temp.Data(), u"А"_s);
+  temp.Put(u"0001\\Главный склад\\товар.usl"_s, "precious");
+  const Tree before = temp.Tree();
+  SaveSet save(temp.Data());
+  AddNewWarehouse(save, u"0001\\ГЛАВНЫЙ склад"_s);
+  EXPECT_THROW(save.Commit(), std::filesystem::filesystem_error);
+  EXPECT_EQ(temp.Tree(), before);
+}
+
 TEST(Catalogue, FailureOnTheWayLeavesNoHalfDatabase) {
   const TempData temp;
   CreateDatabase(temp.Data(), u"Первая"_s);
@@ -129,6 +141,14 @@ TEST(Catalogue, RenameTouchesTheSecondLineOnly) {
   CreateDatabase(temp.Data(), u"Магазин"_s);
   RenameDatabase(temp.Data(), ListDatabases(temp.Data()).front(), u"Склад <b>"_s);
   EXPECT_EQ(temp.Tree(), NewTree("0001", u"Склад <b>"_s));
+}
+
+// The path is read anew: a row that could not be read must not lose its descriptor's first line.
+TEST(Catalogue, RenameKeepsAPathThatTheListDidNotShow) {
+  const TempData temp;
+  temp.PutLines(u"0001.us"_s, {u"..\\elsewhere\\"_s, u"А"_s, u"third"_s});
+  RenameDatabase(temp.Data(), {u"0001.us"_s, {}}, u"Б"_s);
+  EXPECT_EQ(temp.Lines(u"0001.us"_s), (QStringList{u"..\\elsewhere\\"_s, u"Б"_s}));
 }
 
 TEST(Catalogue, ReadOnlyTreeIsDeletedWhole) {
