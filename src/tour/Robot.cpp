@@ -14,10 +14,12 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QTabWidget>
 #include <QTest>
 #include <QThread>
 #include <QWidget>
 #include <exception>
+#include <memory>
 #include <stdexcept>
 #include <thread>
 
@@ -181,6 +183,10 @@ void Robot::WaitFor(const QString& screen) {
   WaitUntil(screen, [screen] { return FindVisible(screen) != nullptr; });
 }
 
+void Robot::WaitUntilGone(const QString& screen) {
+  WaitUntil(u"закрытие "_s + screen, [screen] { return FindVisible(screen) == nullptr; });
+}
+
 void Robot::AnswerMessage(const QString& button, const QString& text) {
   WaitUntil(u"сообщение "_s + text, [] { return qobject_cast<QMessageBox*>(Front()) != nullptr; });
   InWindow([=] {
@@ -262,6 +268,20 @@ void Robot::Choose(const QString& combo, const QString& entry) {
     while (box->currentIndex() != index) {
       QTest::keyClick(box, box->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
     }
+  });
+}
+
+void Robot::FocusOn(const QString& control) {
+  InWindow([=] { Control(control)->setFocus(Qt::TabFocusReason); });
+}
+
+void Robot::OpenTab(const QString& tabs, const QString& title) {
+  InWindow([=] {
+    auto* pages = ControlOf<QTabWidget>(tabs);
+    for (int i = 0; i < pages->count(); ++i) {
+      if (pages->tabText(i).remove(u'&') == title) return pages->setCurrentIndex(i);
+    }
+    Fail(u"Нет вкладки "_s + title);
   });
 }
 

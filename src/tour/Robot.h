@@ -25,6 +25,7 @@ class Robot {
   // Waits until the screen is in front: a dialog, a message, or the child screen of the main
   // window.
   void WaitFor(const QString& screen);
+  void WaitUntilGone(const QString& screen);
   // Waits for a message box, checks its text where one is given, presses the button so called.
   void AnswerMessage(const QString& button, const QString& text = {});
 
@@ -35,6 +36,8 @@ class Robot {
   void TypeHere(const QString& text);                      // into the control with the focus
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void Choose(const QString& combo, const QString& entry);
+  void FocusOn(const QString& control);
+  void OpenTab(const QString& tabs, const QString& title);
   void OpenMenu(const QString& action);  // a menu command, by the objectName of its action
   void Check(const QString& control, bool on);
 
@@ -45,8 +48,10 @@ class Robot {
   void Picture(const QString& name);
   const QStringList& Pictures() const { return pictures_; }
 
- private:
+  // Runs the action in the windows' thread; it may open a dialog and come back later.
   void InWindow(const std::function<void()>& action);
+
+ private:
   template <typename Value>
   Value Ask(const std::function<Value()>& question);
   void WaitUntil(const QString& what, const std::function<bool()>& holds);
