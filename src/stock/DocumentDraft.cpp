@@ -7,7 +7,6 @@
 #include "stock/DocumentNumbers.h"
 
 namespace kladez {
-namespace {
 
 using namespace Qt::StringLiterals;
 
@@ -15,8 +14,6 @@ DraftLine WithAmount(DocumentLine line) {
   QString amount = LineAmount(line.quantity, line.price).value_or(u"0.00"_s);
   return {std::move(line), std::move(amount)};
 }
-
-}  // namespace
 
 DocumentDraft DocumentDraft::New(const Place& place, QDate today) {
   DocumentDraft draft(place);
@@ -105,17 +102,13 @@ bool DocumentDraft::AddLine(const GoodsPick& pick) {
   return true;
 }
 
-bool DocumentDraft::ChangeLine(size_t row, const QString& quantity, const QString& price) {
-  const QString rounded = FormatMoney(NumberOr(price));
-  const auto amount = LineAmount(quantity, rounded);
-  if (!amount) return false;
+void DocumentDraft::ChangeLine(size_t row, const QString& quantity, const QString& price) {
   DraftLine& changed = lines_[row];
   const double without = NumberOr(head_.sum) - NumberOr(changed.amount);
   changed.line.quantity = quantity;
-  changed.line.price = rounded;
-  changed.amount = *amount;
-  SetSum(FormatMoney(without + NumberOr(*amount)));
-  return true;
+  changed.line.price = FormatMoney(NumberOr(price));
+  changed.amount = LineAmount(quantity, price).value_or(changed.amount);
+  SetSum(FormatMoney(without + NumberOr(changed.amount)));
 }
 
 void DocumentDraft::RemoveLine(size_t row) {

@@ -17,6 +17,8 @@ struct DraftLine {
   QString amount;  // quantity times price, "#0.00"; it is not stored
 };
 
+DraftLine WithAmount(DocumentLine line);
+
 class DocumentDraft {
  public:
   // Where the document lies; both outlive the draft.
@@ -35,6 +37,9 @@ class DocumentDraft {
 
   const DocumentHead& Head() const { return head_; }
   const QString& File() const { return file_; }
+  DocumentKind Kind() const { return place_.kind; }
+  // The warehouse that goods are picked in: where the document lies, or a transfer's source.
+  const QString& Warehouse() const { return book_.in_warehouse ? place_.warehouse : head_.party; }
   const std::vector<DraftLine>& Lines() const { return lines_; }
   // Saved closed before: the flag stays, and no save posts again.
   bool WasClosed() const { return was_closed_; }
@@ -54,8 +59,8 @@ class DocumentDraft {
   // Adds a picked line at the end; the same goods twice are two lines. A pick without a name,
   // quantity or price, as that of a group, adds nothing: false.
   bool AddLine(const GoodsPick& pick);
-  // A product that overflows leaves the line as it was: false.
-  bool ChangeLine(size_t row, const QString& quantity, const QString& price);
+  // A product that overflows leaves the amount as it was.
+  void ChangeLine(size_t row, const QString& quantity, const QString& price);
   void RemoveLine(size_t row);
 
   enum class Outcome {

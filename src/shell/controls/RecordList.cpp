@@ -1,8 +1,12 @@
 #include "shell/controls/RecordList.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
+#include <QProxyStyle>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "formats/Ordering.h"
@@ -32,9 +36,40 @@ class PassToList : public QObject {
   RecordList* list_;
 };
 
+// Texts of neighbouring columns keep apart, and rows have air for eyes that read them all day.
+class RoomyStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin) return look::kTight + 1;
+    if (metric == PM_FocusFrameVMargin) return look::kTight / 2;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
+class RoomyRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index).grownBy({0, 0, 0, look::kTight});
+  }
+};
+
+QStyle* ListStyle() {
+  static QPointer<QStyle> style;
+  if (style.isNull()) {
+    style = new RoomyStyle;
+    style->setParent(QCoreApplication::instance());
+  }
+  return style;
+}
+
 }  // namespace
 
 RecordList::RecordList(QWidget* parent) : QTreeView(parent) {
+  setStyle(ListStyle());
+  header()->setStyle(ListStyle());
+  setItemDelegate(new RoomyRows(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setUniformRowHeights(true);
@@ -61,8 +96,13 @@ void RecordList::SetRecords(RecordModel* model) {
     setColumnHidden(i, columns[i].twips == 0);
     if (columns[i].stretch) {
       header()->setSectionResizeMode(i, QHeaderView::Stretch);
-    } else {
-      setColumnWidth(i, look::FromTwips(columns[i].twips));
+    } else if (columns[i].twips > 0) {
+      // The told widths come from a smaller font: a title or sample must not be cut by them.
+      const int sample = columns[i].sample.isEmpty()
+                             ? 0
+                             : fontMetrics().horizontalAdvance(columns[i].sample) + 2 * look::kGrid;
+      const int least = std::max(sample, header()->sectionSizeHint(i));
+      setColumnWidth(i, std::max(look::FromTwips(columns[i].twips), least));
     }
   }
   connect(model, &QAbstractItemModel::modelReset, this, [this] { emit CurrentRowChanged(-1); });

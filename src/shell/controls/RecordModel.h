@@ -13,6 +13,7 @@ struct Column {
   int twips;             // initial width; 0 hides the column
   bool number = false;   // right-aligned
   bool stretch = false;  // takes the room that is left
+  QString sample = {};   // "00.00.0000": a text that must fit, whatever the told width
 };
 
 // Where the rows come from. `count` and `text` are needed; the others may stay empty.

@@ -1,26 +1,16 @@
 #include "stock/screens/colvo.h"
 
 #include <QFormLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "formats/Numbers.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Fields.h"
+#include "shell/controls/Forms.h"
 
 namespace kladez {
-namespace {
 
 using namespace Qt::StringLiterals;
-
-QLabel* PlainLabel(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setText(text);
-  return label;
-}
-
-}  // namespace
 
 colvo::colvo(const QString& title, const QString& prompt, const QString& value,
              const QString& price, const QString& price_caption, QWidget* parent)
@@ -40,9 +30,9 @@ colvo::colvo(const QString& title, const QString& prompt, const QString& value,
   look::SetDialogMargins(layout);
   auto* form = new QFormLayout;
   form->setSpacing(look::kGrid);
-  form->addRow(PlainLabel(prompt, this), Text1);
+  form->addRow(NewLabel(prompt, Text1, this), Text1);
   if (asks_price_) {
-    form->addRow(PlainLabel(price_caption, this), Text4);
+    form->addRow(NewLabel(price_caption, Text4, this), Text4);
   } else {
     Text4->hide();
   }

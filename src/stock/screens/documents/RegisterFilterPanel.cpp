@@ -1,0 +1,165 @@
+#include "stock/screens/documents/RegisterFilterPanel.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "formats/Dates.h"
+#include "shell/Hints.h"
+#include "shell/controls/FoldButton.h"
+#include "shell/controls/Forms.h"
+#include "shell/controls/Look.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QStringList MonthNames() {
+  QStringList names;
+  for (int month = 1; month <= 12; ++month) names << MonthName(month);
+  return names;
+}
+
+QStringList YearsAround(int year) {
+  constexpr int kBack = 30;
+  QStringList years;
+  for (int y = year - kBack; y <= year + 1; ++y) years << QString::number(y);
+  return years;
+}
+
+}  // namespace
+
+RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScreens& screens,
+                                         QWidget* parent)
+    : QWidget(parent),
+      context_(context),
+      screens_(screens),
+      sort_(BookOf(screens.kind).sort),
+      options_(new QWidget(this)) {
+  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"&Фильтр"_s, options_, true, this);
+  GoldButton1->setFlat(true);
+
+  auto* head = new QHBoxLayout;
+  head->setSpacing(look::kGrid);
+  GoldButton1->setFlat(true);
+  head->addWidget(GoldButton1);
+  head->addStretch();
+  if (BookOf(screens.kind).in_warehouse) {
+    warehouse_ = new TextChoice(context.session.SkladNames, this);
+    warehouse_->setObjectName(u"warehouse"_s);
+    warehouse_->setMinimumContentsLength(24);
+    head->addWidget(NewLabel(u"&Склад:"_s, warehouse_, this));
+    head->addWidget(warehouse_);
+    AddHint(head, u"Склад");
+    connect(warehouse_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
+  }
+
+  auto* row = new QHBoxLayout(options_);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(look::kTight);
+  BuildPeriod(row);
+  row->addStretch();
+  BuildOrder(row);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(look::kTight);
+  layout->addLayout(head);
+  layout->addWidget(options_);
+
+  EnableInputs();
+}
+
+QRadioButton* RegisterFilterPanel::NewOption(const QString& name, const QString& caption,
+                                             QButtonGroup* group) {
+  auto* option = new QRadioButton(caption, options_);
+  option->setObjectName(name);
+  group->addButton(option);
+  return option;
+}
+
+void RegisterFilterPanel::AddHint(QHBoxLayout* row, QStringView place) {
+  // The register of transfers has no question marks.
+  if (!HintPlaces(screens_.register_name).contains(place)) return;
+  row->addWidget(new HintPicture(HintFor(screens_.register_name, place), this));
+}
+
+void RegisterFilterPanel::BuildPeriod(QHBoxLayout* row) {
+  const QDate today = context_.clock.Today();
+  auto* group = new QButtonGroup(this);
+  by_month_ = NewOption(u"by_month"_s, u"За &месяц:"_s, group);
+  by_year_ = NewOption(u"by_year"_s, u"За &год:"_s, group);
+  by_day_ = NewOption(u"by_day"_s, u"За &число:"_s, group);
+  by_month_->setChecked(true);
+
+  month_ = new TextChoice(MonthNames(), options_);
+  month_->setObjectName(u"month"_s);
+  month_->setMinimumContentsLength(8);
+  month_->setCurrentIndex(today.month() - 1);
+  year_ = new TextChoice(YearsAround(today.year()), options_);
+  year_->setObjectName(u"year"_s);
+  year_->setMinimumContentsLength(4);
+  year_->Choose(QString::number(today.year()));
+  day_ = new DateField(today, options_);
+  day_->setObjectName(u"day"_s);
+
+  const auto add = [&](QRadioButton* option, QWidget* input, QStringView place) {
+    row->addWidget(option);
+    row->addWidget(input);
+    AddHint(row, place);
+    row->addSpacing(look::kGrid);
+  };
+  add(by_month_, month_, u"За месяц");
+  add(by_year_, year_, u"За год");
+  add(by_day_, day_, u"За число");
+
+  connect(group, &QButtonGroup::buttonToggled, this, [this](QAbstractButton*, bool on) {
+    if (!on) return;
+    EnableInputs();
+    emit Changed();
+  });
+  connect(month_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
+  connect(year_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
+  connect(day_, &QDateEdit::dateChanged, this, &RegisterFilterPanel::Changed);
+}
+
+void RegisterFilterPanel::BuildOrder(QHBoxLayout* row) {
+  auto* group = new QButtonGroup(this);
+  first_to_last_ = NewOption(u"first_to_last"_s, u"&A-Z"_s, group);
+  last_to_first_ = NewOption(u"last_to_first"_s, u"&Z-A"_s, group);
+  (context_.settings.Read(sort_) == u"ZA" ? last_to_first_ : first_to_last_)->setChecked(true);
+  row->addWidget(first_to_last_);
+  row->addWidget(last_to_first_);
+  AddHint(row, u"Сортировка");
+  connect(group, &QButtonGroup::buttonToggled, this, [this](QAbstractButton*, bool on) {
+    if (!on) return;
+    context_.settings.Write(sort_, last_to_first_->isChecked() ? u"ZA"_s : u"AZ"_s);
+    emit Changed();
+  });
+}
+
+RegisterFilter RegisterFilterPanel::Filter() const {
+  using Period = RegisterFilter::Period;
+  return {.period = by_month_->isChecked()  ? Period::kMonth
+                    : by_year_->isChecked() ? Period::kYear
+                                            : Period::kDay,
+          .month = month_->currentIndex() + 1,
+          .year = year_->currentText(),
+          .day = day_->date()};
+}
+
+QString RegisterFilterPanel::Warehouse() const {
+  return warehouse_ == nullptr ? QString() : warehouse_->currentText();
+}
+
+bool RegisterFilterPanel::Descending() const { return context_.settings.Read(sort_) == u"ZA"; }
+
+void RegisterFilterPanel::EnableInputs() {
+  month_->setEnabled(by_month_->isChecked());
+  year_->setEnabled(by_year_->isChecked());
+  day_->setEnabled(by_day_->isChecked());
+}
+
+}  // namespace kladez
