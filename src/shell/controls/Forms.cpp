@@ -38,12 +38,12 @@ TextChoice::TextChoice(const QStringList& texts, QWidget* parent) : QComboBox(pa
   // Long names scroll in the open list and do not make the form wider.
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(12);
-  addItems(texts);
+  for (const QString& text : texts) addItem(text.left(look::kLongestText), text);
 }
 
 void TextChoice::Choose(const QString& text) {
-  if (findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) addItem(text);
-  setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  if (findData(text) < 0) addItem(text.left(look::kLongestText), text);
+  setCurrentIndex(findData(text));
 }
 
 DateField::DateField(QDate date, QWidget* parent) : QDateEdit(parent) {

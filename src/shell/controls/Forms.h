@@ -30,6 +30,8 @@ class TextChoice : public QComboBox {
  public:
   explicit TextChoice(const QStringList& texts, QWidget* parent = nullptr);
   void Choose(const QString& text);
+  // The whole text, however much of it is shown.
+  QString Chosen() const { return currentData().toString(); }
 };
 
 // A date, "dd.MM.yyyy", typed or picked from a Russian calendar on every machine.

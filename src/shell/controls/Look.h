@@ -17,6 +17,9 @@ inline constexpr int kTight = kGrid / 2;
 inline constexpr int kMargin = 2 * kGrid;
 inline constexpr int kGap = 3 * kGrid;  // between groups that belong apart
 
+// A damaged file may hold a line of millions of characters, and to draw it all would take minutes.
+inline constexpr int kLongestText = 512;
+
 // Column widths are told in twips; 15 of them are one pixel at 96 dpi.
 constexpr int FromTwips(int twips) { return twips / 15; }
 

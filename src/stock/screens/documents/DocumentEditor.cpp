@@ -77,9 +77,9 @@ QLayout* DocumentEditor::NewHead() {
 TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
   auto* choice = new TextChoice(context_.session.SkladNames, this);
   choice->Choose(draft_.Head().*side);
-  connect(choice, &QComboBox::currentTextChanged, this, [=, this](const QString& warehouse) {
+  connect(choice, &QComboBox::currentIndexChanged, this, [=, this] {
     // A warehouse whose ledger can't be read is not chosen.
-    if (!Guarded(this, [&] { draft_.ChooseWarehouse(side, warehouse); })) {
+    if (!Guarded(this, [&] { draft_.ChooseWarehouse(side, choice->Chosen()); })) {
       const QSignalBlocker quiet(choice);
       choice->Choose(draft_.Head().*side);
     }
@@ -241,7 +241,7 @@ void DocumentEditor::TakeFields() {
   draft_.SetNumber(number_->text());
   draft_.SetDate(date_->date());
   if (Check1 == nullptr) return;  // the warehouses of a transfer are taken as they are chosen
-  draft_.SetParty(party_->currentText());
+  draft_.SetParty(party_->Chosen());
   draft_.SetClosed(Check1->isChecked());
 }
 

@@ -26,7 +26,7 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   head_.sum = ToNumberOr(head_.sum);
   for (DocumentLine& line : document.lines) lines_.push_back(WithAmount(std::move(line)));
   setObjectName(screens_.properties_name);
-  setWindowTitle(screens_.properties_caption + head_.number);
+  setWindowTitle(screens_.properties_caption + head_.number.left(look::kLongestText));
 
   ListView1 = new RecordList(this);
   ListView1->setObjectName(u"ListView1"_s);

@@ -57,8 +57,10 @@ void DocumentRegisterScreen::BuildList() {
   ListView1->setObjectName(u"ListView1"_s);
   ListView1->SetRecords(new RecordModel(std::move(columns), std::move(source), this));
   ListView1->SetEmptyText(
-      u"Документов за выбранное время нет. Нажмите «Добавить», чтобы занести новый документ, или "
-      u"выберите другое время в фильтре."_s);
+      !HasWarehouse() ? u"В базе нет ни одного склада. Создайте его в справочнике «Склады»."_s
+                      : u"Документов за выбранное время нет. Нажмите «Добавить», чтобы занести "
+                        u"новый документ, или "
+                        u"выберите другое время в фильтре."_s);
   connect(ListView1, &RecordList::InsertPressed, this, &DocumentRegisterScreen::Add);
   connect(ListView1, &RecordList::EnterPressed, this, &DocumentRegisterScreen::Change);
   connect(ListView1, &RecordList::DoubleClicked, this, &DocumentRegisterScreen::Change);
@@ -72,6 +74,7 @@ QHBoxLayout* DocumentRegisterScreen::NewCommandRow() {
   Command3 = NewCommand(this, u"Command3"_s, u"&Удалить"_s, IconName::kRemove);
   Command8 = NewCommand(this, u"Command8"_s, u"&Просмотр"_s);
   Command7 = NewCommand(this, u"Command7"_s, u"&Закрыть"_s);
+  Command1->setEnabled(HasWarehouse());
   connect(Command1, &QPushButton::clicked, this, &DocumentRegisterScreen::Add);
   connect(Command2, &QPushButton::clicked, this, &DocumentRegisterScreen::Change);
   connect(Command3, &QPushButton::clicked, this, &DocumentRegisterScreen::Delete);
@@ -91,9 +94,10 @@ QHBoxLayout* DocumentRegisterScreen::NewCommandRow() {
   return row;
 }
 
+bool DocumentRegisterScreen::HasWarehouse() const { return !context_.session.SkladNames.isEmpty(); }
+
 void DocumentRegisterScreen::Rebuild() {
-  const bool has_place = !BookOf(screens_.kind).in_warehouse || !filter_->Warehouse().isEmpty();
-  const bool good = has_place && Guarded(this, [&] {
+  const bool good = HasWarehouse() && Guarded(this, [&] {
                       rows_.Load(filter_->Warehouse(), filter_->Filter(), context_.clock.Today(),
                                  filter_->Descending());
                     });
@@ -121,6 +125,7 @@ void DocumentRegisterScreen::Edit(DocumentDraft draft, int row) {
 }
 
 void DocumentRegisterScreen::Add() {
+  if (!HasWarehouse()) return;
   Guarded(this, [&] {
     Edit(DocumentDraft::New(ThePlace(), context_.clock.Today()), ListView1->CurrentRow());
   });

@@ -28,6 +28,7 @@ class DocumentRegisterScreen : public QWidget {
  private:
   void BuildList();
   QHBoxLayout* NewCommandRow();
+  bool HasWarehouse() const;
   void Rebuild();
   void Edit(DocumentDraft draft, int row);
   void Add();

@@ -43,7 +43,6 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
 
   auto* head = new QHBoxLayout;
   head->setSpacing(look::kGrid);
-  GoldButton1->setFlat(true);
   head->addWidget(GoldButton1);
   head->addStretch();
   if (BookOf(screens.kind).in_warehouse) {
@@ -146,12 +145,12 @@ RegisterFilter RegisterFilterPanel::Filter() const {
                     : by_year_->isChecked() ? Period::kYear
                                             : Period::kDay,
           .month = month_->currentIndex() + 1,
-          .year = year_->currentText(),
+          .year = year_->Chosen(),
           .day = day_->date()};
 }
 
 QString RegisterFilterPanel::Warehouse() const {
-  return warehouse_ == nullptr ? QString() : warehouse_->currentText();
+  return warehouse_ == nullptr ? QString() : warehouse_->Chosen();
 }
 
 bool RegisterFilterPanel::Descending() const { return context_.settings.Read(sort_) == u"ZA"; }
