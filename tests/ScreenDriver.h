@@ -99,6 +99,8 @@ class ModalAnswers {
     steps_.pop_front();
     QWidget* before = busy_;
     busy_ = dialog;  // a nested dialog is another widget and has a step of its own
+    // Until then the keyboard is still with the window below.
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
     step(dialog);
     busy_ = before;
   }

@@ -63,8 +63,10 @@ void WarehouseDirectory::Delete(int row) {
   if (row <= 0) return;
   QStringList names = names_;
   names.removeAt(row);
+  const QString path = PathOf(session_, names_[row]);
   SaveSet save(data_);
-  save.DeleteTree(PathOf(session_, names_[row]));
+  // A rename that was not saved leaves a name without a directory; it must not stay for ever.
+  if (data_.DirectoryExists(path)) save.DeleteTree(path);
   WriteList(save, session_, names);
   save.Commit();
   TakeOver(names);

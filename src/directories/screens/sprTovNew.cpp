@@ -44,6 +44,7 @@ void AddRow(QFormLayout* form, const QString& caption, QLineEdit* field, QString
 
 sprTovNew::sprTovNew(const GoodsEntry& entry, QWidget* parent)
     : QDialog(parent), tabs_(new QTabWidget(this)) {
+  tabs_->setObjectName(u"tabs"_s);
   setObjectName(u"sprTovNew"_s);
   setWindowTitle(u"Запись"_s);
   tabs_->addTab(NewGoodsPage(entry.record.IsGroup() ? GoodsRecord() : entry.record), u"Товар"_s);
