@@ -58,6 +58,10 @@ void RequirePlainPath(const CatalogueEntry& entry) {
                  entry.descriptor.path, EINVAL);
 }
 
+bool IsInUse(const Session& session, const CatalogueEntry& entry) {
+  return session.IsOpen() && entry.descriptor.path == session.basedir;
+}
+
 int RowAtPosition(int position, int rows) {
   const int row = position > rows ? position - 2 : position - 1;
   return row >= 0 && row < rows ? row : rows > 0 ? 0 : -1;
@@ -110,10 +114,9 @@ QString CreateDatabase(const DataDir& data, const QString& name) {
 }
 
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name) {
-  DatabaseDescriptor descriptor = ReadDescriptor(data.Read(entry.file));
-  descriptor.name = name;
   SaveSet save(data);
-  save.Write(entry.file, WriteDescriptor(descriptor));
+  // Read anew: a descriptor that can't be read is not to lose its path.
+  save.Write(entry.file, WriteDescriptor({ReadDescriptor(data.Read(entry.file)).path, name}));
   save.Commit();
 }
 

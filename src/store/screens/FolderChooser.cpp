@@ -1,0 +1,98 @@
+#include "store/screens/FolderChooser.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStorageInfo>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "shell/controls/Look.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Where a desktop mounts what is plugged in; the many other mounts are the system's own.
+bool IsDriveOfAPerson(const QStorageInfo& volume) {
+  const QString path = volume.rootPath();
+  return volume.isValid() && volume.isReady() &&
+         (path.startsWith("/media/"_L1) || path.startsWith("/run/media/"_L1) ||
+          path.startsWith("/mnt/"_L1));
+}
+
+}  // namespace
+
+FolderChooser::FolderChooser(QWidget* parent)
+    : QWidget(parent),
+      folders_(new QFileSystemModel(this)),
+      Drive1(new QComboBox(this)),
+      Dir1(new QTreeView(this)),
+      Path1(new QLineEdit(this)) {
+  Drive1->setObjectName(u"Drive1"_s);
+  Dir1->setObjectName(u"Dir1"_s);
+  Path1->setObjectName(u"Path1"_s);
+  folders_->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
+  folders_->setRootPath(QDir::rootPath());
+  Dir1->setModel(folders_);
+  for (int column = 1; column < folders_->columnCount(); ++column) Dir1->hideColumn(column);
+  Dir1->setHeaderHidden(true);
+  Dir1->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  FillDrives();
+
+  auto* fields = new QFormLayout;
+  fields->addRow(u"&Диск:"_s, Drive1);
+  fields->addRow(u"&Папка:"_s, Path1);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(look::kGrid);
+  layout->addWidget(Dir1, 1);
+  layout->addLayout(fields);
+
+  connect(Dir1->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& index) {
+            if (index.isValid()) Chosen(folders_->filePath(index));
+          });
+  connect(Drive1, &QComboBox::activated, this,
+          [this] { SetFolder(Drive1->currentData().toString()); });
+  connect(Path1, &QLineEdit::textEdited, this, [this](const QString& path) {
+    // A path that is not there yet is kept in the field and is no folder.
+    if (QDir::isAbsolutePath(path) && QDir(path).exists()) SetFolder(path);
+  });
+  SetFolder(QDir::homePath());
+}
+
+void FolderChooser::FillDrives() {
+  Drive1->addItem(u"Домашняя папка"_s, QDir::homePath());
+  Drive1->addItem(u"Весь компьютер"_s, QDir::rootPath());
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+    if (IsDriveOfAPerson(volume)) Drive1->addItem(volume.displayName(), volume.rootPath());
+  }
+}
+
+void FolderChooser::SetFolder(const QString& folder) {
+  if (!QDir(folder).exists()) return;
+  const QString path = QDir::cleanPath(folder);
+  const QModelIndex index = folders_->index(path);
+  {
+    const QSignalBlocker quiet(Dir1->selectionModel());
+    Dir1->setCurrentIndex(index);
+  }
+  Dir1->viewport()->update();
+  Dir1->expand(index);
+  Dir1->scrollTo(index);
+  Chosen(path);
+}
+
+void FolderChooser::Chosen(const QString& folder) {
+  folder_ = folder;
+  if (!Path1->hasFocus()) Path1->setText(QDir::toNativeSeparators(folder));
+  emit FolderChanged(folder);
+}
+
+}  // namespace kladez

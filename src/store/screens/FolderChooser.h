@@ -1,0 +1,38 @@
+// A drive and folder chooser inside a screen: the drives of the machine, the tree of folders, and
+// the path of the chosen one, which may be typed too.
+#pragma once
+
+#include <QWidget>
+
+class QComboBox;
+class QFileSystemModel;
+class QLineEdit;
+class QTreeView;
+
+namespace kladez {
+
+class FolderChooser : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit FolderChooser(QWidget* parent);
+
+  // A path of the machine.
+  QString Folder() const { return folder_; }
+  void SetFolder(const QString& folder);  // no effect where it does not exist
+
+ signals:
+  void FolderChanged(const QString& folder);
+
+ private:
+  void FillDrives();
+  void Chosen(const QString& folder);
+
+  QString folder_;
+  QFileSystemModel* folders_;
+  QComboBox* Drive1;  // "Диск:"
+  QTreeView* Dir1;
+  QLineEdit* Path1;  // "Папка:"
+};
+
+}  // namespace kladez
