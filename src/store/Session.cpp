@@ -37,7 +37,10 @@ QString ShortCurrency(const Session& session, const DataDir& data) {
 
 bool OpenDatabase(Session& session, const DataDir& data) {
   session.basedir = session.bases_text1;
-  if (!IsPlainTreePath(session.basedir) || !data.DirectoryExists(session.basedir)) return false;
+  if (!IsPlainTreePath(session.basedir) || !data.DirectoryExists(session.basedir)) {
+    session.basedir.clear();  // none is open
+    return false;
+  }
   const auto warehouses = data.ReadIfAny(session.Path(u"склад.usd"_s));
   session.SkladNames = DecodeLines(warehouses.value_or(QByteArray()));
   session.rub = ShortCurrency(session, data);

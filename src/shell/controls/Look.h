@@ -25,6 +25,8 @@ constexpr int FromTwips(int twips) { return twips / 15; }
 
 inline constexpr QColor kAccent{0x1F, 0x4E,
                                 0x5F};  // deep blue-green: panel, chart, default command
+inline constexpr QColor kAccentDeep{0x12, 0x30, 0x3B};   // where the accent fades out
+inline constexpr QColor kAccentHover{0xB0, 0x5A, 0x14};  // a link on a light ground, pointed at
 inline constexpr QColor kAccentLight{0xE3, 0xEE, 0xF1};  // the strip, chosen options
 // The second series of a chart: light enough to differ from the accent in a black and white print.
 inline constexpr QColor kWarm{0xE0, 0x9F, 0x4A};

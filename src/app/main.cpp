@@ -1,0 +1,60 @@
+// The program: finds its data directory, finishes what a crash left there, and shows the main
+// window.
+#include <QApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QStandardPaths>
+#include <QTranslator>
+#include <cerrno>
+
+#include "shell/controls/Guard.h"
+#include "shell/frmMain.h"
+#include "store/Backup.h"
+#include "store/SaveSet.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Made at the first start, and the working directory of the whole run.
+QString EnterDataDirectory() {
+  const QString root =
+      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/kladez"_s;
+  if (!QDir().mkpath(root) || !QDir::setCurrent(root)) {
+    kladez::ThrowFileError(u"Не удалось открыть каталог данных"_s, root, errno);
+  }
+  return root;
+}
+
+int Run() {
+  const kladez::DataDir data(EnterDataDirectory());
+  kladez::Guarded(nullptr, [&] {
+    kladez::SaveSet::Recover(data);
+    kladez::RemoveUnfinishedRestore(data);
+  });
+  kladez::Session session;
+  kladez::SettingsStore settings;
+  const kladez::Clock clock;
+  const kladez::PrintOutDesk print_outs(data, [&] { kladez::StartReportViewer(data); });
+  kladez::AppContext context{data, session, settings, clock, print_outs};
+  kladez::frmMain window(context);
+  window.Start();
+  window.show();
+  QGuiApplication::setQuitOnLastWindowClosed(true);
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  // The title window closes before the main window comes up.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QTranslator translator;
+  if (translator.load(u"qtbase_ru"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    application.installTranslator(&translator);
+  }
+  int code = 1;
+  kladez::Guarded(nullptr, [&] { code = Run(); });
+  return code;
+}

@@ -1,0 +1,98 @@
+#include "shell/MainMenu.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <array>
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct CommandRow {
+  QStringView menu;
+  Command command;
+  QStringView name;
+  QStringView caption;
+  bool separator_above = false;
+};
+
+constexpr auto kCommands = std::to_array<CommandRow>({
+    {u"mnuFile", Command::kCreate, u"mnuFileCreate", u"&Создать..."},
+    {u"mnuFile", Command::kOpen, u"mnuFileOpen", u"&Открыть..."},
+    {u"mnuFile", Command::kCatalogue, u"mnubases", u"&Базы данных..."},
+    {u"mnuFile", Command::kImport, u"mnuimp", u"&Импорт...", true},
+    {u"mnuFile", Command::kBackup, u"arch", u"&Резервное копирование...", true},
+    {u"mnuFile", Command::kRestore, u"reparch", u"&Восстановить..."},
+    {u"mnuFile", Command::kClose, u"mnuFileClose", u"&Закрыть", true},
+    {u"mnuFile", Command::kExit, u"mnuFileExit", u"В&ыход"},
+    {u"mnHelp", Command::kHelp, u"mnuHelp", u"&Справка по Kladez 4.8..."},
+    {u"mnHelp", Command::kProductPage, u"mnWeb", u"&Kladez в Интернете", true},
+    {u"mnHelp", Command::kNewsPage, u"mnNews", u"&Новости Kladez"},
+    {u"mnHelp", Command::kAbout, u"mnAbout", u"&О программе...", true},
+});
+
+}  // namespace
+
+MainMenu::MainMenu(QMenuBar* bar, QObject* parent) : QObject(parent) {
+  AddCommands(AddMenu(bar, u"mnuFile"_s, u"&Файл"_s), u"mnuFile");
+  mnu_Sklad = AddMenu(bar, u"mnu_Sklad"_s, u"&Склад"_s);
+  mnu_Otchet = AddMenu(bar, u"mnu_Otchet"_s, u"&Отчеты"_s);
+  mnu_Sprav = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
+  AddPlaces(mnu_Sklad, PlaceGroup::kStore);
+  AddPlaces(mnu_Otchet, PlaceGroup::kReports);
+  AddPlaces(mnu_Sprav, PlaceGroup::kDirectories);
+  AddCommands(AddMenu(bar, u"mnHelp"_s, u"Спр&авка"_s), u"mnHelp");
+  commands_[Command::kHelp]->setShortcut(Qt::Key_F1);
+  // Elsewhere a desktop would move these two to a menu of its own.
+  commands_[Command::kExit]->setMenuRole(QAction::NoRole);
+  commands_[Command::kAbout]->setMenuRole(QAction::NoRole);
+}
+
+QMenu* MainMenu::AddMenu(QMenuBar* bar, const QString& name, const QString& caption) {
+  QMenu* menu = bar->addMenu(caption);
+  menu->setObjectName(name);
+  return menu;
+}
+
+void MainMenu::AddCommands(QMenu* menu, QStringView name) {
+  for (const CommandRow& row : kCommands) {
+    if (row.menu != name) continue;
+    if (row.separator_above) menu->addSeparator();
+    QAction* action = menu->addAction(row.caption.toString());
+    action->setObjectName(row.name.toString());
+    connect(action, &QAction::triggered, this,
+            [this, command = row.command] { emit Commanded(command); });
+    commands_[row.command] = action;
+  }
+}
+
+void MainMenu::AddPlaces(QMenu* menu, PlaceGroup group) {
+  for (const PlaceRow& row : Places()) {
+    if (row.group != group) continue;
+    QAction* action = menu->addAction(row.caption.toString());
+    action->setObjectName(row.menu.toString());
+    connect(action, &QAction::triggered, this, [this, place = row.place] { emit Chosen(place); });
+    places_[row.place] = action;
+  }
+}
+
+void MainMenu::ShowDatabaseMenus(bool show) {
+  for (QMenu* menu : {mnu_Sklad, mnu_Otchet, mnu_Sprav}) menu->menuAction()->setVisible(show);
+}
+
+void MainMenu::EnableDatabaseCommands(bool enable) {
+  commands_[Command::kImport]->setEnabled(enable);
+  commands_[Command::kClose]->setEnabled(enable);
+}
+
+void MainMenu::ApplyRole(bool seller) {
+  for (const PlaceRow& row : Places()) {
+    if (row.barred) places_[row.place]->setEnabled(!seller);
+  }
+  mnu_Otchet->menuAction()->setEnabled(!seller);
+  mnu_Sprav->menuAction()->setEnabled(!seller);
+}
+
+}  // namespace kladez

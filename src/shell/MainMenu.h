@@ -1,0 +1,58 @@
+// The menus of the main window, from one table, and what of them is shown and enabled.
+#pragma once
+
+#include <QObject>
+#include <map>
+
+#include "shell/Places.h"
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace kladez {
+
+enum class Command {
+  kCreate,
+  kOpen,
+  kCatalogue,
+  kImport,
+  kBackup,
+  kRestore,
+  kClose,
+  kExit,
+  kHelp,
+  kProductPage,
+  kNewsPage,
+  kAbout,
+};
+
+class MainMenu : public QObject {
+  Q_OBJECT
+
+ public:
+  // Names of menus and entries are the told ones: "mnu_Sklad", "mnu_Sklad_P".
+  MainMenu(QMenuBar* bar, QObject* parent);
+
+  void ShowDatabaseMenus(bool show);  // "Склад", "Отчеты", "Справочники"
+  void EnableDatabaseCommands(bool enable);  // "Импорт...", "Закрыть"
+  // What the seller may not do is greyed; everything else is enabled.
+  void ApplyRole(bool seller);
+
+ signals:
+  void Chosen(Place place);
+  void Commanded(Command command);
+
+ private:
+  QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption);
+  void AddCommands(QMenu* menu, QStringView name);
+  void AddPlaces(QMenu* menu, PlaceGroup group);
+
+  QMenu* mnu_Sklad;
+  QMenu* mnu_Otchet;
+  QMenu* mnu_Sprav;
+  std::map<Command, QAction*> commands_;
+  std::map<Place, QAction*> places_;
+};
+
+}  // namespace kladez

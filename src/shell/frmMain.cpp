@@ -1,0 +1,316 @@
+#include "shell/frmMain.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "formats/Dates.h"
+#include "shell/Help.h"
+#include "shell/LinkPanels.h"
+#include "shell/Main.h"
+#include "shell/ScreenFactory.h"
+#include "shell/about.h"
+#include "shell/controls/Guard.h"
+#include "shell/controls/HintPicture.h"
+#include "shell/frmSplash.h"
+#include "shell/helper.h"
+#include "shell/main2.h"
+#include "store/SaveSet.h"
+#include "store/screens/Bases.h"
+#include "store/screens/BasesImport.h"
+#include "store/screens/BasesNew.h"
+#include "store/screens/rescopy.h"
+#include "store/screens/resrep.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// In twips: the strip and the line at the foot together take 1350 from the panel's height.
+constexpr int kStripHeight = 900;
+constexpr int kFootHeight = 450;
+
+}  // namespace
+
+frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(menuBar(), this)) {
+  setObjectName(u"frmMain"_s);
+  setWindowTitle(u"Kladez"_s);
+  setWindowIcon(look::Icon(look::IconName::kProgram));
+  HintPicture::SetOpener(&helper::Show);
+  BuildLayout();
+  connect(menu_, &MainMenu::Chosen, this, &frmMain::Go);
+  connect(menu_, &MainMenu::Commanded, this, &frmMain::Do);
+  connect(Picture1, &LinksPanel::Chosen, this, &frmMain::Go);
+  connect(Picture2, &LinksStrip::Chosen, this, &frmMain::Go);
+  bases_ = new Bases(context_, *this, this);
+  HideDatabaseMenus();
+  DisableDatabaseCommands();
+  ShowPanels(false);
+}
+
+frmMain::~frmMain() {
+  if (child_) child_->disconnect(this);
+}
+
+void frmMain::BuildLayout() {
+  auto* inner = new QWidget(this);
+  inner->setObjectName(u"inner"_s);
+  Picture1 = new LinksPanel(inner);
+  Picture2 = new LinksStrip(inner);
+  Picture2->setFixedHeight(look::FromTwips(kStripHeight));
+  host_ = new QWidget(inner);
+  host_layout_ = new QVBoxLayout(host_);
+  host_layout_->setContentsMargins(0, 0, 0, 0);
+  foot_ = new QWidget(inner);
+  foot_->setFixedHeight(look::FromTwips(kFootHeight));
+  role_ = new QLabel(foot_);
+  role_->setObjectName(u"role"_s);
+  today_ = new QLabel(foot_);
+  today_->setObjectName(u"today"_s);
+  auto* foot = new QHBoxLayout(foot_);
+  foot->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
+  foot->addWidget(role_);
+  foot->addStretch();
+  foot->addWidget(today_);
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(0);
+  middle->addWidget(Picture1);
+  middle->addWidget(host_, 1);
+  auto* layout = new QVBoxLayout(inner);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(Picture2);
+  layout->addLayout(middle, 1);
+  layout->addWidget(foot_);
+  setCentralWidget(inner);
+  resize(140 * look::kGrid, 92 * look::kGrid);
+}
+
+void frmMain::Start(int splash_milliseconds) {
+  frmSplash().Run(splash_milliseconds);
+  context_.session.bases_text1 = context_.settings.Read(settings::kBaseName);
+  if (!context_.session.bases_text1.isEmpty()) {
+    SetDatabaseTitle(context_.settings.Read(settings::kBaseTitle));
+  }
+  OpenDatabase();
+}
+
+void frmMain::OpenDatabase() {
+  // The session is filled first, so that the home screen counts what belongs to it.
+  if (!kladez::OpenDatabase(context_.session, context_.data)) {
+    DisableDatabaseCommands();
+    HideDatabaseMenus();
+    ShowLanding();
+    SetDatabaseTitle({});
+    return;
+  }
+  menu_->EnableDatabaseCommands(true);
+  menu_->ShowDatabaseMenus(true);
+  menu_->ApplyRole(context_.session.IsSeller());
+  ShowPanels(true);
+  ShowHome();
+}
+
+void frmMain::CloseDatabase() {
+  CloseChildScreens();
+  context_.settings.Write(settings::kBaseName, {});
+  context_.settings.Write(settings::kBaseTitle, {});
+  SetDatabaseTitle({});
+  kladez::CloseDatabase(context_.session);
+  HideDatabaseMenus();
+  DisableDatabaseCommands();
+  ShowLanding();
+}
+
+void frmMain::SetDatabaseTitle(const QString& name) {
+  setWindowTitle(name.isEmpty() ? u"Kladez"_s : QString(u"Kladez - "_s + name));
+}
+
+void frmMain::HideDatabaseMenus() { menu_->ShowDatabaseMenus(false); }
+
+void frmMain::DisableDatabaseCommands() { menu_->EnableDatabaseCommands(false); }
+
+void frmMain::ShowNewDatabase() {
+  // The strip stays as it was, and so does what a seller before could not do.
+  menu_->EnableDatabaseCommands(true);
+  menu_->ShowDatabaseMenus(true);
+  Picture1->show();
+  ShowHome();
+}
+
+void frmMain::ShowPanels(bool show) {
+  Picture1->setVisible(show);
+  Picture2->setVisible(show);
+  foot_->setVisible(show);
+  ShowFoot();
+}
+
+void frmMain::ShowFoot() {
+  switch (context_.session.role) {
+    case UserRole::kSeller:
+      role_->setText(u"Пользователь: Продавец"_s);
+      break;
+    case UserRole::kDirector:
+      role_->setText(u"Пользователь: Директор"_s);
+      break;
+    case UserRole::kNone:
+      role_->setText(u"Пользователь не выбран"_s);
+      break;
+  }
+  today_->setText(u"Сегодня "_s + LongDateText(context_.clock.Today()));
+}
+
+void frmMain::CloseChildScreens() {
+  // A screen may have opened another of them beside itself; this order is the told one.
+  for (const char16_t* name :
+       {u"Main", u"main2", u"Sklad", u"Price", u"sprTovar", u"TovPrih", u"TovUhod", u"vnutr"}) {
+    for (QWidget* screen : findChildren<QWidget*>(QString::fromUtf16(name))) {
+      screen->disconnect(this);
+      screen->close();
+      screen->deleteLater();
+    }
+  }
+  child_ = nullptr;
+}
+
+void frmMain::ShowChild(QWidget* child) {
+  CloseChildScreens();
+  child_ = child;
+  child->setAttribute(Qt::WA_DeleteOnClose);
+  host_layout_->addWidget(child);
+  // One that closes itself gives way to the home screen.
+  connect(child, &QObject::destroyed, this, [this] {
+    if (!child_) ShowHome();
+  });
+  child->show();
+  (child->focusWidget() != nullptr ? child->focusWidget() : child)->setFocus();
+}
+
+void frmMain::ShowHome() {
+  if (!context_.session.IsOpen()) {
+    ShowLanding();
+    return;
+  }
+  auto* home = new Main(context_, host_);
+  connect(home, &Main::Chosen, this, &frmMain::Go);
+  connect(home, &Main::PanelToggled, Picture1, &QWidget::setVisible);
+  ShowChild(home);
+  home->Activate();
+}
+
+void frmMain::ShowLanding() {
+  auto* landing = new main2(host_);
+  connect(landing, &main2::OpenWanted, this, &frmMain::OpenFromCatalogue);
+  connect(landing, &main2::CreateWanted, this, &frmMain::Create);
+  ShowPanels(false);
+  ShowChild(landing);
+}
+
+void frmMain::ActivateHome() {
+  if (auto* home = qobject_cast<Main*>(child_.data())) home->Activate();
+}
+
+void frmMain::Go(Place place) {
+  if (place == Place::kHome) {
+    ShowHome();
+    return;
+  }
+  Guarded(this, [&] {
+    const bool child = RowOf(place).child;
+    if (child) CloseChildScreens();
+    QWidget* screen = NewScreen(place, context_, child ? host_ : this);
+    if (screen == nullptr) {
+      ShowInformation(this, u"Этот раздел появится в следующей версии программы."_s);
+    } else if (child) {
+      ShowChild(screen);
+    } else {
+      const std::unique_ptr<QWidget> owned(screen);
+      RunModal(*qobject_cast<QDialog*>(screen));
+    }
+  });
+  if (!child_) ShowHome();
+}
+
+void frmMain::RunModal(QDialog& dialog) {
+  dialog.exec();
+  ActivateHome();
+  ShowFoot();
+}
+
+void frmMain::Do(Command command) {
+  switch (command) {
+    case Command::kCreate:
+      Create();
+      break;
+    case Command::kOpen:
+      OpenFromCatalogue();
+      break;
+    case Command::kCatalogue:
+      if (bases_->Run(Bases::Mode::kCatalogue)) OpenDatabase();
+      ShowFoot();
+      break;
+    case Command::kImport:
+      if (!context_.session.IsOpen()) break;
+      BasesImport(context_, *this, this).exec();
+      OpenDatabase();
+      break;
+    case Command::kBackup:
+      rescopy(context_, this).exec();
+      break;
+    case Command::kRestore:
+      resrep(context_, this).exec();
+      break;
+    case Command::kClose:
+      CloseDatabase();
+      break;
+    case Command::kExit:
+      Exit();
+      break;
+    case Command::kHelp:
+      OpenHelpFile(this, context_.data);
+      break;
+    case Command::kProductPage:
+      OpenAddress(this, kProductPage);
+      break;
+    case Command::kNewsPage:
+      OpenAddress(this, kNewsPage);
+      break;
+    case Command::kAbout:
+      about(this).exec();
+      break;
+  }
+}
+
+void frmMain::OpenFromCatalogue() {
+  bases_->Run(Bases::Mode::kOpen);
+  // A cancelled choice opens the same Database once more.
+  if (!context_.session.bases_text1.isEmpty()) OpenDatabase();
+  ShowFoot();
+}
+
+void frmMain::Create() {
+  BasesNew(context_, *this, this).exec();
+  ShowFoot();
+}
+
+void frmMain::Exit() {
+  // At once: no child screen is asked and the scratch price list stays.
+  QCoreApplication::exit(0);
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  CloseChildScreens();
+  IgnoreErrors([this] {
+    SaveSet save(context_.data);
+    save.Delete(u"temp.prc"_s);
+    save.Commit();
+  });
+  event->accept();
+}
+
+}  // namespace kladez

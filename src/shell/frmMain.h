@@ -1,0 +1,75 @@
+// The main window: menu, left panel, strip, and one child screen at a time. It starts the session,
+// opens and closes Databases, and stays until the end of the run.
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include "shell/AppContext.h"
+#include "shell/MainMenu.h"
+#include "shell/Places.h"
+#include "store/screens/CatalogueHost.h"
+
+class QLabel;
+class QVBoxLayout;
+
+namespace kladez {
+
+class Bases;
+class LinksPanel;
+class LinksStrip;
+
+class frmMain : public QMainWindow, public CatalogueHost {
+  Q_OBJECT
+
+ public:
+  explicit frmMain(AppContext& context);
+  ~frmMain() override;
+
+  // The start: title window, catalogue, the Database that was open last.
+  void Start(int splash_milliseconds = 2000);
+  // Opens the Database that the session's bases_text1 names, or shows the landing screen.
+  void OpenDatabase();
+
+  void CloseChildScreens() override;
+  void SetDatabaseTitle(const QString& name) override;
+  void HideDatabaseMenus() override;
+  void DisableDatabaseCommands() override;
+  void ShowNewDatabase() override;
+
+  QWidget* Child() const { return child_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;  // its frame
+
+ private:
+  void BuildLayout();
+  void Go(Place place);
+  void Do(Command command);
+  void OpenFromCatalogue();
+  void Create();
+  void CloseDatabase();
+  void Exit();
+
+  void ShowPanels(bool show);
+  void ShowChild(QWidget* child);
+  void ShowHome();
+  void ShowLanding();
+  void RunModal(QDialog& dialog);
+  void ActivateHome();
+  void ShowFoot();
+
+  AppContext& context_;
+  MainMenu* menu_;
+  LinksPanel* Picture1;
+  LinksStrip* Picture2;
+  QWidget* host_;  // where the child screen lives
+  QVBoxLayout* host_layout_;
+  QWidget* foot_;
+  QLabel* role_;
+  QLabel* today_;
+  Bases* bases_ = nullptr;
+  QPointer<QWidget> child_;
+};
+
+}  // namespace kladez
