@@ -1,0 +1,148 @@
+#include "viewer/page/Normaliser.h"
+
+#include <memory>
+
+#include "viewer/page/Fonts.h"
+#include "viewer/page/Markup.h"
+#include "viewer/page/PageText.h"
+
+namespace kladez::viewer {
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct OutputDeleter {
+  void operator()(GumboOutput* output) const {
+    gumbo_destroy_output(&kGumboDefaultOptions, output);
+  }
+};
+
+const GumboNode* FindElement(const GumboNode& node, GumboTag tag) {
+  if (node.type != GUMBO_NODE_ELEMENT) {
+    return nullptr;
+  }
+  const GumboVector& children = node.v.element.children;
+  for (unsigned i = 0; i < children.length; ++i) {
+    const auto* child = static_cast<const GumboNode*>(children.data[i]);
+    if (child->type == GUMBO_NODE_ELEMENT && child->v.element.tag == tag) {
+      return child;
+    }
+  }
+  return nullptr;
+}
+
+QString TitleOf(const GumboNode& root) {
+  const GumboNode* head = FindElement(root, GUMBO_TAG_HEAD);
+  const GumboNode* title = head == nullptr ? nullptr : FindElement(*head, GUMBO_TAG_TITLE);
+  if (title == nullptr || title->v.element.children.length == 0) {
+    return {};
+  }
+  const auto* text = static_cast<const GumboNode*>(title->v.element.children.data[0]);
+  return text->type == GUMBO_NODE_ELEMENT ? QString() : QString::fromUtf8(text->v.text.text);
+}
+
+}  // namespace
+
+void Normaliser::ReadChildren(const GumboNode& node, Flow& flow, const Flow::Look& look) {
+  const GumboVector& children = node.v.element.children;
+  for (unsigned i = 0; i < children.length; ++i) {
+    ReadNode(*static_cast<const GumboNode*>(children.data[i]), flow, look);
+  }
+}
+
+void Normaliser::ReadNode(const GumboNode& node, Flow& flow, const Flow::Look& look) {
+  if (node.type == GUMBO_NODE_TEXT || node.type == GUMBO_NODE_WHITESPACE ||
+      node.type == GUMBO_NODE_CDATA) {
+    flow.AddText(QString::fromUtf8(node.v.text.text), look);
+  } else if (node.type == GUMBO_NODE_ELEMENT) {
+    ReadElement(node, flow, look);
+  }
+}
+
+void Normaliser::ReadElement(const GumboNode& node, Flow& flow, const Flow::Look& look) {
+  switch (node.v.element.tag) {
+    case GUMBO_TAG_HEAD:
+      break;
+    case GUMBO_TAG_BR:
+      flow.AddBreak(look);
+      break;
+    case GUMBO_TAG_IMG:
+      ReadPicture(node, flow, look);
+      break;
+    case GUMBO_TAG_TABLE:
+      if (auto table = ReadTable(node, look); !table->rows.empty()) {
+        flow.AddTable(std::move(table));
+      }
+      break;
+    case GUMBO_TAG_P:
+    case GUMBO_TAG_DIV:
+    case GUMBO_TAG_CENTER:
+    case GUMBO_TAG_PRE:
+      ReadBlock(node, flow, look);
+      break;
+    default: {
+      Flow::Look inside = look;
+      inside.style = StyleInside(node, look.style);
+      ReadChildren(node, flow, inside);
+    }
+  }
+}
+
+void Normaliser::ReadBlock(const GumboNode& node, Flow& flow, const Flow::Look& look) {
+  const GumboTag tag = node.v.element.tag;
+  Flow::Look inside = look;
+  inside.style = StyleInside(node, look.style);
+  inside.align =
+      AlignmentOf(node).value_or(tag == GUMBO_TAG_CENTER ? Qt::AlignHCenter : look.align);
+  inside.preformatted = look.preformatted || tag == GUMBO_TAG_PRE;
+  const bool has_margin = tag == GUMBO_TAG_P || tag == GUMBO_TAG_PRE;
+  const double margin = has_margin ? inside.style.points * kPixelsPerPoint : 0;
+  flow.EndParagraph(margin);
+  ReadChildren(node, flow, inside);
+  flow.EndParagraph(margin);
+}
+
+void Normaliser::ReadPicture(const GumboNode& node, Flow& flow, const Flow::Look& look) {
+  const QString name = Attribute(node, "src");
+  if (name.isEmpty()) {
+    return;
+  }
+  if (!page_.pictures.contains(name)) {
+    page_.pictures[name] = load_picture_(name);
+  }
+  if (page_.pictures[name].isNull()) {
+    flow.AddText(u"[нет рисунка: %1]"_s.arg(name), look);
+  } else {
+    flow.AddPicture(name, look);
+  }
+}
+
+Page Normaliser::Read(const GumboNode& root) {
+  Flow::Look look;
+  look.style.family = QString::fromUtf16(kSerif);
+  Flow flow(page_, false);
+  ReadNode(root, flow, look);
+  page_.blocks = flow.Take(look);
+  return std::move(page_);
+}
+
+Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress) {
+  // The parser itself can't be asked how far it is: half of the bar is for what goes before.
+  const auto half = [&progress](int begin) -> Progress {
+    return [&progress, begin](int done, int total) {
+      return !progress || progress(total * begin + done, 2 * total);
+    };
+  };
+  const QByteArray markup = EscapeTypedText(text, half(0)).toUtf8();
+  GumboOptions options = kGumboDefaultOptions;
+  options.max_errors = 0;
+  const std::unique_ptr<GumboOutput, OutputDeleter> output(
+      gumbo_parse_with_options(&options, markup.constData(), static_cast<size_t>(markup.size())));
+  Page page =
+      Normaliser(load_picture, half(1), static_cast<int>(markup.size())).Read(*output->root);
+  page.title = TitleOf(*output->root).simplified();
+  MarkPrintParts(page);
+  return page;
+}
+
+}  // namespace kladez::viewer

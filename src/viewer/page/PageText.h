@@ -1,0 +1,21 @@
+// The characters of a print-out: from the bytes of its file, and from what people typed into it.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "viewer/page/Progress.h"
+
+namespace kladez::viewer {
+
+// Decodes the bytes of a page by the charset that its head names; Windows-1251 unless that is
+// UTF-8. A byte that stands for nothing becomes U+FFFD. Never throws.
+QString DecodePage(const QByteArray& bytes);
+
+// Print-outs hold what people typed as it stands: "ООО <Ромашка> & Ко", "5<7", "Бумага <A4>".
+// Gives the page with every "<" and "&" escaped that does not open markup of our print-outs, so
+// that an HTML parser loses none of it. Also moves a </center> that stands inside a table behind
+// that table: there it closes the centring, where a parser would drop it.
+QString EscapeTypedText(const QString& page, const Progress& progress = {});
+
+}  // namespace kladez::viewer

@@ -1,0 +1,106 @@
+#include "viewer/paper/Output.h"
+
+#include <QDir>
+#include <QPdfWriter>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <cerrno>
+#include <numeric>
+#include <system_error>
+
+namespace kladez::viewer {
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPdfDpi = 600;
+
+[[noreturn]] void ThrowFor(const QString& path) {
+  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), path.toStdString());
+}
+
+}  // namespace
+
+bool DrawSheets(const PaperLayout& layout, const std::vector<int>& sheets,
+                QPagedPaintDevice& device, QPainter& painter, const Progress& progress) {
+  for (size_t i = 0; i < sheets.size(); ++i) {
+    if (progress && !progress(static_cast<int>(i), static_cast<int>(sheets.size()))) {
+      return false;
+    }
+    if (i > 0 && !device.newPage()) {
+      return false;
+    }
+    layout.Draw(painter, sheets[i], device.logicalDpiX());
+  }
+  return true;
+}
+
+bool WritePdf(const PaperLayout& layout, const QString& title, const QString& path,
+              const Progress& progress) {
+  QSaveFile file(path);
+  errno = 0;
+  if (!file.open(QIODevice::WriteOnly)) {
+    ThrowFor(path);
+  }
+  QPdfWriter writer(&file);
+  writer.setTitle(title);
+  writer.setResolution(kPdfDpi);
+  QPageLayout paper = layout.format().page;
+  paper.setMode(QPageLayout::FullPageMode);
+  writer.setPageLayout(paper);
+  QPainter painter;
+  if (!painter.begin(&writer)) {
+    ThrowFor(path);
+  }
+  std::vector<int> sheets(static_cast<size_t>(layout.SheetCount()));
+  std::iota(sheets.begin(), sheets.end(), 0);
+  const bool is_whole = DrawSheets(layout, sheets, writer, painter, progress);
+  painter.end();
+  if (!is_whole) {
+    file.cancelWriting();
+    return false;
+  }
+  errno = 0;
+  if (!file.commit()) {
+    ThrowFor(path);
+  }
+  return true;
+}
+
+void ExportPdf(std::shared_ptr<const Page> page, const QString& path) {
+  PaperLayout layout(page);
+  layout.LayOut(layout.Propose(PaperFormat()), {});
+  WritePdf(layout, page->title, path, {});
+}
+
+QStringList ExportSheetPictures(std::shared_ptr<const Page> page, const QString& directory,
+                                const QString& name, int dpi) {
+  PaperLayout layout(std::move(page));
+  layout.LayOut(layout.Propose(PaperFormat()), {});
+  QStringList paths;
+  for (int sheet = 0; sheet < layout.SheetCount(); ++sheet) {
+    QImage picture(layout.format().page.fullRectPixels(dpi).size(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    layout.Draw(painter, sheet, dpi);
+    painter.end();
+    paths << QDir(directory).filePath(u"%1-%2.png"_s.arg(name).arg(sheet + 1));
+    errno = 0;
+    if (!picture.save(paths.last())) {
+      ThrowFor(paths.last());
+    }
+  }
+  return paths;
+}
+
+QString PdfName(const QString& title) {
+  static const QRegularExpression refused(u"[\\\\/:*?\"<>|\\x00-\\x1f]+"_s);
+  QString name = QString(title).replace(refused, u" "_s).simplified();
+  while (name.startsWith(u'.')) {
+    name.remove(0, 1);
+  }
+  return (name.isEmpty() ? u"Печатная форма"_s : name.left(100)) + u".pdf"_s;
+}
+
+}  // namespace kladez::viewer

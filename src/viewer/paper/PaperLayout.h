@@ -1,0 +1,60 @@
+// A page laid out for paper: its sheets, as preview, printer, PDF and pictures draw them.
+#pragma once
+
+#include <QPainter>
+#include <memory>
+#include <vector>
+
+#include "viewer/page/Progress.h"
+#include "viewer/paper/PageDocument.h"
+#include "viewer/paper/PaperFormat.h"
+#include "viewer/paper/Sheets.h"
+
+namespace kladez::viewer {
+
+class PaperLayout {
+ public:
+  explicit PaperLayout(std::shared_ptr<const Page> page, const Progress& progress = {});
+
+  // Lays the page out anew. Gives false when `progress` stopped it: then there are no sheets.
+  bool LayOut(const PaperFormat& format, const Progress& progress);
+
+  const PaperFormat& format() const { return format_; }
+  int SheetCount() const;
+
+  // How much smaller than written the page is on paper: 1 is its own size.
+  double Scale() const { return scale_; }
+
+  // Draws a sheet, counted from 0, with its number in the bottom margin. The painter's origin is
+  // the corner of the paper, a unit of it is 1/`dpi` inch.
+  void Draw(QPainter& painter, int sheet, double dpi) const;
+
+  // `format`, turned to landscape when the page would have to shrink too much in portrait.
+  PaperFormat Propose(const PaperFormat& format) const;
+
+ private:
+  static int PaperDpi();
+
+  bool LayOutPieces(double width, const Progress& progress);
+  std::vector<Unit> Units(double height) const;
+  bool IsClosingShort(double height) const;
+  bool IsHeld(const PageDocument::Piece& piece) const;
+  bool StaysWithNext(size_t index) const;
+  void AddLines(size_t index, std::vector<Unit>& units) const;
+  void AddRow(size_t index, double height, std::vector<Unit>& units) const;
+  double RowTop(const PageDocument::Piece& piece) const;
+  double RowBottom(const PageDocument::Piece& piece) const;
+  std::vector<double> Splits(const PageDocument::Piece& piece) const;
+  void DivideAcross(double layout_width, double paper_width);
+  void DrawSlice(QPainter& painter, const Slice& slice, const Slice& across) const;
+  void DrawNumber(QPainter& painter, int sheet, double dpi) const;
+
+  std::unique_ptr<PageDocument> document_;
+  PaperFormat format_;
+  double scale_ = 1;
+  bool is_closing_short_ = false;
+  std::vector<Sheet> sheets_;
+  std::vector<Slice> across_;  // what of the width a sheet shows; more than one without fit_width
+};
+
+}  // namespace kladez::viewer

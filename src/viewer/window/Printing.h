@@ -1,0 +1,45 @@
+// Printing and writing PDF files with a person in front: asks, shows progress, lets stop, tells
+// what went wrong.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPrinter>
+#include <QProgressDialog>
+#include <optional>
+#include <vector>
+
+#include "viewer/paper/PaperLayout.h"
+
+namespace kladez::viewer {
+
+// A window with a bar and "Отмена" that comes up when work takes long. Goes with the object.
+class WorkProgress {
+ public:
+  WorkProgress(const QString& text, QWidget* parent);
+
+  // What to hand to the work; it answers no once a person has pressed "Отмена".
+  Progress Function();
+
+  bool IsCanceled() const { return dialog_.wasCanceled(); }
+
+ private:
+  QProgressDialog dialog_;
+};
+
+// Asks where to write the PDF file of a page with this title; "" when the person thinks better of
+// it.
+QString AskPdfPath(const QString& title, QWidget* parent);
+
+// Writes the file and tells if that failed. Gives whether it was written.
+bool SavePdfFile(const PaperLayout& layout, const QString& title, const QString& path,
+                 QWidget* parent);
+
+// Prints `sheets` (from 0), `copies` times, and tells if that failed. Gives whether all were sent.
+bool PrintSheets(const PaperLayout& layout, const QString& title, const std::vector<int>& sheets,
+                 int copies, QPrinter& printer, QWidget* parent);
+
+// The sheets that a person asks for, from 0: "1-3, 5"; all `count` of them when there is nothing.
+// None of what is no such list.
+std::optional<std::vector<int>> ParseSheets(const QString& text, int count);
+
+}  // namespace kladez::viewer

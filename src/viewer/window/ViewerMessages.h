@@ -1,0 +1,21 @@
+// What the viewer tells when a file can't be read or written, with the system's reason in Russian.
+#pragma once
+
+#include <QDir>
+#include <QString>
+#include <system_error>
+
+class QWidget;
+
+namespace kladez::viewer {
+
+// Why a command on a file failed: "нет прав", "на диске нет места".
+QString ReasonOf(const std::error_code& code);
+
+// The text for a page `name` of `directory` that can't be shown, and what can be done.
+QString ReadErrorText(const QDir& directory, const QString& name, const std::error_code& code);
+
+// A message box titled "Внимание!".
+void ShowError(QWidget* parent, const QString& text);
+
+}  // namespace kladez::viewer

@@ -1,0 +1,57 @@
+// The window of one print-out: shows it, finds in it, prints it, writes it to a PDF file.
+#pragma once
+
+#include <QDir>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <memory>
+
+#include "viewer/page/Page.h"
+#include "viewer/window/FindBar.h"
+#include "viewer/window/PageView.h"
+
+namespace kladez::viewer {
+
+class ViewerWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  // The window of the page `name` in `directory`. Nothing is read yet.
+  ViewerWindow(const QDir& directory, const QString& name, QWidget* parent = nullptr);
+
+  // Reads the page and shows it. When that fails, says so in a message, leaves what the window
+  // shows as it is, and gives false.
+  bool Load();
+
+  // Shows a page that was read elsewhere.
+  void ShowPage(std::shared_ptr<const Page> page, const Progress& progress = {});
+
+  // Opens the print preview, from which the page is printed.
+  void Preview();
+  // Asks for a file name and writes the page to it.
+  void SavePdf();
+
+ private:
+  void MakeActions();
+  QAction* AddAction(QMenu* menu, const QString& name, const QString& text, const QKeySequence& key,
+                     void (ViewerWindow::*slot)());
+  void AddZoomActions(QMenu* menu);
+  void Reload();
+  void Find();
+  void ShowProgress(const QString& text, int done, int total);
+  void FitToScreen();
+
+  QDir directory_;
+  QString name_;
+  std::shared_ptr<const Page> page_;
+  PageView* view_;
+  FindBar* find_bar_;
+  QProgressBar* progress_;
+  QAction* zoom_label_ = nullptr;
+};
+
+// Draws the window of a page to a PNG file, as a person sees it. Throws std::system_error when the
+// file can't be written.
+void RenderWindowPicture(std::shared_ptr<const Page> page, const QString& path);
+
+}  // namespace kladez::viewer
