@@ -99,10 +99,17 @@ class ModalAnswers {
     steps_.pop_front();
     QWidget* before = busy_;
     busy_ = dialog;  // a nested dialog is another widget and has a step of its own
-    // Until then the keyboard is still with the window below.
-    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
-    step(dialog);
-    busy_ = before;
+    // Not inside the timer's event: while that lasts the timer does not come again, and a dialog
+    // that the step opens would wait for ever.
+    QMetaObject::invokeMethod(
+        &timer_,
+        [this, step, dialog, before] {
+          // Until then the keyboard is still with the window below.
+          EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+          step(dialog);
+          busy_ = before;
+        },
+        Qt::QueuedConnection);
   }
 
   std::deque<Step> steps_;

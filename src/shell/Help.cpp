@@ -1,8 +1,10 @@
 #include "shell/Help.h"
 
 #include <QDesktopServices>
+#include <QPushButton>
 #include <QUrl>
 
+#include "shell/controls/Commands.h"
 #include "shell/controls/Messages.h"
 
 namespace kladez {
@@ -30,6 +32,14 @@ void OpenFile(QWidget* parent, const DataDir& data, const QString& path) {
 
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page) {
   OpenFile(parent, data, u"help\\"_s + page);
+}
+
+QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page) {
+  QPushButton* command = NewCommand(screen, u"help"_s, u"Справка"_s, look::IconName::kHint);
+  command->setShortcut(QKeySequence::HelpContents);
+  QObject::connect(command, &QPushButton::clicked, screen,
+                   [screen, &data, page = page.toString()] { OpenHelpPage(screen, data, page); });
+  return command;
 }
 
 void OpenHelpFile(QWidget* parent, const DataDir& data) {

@@ -7,6 +7,7 @@
 
 #include "store/DataDir.h"
 
+class QPushButton;
 class QUrl;
 class QWidget;
 
@@ -19,6 +20,8 @@ inline constexpr QStringView kProductMail = u"mailto:info@kladez.example";
 
 // A page of the folder "help" beside the Databases, such as "workdb.htm".
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page);
+// The command "Справка" of a screen that has a page; the help key gives it too.
+QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page);
 // The help file as a whole.
 void OpenHelpFile(QWidget* parent, const DataDir& data);
 void OpenAddress(QWidget* parent, QStringView address);

@@ -59,7 +59,7 @@ QVariant RecordModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
       return IsGroup(row) ? QVariant(QBrush(look::kGroupRow)) : QVariant();
     case Qt::CheckStateRole:
-      if (index.column() != 0 || !source_.checked) return {};
+      if (index.column() != 0 || !HasCheck(row)) return {};
       return int(source_.checked(row) ? Qt::Checked : Qt::Unchecked);
     default:
       return {};
@@ -78,12 +78,13 @@ QVariant RecordModel::headerData(int section, Qt::Orientation orientation, int r
 Qt::ItemFlags RecordModel::flags(const QModelIndex& index) const {
   if (!index.isValid()) return Qt::NoItemFlags;
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-  if (index.column() == 0 && source_.set_checked) flags |= Qt::ItemIsUserCheckable;
+  if (index.column() == 0 && source_.set_checked && HasCheck(index.row()))
+    flags |= Qt::ItemIsUserCheckable;
   return flags;
 }
 
 bool RecordModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (role != Qt::CheckStateRole || index.column() != 0 || !source_.set_checked) return false;
+  if (role != Qt::CheckStateRole || !(flags(index) & Qt::ItemIsUserCheckable)) return false;
   source_.set_checked(index.row(), value.toInt() == Qt::Checked);
   emit dataChanged(index, index, {Qt::CheckStateRole});
   return true;

@@ -20,9 +20,10 @@ struct Column {
 struct RowSource {
   std::function<int()> count;
   std::function<QString(int row, int column)> text;
-  std::function<bool(int row)> is_group;
-  std::function<bool(int row)> checked;  // rows have check marks where it is set
-  std::function<void(int row, bool on)> set_checked;
+  std::function<bool(int row)> is_group{};
+  std::function<bool(int row)> checked{};  // rows have check marks where it is set
+  std::function<void(int row, bool on)> set_checked{};
+  std::function<bool(int row)> checkable{};  // all rows are where it is not set
 };
 
 class RecordModel : public QAbstractTableModel {
@@ -41,6 +42,9 @@ class RecordModel : public QAbstractTableModel {
   const std::vector<Column>& Columns() const { return columns_; }
   bool IsGroup(int row) const { return source_.is_group && source_.is_group(row); }
   bool HasChecks() const { return static_cast<bool>(source_.checked); }
+  bool HasCheck(int row) const {
+    return HasChecks() && (!source_.checkable || source_.checkable(row));
+  }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

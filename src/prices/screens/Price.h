@@ -1,0 +1,29 @@
+// "Прайс-лист": edits the sale prices of a warehouse's price lists.
+#pragma once
+
+#include <QWidget>
+
+#include "shell/AppContext.h"
+
+namespace kladez {
+
+class PriceBrowser;
+
+class Price : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Price(AppContext& context, QWidget* parent = nullptr);
+
+ signals:
+  // How much of a list is loaded, for the main window's progress bar.
+  void Loading(int percent);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  PriceBrowser* browser_;
+};
+
+}  // namespace kladez

@@ -1,0 +1,295 @@
+#include "printing/screens/pricePrint.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "formats/Dates.h"
+#include "formats/PartyFile.h"
+#include "printing/InputError.h"
+#include "shell/Help.h"
+#include "shell/Hints.h"
+#include "shell/controls/Commands.h"
+#include "shell/controls/Fields.h"
+#include "shell/controls/Guard.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// What the head proposes: the first of the own firms.
+Party FirstFirm(const AppContext& context) {
+  const auto bytes = context.data.ReadIfAny(context.session.Path(PartyPath(PartyKind::kFirm)));
+  const auto firms = ReadParties(PartyKind::kFirm, bytes.value_or(QByteArray()));
+  return firms.empty() ? Party() : firms.front();
+}
+
+std::optional<QString> TextIf(const QCheckBox* check, const QLineEdit* text) {
+  return check->isChecked() ? std::optional(text->text()) : std::nullopt;
+}
+
+}  // namespace
+
+pricePrint::pricePrint(AppContext& context, const PricePrintSource& source, QWidget* parent)
+    : QDialog(parent), context_(context), source_(source), look_(new QWidget(this)) {
+  setObjectName(u"pricePrint"_s);
+  setWindowTitle(u"Параметры печати прайса"_s);
+  GoldButton1 = NewCommand(this, u"GoldButton1"_s, {});
+  GoldButton1->setFlat(true);
+  Command1 = NewCommand(this, u"Command1"_s, u"OK"_s);
+  Command2 = NewCommand(this, u"Command2"_s, u"&Отмена"_s);
+  BuildLayout();
+  FollowGroups();
+  Command1->setFocus();
+  connect(GoldButton1, &QPushButton::clicked, this, &pricePrint::Fold);
+  connect(Check1, &QCheckBox::toggled, this, &pricePrint::FollowGroups);
+  connect(Check14, &QCheckBox::toggled, this, &pricePrint::FollowGroups);
+  connect(Command1, &QPushButton::clicked, this, &pricePrint::Print);
+  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QCheckBox* pricePrint::NewCheck(const char16_t* name, const QString& caption, bool on) {
+  auto* check = new QCheckBox(caption, this);
+  check->setObjectName(QString::fromUtf16(name));
+  check->setChecked(on);
+  return check;
+}
+
+TextLineNumber* pricePrint::NewNumber(const QString& name, const QString& value, int length) {
+  auto* field = new TextLineNumber(this);
+  field->setObjectName(name);
+  field->setMaxLength(length);
+  field->setText(value);
+  field->setFixedWidth(8 * look::kGrid);
+  return field;
+}
+
+QGroupBox* pricePrint::NewFrame(const QString& title) {
+  auto* frame = new QGroupBox(title, this);
+  auto* column = new QVBoxLayout(frame);
+  look::SetPanelMargins(column);
+  auto* hint = new HintPicture(HintFor(u"pricePrint", title), frame);
+  column->addWidget(hint, 0, Qt::AlignRight);
+  return frame;
+}
+
+void pricePrint::AddChoices(QGridLayout* grid, const std::vector<Choice>& choices) {
+  for (const Choice& choice : choices) {
+    const int row = grid->rowCount();
+    QCheckBox* check = NewCheck(choice.check_name, QString::fromUtf16(choice.caption), choice.on);
+    auto* text = new TextLine(this);
+    text->setObjectName(QString::fromUtf16(choice.text_name));
+    text->setAccessibleName(check->text());
+    text->setText(choice.proposal);
+    text->setCursorPosition(0);
+    text->setEnabled(choice.on);
+    connect(check, &QCheckBox::toggled, text, &QWidget::setEnabled);
+    grid->addWidget(check, row, 0);
+    grid->addWidget(text, row, 1);
+    this->*choice.check = check;
+    this->*choice.text = text;
+  }
+}
+
+QWidget* pricePrint::NewOther() {
+  using P = pricePrint;
+  const Party firm = FirstFirm(context_);
+  const auto field = [&](PartyField of) { return FieldOf(PartyKind::kFirm, firm, of); };
+  QGroupBox* frame = NewFrame(u"Прочее"_s);
+  auto* grid = new QGridLayout;
+  AddChoices(
+      grid,
+      {{&P::Check6, u"Check6", u"&Фирма:", true, &P::Text1, u"Text1", field(PartyField::kName)},
+       {&P::Check7, u"Check7", u"&Адрес:", true, &P::Text2, u"Text2",
+        field(PartyField::kLegalAddress)},
+       {&P::Check8, u"Check8", u"&Тел./Факс:", true, &P::Text3, u"Text3",
+        u"Тел.:"_s + field(PartyField::kPhone) + u", факс:"_s + field(PartyField::kFax)},
+       {&P::Check11, u"Check11", u"&Заголовок:", true, &P::Text6, u"Text6", u"Прайс-лист"_s},
+       {&P::Check9, u"Check9", u"&Дата", true, &P::Text4, u"Text4",
+        LongDateText(context_.clock.Today())},
+       {&P::Check10, u"Check10", u"&Подпись внизу:", false, &P::Text5, u"Text5", {}}});
+  static_cast<QVBoxLayout*>(frame->layout())->addLayout(grid);
+  return frame;
+}
+
+QWidget* pricePrint::NewColumns() {
+  using P = pricePrint;
+  QGroupBox* frame = NewFrame(u"Колонки"_s);
+  auto* grid = new QGridLayout;
+  AddChoices(
+      grid,
+      {{&P::Check2, u"Check2", u"&Ед. изм", true, &P::Text9, u"Text9", u"Ед. изм."_s},
+       {&P::Check3, u"Check3", u"Цена за&купа", false, &P::Text10, u"Text10", u"Цена закупа"_s},
+       {&P::Check4, u"Check4", u"Цена &реализации", true, &P::Text11, u"Text11", u"Цена"_s}});
+  Text7 = NewNumber(u"Text7"_s, u"100"_s, 8);
+  Text8 = NewNumber(u"Text8"_s, u"100"_s, 8);
+  const struct {
+    QCheckBox* check;
+    TextLineNumber* percent;
+  } percents[] = {{Check3, Text7}, {Check4, Text8}};
+  for (const auto& [check, percent] : percents) {
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    grid->getItemPosition(grid->indexOf(check), &row, &column, &span, &span);
+    auto* label = new QLabel(u"%:"_s, this);
+    label->setBuddy(percent);
+    grid->addWidget(label, row, 2);
+    grid->addWidget(percent, row, 3);
+    percent->setEnabled(check->isChecked());
+    connect(check, &QCheckBox::toggled, percent, &QWidget::setEnabled);
+  }
+  Check5 = NewCheck(u"Check5", u"О&статок на складе"_s, false);
+  Check15 = NewCheck(u"Check15", u"Су&ммировать кол-во на складах"_s, false);
+  auto* column = static_cast<QVBoxLayout*>(frame->layout());
+  column->addLayout(grid);
+  column->addWidget(Check5);
+  column->addWidget(Check15);
+  column->addStretch();
+  return frame;
+}
+
+QWidget* pricePrint::NewBorders() {
+  QGroupBox* frame = NewFrame(u"Рамка"_s);
+  Check12 = NewCheck(u"Check12", u"Товар&ы"_s, true);
+  Check13 = NewCheck(u"Check13", u"&Группы"_s, true);
+  auto* column = static_cast<QVBoxLayout*>(frame->layout());
+  for (QCheckBox* check : {Check12, Check13}) column->addWidget(check);
+  column->addStretch();
+  return frame;
+}
+
+QWidget* pricePrint::NewGoods() {
+  QGroupBox* frame = NewFrame(u"Товары"_s);
+  auto* column = static_cast<QVBoxLayout*>(frame->layout());
+  const struct {
+    QRadioButton*& option;
+    const char16_t* name;
+    const char16_t* caption;
+  } options[] = {{Option1, u"Option1", u"&Все"},
+                 {Option2, u"Option2", u"Прису&тствующие"},
+                 {Option3, u"Option3", u"Отсутству&ющие"},
+                 {Option4, u"Option4", u"Вы&деленные"},
+                 {Option5, u"Option5", u"Отмеченные &галочками"},
+                 {Option6, u"Option6", u"Не отмеченные гало&чками"}};
+  for (const auto& [option, name, caption] : options) {
+    option = new QRadioButton(QString::fromUtf16(caption), this);
+    option->setObjectName(QString::fromUtf16(name));
+    column->addWidget(option);
+  }
+  Option1->setChecked(true);
+  Text14 = NewNumber(u"Text14"_s, u"1000"_s, 9);
+  Text14->setEnabled(false);
+  connect(Option2, &QRadioButton::toggled, Text14, &QWidget::setEnabled);
+  auto* label = new QLabel(u"не &более"_s, this);
+  label->setBuddy(Text14);
+  auto* present = new QHBoxLayout;
+  present->setSpacing(look::kGrid);
+  present->addWidget(Option2);
+  present->addWidget(label);
+  present->addWidget(Text14);
+  present->addStretch();
+  column->insertLayout(2, present);
+  return frame;
+}
+
+QWidget* pricePrint::NewOrder() {
+  auto* order = new QWidget(this);
+  Check1 = NewCheck(u"Check1", u"Распределять по группам"_s, true);
+  Check14 = NewCheck(u"Check14", u"Промежуток между алфавитными блоками:"_s, false);
+  Text12 = NewNumber(u"Text12"_s, u"1"_s, 2);
+  Text12->setAccessibleName(Check14->text());
+  auto* grid = new QGridLayout(order);
+  grid->setContentsMargins(0, 0, 0, 0);
+  const auto hint = [&](const QString& place) {
+    return new HintPicture(HintFor(u"pricePrint", place), order);
+  };
+  grid->addWidget(Check1, 0, 0);
+  grid->addWidget(hint(Check1->text()), 0, 2);
+  grid->addWidget(Check14, 1, 0);
+  grid->addWidget(Text12, 1, 1);
+  grid->addWidget(hint(u"Промежуток между алфавитными блоками"_s), 1, 2);
+  grid->setColumnStretch(3, 1);
+  return order;
+}
+
+void pricePrint::BuildLayout() {
+  auto* columns = new QGridLayout(look_);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(look::kMargin);
+  columns->addWidget(NewOther(), 0, 0, 1, 2);
+  columns->addWidget(NewColumns(), 1, 0);
+  columns->addWidget(NewBorders(), 1, 1);
+  auto* ending = NewEndingRow(Command1, Command2);
+  ending->insertWidget(0, NewHelpCommand(this, context_.data, u"priceprint.htm"));
+  auto* layout = new QVBoxLayout(this);
+  look::SetDialogMargins(layout);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->addWidget(NewGoods());
+  layout->addWidget(NewOrder());
+  layout->addWidget(GoldButton1, 0, Qt::AlignLeft);
+  layout->addWidget(look_);
+  layout->addWidget(look::NewSeparator(this));
+  layout->addLayout(ending);
+  Fold();
+  Fold();
+}
+
+void pricePrint::Fold() {
+  look_->setHidden(!look_->isHidden());
+  GoldButton1->setText(look_->isHidden() ? u"▸ В&ид"_s : u"▾ В&ид"_s);
+}
+
+void pricePrint::FollowGroups() {
+  Check14->setEnabled(!Check1->isChecked());
+  Text12->setEnabled(!Check1->isChecked() && Check14->isChecked());
+}
+
+PricePageOptions pricePrint::Options() const {
+  PricePageOptions options;
+  options.firm = TextIf(Check6, Text1);
+  options.address = TextIf(Check7, Text2);
+  options.phone = TextIf(Check8, Text3);
+  options.date = TextIf(Check9, Text4);
+  options.signature = TextIf(Check10, Text5);
+  options.title = TextIf(Check11, Text6);
+  options.stock = Check5->isChecked();
+  options.unit = TextIf(Check2, Text9);
+  options.purchase = TextIf(Check3, Text10);
+  options.purchase_percent = FieldNumber(Text7->text());
+  options.sale = TextIf(Check4, Text11);
+  options.sale_percent = FieldNumber(Text8->text());
+  options.borders = {.goods = Check12->isChecked(), .groups = Check13->isChecked()};
+  options.by_groups = Check1->isChecked();
+  if (Check14->isChecked()) options.gap = static_cast<int>(FieldNumber(Text12->text()));
+  options.at_most = FieldNumber(Text14->text());
+  const struct {
+    QRadioButton* option;
+    PrintedGoods goods;
+  } choices[] = {{Option2, PrintedGoods::kPresent},
+                 {Option3, PrintedGoods::kAbsent},
+                 {Option4, PrintedGoods::kSelected},
+                 {Option5, PrintedGoods::kTicked},
+                 {Option6, PrintedGoods::kNotTicked}};
+  for (const auto& [option, goods] : choices) {
+    if (option->isChecked()) options.goods = goods;
+  }
+  return options;
+}
+
+void pricePrint::Print() {
+  const bool shown = Guarded(this, [this] {
+    const QStringList warehouses =
+        Check15->isChecked() ? context_.session.SkladNames : QStringList{source_.warehouse};
+    const StockByName stock = LoadStockByName(context_.data, context_.session, warehouses);
+    context_.print_outs.Show(u"price.htm"_s, PricePage(source_.rows, stock, Options()));
+  });
+  if (shown) accept();
+}
+
+}  // namespace kladez
