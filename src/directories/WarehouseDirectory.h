@@ -9,6 +9,9 @@
 
 namespace kladez {
 
+// The entry of a selector that means all warehouses together; never the name of one.
+inline constexpr QStringView kAllWarehouses = u"ВСЕ СКЛАДЫ";
+
 // Whether the name holds one of the characters \ / : * ? " < > | that no warehouse may have.
 bool HoldsForbiddenCharacter(QStringView name);
 

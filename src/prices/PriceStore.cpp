@@ -74,13 +74,4 @@ bool PriceStore::Paste(PriceList& list, const QString& warehouse, int index) con
   return true;
 }
 
-void DropPriceClipboard(const DataDir& data) {
-  if (!data.FileExists(kClipboard)) return;
-  IgnoreErrors([&] {
-    SaveSet save(data);
-    save.Delete(kClipboard);
-    save.Commit();
-  });
-}
-
 }  // namespace kladez

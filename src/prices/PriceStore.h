@@ -44,7 +44,4 @@ class PriceStore {
   const Session& session_;
 };
 
-// Throws away the clipboard, errors ignored, as closing the main window does.
-void DropPriceClipboard(const DataDir& data);
-
 }  // namespace kladez

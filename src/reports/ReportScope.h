@@ -7,14 +7,12 @@
 #include <QStringList>
 #include <functional>
 
+#include "directories/WarehouseDirectory.h"
 #include "stock/DocumentScan.h"
 #include "store/DataDir.h"
 #include "store/Session.h"
 
 namespace kladez {
-
-// The entry of every warehouse selector of the reports that means all of them.
-inline constexpr QStringView kAllWarehouses = u"ВСЕ СКЛАДЫ";
 
 enum class PeriodKind { kAll, kCurrentMonth, kRange };
 

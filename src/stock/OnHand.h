@@ -15,9 +15,6 @@
 
 namespace kladez {
 
-// The selector's last entry; never the name of a warehouse.
-inline constexpr QStringView kAllStock = u"ВСЕ СКЛАДЫ";
-
 struct OnHandRow {
   QString name;      // of a group with its leading blank
   QString quantity;  // number text, "0" where no ledger has the goods; empty for a group

@@ -1,8 +1,6 @@
 #include "prices/screens/PriceBrowser.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -11,7 +9,9 @@
 #include "formats/Numbers.h"
 #include "prices/screens/prChange.h"
 #include "printing/screens/pricePrint.h"
+#include "shell/Help.h"
 #include "shell/Hints.h"
+#include "shell/controls/Choice.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
 #include "stock/screens/colvo.h"
@@ -32,25 +32,16 @@ const QString& CellOf(const PriceRow& row, int column) {
   return *cells[column];
 }
 
-// A label whose letter leads to the field, the field, and its question mark.
-void AddChoice(QHBoxLayout* row, const QString& caption, QComboBox* field, const Hint& hint) {
-  auto* label = new QLabel(caption, field->parentWidget());
-  label->setBuddy(field);
-  row->addWidget(label);
-  row->addWidget(field, 1);
-  row->addWidget(new HintPicture(hint, field->parentWidget()));
-}
-
 }  // namespace
 
-// What stands in the row of commands, from left to right.
+// The commands of each kind of screen, in the order in which they stand.
 struct PriceBrowser::Command {
   QPushButton* PriceBrowser::*button;
   QString name;
   QString caption;
   std::optional<IconName> icon;
   void (PriceBrowser::*run)();
-  bool at_the_end = false;
+  Place place = Place::kLeft;
 };
 
 std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
@@ -58,21 +49,22 @@ std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
   const Command copy = {&P::Command7, u"Command7"_s, u"&Копировать"_s, IconName::kCopy, &P::Copy};
   const Command paste = {&P::Command8, u"Command8"_s, u"&Вставить"_s, IconName::kPaste, &P::Paste};
   const Command pick = {&P::Command6,    u"Command6"_s, u"В&ыбрать"_s,
-                        IconName::kPick, &P::Pick,      true};
+                        IconName::kPick, &P::Pick,      Place::kRight};
   const auto close = [](const QString& caption) {
-    return Command{&P::Command3, u"Command3"_s, caption, {}, &P::CloseAsked, true};
+    return Command{&P::Command3, u"Command3"_s, caption, {}, &P::CloseAsked, Place::kRight};
   };
   if (kind == PriceScreen::kPicker) return {copy, paste, pick, close(u"&Отмена"_s)};
-  return {{&P::GoldButton1, u"GoldButton1"_s, u"&Добавить"_s, IconName::kAdd, &P::Add},
-          {&P::GoldButton2, u"GoldButton2"_s, u"&Удалить"_s, IconName::kRemove, &P::Remove},
-          {&P::Command2, u"Command2"_s, u"&Изменить"_s, IconName::kChange, &P::Change},
-          copy,
-          paste,
-          {&P::Command9, u"Command9"_s, u"П&ечать"_s, IconName::kPrint, &P::Print},
-          {&P::Command10, u"Command10"_s, u"О&бновить"_s, IconName::kRefresh, &P::Load},
-          {&P::Command5, u"Command5"_s, u"&Сохранить"_s, IconName::kSave, &P::Save, true},
-          pick,
-          close(u"&Закрыть"_s)};
+  return {
+      {&P::GoldButton1, u"GoldButton1"_s, u"&Добавить"_s, IconName::kAdd, &P::Add},
+      {&P::GoldButton2, u"GoldButton2"_s, u"&Удалить"_s, IconName::kRemove, &P::Remove},
+      {&P::Command2, u"Command2"_s, u"&Изменить"_s, IconName::kChange, &P::Change},
+      copy,
+      paste,
+      {&P::Command9, u"Command9"_s, u"П&ечать"_s, IconName::kPrint, &P::Print},
+      {&P::Command10, u"Command10"_s, u"О&бновить"_s, IconName::kRefresh, &P::Load, Place::kPanel},
+      {&P::Command5, u"Command5"_s, u"&Сохранить"_s, IconName::kSave, &P::Save, Place::kRight},
+      pick,
+      close(u"&Закрыть"_s)};
 }
 
 PriceBrowser::PriceBrowser(AppContext& context, PriceScreen kind, QWidget* parent)
@@ -87,7 +79,12 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceScreen kind, QWidget* paren
   BuildPanel(layout);
   BuildList();
   layout->addWidget(ListView1, 1);
-  layout->addLayout(NewCommandRow());
+  auto* commands = new QHBoxLayout;
+  commands->setSpacing(look::kGrid);
+  AddCommands(commands, Place::kLeft);
+  commands->addStretch();
+  AddCommands(commands, Place::kRight);
+  layout->addLayout(commands);
   // A document brings its own warehouse to the picker; the editor picks nothing.
   Combo1->setEnabled(kind == PriceScreen::kEditor);
   Command6->setVisible(kind == PriceScreen::kPicker);
@@ -113,10 +110,12 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
   Combo2 = new QComboBox(this);
   Combo2->setObjectName(u"Combo2"_s);
   auto* choices = new QHBoxLayout;
-  choices->setSpacing(look::kTight);
-  AddChoice(choices, u"С&клад:"_s, Combo1, HintFor(screen, u"Склад"));
+  AddChoice(choices, u"Ск&лад:"_s, Combo1, HintFor(screen, u"Склад"));
   choices->addSpacing(look::kMargin);
   AddChoice(choices, u"П&райс:"_s, Combo2, HintFor(screen, u"Прайс"));
+  choices->addSpacing(look::kMargin);
+  AddCommands(choices, Place::kPanel);
+  choices->addWidget(NewHelpCommand(this, context_.data, u"price.htm"));
   filter_ = new GoodsFilter(context_.settings, {settings::kPriceGroups, settings::kPriceGoodsOnly},
                             screen, this);
   layout->addLayout(choices);
@@ -125,12 +124,12 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
 
 void PriceBrowser::BuildList() {
   const auto row = [this](int at) -> const PriceRow& { return list_.Rows()[at]; };
-  const int cost_twips = context_.session.IsSeller() ? 0 : 1300;
+  const int cost_twips = context_.session.IsSeller() ? 0 : 1500;
   model_ =
       new RecordModel({{.title = u"Наименование"_s, .twips = 3100, .stretch = true},
                        {.title = u"Ед.изм."_s, .twips = 1000},
                        {.title = u"Цена закупа"_s, .twips = cost_twips, .number = true},
-                       {.title = u"Цена реализации"_s, .twips = 1700, .number = true}},
+                       {.title = u"Цена реализации"_s, .twips = 2000, .number = true}},
                       {.count = [this] { return static_cast<int>(list_.Rows().size()); },
                        .text = [row](int at, int column) { return CellOf(row(at), column); },
                        .is_group = [row](int at) { return row(at).IsGroup() || row(at).picked; },
@@ -146,23 +145,16 @@ void PriceBrowser::BuildList() {
   filter_->SearchIn(ListView1);
 }
 
-QHBoxLayout* PriceBrowser::NewCommandRow() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(look::kGrid);
-  bool stretched = false;
+void PriceBrowser::AddCommands(QHBoxLayout* row, Place place) {
   for (const Command& command : CommandsOf(kind_)) {
+    if (command.place != place) continue;
     QPushButton* button = command.icon
                               ? NewCommand(this, command.name, command.caption, *command.icon)
                               : NewCommand(this, command.name, command.caption);
     this->*command.button = button;
     connect(button, &QPushButton::clicked, this, command.run);
-    if (command.at_the_end && !stretched) {
-      row->addStretch();
-      stretched = true;
-    }
     row->addWidget(button);
   }
-  return row;
 }
 
 bool PriceBrowser::RefusedToSeller() {

@@ -54,11 +54,12 @@ class PriceBrowser : public QWidget {
   void Loading(int percent);
 
  private:
+  enum class Place { kLeft, kRight, kPanel };
   struct Command;
   static std::vector<Command> CommandsOf(PriceScreen kind);
   void BuildPanel(QVBoxLayout* layout);
   void BuildList();
-  QHBoxLayout* NewCommandRow();
+  void AddCommands(QHBoxLayout* row, Place place);
 
   bool RefusedToSeller();
   void ListLists();

@@ -15,6 +15,7 @@
 #include "shell/Hints.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Fields.h"
+#include "shell/controls/FoldButton.h"
 #include "shell/controls/Guard.h"
 
 namespace kladez {
@@ -36,17 +37,14 @@ std::optional<QString> TextIf(const QCheckBox* check, const QLineEdit* text) {
 }  // namespace
 
 pricePrint::pricePrint(AppContext& context, const PricePrintSource& source, QWidget* parent)
-    : QDialog(parent), context_(context), source_(source), look_(new QWidget(this)) {
+    : QDialog(parent), context_(context), source_(source) {
   setObjectName(u"pricePrint"_s);
   setWindowTitle(u"Параметры печати прайса"_s);
-  GoldButton1 = NewCommand(this, u"GoldButton1"_s, {});
-  GoldButton1->setFlat(true);
   Command1 = NewCommand(this, u"Command1"_s, u"OK"_s);
   Command2 = NewCommand(this, u"Command2"_s, u"&Отмена"_s);
   BuildLayout();
   FollowGroups();
   Command1->setFocus();
-  connect(GoldButton1, &QPushButton::clicked, this, &pricePrint::Fold);
   connect(Check1, &QCheckBox::toggled, this, &pricePrint::FollowGroups);
   connect(Check14, &QCheckBox::toggled, this, &pricePrint::FollowGroups);
   connect(Command1, &QPushButton::clicked, this, &pricePrint::Print);
@@ -69,13 +67,15 @@ TextLineNumber* pricePrint::NewNumber(const QString& name, const QString& value,
   return field;
 }
 
-QGroupBox* pricePrint::NewFrame(const QString& title) {
-  auto* frame = new QGroupBox(title, this);
-  auto* column = new QVBoxLayout(frame);
-  look::SetPanelMargins(column);
-  auto* hint = new HintPicture(HintFor(u"pricePrint", title), frame);
-  column->addWidget(hint, 0, Qt::AlignRight);
-  return frame;
+pricePrint::Frame pricePrint::NewFrame(const QString& title) {
+  auto* box = new QGroupBox(title, this);
+  auto* row = new QHBoxLayout(box);
+  look::SetPanelMargins(row);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(look::kGrid);
+  row->addLayout(column, 1);
+  row->addWidget(new HintPicture(HintFor(u"pricePrint", title), box), 0, Qt::AlignTop);
+  return {box, column};
 }
 
 void pricePrint::AddChoices(QGridLayout* grid, const std::vector<Choice>& choices) {
@@ -87,6 +87,7 @@ void pricePrint::AddChoices(QGridLayout* grid, const std::vector<Choice>& choice
     text->setAccessibleName(check->text());
     text->setText(choice.proposal);
     text->setCursorPosition(0);
+    text->setMinimumWidth(16 * look::kGrid);
     text->setEnabled(choice.on);
     connect(check, &QCheckBox::toggled, text, &QWidget::setEnabled);
     grid->addWidget(check, row, 0);
@@ -100,7 +101,7 @@ QWidget* pricePrint::NewOther() {
   using P = pricePrint;
   const Party firm = FirstFirm(context_);
   const auto field = [&](PartyField of) { return FieldOf(PartyKind::kFirm, firm, of); };
-  QGroupBox* frame = NewFrame(u"Прочее"_s);
+  const Frame frame = NewFrame(u"Прочее"_s);
   auto* grid = new QGridLayout;
   AddChoices(
       grid,
@@ -113,13 +114,14 @@ QWidget* pricePrint::NewOther() {
        {&P::Check9, u"Check9", u"&Дата", true, &P::Text4, u"Text4",
         LongDateText(context_.clock.Today())},
        {&P::Check10, u"Check10", u"&Подпись внизу:", false, &P::Text5, u"Text5", {}}});
-  static_cast<QVBoxLayout*>(frame->layout())->addLayout(grid);
-  return frame;
+  frame.column->addLayout(grid);
+  frame.column->addStretch();
+  return frame.box;
 }
 
 QWidget* pricePrint::NewColumns() {
   using P = pricePrint;
-  QGroupBox* frame = NewFrame(u"Колонки"_s);
+  const Frame frame = NewFrame(u"Колонки"_s);
   auto* grid = new QGridLayout;
   AddChoices(
       grid,
@@ -146,41 +148,45 @@ QWidget* pricePrint::NewColumns() {
   }
   Check5 = NewCheck(u"Check5", u"О&статок на складе"_s, false);
   Check15 = NewCheck(u"Check15", u"Су&ммировать кол-во на складах"_s, false);
-  auto* column = static_cast<QVBoxLayout*>(frame->layout());
-  column->addLayout(grid);
-  column->addWidget(Check5);
-  column->addWidget(Check15);
-  column->addStretch();
-  return frame;
+  frame.column->addLayout(grid);
+  frame.column->addWidget(Check5);
+  frame.column->addWidget(Check15);
+  return frame.box;
 }
 
 QWidget* pricePrint::NewBorders() {
-  QGroupBox* frame = NewFrame(u"Рамка"_s);
+  const Frame frame = NewFrame(u"Рамка"_s);
   Check12 = NewCheck(u"Check12", u"Товар&ы"_s, true);
   Check13 = NewCheck(u"Check13", u"&Группы"_s, true);
-  auto* column = static_cast<QVBoxLayout*>(frame->layout());
-  for (QCheckBox* check : {Check12, Check13}) column->addWidget(check);
-  column->addStretch();
-  return frame;
+  auto* row = new QHBoxLayout;
+  row->setSpacing(look::kGap);
+  for (QCheckBox* check : {Check12, Check13}) row->addWidget(check);
+  row->addStretch();
+  frame.column->addLayout(row);
+  return frame.box;
 }
 
 QWidget* pricePrint::NewGoods() {
-  QGroupBox* frame = NewFrame(u"Товары"_s);
-  auto* column = static_cast<QVBoxLayout*>(frame->layout());
+  const Frame frame = NewFrame(u"Товары"_s);
+  // Two by two by two: what is on hand at the left, what was chosen at the right.
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(look::kGap);
   const struct {
     QRadioButton*& option;
     const char16_t* name;
     const char16_t* caption;
   } options[] = {{Option1, u"Option1", u"&Все"},
-                 {Option2, u"Option2", u"Прису&тствующие"},
+                 {Option2, u"Option2", u"Присутствую&щие"},
                  {Option3, u"Option3", u"Отсутству&ющие"},
-                 {Option4, u"Option4", u"Вы&деленные"},
-                 {Option5, u"Option5", u"Отмеченные &галочками"},
+                 {Option4, u"Option4", u"Выде&ленные"},
+                 {Option5, u"Option5", u"Отмече&нные галочками"},
                  {Option6, u"Option6", u"Не отмеченные гало&чками"}};
+  int count = 0;
   for (const auto& [option, name, caption] : options) {
     option = new QRadioButton(QString::fromUtf16(caption), this);
     option->setObjectName(QString::fromUtf16(name));
-    column->addWidget(option);
+    grid->addWidget(option, count % 3, count < 3 ? 0 : 3);
+    ++count;
   }
   Option1->setChecked(true);
   Text14 = NewNumber(u"Text14"_s, u"1000"_s, 9);
@@ -188,20 +194,17 @@ QWidget* pricePrint::NewGoods() {
   connect(Option2, &QRadioButton::toggled, Text14, &QWidget::setEnabled);
   auto* label = new QLabel(u"не &более"_s, this);
   label->setBuddy(Text14);
-  auto* present = new QHBoxLayout;
-  present->setSpacing(look::kGrid);
-  present->addWidget(Option2);
-  present->addWidget(label);
-  present->addWidget(Text14);
-  present->addStretch();
-  column->insertLayout(2, present);
-  return frame;
+  grid->addWidget(label, 1, 1);
+  grid->addWidget(Text14, 1, 2);
+  grid->setColumnStretch(4, 1);
+  frame.column->addLayout(grid);
+  return frame.box;
 }
 
 QWidget* pricePrint::NewOrder() {
   auto* order = new QWidget(this);
-  Check1 = NewCheck(u"Check1", u"Распределять по группам"_s, true);
-  Check14 = NewCheck(u"Check14", u"Промежуток между алфавитными блоками:"_s, false);
+  Check1 = NewCheck(u"Check1", u"Распредел&ять по группам"_s, true);
+  Check14 = NewCheck(u"Check14", u"Проме&жуток между алфавитными блоками:"_s, false);
   Text12 = NewNumber(u"Text12"_s, u"1"_s, 2);
   Text12->setAccessibleName(Check14->text());
   auto* grid = new QGridLayout(order);
@@ -210,7 +213,7 @@ QWidget* pricePrint::NewOrder() {
     return new HintPicture(HintFor(u"pricePrint", place), order);
   };
   grid->addWidget(Check1, 0, 0);
-  grid->addWidget(hint(Check1->text()), 0, 2);
+  grid->addWidget(hint(u"Распределять по группам"_s), 0, 2);
   grid->addWidget(Check14, 1, 0);
   grid->addWidget(Text12, 1, 1);
   grid->addWidget(hint(u"Промежуток между алфавитными блоками"_s), 1, 2);
@@ -219,12 +222,15 @@ QWidget* pricePrint::NewOrder() {
 }
 
 void pricePrint::BuildLayout() {
-  auto* columns = new QGridLayout(look_);
-  columns->setContentsMargins(0, 0, 0, 0);
-  columns->setSpacing(look::kMargin);
-  columns->addWidget(NewOther(), 0, 0, 1, 2);
-  columns->addWidget(NewColumns(), 1, 0);
-  columns->addWidget(NewBorders(), 1, 1);
+  auto* panel = new QWidget(this);
+  auto* panels = new QGridLayout(panel);
+  panels->setContentsMargins(0, 0, 0, 0);
+  panels->setSpacing(look::kGrid);
+  panels->addWidget(NewOther(), 0, 0, 2, 1);
+  panels->addWidget(NewColumns(), 0, 1);
+  panels->addWidget(NewBorders(), 1, 1);
+  panels->setColumnStretch(0, 1);
+  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"В&ид"_s, panel, true, this);
   auto* ending = NewEndingRow(Command1, Command2);
   ending->insertWidget(0, NewHelpCommand(this, context_.data, u"priceprint.htm"));
   auto* layout = new QVBoxLayout(this);
@@ -233,16 +239,9 @@ void pricePrint::BuildLayout() {
   layout->addWidget(NewGoods());
   layout->addWidget(NewOrder());
   layout->addWidget(GoldButton1, 0, Qt::AlignLeft);
-  layout->addWidget(look_);
+  layout->addWidget(panel);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(ending);
-  Fold();
-  Fold();
-}
-
-void pricePrint::Fold() {
-  look_->setHidden(!look_->isHidden());
-  GoldButton1->setText(look_->isHidden() ? u"▸ В&ид"_s : u"▾ В&ид"_s);
 }
 
 void pricePrint::FollowGroups() {

@@ -16,6 +16,7 @@ class QVBoxLayout;
 
 namespace kladez {
 
+class FoldButton;
 class TextLine;
 class TextLineNumber;
 
@@ -45,7 +46,11 @@ class pricePrint : public QDialog {
 
   QCheckBox* NewCheck(const char16_t* name, const QString& caption, bool on);
   TextLineNumber* NewNumber(const QString& name, const QString& value, int length);
-  QGroupBox* NewFrame(const QString& title);
+  struct Frame {
+    QGroupBox* box;
+    QVBoxLayout* column;  // for what stands in it, beside its question mark
+  };
+  Frame NewFrame(const QString& title);
   void AddChoices(QGridLayout* grid, const std::vector<Choice>& choices);
   QWidget* NewOther();
   QWidget* NewColumns();
@@ -53,7 +58,6 @@ class pricePrint : public QDialog {
   QWidget* NewGoods();
   QWidget* NewOrder();
   void BuildLayout();
-  void Fold();
   void FollowGroups();
 
   PricePageOptions Options() const;
@@ -61,21 +65,20 @@ class pricePrint : public QDialog {
 
   AppContext& context_;
   const PricePrintSource source_;
-  QWidget* look_;            // what GoldButton1 folds
-  QPushButton* GoldButton1;  // "Вид" behind an arrow
-  QCheckBox* Check1;         // "Распределять по группам"
-  QCheckBox* Check2;         // "Ед. изм"
-  QCheckBox* Check3;         // "Цена закупа"
-  QCheckBox* Check4;         // "Цена реализации"
-  QCheckBox* Check5;         // "Остаток на складе"
-  QCheckBox* Check6;         // "Фирма:"
-  QCheckBox* Check7;         // "Адрес:"
-  QCheckBox* Check8;         // "Тел./Факс:"
-  QCheckBox* Check9;         // "Дата"
-  QCheckBox* Check10;        // "Подпись внизу:"
-  QCheckBox* Check11;        // "Заголовок:"
-  QCheckBox* Check12;        // "Товары"
-  QCheckBox* Check13;        // "Группы"
+  FoldButton* GoldButton1;  // "Вид"
+  QCheckBox* Check1;        // "Распределять по группам"
+  QCheckBox* Check2;        // "Ед. изм"
+  QCheckBox* Check3;        // "Цена закупа"
+  QCheckBox* Check4;        // "Цена реализации"
+  QCheckBox* Check5;        // "Остаток на складе"
+  QCheckBox* Check6;        // "Фирма:"
+  QCheckBox* Check7;        // "Адрес:"
+  QCheckBox* Check8;        // "Тел./Факс:"
+  QCheckBox* Check9;        // "Дата"
+  QCheckBox* Check10;       // "Подпись внизу:"
+  QCheckBox* Check11;       // "Заголовок:"
+  QCheckBox* Check12;       // "Товары"
+  QCheckBox* Check13;       // "Группы"
   QCheckBox* Check14;  // "Промежуток между алфавитными блоками:"
   QCheckBox* Check15;  // "Суммировать кол-во на складах"
   TextLine* Text1;     // firm

@@ -1,13 +1,14 @@
 #include "stock/screens/Sklad.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "directories/WarehouseDirectory.h"
 #include "printing/OnHandPage.h"
 #include "shell/Hints.h"
+#include "shell/controls/Choice.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
 #include "stock/screens/colvo.h"
@@ -40,7 +41,7 @@ Sklad::Sklad(AppContext& context, QWidget* parent)
   setWindowTitle(u"Наличие товаров на складе"_s);
   Combo1->setObjectName(u"Combo1"_s);
   Combo1->addItems(context.session.SkladNames);
-  Combo1->addItem(kAllStock.toString());
+  Combo1->addItem(kAllWarehouses.toString());
   StatusBar1->setObjectName(u"StatusBar1"_s);
   StatusBar1->setTextFormat(Qt::PlainText);
   BuildList();
@@ -78,13 +79,8 @@ void Sklad::BuildList() {
 }
 
 void Sklad::BuildLayout() {
-  auto* label = new QLabel(u"С&клад:"_s, this);
-  label->setBuddy(Combo1);
   auto* choice = new QHBoxLayout;
-  choice->setSpacing(look::kTight);
-  choice->addWidget(label);
-  choice->addWidget(Combo1, 1);
-  choice->addWidget(new HintPicture(HintFor(u"Sklad", u"Склад"), this));
+  AddChoice(choice, u"С&клад:"_s, Combo1, HintFor(u"Sklad", u"Склад"));
   auto* commands = new QHBoxLayout;
   commands->setSpacing(look::kGrid);
   for (QPushButton* command : {Command1, Command3, Command2}) commands->addWidget(command);

@@ -1,13 +1,12 @@
 #include "stock/screens/ost.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "directories/screens/sprtovar2.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
+#include "shell/controls/Choice.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
 #include "shell/controls/RecordList.h"
@@ -73,13 +72,8 @@ void ost::BuildList() {
 }
 
 void ost::BuildLayout() {
-  auto* label = new QLabel(u"С&клад:"_s, this);
-  label->setBuddy(Combo1);
   auto* choice = new QHBoxLayout;
-  choice->setSpacing(look::kTight);
-  choice->addWidget(label);
-  choice->addWidget(Combo1, 1);
-  choice->addWidget(new HintPicture(HintFor(u"ost", u"Склад"), this));
+  AddChoice(choice, u"С&клад:"_s, Combo1, HintFor(u"ost", u"Склад"));
   auto* commands = new QHBoxLayout;
   commands->setSpacing(look::kGrid);
   for (QPushButton* command : {Command1, Command2, Command3}) commands->addWidget(command);

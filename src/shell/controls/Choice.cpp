@@ -1,0 +1,19 @@
+#include "shell/controls/Choice.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "shell/controls/Look.h"
+
+namespace kladez {
+
+void AddChoice(QHBoxLayout* row, const QString& caption, QComboBox* field, const Hint& hint) {
+  auto* label = new QLabel(caption, field->parentWidget());
+  label->setBuddy(field);
+  row->setSpacing(look::kTight);
+  row->addWidget(label);
+  row->addWidget(field, 1);
+  row->addWidget(new HintPicture(hint, field->parentWidget()));
+}
+
+}  // namespace kladez

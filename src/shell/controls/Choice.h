@@ -1,0 +1,16 @@
+// A selector in a row of a panel: its label, whose letter leads to it, the field, and the question
+// mark that tells what it is for.
+#pragma once
+
+#include <QComboBox>
+
+#include "shell/controls/HintPicture.h"
+
+class QHBoxLayout;
+
+namespace kladez {
+
+// `caption` carries the mark of its letter ("С&клад:"). The field takes the room that is left.
+void AddChoice(QHBoxLayout* row, const QString& caption, QComboBox* field, const Hint& hint);
+
+}  // namespace kladez
