@@ -1,5 +1,7 @@
 #include "reports/ReportScope.h"
 
+#include "store/Errors.h"
+
 namespace kladez {
 namespace {
 
@@ -39,7 +41,7 @@ bool ScanWarehouses(const DataDir& data, const Session& session, const QStringLi
   bool wanted = true;
   for (const QString& warehouse : warehouses) {
     const QString directory = session.Path(warehouse, DirectoryOf(kind));
-    if (data.DirectoryExists(directory)) {
+    const auto scan = [&] {
       int until_progress = 0;
       ScanDocuments(data, kind, directory, unreadable, [&](ScannedDocument& document) {
         if (until_progress-- == 0) {
@@ -50,7 +52,10 @@ bool ScanWarehouses(const DataDir& data, const Session& session, const QStringLi
         visit(document);
         return true;
       });
-    }
+    };
+    const bool exists = data.DirectoryExists(directory);
+    if (exists && unreadable == Unreadable::kStop) scan();
+    if (exists && unreadable == Unreadable::kPassOver) IgnoreErrors(scan);
     if (!wanted) return false;
     done += share;
   }

@@ -41,7 +41,8 @@ struct ReportScope {
 using Progress = std::function<bool(double part)>;
 
 // Visits the documents of a kind in the warehouses, one after the other; a warehouse without the
-// directory has none. False when the progress ended it.
+// directory has none, and one whose directory can't be listed is treated as an unreadable file is.
+// False when the progress ended it.
 bool ScanWarehouses(const DataDir& data, const Session& session, const QStringList& warehouses,
                     DocumentKind kind, Unreadable unreadable, const Progress& progress,
                     const std::function<void(ScannedDocument&)>& visit);

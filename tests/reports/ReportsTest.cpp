@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ReportPageLines.h"
 #include "ShipmentsOnDisk.h"
 #include "reports/ChartSeries.h"
 #include "reports/FlowReport.h"
@@ -31,35 +32,17 @@ TEST_F(Reports, SalesPageIsWholeAndRoundsTheSumAfterEachAddition) {
   const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
   const auto report = CollectSales(temp.Data(), session, scope);
   ASSERT_TRUE(report);
-  const QString cell = u"<FONT FACE=Arial SIZE=3>"_s;
-  const auto row = [&](const QStringList& v, const QString& first = u"VALIGN"_s,
-                       bool bold = false) {
-    const QString b = bold ? u"<b>"_s : QString();
-    const QString e = bold ? u"</b>"_s : QString();
-    return QString(u"<tr><TD WIDTH=5% "_s + first + u"=TOP>"_s + cell + b + u"&nbsp;"_s + v[0] + e +
-                   u"</FONT></TD><TD WIDTH=30% VALIGN=TOP>"_s + cell + b + u"&nbsp;"_s + v[1] + e +
-                   u"</FONT></TD><TD WIDTH=10% VALIGN=TOP ALIGN=right>"_s + cell + b + v[2] +
-                   u"&nbsp;"_s + e + u"</FONT></TD><TD WIDTH=10% VALIGN=TOP ALIGN=right>"_s + cell +
-                   b + v[3] + u"&nbsp;"_s + e +
-                   u"</FONT></TD><TD WIDTH=10% VALIGN=TOP ALIGN=right>"_s + cell + b + v[4] +
-                   u"&nbsp;"_s + e + u"</FONT></TD></tr>"_s);
-  };
-  QString heads = row({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s});
-  heads.replace(u"SIZE=3"_s, u"SIZE=4"_s);
-  const QStringList expected = {
-      u"<HTML><HEAD><meta http-equiv=\"Content-Type\" content=\"text/html; charset=windows-1251\">"
-      "<TITLE>Отчет от 22 ноября 2026</TITLE></HEAD><BODY BGCOLOR=#ffffff>"_s,
-      u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>Отчет по продажам от 22 ноября 2026</FONT></B>"
-      "<br></p>"_s,
-      u"<FONT FACE=Arial SIZE=3>ВСЕ СКЛАДЫ</FONT><br>"_s, u"<br>"_s, u"<CENTER>"_s,
-      u"<TABLE style=border-Collapse:Collapse bgcolor=#ffffff bordercolor=#000000 cellspacing=0 "
-      "cellpadding=0 BORDER=1 WIDTH=100%>"_s,
-      heads, row({u"03.01.26"_s, u"Соль"_s, u"пач."_s, u"0"_s, u"0.00"_s}),
-      // 1.005 less 10 per cent is 0.9045, printed and taken back as 0.90.
-      row({u"22.11.26"_s, u"Чай <чёрный> & Ко"_s, u"кг"_s, u"0.125"_s, u"0.11"_s}),
-      row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3.5"_s, u"192.96"_s}),
-      row({u"ИТОГО:"_s, {}, {}, u"3.625"_s, u"193.07"_s}, u"VALING"_s, true), u"<tr>"_s,
-      u"</center></table><p></p>"_s, u"</body></html>"_s};
+  const ReportTable table{{5, 30, 10, 10, 10}, 2};
+  const QStringList expected =
+      ReportStart(u"Отчет по продажам"_s, u"ВСЕ СКЛАДЫ"_s) +
+      QStringList{
+          table.Heads({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s}),
+          table.Row({u"03.01.26"_s, u"Соль"_s, u"пач."_s, u"0"_s, u"0.00"_s}),
+          // 1.005 less 10 per cent is 0.9045, printed and taken back as 0.90.
+          table.Row({u"22.11.26"_s, u"Чай <чёрный> & Ко"_s, u"кг"_s, u"0.125"_s, u"0.11"_s}),
+          table.Row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3.5"_s, u"192.96"_s}),
+          table.Total({u"ИТОГО:"_s, {}, {}, u"3.625"_s, u"193.07"_s})} +
+      ReportEnd();
   EXPECT_EQ(PageLines(SalesReportPage(*report, scope)), expected);
 }
 
@@ -120,10 +103,14 @@ TEST_F(Reports, SpeedAddsUpItemsByTheirExactNameAndKeepsALoneQuantityAsWritten) 
   EXPECT_EQ(report->rows[1].quantity, u"1.50"_s);
   EXPECT_EQ(report->rows[1].profit, 4.5) << "an empty cost counts as 0";
   const QStringList page = PageLines(SpeedReportPage(*report, scope));
-  EXPECT_TRUE(page[page.size() - 4].startsWith(u"<tr><TD WIDTH=25% VALING=TOP>"_s));
-  EXPECT_TRUE(page[page.size() - 4].contains(u"<b>4.5&nbsp;</b>"_s));
-  EXPECT_TRUE(page[page.size() - 4].contains(u"<b>10.51&nbsp;</b>"_s));
-  EXPECT_TRUE(page[page.size() - 4].contains(u"<b>3.26&nbsp;</b>"_s));
+  const ReportTable table{{25, 10, 10, 10, 10}, 1};
+  EXPECT_EQ(page, ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s) +
+                      QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s,
+                                               u"Реализация"_s, u"Прибыль"_s}),
+                                  table.Row({u"Чай"_s, u"пач."_s, u"3"_s, u"6.01"_s, u"-1.24"_s}),
+                                  table.Row({u"чай"_s, u"кг"_s, u"1.50"_s, u"4.50"_s, u"4.50"_s}),
+                                  table.Total({u"ИТОГО:"_s, {}, u"4.5"_s, u"10.51"_s, u"3.26"_s})} +
+                      ReportEnd());
 }
 
 TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
@@ -135,23 +122,15 @@ TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
       Scope(kAllWarehouses.toString(), PeriodKind::kRange, QDate(2026, 11, 5), QDate(2026, 11, 6));
   const auto report = CollectFlow(temp.Data(), session, scope);
   const QStringList page = PageLines(FlowReportPage(*report, scope));
-  const auto row = [](const QStringList& v, bool total = false) {
-    const QString b = total ? u"<b>"_s : QString();
-    const QString e = total ? u"</b>"_s : QString();
-    QString html = u"<tr><TD WIDTH=25% "_s + (total ? u"VALING"_s : u"VALIGN"_s) +
-                   u"=TOP><FONT FACE=Arial SIZE=3>"_s + b + u"&nbsp;"_s + v[0] + e +
-                   u"</FONT></TD>"_s;
-    for (int i = 1; i < 4; ++i) {
-      html += u"<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=3>"_s + b + v[i] +
-              u"&nbsp;"_s + e + u"</FONT></TD>"_s;
-    }
-    return QString(html + u"</tr>"_s);
-  };
-  EXPECT_EQ(page[3], u"<FONT FACE=Arial SIZE=3>Период: с 05.11.2026 по 06.11.2026</FONT><br>"_s);
-  EXPECT_EQ(page.mid(8, 3),
-            (QStringList{row({u"05.11.26"_s, u"100.75"_s, u"40.00"_s, u"-60.75"_s}),
-                         row({u"06.11.26"_s, u"0.00"_s, u"7.50"_s, u"7.50"_s}),
-                         row({u"ИТОГО:"_s, u"100.75"_s, u"47.50"_s, u"-53.25"_s}, true)}));
+  const ReportTable table{{25, 10, 10, 10}, 1};
+  EXPECT_EQ(page, ReportStart(u"Отчет по поступлению/реализации товара"_s, u"ВСЕ СКЛАДЫ"_s,
+                              u"Период: с 05.11.2026 по 06.11.2026"_s) +
+                      QStringList{
+                          table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
+                          table.Row({u"05.11.26"_s, u"100.75"_s, u"40.00"_s, u"-60.75"_s}),
+                          table.Row({u"06.11.26"_s, u"0.00"_s, u"7.50"_s, u"7.50"_s}),
+                          table.Total({u"ИТОГО:"_s, u"100.75"_s, u"47.50"_s, u"-53.25"_s})} +
+                      ReportEnd());
 }
 
 TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {

@@ -26,6 +26,7 @@ sprTovar::sprTovar(AppContext& context, QWidget* parent)
       change_(NewCommand(this, u"change"_s, u"&Изменить"_s, IconName::kChange)),
       remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
       sort_(NewCommand(this, u"sort"_s, u"&Сортировка"_s, IconName::kSort)),
+      chart_(NewCommand(this, u"chart"_s, u"Гра&фик..."_s, IconName::kChart)),
       Command7(NewCommand(this, u"Command7"_s, u"&Выбрать"_s, IconName::kPick)),
       Command9(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
       up_(NewMove(u"up"_s, u"Порядок: вверх"_s, Qt::Key_Up, true)),
@@ -46,6 +47,7 @@ sprTovar::sprTovar(AppContext& context, PickFor pick_for, QWidget* parent)
   setAttribute(Qt::WA_DeleteOnClose);
   resize(100 * look::kGrid, 70 * look::kGrid);
   Command7->show();
+  chart_->hide();
 }
 
 QAction* sprTovar::NewMove(const QString& name, const QString& caption, Qt::Key key, bool up) {
@@ -63,7 +65,7 @@ void sprTovar::BuildLayout() {
   browser_->Filter()->Row()->addSpacing(look::kGrid);
   browser_->Filter()->Row()->addWidget(order);
   auto* commands = new QHBoxLayout;
-  for (QPushButton* command : {add_, change_, remove_, sort_}) commands->addWidget(command);
+  for (QPushButton* command : {add_, change_, remove_, sort_, chart_}) commands->addWidget(command);
   commands->addStretch();
   commands->addWidget(Command7);
   commands->addWidget(Command9);
@@ -78,6 +80,7 @@ void sprTovar::Wire() {
   connect(change_, &QPushButton::clicked, this, &sprTovar::Change);
   connect(remove_, &QPushButton::clicked, this, &sprTovar::Remove);
   connect(sort_, &QPushButton::clicked, this, &sprTovar::Sort);
+  connect(chart_, &QPushButton::clicked, this, &sprTovar::AskForChart);
   connect(Command7, &QPushButton::clicked, this, &sprTovar::Choose);
   connect(Command9, &QPushButton::clicked, this, &sprTovar::CloseSaved);
   RecordList* list = browser_->List();
@@ -170,6 +173,11 @@ void sprTovar::Choose() {
   if (!pick) return;
   emit Picked(*pick);
   close();
+}
+
+void sprTovar::AskForChart() {
+  const GoodsRecord* record = browser_->Selected();
+  if (record != nullptr && !record->IsGroup()) emit ChartWanted(record->name);
 }
 
 void sprTovar::CloseSaved() {

@@ -29,6 +29,8 @@ class sprTovar : public QWidget {
 
  signals:
   void Picked(const GoodsPick& pick);
+  // A chart of the selected goods is asked for.
+  void ChartWanted(const QString& goods);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -44,6 +46,7 @@ class sprTovar : public QWidget {
   void Sort();
   void Move(bool up);
   void Choose();
+  void AskForChart();
   void ChangeOrChoose();
   void CloseSaved();
   void ChooseView(GoodsView view);
@@ -58,6 +61,7 @@ class sprTovar : public QWidget {
   QPushButton* change_;   // "Изменить"
   QPushButton* remove_;   // "Удалить"
   QPushButton* sort_;     // "Сортировка"
+  QPushButton* chart_;    // "График..."
   QPushButton* Command7;  // "Выбрать"
   QPushButton* Command9;  // "Закрыть"
   QAction* up_;           // "Порядок: вверх"

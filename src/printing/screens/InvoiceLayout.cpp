@@ -209,8 +209,8 @@ void InvoiceScreen::BuildCommands(QVBoxLayout* layout) {
   Command2 = NewCommand(this, u"Command2"_s, u"О&тмена"_s);
   Command5 = NewCommand(this, u"Command5"_s, u"Справка"_s, look::IconName::kHint);
   Command5->setShortcut(QKeySequence::HelpContents);
-  AddTwin(u"Command3"_s, Command1);
-  AddTwin(u"Command4"_s, Command2);
+  AddTwin(this, u"Command3"_s, Command1);
+  AddTwin(this, u"Command4"_s, Command2);
   QBoxLayout* row = NewEndingRow(Command1, Command2);
   row->insertWidget(0, Command5);
   row->setContentsMargins(look::kMargin, 0, look::kMargin, 0);

@@ -1,13 +1,12 @@
 #include "printing/screens/PrintScreen.h"
 
-#include <QCoreApplication>
 #include <QFocusEvent>
-#include <QPushButton>
 #include <QTimer>
 #include <algorithm>
 
 #include "formats/TextLines.h"
 #include "printing/InputError.h"
+#include "printing/screens/CloseAndShow.h"
 #include "shell/Hints.h"
 #include "shell/controls/Fields.h"
 #include "shell/controls/Guard.h"
@@ -70,13 +69,7 @@ bool PrintScreen::LeaveRates() {
 
 void PrintScreen::PrintPage(const QString& file, const std::function<QByteArray()>& page) {
   if (!LeaveRates()) return;
-  const PrintOutDesk& desk = context_.print_outs;
-  Guarded(this, [&] {
-    desk.Write(file, page());
-    accept();
-    QCoreApplication::processEvents();
-    desk.OpenPrintOut(file);
-  });
+  Guarded(this, [&] { CloseAndShow(*this, context_.print_outs, file, page()); });
 }
 
 Currency PrintScreen::TheCurrency() const {
@@ -90,14 +83,6 @@ QString PrintScreen::FirstFirm() const {
 
 HintPicture* PrintScreen::NewHint(QStringView place) {
   return new HintPicture(HintFor(objectName(), place), this);
-}
-
-void PrintScreen::AddTwin(const QString& name, QPushButton* of) {
-  auto* twin = new QPushButton(this);
-  twin->setObjectName(name);
-  twin->setAutoDefault(false);
-  twin->hide();
-  connect(twin, &QPushButton::clicked, of, &QPushButton::click);
 }
 
 }  // namespace kladez

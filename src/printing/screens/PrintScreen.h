@@ -50,8 +50,6 @@ class PrintScreen : public QDialog {
   Currency TheCurrency() const;  // as currency.usd has it now
   QString FirstFirm() const;     // first line of the firms' directory
   HintPicture* NewHint(QStringView place);
-  // The hidden twin of a command, as every print screen has for its keys.
-  void AddTwin(const QString& name, QPushButton* of);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -88,8 +88,8 @@ void WaybillScreen::Build() {
 
   Command1 = NewCommand(this, u"Command1"_s, u"&Печать"_s, look::IconName::kPrint);
   Command2 = NewCommand(this, u"Command2"_s, u"О&тмена"_s);
-  AddTwin(u"Command3"_s, Command1);
-  AddTwin(u"Command4"_s, Command2);
+  AddTwin(this, u"Command3"_s, Command1);
+  AddTwin(this, u"Command4"_s, Command2);
   layout->addLayout(NewEndingRow(Command1, Command2));
   Text1->setMinimumWidth(86 * look::kGrid);
 

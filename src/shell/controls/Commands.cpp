@@ -19,6 +19,12 @@ QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& cap
   return button;
 }
 
+void AddTwin(QWidget* parent, const QString& name, QPushButton* of) {
+  QPushButton* twin = NewCommand(parent, name, {});
+  twin->hide();
+  QObject::connect(twin, &QPushButton::clicked, of, &QPushButton::click);
+}
+
 QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no) {
   auto* row = new QHBoxLayout;
   row->setSpacing(look::kGrid);

@@ -15,6 +15,9 @@ QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& cap
 QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& caption,
                         look::IconName icon);
 
+// The hidden twin of a command that screens have for their keys: pressing it presses the command.
+void AddTwin(QWidget* parent, const QString& name, QPushButton* of);
+
 // The two that end a dialog, at the lower right: `yes` is the default command and `no` the one of
 // the Escape key, where there is one.
 QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no);

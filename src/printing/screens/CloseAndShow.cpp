@@ -1,0 +1,18 @@
+#include "printing/screens/CloseAndShow.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+
+#include "printing/PrintOutDesk.h"
+
+namespace kladez {
+
+void CloseAndShow(QDialog& screen, const PrintOutDesk& desk, const QString& file,
+                  const QByteArray& page) {
+  desk.Write(file, page);
+  screen.accept();
+  QCoreApplication::processEvents();
+  desk.OpenPrintOut(file);
+}
+
+}  // namespace kladez

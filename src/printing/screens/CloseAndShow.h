@@ -1,0 +1,18 @@
+// How every print command ends: the page is written, the screen closes, the print-out is opened, in
+// this order.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QDialog;
+
+namespace kladez {
+
+class PrintOutDesk;
+
+// Throws filesystem_error when the page can't be written; the screen stays open then.
+void CloseAndShow(QDialog& screen, const PrintOutDesk& desk, const QString& file,
+                  const QByteArray& page);
+
+}  // namespace kladez

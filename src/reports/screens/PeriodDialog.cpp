@@ -1,0 +1,71 @@
+#include "reports/screens/PeriodDialog.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+
+#include "reports/ReportScope.h"
+#include "shell/Help.h"
+#include "shell/Hints.h"
+#include "shell/controls/Commands.h"
+#include "shell/controls/Forms.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidget* parent)
+    : QDialog(parent), context_(context) {
+  setObjectName(texts.name.toString());
+  setWindowTitle(texts.caption.toString());
+  Combo1 =
+      new TextChoice(context.session.SkladNames + QStringList{kAllWarehouses.toString()}, this);
+  Combo1->setObjectName(u"Combo1"_s);
+  Combo1->setMinimumContentsLength(28);
+  Combo1->setCurrentIndex(Combo1->count() - 1);
+  auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), this);
+  hint->setObjectName(u"Picture5"_s);
+  fields_ = new QGridLayout;
+  fields_->setSpacing(look::kGrid);
+  fields_->setColumnStretch(1, 1);
+  fields_->addWidget(NewLabel(u"&Склад:"_s, Combo1, this), 0, 0);
+  fields_->addWidget(Combo1, 0, 1);
+  fields_->addWidget(hint, 0, 2);
+  frame_ = NewFrame();
+
+  Command1 = NewCommand(this, u"Command1"_s, texts.yes.toString());
+  Command2 = NewCommand(this, u"Command2"_s, texts.no.toString());
+  auto* help = NewCommand(this, u"help"_s, u"Справка"_s, look::IconName::kHint);
+  help->setShortcut(QKeySequence::HelpContents);
+  auto* ending = NewEndingRow(Command1, Command2);
+  ending->insertWidget(0, help);
+
+  auto* layout = new QVBoxLayout(this);
+  look::SetDialogMargins(layout);
+  layout->addLayout(fields_);
+  layout->addSpacing(look::kGrid);
+  layout->addWidget(frame_);
+  layout->addStretch();
+  layout->addSpacing(look::kGrid);
+  layout->addLayout(ending);
+  setMinimumWidth(56 * look::kGrid);
+
+  connect(Command1, &QPushButton::clicked, this, [this] { Ok(); });
+  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  connect(help, &QPushButton::clicked, this,
+          [this, page = texts.help] { OpenHelpPage(this, context_.data, page); });
+}
+
+QGroupBox* PeriodDialog::NewFrame() {
+  // The question mark stands in the blanks before the word.
+  auto* frame = new QGroupBox(u"     Документы"_s, this);
+  frame->setObjectName(u"Frame1"_s);
+  auto* hint = new HintPicture(HintFor(objectName(), u"Документы"), frame);
+  hint->setObjectName(u"Picture1"_s);
+  hint->setFixedSize(2 * look::kGrid + look::kTight, 2 * look::kGrid + look::kTight);
+  hint->move(look::kTight, 0);
+  return frame;
+}
+
+QString PeriodDialog::Warehouse() const { return Combo1->currentText(); }
+
+}  // namespace kladez
