@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "directories/screens/sprtovar2.h"
+#include "formats/Numbers.h"
 #include "reports/screens/graphic.h"
 #include "shell/Hints.h"
 #include "shell/controls/Commands.h"
@@ -95,7 +96,7 @@ QString ChartDialog::Goods() const { return Text1 != nullptr ? Text1->text() : Q
 ChartScope ChartDialog::Scope() const {
   return {.warehouse = Warehouse(),
           .by_day = Option2->isChecked(),
-          .year = Combo2->currentText().toInt(),
+          .year = static_cast<int>(NumberOr(Combo2->currentText())),
           .month = Combo3->currentIndex() + 1};
 }
 

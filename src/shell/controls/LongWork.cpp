@@ -106,11 +106,18 @@ bool LongWork::BelongsToBar(QObject* object) const {
   return widget != nullptr && widget->window() == bar_window_.get();
 }
 
+bool LongWork::StandsOn(const QWidget* window) const {
+  for (const QWidget* below = parent_; below != nullptr; below = below->parentWidget()) {
+    if (below == window) return window->isWindow();
+  }
+  return false;
+}
+
 bool LongWork::eventFilter(QObject* watched, QEvent* event) {
   if (IsInput(event->type())) return !BelongsToBar(watched);
   if (event->type() == QEvent::Close) {
     auto* window = qobject_cast<QWidget*>(watched);
-    if (window == nullptr || !window->isWindow() || window == bar_window_.get()) return false;
+    if (window == nullptr || !StandsOn(window)) return false;
     to_close_ = window;
     ended_ = true;
     event->ignore();

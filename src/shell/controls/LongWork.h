@@ -40,6 +40,8 @@ class LongWork : public QObject {
   bool Advance(double part);
   void ShowBar();
   bool BelongsToBar(QObject* object) const;
+  // Whether the window is behind the bar, and not some tip or menu.
+  bool StandsOn(const QWidget* window) const;
 
   QWidget* parent_;
   const QString doing_;
