@@ -96,7 +96,7 @@ QString ChartDialog::Goods() const { return Text1 != nullptr ? Text1->text() : Q
 ChartScope ChartDialog::Scope() const {
   return {.warehouse = Warehouse(),
           .by_day = Option2->isChecked(),
-          .year = static_cast<int>(NumberOr(Combo2->currentText())),
+          .year = static_cast<int>(NumberOr(Combo2->Chosen())),
           .month = Combo3->currentIndex() + 1};
 }
 

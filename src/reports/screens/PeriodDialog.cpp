@@ -66,6 +66,6 @@ QGroupBox* PeriodDialog::NewFrame() {
   return frame;
 }
 
-QString PeriodDialog::Warehouse() const { return Combo1->currentText(); }
+QString PeriodDialog::Warehouse() const { return Combo1->Chosen(); }
 
 }  // namespace kladez
