@@ -6,11 +6,44 @@
 #include "directories/screens/sprSklad.h"
 #include "directories/screens/sprTovar.h"
 #include "directories/screens/sprklient.h"
+#include "prices/screens/Price.h"
+#include "reports/screens/otgr.h"
+#include "reports/screens/otppr.h"
+#include "reports/screens/otpruh.h"
+#include "reports/screens/otrpt.h"
+#include "reports/screens/otspeed.h"
+#include "stock/screens/Sklad.h"
+#include "stock/screens/TovPrih.h"
+#include "stock/screens/TovUhod.h"
+#include "stock/screens/ost.h"
+#include "stock/screens/vnutr.h"
 
 namespace kladez {
 
 QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
   switch (place) {
+    case Place::kStock:
+      return new Sklad(context, parent);
+    case Place::kReceipts:
+      return new TovPrih(context, parent);
+    case Place::kShipments:
+      return new TovUhod(context, parent);
+    case Place::kTransfers:
+      return new vnutr(context, parent);
+    case Place::kPrices:
+      return new Price(context, parent);
+    case Place::kOpening:
+      return new ost(context, parent);
+    case Place::kSalesReport:
+      return new otppr(context, parent);
+    case Place::kSpeedReport:
+      return new otrpt(context, parent);
+    case Place::kSalesChart:
+      return new otgr(context, parent);
+    case Place::kGoodsChart:
+      return new otspeed(context, {}, parent);
+    case Place::kFlowReport:
+      return new otpruh(context, parent);
     case Place::kFirms:
       return new sprFirm(context, parent);
     case Place::kGoods:
@@ -23,9 +56,10 @@ QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
       return new sprSklad(context, parent);
     case Place::kCurrency:
       return new currenc(context, parent);
-    default:
+    case Place::kHome:
       return nullptr;
   }
+  return nullptr;
 }
 
 }  // namespace kladez
