@@ -39,21 +39,18 @@ QByteArray ManifestBytes(std::span<const SaveSet::Change> changes, const QByteAr
   return bytes.append(kEnd);
 }
 
-std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArray& root) {
-  QFile in(QFile::decodeName(file));
-  const auto refuse = [&] {
-    ThrowFileError(u"Не удалось прочитать список прерванной записи"_s, in.fileName(), EIO);
-  };
-  if (!in.open(QIODevice::ReadOnly)) refuse();
-  const QList<QByteArray> fields = in.readAll().split(kEndOfField);
-  if (fields.last() != kEnd || fields.size() % kFields != 1) refuse();
+std::optional<std::vector<SaveSet::Change>> ParseManifest(const QByteArray& bytes,
+                                                          const QByteArray& root) {
+  const QList<QByteArray> fields = bytes.split(kEndOfField);
+  if (fields.last() != kEnd || fields.size() % kFields != 1) return std::nullopt;
   std::vector<SaveSet::Change> changes;
   for (qsizetype i = 0; i + 1 < fields.size(); i += kFields) {
-    const int kind = fields[i].toInt();
+    bool number = false;
+    const int kind = fields[i].toInt(&number);
     const bool rename = kind == static_cast<int>(Kind::kRename);
-    if (kind < 0 || kind > static_cast<int>(Kind::kLast) || !LiesInside(fields[i + 1]) ||
+    if (!number || kind < 0 || kind > static_cast<int>(Kind::kLast) || !LiesInside(fields[i + 1]) ||
         (rename && !LiesInside(fields[i + 2]))) {
-      refuse();
+      return std::nullopt;
     }
     changes.push_back({.kind = static_cast<Kind>(kind),
                        .path = root + '/' + fields[i + 1],
@@ -62,6 +59,14 @@ std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArr
                        .bytes = {}});
   }
   return changes;
+}
+
+std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArray& root) {
+  QFile in(QFile::decodeName(file));
+  if (in.open(QIODevice::ReadOnly)) {
+    if (auto changes = ParseManifest(in.readAll(), root)) return *std::move(changes);
+  }
+  ThrowFileError(u"Не удалось прочитать список прерванной записи"_s, in.fileName(), EIO);
 }
 
 }  // namespace kladez

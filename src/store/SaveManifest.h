@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -12,7 +13,11 @@ namespace kladez {
 // Paths are kept relative to `root`, the data directory, which may have another name after a crash.
 QByteArray ManifestBytes(std::span<const SaveSet::Change> changes, const QByteArray& root);
 
-// Throws filesystem_error where the file can't be read, is cut, or names a path outside `root`.
+// Nothing where the bytes are cut or name a path outside `root`.
+std::optional<std::vector<SaveSet::Change>> ParseManifest(const QByteArray& bytes,
+                                                          const QByteArray& root);
+
+// The manifest in a file. Throws filesystem_error where it can't be read or is damaged.
 std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArray& root);
 
 }  // namespace kladez

@@ -1,0 +1,188 @@
+#include "Targets.h"
+
+#include <QTemporaryDir>
+#include <cmath>
+#include <stdexcept>
+
+#include "formats/CurrencyFile.h"
+#include "formats/Dates.h"
+#include "formats/DescriptorFile.h"
+#include "formats/GoodsFile.h"
+#include "formats/LedgerFile.h"
+#include "formats/Numbers.h"
+#include "formats/Ordering.h"
+#include "formats/PartyFile.h"
+#include "formats/PriceFile.h"
+#include "formats/TextLines.h"
+#include "printing/AmountInWords.h"
+#include "stock/DocumentScan.h"
+#include "stock/StockLedger.h"
+#include "store/Errors.h"
+#include "store/SaveManifest.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void Require(bool holds, const char* promise) {
+  if (!holds) throw std::logic_error(promise);
+}
+
+// What a reader makes of any bytes, its writer writes in a form that is read as the same.
+template <typename Read, typename Write>
+void RequireStable(QByteArrayView bytes, const Read& read, const Write& write) {
+  const auto records = read(bytes);
+  Require(read(write(records)) == records, "what was read is written and read as the same");
+}
+
+void Lines(QByteArrayView bytes) {
+  RequireStable(bytes, DecodeLines, EncodeLines);
+  const bool whole = bytes.isEmpty() || bytes.endsWith("\r\n");
+  Require(!whole || EncodeLines(DecodeLines(bytes)) == bytes, "no byte of a whole file is lost");
+}
+
+void Goods(QByteArrayView bytes) { RequireStable(bytes, ReadGoods, WriteGoods); }
+
+void Prices(QByteArrayView bytes) { RequireStable(bytes, ReadPrices, WritePrices); }
+
+void Ledger(QByteArrayView bytes) {
+  RequireStable(bytes, ReadLedger, WriteLedger);
+  const std::vector<LedgerRecord> records = ReadLedger(bytes);
+  StockLedger ledger(bytes.toByteArray());
+  ledger.Post(Posting::kReceive, records);
+  ledger.Post(Posting::kIssue, records);
+  Require(DecodeLines(ledger.Bytes()).size() >= DecodeLines(bytes).size(),
+          "a posting loses no line");
+}
+
+template <PartyKind kind>
+void Parties(QByteArrayView bytes) {
+  const auto read = [](QByteArrayView view) { return ReadParties(kind, view); };
+  RequireStable(bytes, read, WriteParties);
+}
+
+template <DocumentKind kind>
+void Documents(QByteArrayView bytes) {
+  const auto read = [](QByteArrayView view) { return ReadDocument(kind, view); };
+  const auto write = [](const Document& document) { return WriteDocument(kind, document); };
+  RequireStable(bytes, read, write);
+  const Document whole = read(bytes);
+  Require(ReadDocumentHead(kind, bytes) == whole.head, "the head alone is the document's head");
+  const QString file = u"0001"_s;
+  ScannedDocument scanned(FormatOf(kind), file, bytes);
+  size_t lines = 0;
+  for (; scanned.NextLine(); ++lines) {
+    Require(lines < whole.lines.size() &&
+                DecodeText(scanned.Line(&DocumentLine::name)) == whole.lines[lines].name,
+            "the scanner sees the lines that the reader reads");
+  }
+  Require(lines + (scanned.IsCut() ? 1 : 0) >= whole.lines.size(), "the scanner misses no line");
+}
+
+void Currencies(QByteArrayView bytes) { RequireStable(bytes, ReadCurrency, WriteCurrency); }
+
+void Descriptors(QByteArrayView bytes) { RequireStable(bytes, ReadDescriptor, WriteDescriptor); }
+
+void Backups(QByteArrayView bytes) { RequireStable(bytes, ReadBackupIndex, WriteBackupIndex); }
+
+void Manifests(QByteArrayView bytes) {
+  const QByteArray root = "/root";
+  const auto changes = ParseManifest(bytes.toByteArray(), root);
+  if (!changes) return;
+  for (const SaveSet::Change& change : *changes) {
+    for (const QByteArray& path : {change.path, change.to}) {
+      Require(path.isEmpty() || (path.startsWith("/root/") && !path.contains("/../")),
+              "a manifest names paths inside the data directory only");
+    }
+  }
+  const auto again = ParseManifest(ManifestBytes(*changes, root), root);
+  Require(again && again->size() == changes->size(), "a manifest is read as it was written");
+}
+
+void Paths(QByteArrayView bytes) {
+  static const QTemporaryDir directory;
+  static const DataDir data(directory.path());
+  IgnoreErrors([&] {
+    const QString path = data.Resolve(QString::fromUtf8(bytes));
+    Require(path.startsWith(data.Root() + u'/') && !path.endsWith(u"/.."_s) &&
+                !path.contains(u"/../"_s) && !path.contains(QChar(0)),
+            "no path leads out of the data directory");
+  });
+}
+
+void CheckPictures(double value) {
+  const QString general = GeneralText(value);
+  const auto read = ParseStrict(general);
+  Require(read && std::fabs(*read - value) <= std::fabs(value) * 1e-14, "a number is read again");
+  const QString money = FormatMoney(value);
+  Require(ParseStrict(money).has_value(), "money is a number");
+  Require(ParseStrict(money) == ParseStrict(FormatGrouped(value)), "grouping changes no number");
+  Require(FormatMoney(RoundMoney(value)) == money, "rounding twice is rounding once");
+  Require(money != u"-0.00"_s, "zero has no sign");
+}
+
+void Numbers(QByteArrayView bytes) {
+  const QString text = QString::fromLatin1(bytes);
+  Require(ParseStrict(bytes) == ParseStrict(text), "bytes and text are one number");
+  Require(NumberOr(bytes, 7) == NumberOr(text, 7), "bytes and text are one number, or none");
+  const QString number = ToNumberOr(text);
+  Require(ParseStrict(number).has_value(), "ToNumberOr gives a number");
+  Require(*ParseStrict(number) == NumberOr(text), "NumberOr is ToNumberOr as a number");
+  Require(std::isfinite(ParseLenient(text)), "the lenient parse always gives a number");
+  CheckPictures(ParseLenient(text));
+  if (bytes.size() >= 8) {
+    double value;
+    std::memcpy(&value, bytes.data(), sizeof value);
+    if (std::isfinite(value) && std::fabs(value) < 1e300) CheckPictures(value);
+  }
+}
+
+void Dates(QByteArrayView bytes) {
+  const QString text = DecodeText(bytes);
+  const auto date = ParseDate(text);
+  Require(date == ParseDate(bytes), "bytes and text are one date");
+  Require(!date || ParseDate(DateText(*date)) == date, "a date is read as it was written");
+}
+
+void Names(QByteArrayView bytes) {
+  const qsizetype half = bytes.size() / 2;
+  const QString a = DecodeText(bytes.first(half));
+  const QString b = DecodeText(bytes.sliced(half));
+  Require(OrderKey(FoldCase(a)) == OrderKey(a), "letter case does not change the order");
+  Require((OrderKey(a) == OrderKey(b)) == (FoldCase(a) == FoldCase(b)),
+          "what differs has an order");
+}
+
+void Words(QByteArrayView bytes) {
+  const QString amount = DecodeText(bytes);
+  Require(!AmountInWords(amount, RoubleCurrency()).isEmpty(), "every amount has words");
+  Require(!AmountInWords(amount, ReadCurrency(bytes)).isNull(), "in any currency");
+}
+
+constexpr FuzzTarget kTargets[] = {
+    {"lines", Lines},
+    {"goods", Goods},
+    {"prices", Prices},
+    {"ledger", Ledger},
+    {"firms", Parties<PartyKind::kFirm>},
+    {"partners", Parties<PartyKind::kClient>},
+    {"receipts", Documents<DocumentKind::kReceipt>},
+    {"shipments", Documents<DocumentKind::kShipment>},
+    {"transfers", Documents<DocumentKind::kTransfer>},
+    {"currency", Currencies},
+    {"descriptor", Descriptors},
+    {"backup", Backups},
+    {"manifest", Manifests},
+    {"paths", Paths, false},
+    {"numbers", Numbers, false},
+    {"dates", Dates, false},
+    {"names", Names, false},
+    {"words", Words, false},
+};
+
+}  // namespace
+
+std::span<const FuzzTarget> FuzzTargets() { return kTargets; }
+
+}  // namespace kladez
