@@ -67,7 +67,7 @@ TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {
 
   otgr by_day(Context());
   ShowActive(&by_day);
-  Click(&by_day, "Option2");
+  Find<QRadioButton>(&by_day, "Option2")->click();
   EXPECT_TRUE(Find<QComboBox>(&by_day, "Combo3")->isEnabled());
   EXPECT_TRUE(Find<QComboBox>(&by_day, "Combo2")->isEnabled());
   Find<QComboBox>(&by_day, "Combo2")->setCurrentText(u"2025"_s);
@@ -137,7 +137,7 @@ TEST_F(ChartScreens, OptionsChangeTheKindByTheirNumbers) {
   EXPECT_EQ(static_cast<int>(chart->kind()), 0);
   for (const auto& [option, kind] :
        {std::pair("Option4", 3), std::pair("Option3", 1), std::pair("Option2", 2)}) {
-    Click(&screen, option);
+    Find<QRadioButton>(&screen, option)->click();
     EXPECT_EQ(static_cast<int>(chart->kind()), kind) << option;
   }
 }
@@ -146,7 +146,7 @@ TEST_F(ChartScreens, PrintedChartIsThePictureOnThePage) {
   Temp().Put(u"temp.gif"_s, "the chart of yesterday");
   graphic screen(Context(), TeaGrid());
   ShowActive(&screen);
-  Click(&screen, "Option3");
+  Find<QRadioButton>(&screen, "Option3")->click();
   Click(&screen, "GoldButton1");
   EXPECT_EQ(ViewerStarts(), 1);
   EXPECT_TRUE(screen.isVisible());

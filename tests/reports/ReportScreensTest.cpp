@@ -42,7 +42,7 @@ class ReportScreens : public testing::Test, protected ScreenWorld {
   }
 
   static std::function<void(QWidget*)> Choose(const char* option) {
-    return [option](QWidget* screen) { Click(screen, option); };
+    return [option](QWidget* screen) { Find<QRadioButton>(screen, option)->click(); };
   }
 
  private:
@@ -50,15 +50,14 @@ class ReportScreens : public testing::Test, protected ScreenWorld {
 };
 
 TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {
-  const otppr sales(Context());
-  const otrpt speed(Context());
-  const otpruh flow(Context());
-  const std::vector<std::tuple<const QDialog*, QString, QString>> screens = {
+  otppr sales(Context());
+  otrpt speed(Context());
+  otpruh flow(Context());
+  const std::vector<std::tuple<QDialog*, QString, QString>> screens = {
       {&sales, u"otppr"_s, u"Отчет по продажам"_s},
       {&speed, u"otrpt"_s, u"Скорость реализации"_s},
       {&flow, u"otpruh"_s, u"Отчет по поступлению/реализации"_s}};
-  for (const auto& [screen, name, caption] : screens) {
-    auto* dialog = const_cast<QDialog*>(screen);
+  for (const auto& [dialog, name, caption] : screens) {
     EXPECT_EQ(dialog->objectName(), name);
     EXPECT_EQ(dialog->windowTitle(), caption);
     auto* warehouses = Find<QComboBox>(dialog, "Combo1");
@@ -92,7 +91,7 @@ TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
   const ReportTable table{{25, 10, 10, 10}, 1};
   const auto choose = [](QWidget* screen) {
     Find<QComboBox>(screen, "Combo1")->setCurrentIndex(1);
-    Click(screen, "range");
+    Find<QRadioButton>(screen, "range")->click();
     Find<QDateEdit>(screen, "from")->setDate(QDate(2026, 10, 1));
   };
   EXPECT_EQ(

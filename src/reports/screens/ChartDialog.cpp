@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 #include "directories/screens/sprtovar2.h"
 #include "formats/Numbers.h"

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QVBoxLayout>
 
 #include "reports/ReportScope.h"
 #include "shell/Help.h"

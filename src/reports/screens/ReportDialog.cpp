@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 #include "printing/screens/CloseAndShow.h"
 #include "shell/controls/Forms.h"
