@@ -8,8 +8,12 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 
+#include "formats/Numbers.h"
+#include "reports/SalesFigures.h"
+#include "reports/screens/ChartWidget.h"
 #include "shell/Hints.h"
 #include "shell/Link.h"
+#include "shell/controls/LongWork.h"
 
 namespace kladez {
 namespace {
@@ -57,7 +61,6 @@ Main::Main(AppContext& context, QWidget* parent) : QWidget(parent), context_(con
   layout->addWidget(figures_, 1);
   layout->addStretch(0);
   layout->addLayout(NewOptions());
-  Activate();
 }
 
 QWidget* Main::NewLinks(PlaceGroup group) {
@@ -102,10 +105,12 @@ QWidget* Main::NewFigures() {
   auto* chart_head = new QHBoxLayout;
   chart_head->addWidget(NewHeading(u"График продаж за месяц по дням", card), 1);
   chart_head->addWidget(AddHint(u"Picture4", card));
-  MSChart1 = new QWidget(card);
+  MSChart1 = new ChartWidget(card);
   MSChart1->setObjectName(u"MSChart1"_s);
   Picture3 = new QWidget(MSChart1);
   Picture3->setObjectName(u"Picture3"_s);
+  Picture3->setAutoFillBackground(true);
+  Picture3->setBackgroundRole(QPalette::Base);
   auto* cover = new QVBoxLayout(MSChart1);
   cover->setContentsMargins(0, 0, 0, 0);
   cover->addWidget(Picture3);
@@ -190,7 +195,25 @@ void Main::ClickTip() {
   for (HintPicture* hint : hints_) hint->setVisible(Check1->isChecked());
 }
 
-void Main::ClickReport() { figures_->setVisible(false); }
+void Main::ClickReport() {
+  figures_->setVisible(Check2->isChecked());
+  if (Check2->isChecked()) ShowFigures();
+}
+
+void Main::ShowFigures() {
+  for (QLabel* sum : {Label18, Label20, Label15}) sum->setText(u"..."_s);
+  Picture3->show();
+  LongWork work(this, u"Подсчитываются продажи..."_s);
+  const auto figures =
+      CollectSalesFigures(context_.data, context_.session, context_.clock.Today(), work.Callback());
+  // Sums of some of the documents would be wrong ones.
+  if (!figures) return;
+  Label18->setText(FormatMoney(figures->day));
+  Label20->setText(FormatMoney(figures->month));
+  Label15->setText(FormatMoney(figures->year));
+  MSChart1->SetGrid(figures->by_day);
+  Picture3->hide();
+}
 
 void Main::ClickPanel() { emit PanelToggled(Check3->isChecked()); }
 

@@ -13,6 +13,7 @@ class QLabel;
 
 namespace kladez {
 
+class ChartWidget;
 class HintPicture;
 struct Setting;
 
@@ -39,6 +40,7 @@ class Main : public QWidget {
   void Store(const Setting& setting, const QCheckBox* box);
   void ClickTip();
   void ClickReport();
+  void ShowFigures();
   void ClickPanel();
 
   AppContext& context_;
@@ -51,8 +53,8 @@ class Main : public QWidget {
   QLabel* Label18;    // sold today
   QLabel* Label20;    // this month
   QLabel* Label15;    // this year
-  QWidget* MSChart1;  // the month by days
-  QWidget* Picture3;  // hides the chart until it is filled
+  ChartWidget* MSChart1;  // the month by days
+  QWidget* Picture3;      // hides the chart until it is filled
 };
 
 }  // namespace kladez

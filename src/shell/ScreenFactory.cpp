@@ -20,6 +20,19 @@
 
 namespace kladez {
 
+namespace {
+
+QWidget* NewGoodsDirectory(AppContext& context, QWidget* parent) {
+  auto* directory = new sprTovar(context, parent);
+  QObject::connect(directory, &sprTovar::ChartWanted, directory,
+                   [&context, directory](const QString& goods) {
+                     otspeed(context, goods, directory->window()).exec();
+                   });
+  return directory;
+}
+
+}  // namespace
+
 QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
   switch (place) {
     case Place::kStock:
@@ -41,13 +54,13 @@ QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
     case Place::kSalesChart:
       return new otgr(context, parent);
     case Place::kGoodsChart:
-      return new otspeed(context, {}, parent);
+      return new otspeed(context, parent);
     case Place::kFlowReport:
       return new otpruh(context, parent);
     case Place::kFirms:
       return new sprFirm(context, parent);
     case Place::kGoods:
-      return new sprTovar(context, parent);
+      return NewGoodsDirectory(context, parent);
     case Place::kSuppliers:
       return new sprPost(context, parent);
     case Place::kClients:

@@ -200,7 +200,12 @@ void frmMain::ShowHome() {
   connect(home, &Main::Chosen, this, &frmMain::Go);
   connect(home, &Main::PanelToggled, Picture1, &QWidget::setVisible);
   ShowChild(home);
-  home->Activate();
+  // At the start the window comes up first: it can be closed while the home screen counts.
+  if (isVisible()) {
+    home->Activate();
+  } else {
+    QTimer::singleShot(0, home, &Main::Activate);
+  }
 }
 
 void frmMain::ShowLanding() {
