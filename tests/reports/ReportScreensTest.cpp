@@ -78,13 +78,13 @@ TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {
 TEST_F(ReportScreens, SpeedOfTheCurrentMonthCountsThatMonthOfBothYears) {
   const ReportTable table{{25, 10, 10, 10, 10}, 1};
   EXPECT_EQ(Run<otrpt>(Choose("current_month")),
-            ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s, u"Месяц: Ноябрь"_s) +
-                QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
-                                         u"Прибыль"_s}),
-                            table.Row({u"Сахар"_s, u"кг"_s, u"3"_s, u"30.00"_s, u"6.00"_s}),
-                            table.Row({u"Чай"_s, u"пач."_s, u"2"_s, u"4.00"_s, u"1.00"_s}),
-                            table.Total({u"ИТОГО:"_s, {}, u"5"_s, u"34.00"_s, u"7.00"_s})} +
-                ReportEnd());
+            (ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s, u"Месяц: Ноябрь"_s) +
+             QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
+                                      u"Прибыль"_s}),
+                         table.Row({u"Сахар"_s, u"кг"_s, u"3"_s, u"30.00"_s, u"6.00"_s}),
+                         table.Row({u"Чай"_s, u"пач."_s, u"2"_s, u"4.00"_s, u"1.00"_s}),
+                         table.Total({u"ИТОГО:"_s, {}, u"5"_s, u"34.00"_s, u"7.00"_s})} +
+             ReportEnd()));
 }
 
 TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
@@ -94,28 +94,26 @@ TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
     Find<QRadioButton>(screen, "range")->click();
     Find<QDateEdit>(screen, "from")->setDate(QDate(2026, 10, 1));
   };
-  EXPECT_EQ(
-      Run<otpruh>(choose),
-      ReportStart(u"Отчет по поступлению/реализации товара"_s, u"Магазин"_s,
-                  u"Период: с 01.10.2026 по 22.11.2026"_s) +
-          QStringList{table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
-                      table.Row({u"01.10.26"_s, u"0.00"_s, u"70.00"_s, u"70.00"_s}),
-                      table.Row({u"22.11.26"_s, u"0.00"_s, u"30.00"_s, u"30.00"_s}),
-                      table.Total({u"ИТОГО:"_s, u"0.00"_s, u"100.00"_s, u"100.00"_s})} +
-          ReportEnd());
+  EXPECT_EQ(Run<otpruh>(choose),
+            (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"Магазин"_s,
+                         u"Период: с 01.10.2026 по 22.11.2026"_s) +
+             QStringList{table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
+                         table.Row({u"01.10.26"_s, u"0.00"_s, u"70.00"_s, u"70.00"_s}),
+                         table.Row({u"22.11.26"_s, u"0.00"_s, u"30.00"_s, u"30.00"_s}),
+                         table.Total({u"ИТОГО:"_s, u"0.00"_s, u"100.00"_s, u"100.00"_s})} +
+             ReportEnd()));
 }
 
 TEST_F(ReportScreens, SalesOfAllDocumentsComeOldestFirst) {
   const ReportTable table{{5, 30, 10, 10, 10}, 2};
-  EXPECT_EQ(
-      Run<otppr>(Choose("all")),
-      ReportStart(u"Отчет по продажам"_s, u"ВСЕ СКЛАДЫ"_s) +
-          QStringList{table.Heads({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s}),
-                      table.Row({u"05.11.25"_s, u"Чай"_s, u"пач."_s, u"2"_s, u"2.00"_s}),
-                      table.Row({u"01.10.26"_s, u"Соль"_s, u"кг"_s, u"7"_s, u"70.00"_s}),
-                      table.Row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3"_s, u"30.00"_s}),
-                      table.Total({u"ИТОГО:"_s, {}, {}, u"12"_s, u"102.00"_s})} +
-          ReportEnd());
+  EXPECT_EQ(Run<otppr>(Choose("all")),
+            (ReportStart(u"Отчет по продажам"_s, u"ВСЕ СКЛАДЫ"_s) +
+             QStringList{table.Heads({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s}),
+                         table.Row({u"05.11.25"_s, u"Чай"_s, u"пач."_s, u"2"_s, u"2.00"_s}),
+                         table.Row({u"01.10.26"_s, u"Соль"_s, u"кг"_s, u"7"_s, u"70.00"_s}),
+                         table.Row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3"_s, u"30.00"_s}),
+                         table.Total({u"ИТОГО:"_s, {}, {}, u"12"_s, u"102.00"_s})} +
+             ReportEnd()));
 }
 
 TEST_F(ReportScreens, CancellingWritesNothing) {

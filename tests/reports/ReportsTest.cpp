@@ -104,13 +104,13 @@ TEST_F(Reports, SpeedAddsUpItemsByTheirExactNameAndKeepsALoneQuantityAsWritten) 
   EXPECT_EQ(report->rows[1].profit, 4.5) << "an empty cost counts as 0";
   const QStringList page = PageLines(SpeedReportPage(*report, scope));
   const ReportTable table{{25, 10, 10, 10, 10}, 1};
-  EXPECT_EQ(page, ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s) +
-                      QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s,
-                                               u"Реализация"_s, u"Прибыль"_s}),
-                                  table.Row({u"Чай"_s, u"пач."_s, u"3"_s, u"6.01"_s, u"-1.24"_s}),
-                                  table.Row({u"чай"_s, u"кг"_s, u"1.50"_s, u"4.50"_s, u"4.50"_s}),
-                                  table.Total({u"ИТОГО:"_s, {}, u"4.5"_s, u"10.51"_s, u"3.26"_s})} +
-                      ReportEnd());
+  EXPECT_EQ(page, (ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s) +
+                   QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
+                                            u"Прибыль"_s}),
+                               table.Row({u"Чай"_s, u"пач."_s, u"3"_s, u"6.01"_s, u"-1.24"_s}),
+                               table.Row({u"чай"_s, u"кг"_s, u"1.50"_s, u"4.50"_s, u"4.50"_s}),
+                               table.Total({u"ИТОГО:"_s, {}, u"4.5"_s, u"10.51"_s, u"3.26"_s})} +
+                   ReportEnd()));
 }
 
 TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
@@ -123,14 +123,14 @@ TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
   const auto report = CollectFlow(temp.Data(), session, scope);
   const QStringList page = PageLines(FlowReportPage(*report, scope));
   const ReportTable table{{25, 10, 10, 10}, 1};
-  EXPECT_EQ(page, ReportStart(u"Отчет по поступлению/реализации товара"_s, u"ВСЕ СКЛАДЫ"_s,
-                              u"Период: с 05.11.2026 по 06.11.2026"_s) +
-                      QStringList{
-                          table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
-                          table.Row({u"05.11.26"_s, u"100.75"_s, u"40.00"_s, u"-60.75"_s}),
-                          table.Row({u"06.11.26"_s, u"0.00"_s, u"7.50"_s, u"7.50"_s}),
-                          table.Total({u"ИТОГО:"_s, u"100.75"_s, u"47.50"_s, u"-53.25"_s})} +
-                      ReportEnd());
+  EXPECT_EQ(page,
+            (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"ВСЕ СКЛАДЫ"_s,
+                         u"Период: с 05.11.2026 по 06.11.2026"_s) +
+             QStringList{table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
+                         table.Row({u"05.11.26"_s, u"100.75"_s, u"40.00"_s, u"-60.75"_s}),
+                         table.Row({u"06.11.26"_s, u"0.00"_s, u"7.50"_s, u"7.50"_s}),
+                         table.Total({u"ИТОГО:"_s, u"100.75"_s, u"47.50"_s, u"-53.25"_s})} +
+             ReportEnd()));
 }
 
 TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {
