@@ -1,6 +1,6 @@
 #include "printing/InputError.h"
-#include "printing/Pages.h"
 #include "printing/WaybillPage.h"
+#include "printing/WaybillParts.h"
 
 namespace kladez {
 namespace {
@@ -26,31 +26,6 @@ WaybillForm Form(DocumentKind kind) {
   return form;
 }
 
-const QString kHeadings = QStringLiteral(
-    "<tr><TD WIDTH=5% VALIGN=TOP ALIGN=center><FONT FACE=Arial SIZE=4>N</FONT></TD>"
-    "<TD WIDTH=65% VALIGN=TOP><FONT FACE=Arial SIZE=4>&nbsp;Наименование</FONT></TD>"
-    "<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=4>Кол-во&nbsp;</FONT></TD>"
-    "<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=4>Цена&nbsp;</FONT></TD>"
-    "<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=4>Сумма&nbsp;</FONT></TD></tr>");
-
-const QString kSignatures = QStringLiteral(
-    "<p></p><br><br><br><p>&nbsp;&nbsp;&nbsp;<FONT FACE=Arial SIZE=3>Отпустил ___________ "
-    "&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;Получил ___________</FONT><BR></p><BR></body>"
-    "</html>");
-
-QString RowLine(const char* number, const char* name, const char* quantity, const char* price,
-                const char* sum) {
-  return QStringLiteral(
-             "<tr><TD WIDTH=5% VALIGN=TOP ALIGN=center><FONT FACE=Arial SIZE=3>%1</FONT></TD>"
-             "<TD WIDTH=65% VALIGN=TOP><FONT FACE=Arial SIZE=3>%2</FONT></TD>"
-             "<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=3>%3&nbsp;</FONT></TD>"
-             "<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=3>%4&nbsp;</FONT></TD>"
-             "<TD WIDTH=10% VALIGN=TOP ALIGN=right><FONT FACE=Arial SIZE=3>%5&nbsp;</FONT></TD>"
-             "</tr>")
-      .arg(QString::fromUtf8(number), QString::fromUtf8(name), QString::fromUtf8(quantity),
-           QString::fromUtf8(price), QString::fromUtf8(sum));
-}
-
 TEST(WaybillPage, ShipmentPrintsPricesBeforeTheDiscountAndTheAmountAfterIt) {
   ExpectPage(
       WaybillPage(Form(DocumentKind::kShipment)),
@@ -62,10 +37,10 @@ TEST(WaybillPage, ShipmentPrintsPricesBeforeTheDiscountAndTheAmountAfterIt) {
        u"<br>"_s,
        u"<CENTER>"_s,
        kLineTable,
-       kHeadings,
-       RowLine("1", "&nbsp;Чай <чёрный> & \"белый\"&nbsp;", "0.125", "1.01", "0.13"),
+       kWaybillHeadings,
+       WaybillRow("1", "&nbsp;Чай <чёрный> & \"белый\"&nbsp;", "0.125", "1.01", "0.13"),
        u""_s,
-       RowLine("2", "&nbsp;Кофе&nbsp;", "3", "49.95", "149.85"),
+       WaybillRow("2", "&nbsp;Кофе&nbsp;", "3", "49.95", "149.85"),
        u""_s,
        u"</center></table><p></p>"_s,
        u"<br><FONT FACE=Arial SIZE=2><i>Всего: 150.00 руб.</FONT></i>"_s,
@@ -77,7 +52,7 @@ TEST(WaybillPage, ShipmentPrintsPricesBeforeTheDiscountAndTheAmountAfterIt) {
        u"<br><br><FONT FACE=Arial SIZE=2><b>Всего наименований: 2</FONT></b>"_s,
        u"<br><FONT FACE=Arial SIZE=2><b>Сумма: Сто тридцать пять рублей 00 "
        u"копеек</FONT></b><BR>"_s,
-       kSignatures});
+       kWaybillSignatures});
 }
 
 TEST(WaybillPage, ReceiptAboveRateOneTellsTheRateAndEveryTickedLine) {
@@ -99,10 +74,10 @@ TEST(WaybillPage, ReceiptAboveRateOneTellsTheRateAndEveryTickedLine) {
               u"<br>"_s,
               u"<CENTER>"_s,
               kLineTable,
-              kHeadings,
-              RowLine("1", "&nbsp;Чай <чёрный> & \"белый\"", "0.125", "15.83", "1.98"),
+              kWaybillHeadings,
+              WaybillRow("1", "&nbsp;Чай <чёрный> & \"белый\"", "0.125", "15.83", "1.98"),
               u""_s,
-              RowLine("2", "&nbsp;Кофе", "3", "786.71", "2360.14"),
+              WaybillRow("2", "&nbsp;Кофе", "3", "786.71", "2360.14"),
               u""_s,
               u"</center></table><p></p>"_s,
               u"<br><FONT FACE=Arial SIZE=2><i>Итого к оплате: 135.00 руб.,</FONT></i>"_s,
@@ -110,7 +85,7 @@ TEST(WaybillPage, ReceiptAboveRateOneTellsTheRateAndEveryTickedLine) {
               u"<br><br><FONT FACE=Arial SIZE=2><b>Всего наименований: 2</FONT></b>"_s,
               u"<br><FONT FACE=Arial SIZE=2><b>Сумма: Сто тридцать пять рублей 00 "
               u"копеек</FONT></b><BR>"_s,
-              kSignatures});
+              kWaybillSignatures});
 }
 
 TEST(WaybillPage, TransferWithoutLinesPrintsItsHeadingsAndACountOfZero) {
@@ -123,11 +98,11 @@ TEST(WaybillPage, TransferWithoutLinesPrintsItsHeadingsAndACountOfZero) {
       {PageHead(u"Накладная"_s),
        u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>Накладная N 5 от 12.03.2026</FONT></B><br></p>"_s,
        u"<FONT FACE=Arial SIZE=3>Откуда:Фирма <А> & Ко</U></b></FONT><br>"_s, u"<br>"_s,
-       u"<CENTER>"_s, kLineTable, kHeadings, u"</center></table><p></p>"_s,
+       u"<CENTER>"_s, kLineTable, kWaybillHeadings, u"</center></table><p></p>"_s,
        u"<br><FONT FACE=Arial SIZE=2><i>Всего: 150.00 руб.</FONT></i>"_s,
        u"<br><FONT FACE=Arial SIZE=2><i>Итого: Сто тридцать пять рублей 00 копеек</FONT></i>"_s,
        u""_s, u"<br><br><FONT FACE=Arial SIZE=2><b>Всего наименований: 0</FONT></b>"_s,
-       kSignatures});
+       kWaybillSignatures});
 }
 
 TEST(WaybillPage, AQuantityThatIsNoNumberStopsThePrintAndNamesItsLine) {
@@ -146,7 +121,7 @@ TEST(WaybillPage, QuantitiesPrintAsTyped) {
   WaybillForm form = Form(DocumentKind::kTransfer);
   form.lines = {{u"Сахар"_s, u" 1 000.50"_s, u"кг"_s, u"1"_s, u"2"_s, {}}};
   const QStringList lines = DecodeLines(WaybillPage(form));
-  EXPECT_TRUE(lines.contains(RowLine("1", "&nbsp;Сахар&nbsp;", " 1 000.50", "2.00", "2001.00")));
+  EXPECT_TRUE(lines.contains(WaybillRow("1", "&nbsp;Сахар&nbsp;", " 1 000.50", "2.00", "2001.00")));
 }
 
 }  // namespace

@@ -109,7 +109,9 @@ void FieldGrid::Add(QWidget* caption, QWidget* field, QWidget* hint) {
 void FieldGrid::Add(QWidget* caption, QLayout* fields, QWidget* hint) {
   const int row = next_ / groups_;
   const int column = next_ % groups_ * kColumnsOfGroup;
-  grid_->addWidget(caption, row, column);
+  // A box reaches no further than its words, so that a click anywhere on it hits.
+  const bool box = qobject_cast<QCheckBox*>(caption) != nullptr;
+  grid_->addWidget(caption, row, column, box ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
   grid_->addLayout(fields, row, column + 1);
   if (hint != nullptr) grid_->addWidget(hint, row, column + 2);
   ++next_;
