@@ -1,0 +1,329 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "ScreenDriver.h"
+#include "shell/Main.h"
+#include "shell/frmMain.h"
+#include "store/Catalogue.h"
+#include "store/screens/Bases.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QStringList kDatabaseMenus = {u"mnu_Sklad"_s, u"mnu_Otchet"_s, u"mnu_Sprav"_s};
+
+class MainWindow : public testing::Test {
+ protected:
+  void SetUp() override { window_.resize(1024, 740); }
+
+  const DataDir& Data() { return world_.Temp().Data(); }
+  Session& TheSession() { return world_.TheSession(); }
+  QString Setting(const struct Setting& setting) { return world_.Settings().Read(setting); }
+
+  // Starts with a Database open, as after a run before.
+  void StartOpen(UserRole role = UserRole::kNone) {
+    CreateDatabase(Data(), u"Первая"_s);
+    world_.Settings().Write(settings::kBaseName, u"0001\\"_s);
+    world_.Settings().Write(settings::kBaseTitle, u"Первая"_s);
+    TheSession().role = role;
+    Start();
+  }
+  void Start() {
+    window_.Start(1);
+    ShowActive(&window_);
+  }
+
+  QAction* Entry(const QString& name) {
+    if (auto* menu = window_.findChild<QMenu*>(name)) return menu->menuAction();
+    auto* action = window_.findChild<QAction*>(name);
+    EXPECT_NE(action, nullptr) << name.toStdString();
+    return action;
+  }
+  QString ChildName() {
+    return window_.Child() != nullptr ? window_.Child()->objectName() : QString();
+  }
+  QWidget* Panel(const char* name) { return Find<QWidget>(&window_, name); }
+  int Children() {
+    int count = 0;
+    for (const char16_t* name :
+         {u"Main", u"main2", u"Sklad", u"Price", u"sprTovar", u"TovPrih", u"TovUhod", u"vnutr"}) {
+      count += int(window_.findChildren<QWidget*>(QString::fromUtf16(name)).size());
+    }
+    return count;
+  }
+  void ExpectLanding() {
+    EXPECT_EQ(ChildName(), u"main2"_s);
+    EXPECT_EQ(window_.windowTitle(), u"Kladez"_s);
+    for (const QString& menu : kDatabaseMenus) EXPECT_FALSE(Entry(menu)->isVisible());
+    EXPECT_FALSE(Entry(u"mnuFileClose"_s)->isEnabled());
+    EXPECT_FALSE(Entry(u"mnuimp"_s)->isEnabled());
+    EXPECT_FALSE(Panel("Picture1")->isVisible());
+    EXPECT_FALSE(Panel("Picture2")->isVisible());
+  }
+  // The panel has links of the same names as the home screen.
+  void ClickPanel(const char* link) { Click(Panel("Picture1"), link); }
+
+  ScreenWorld world_;
+  frmMain window_{world_.Context()};
+};
+
+TEST_F(MainWindow, FirstStartOnAnEmptyFolderLands) {
+  Start();
+  ExpectLanding();
+  EXPECT_TRUE(world_.Temp().Tree().empty());
+}
+
+TEST_F(MainWindow, LastDatabaseOpensWithFullRights) {
+  StartOpen();
+  EXPECT_EQ(window_.windowTitle(), u"Kladez - Первая"_s);
+  EXPECT_EQ(ChildName(), u"Main"_s);
+  EXPECT_EQ(TheSession().SkladNames, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(TheSession().rub, u"руб."_s);
+  EXPECT_EQ(TheSession().firma, QStringList{u"Ваша фирма"_s});
+  for (const QString& menu : kDatabaseMenus) {
+    EXPECT_TRUE(Entry(menu)->isVisible() && Entry(menu)->isEnabled());
+  }
+  EXPECT_TRUE(Entry(u"mnuimp"_s)->isEnabled() && Entry(u"mnuFileClose"_s)->isEnabled());
+  EXPECT_TRUE(Panel("Picture1")->isVisible() && Panel("Picture2")->isVisible());
+}
+
+TEST_F(MainWindow, RemovedDatabaseLandsSilentlyAndKeepsTheKey) {
+  world_.Settings().Write(settings::kBaseName, u"0001\\"_s);
+  world_.Settings().Write(settings::kBaseTitle, u"Первая"_s);
+  Start();
+  ExpectLanding();
+  EXPECT_EQ(Setting(settings::kBaseName), u"0001\\"_s);
+}
+
+TEST_F(MainWindow, SellerFindsHisMenusGreyedButTheLinksOpen) {
+  StartOpen(UserRole::kSeller);
+  for (const QString& name :
+       {u"mnu_Sklad_P"_s, u"mnu_Sklad_VO"_s, u"mnu_Sklad_ZO"_s, u"mnu_Otchet"_s, u"mnu_Sprav"_s}) {
+    EXPECT_FALSE(Entry(name)->isEnabled()) << name.toStdString();
+  }
+  for (const QString& name :
+       {u"mnu_Sklad"_s, u"mnu_Sklad_NT"_s, u"mnu_Sklad_R"_s, u"mnu_Sklad_PL"_s}) {
+    EXPECT_TRUE(Entry(name)->isEnabled()) << name.toStdString();
+  }
+  for (int i = 0; i <= 17; ++i) {
+    EXPECT_TRUE(Find<QAbstractButton>(Panel("Picture1"), u"go%1"_s.arg(i).toUtf8().constData())
+                    ->isEnabled());
+  }
+  ClickPanel("go12");
+  EXPECT_EQ(ChildName(), u"sprTovar"_s);
+  TheSession().role = UserRole::kDirector;
+  window_.OpenDatabase();
+  EXPECT_TRUE(Entry(u"mnu_Sklad_P"_s)->isEnabled() && Entry(u"mnu_Otchet"_s)->isEnabled());
+}
+
+TEST_F(MainWindow, TheTwoWaysOutDifferInTheScratchFile) {
+  StartOpen();
+  world_.Temp().Put(u"temp.prc"_s, "x");
+  QTimer::singleShot(0, [&] { Entry(u"mnuFileExit"_s)->trigger(); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_TRUE(QFile::exists(Data().Root() + u"/temp.prc"_s));
+  EXPECT_NE(window_.Child(), nullptr);
+  window_.close();
+  EXPECT_FALSE(QFile::exists(Data().Root() + u"/temp.prc"_s));
+  EXPECT_EQ(window_.Child(), nullptr);
+  EXPECT_EQ(Setting(settings::kBaseName), u"0001\\"_s);
+}
+
+TEST_F(MainWindow, ClosedDatabaseStaysClosedAtTheNextStart) {
+  StartOpen();
+  Entry(u"mnuFileClose"_s)->trigger();
+  ExpectLanding();
+  EXPECT_FALSE(TheSession().IsOpen());
+  EXPECT_TRUE(TheSession().SkladNames.isEmpty() && TheSession().firma.isEmpty());
+  frmMain again(world_.Context());
+  again.Start(1);
+  EXPECT_EQ(again.windowTitle(), u"Kladez"_s);
+  EXPECT_EQ(again.Child()->objectName(), u"main2"_s);
+}
+
+TEST_F(MainWindow, OneChildScreenAtATime) {
+  StartOpen();
+  for (const char* link : {"go12", "go16", "go12"}) {
+    ClickPanel(link);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(Children(), 1) << link;
+  }
+  EXPECT_EQ(ChildName(), u"sprTovar"_s);
+}
+
+TEST_F(MainWindow, ModalScreensLeaveTheChildAndAScreenThatClosesGivesWayToTheHomeScreen) {
+  StartOpen();
+  ClickPanel("go12");
+  const QPointer<QWidget> goods = window_.Child();
+  {
+    ModalAnswers answers{[](QWidget* dialog) {
+      EXPECT_EQ(dialog->objectName(), u"sprFirm"_s);
+      dialog->close();
+    }};
+    Entry(u"mnu_Sprav_O"_s)->trigger();
+  }
+  EXPECT_EQ(window_.Child(), goods);
+  goods->close();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ChildName() == u"Main"_s; }));
+}
+
+TEST_F(MainWindow, EveryMenuEntryBearsItsCaption) {
+  const std::vector<std::pair<QString, QString>> captions = {
+      {u"mnuFileCreate"_s, u"Создать..."_s},
+      {u"mnuFileOpen"_s, u"Открыть..."_s},
+      {u"mnubases"_s, u"Базы данных..."_s},
+      {u"mnuimp"_s, u"Импорт..."_s},
+      {u"arch"_s, u"Резервное копирование..."_s},
+      {u"reparch"_s, u"Восстановить..."_s},
+      {u"mnuFileClose"_s, u"Закрыть"_s},
+      {u"mnuFileExit"_s, u"Выход"_s},
+      {u"mnu_Sklad"_s, u"Склад"_s},
+      {u"mnu_Sklad_NT"_s, u"Наличие товаров..."_s},
+      {u"mnu_Sklad_P"_s, u"Приход..."_s},
+      {u"mnu_Sklad_R"_s, u"Расход..."_s},
+      {u"mnu_Sklad_VO"_s, u"Внутреннее перемещение..."_s},
+      {u"mnu_Sklad_PL"_s, u"Прайс-лист..."_s},
+      {u"mnu_Sklad_ZO"_s, u"Занесение остатков..."_s},
+      {u"mnu_Otchet"_s, u"Отчеты"_s},
+      {u"mnu_Otchet_OPP"_s, u"Отчет по продажам..."_s},
+      {u"mnu_Otchet_RPVT"_s, u"Скорость реализации..."_s},
+      {u"mnu_Otchet_GP"_s, u"График продаж..."_s},
+      {u"mnu_Otchet_SR"_s, u"График реализации по видам товара..."_s},
+      {u"mnu_Otchet_DB"_s, u"Поступление/реализация..."_s},
+      {u"mnu_Sprav"_s, u"Справочники"_s},
+      {u"mnu_Sprav_O"_s, u"Фирмы..."_s},
+      {u"mnu_Sprav_T"_s, u"Товары..."_s},
+      {u"mnu_Sprav_P"_s, u"Поставщики..."_s},
+      {u"mnu_Sprav_K"_s, u"Клиенты..."_s},
+      {u"mnu_Sprav_S"_s, u"Склады..."_s},
+      {u"mnu_Sprav_OV"_s, u"Основная валюта..."_s},
+      {u"mnuHelp"_s, u"Справка по Kladez 4.8..."_s},
+      {u"mnAbout"_s, u"О программе..."_s},
+  };
+  for (const auto& [name, caption] : captions) {
+    EXPECT_EQ(Entry(name)->text().remove(u'&'), caption);
+  }
+}
+
+TEST_F(MainWindow, LettersOfAMenuAreNotUsedTwice) {
+  for (QMenu* menu : window_.findChildren<QMenu*>()) {
+    QSet<QChar> letters;
+    for (const QAction* action : menu->actions()) {
+      if (action->isSeparator()) continue;
+      const qsizetype mark = action->text().indexOf(u'&');
+      ASSERT_GE(mark, 0) << action->text().toStdString();
+      const QChar letter = action->text().at(mark + 1).toLower();
+      EXPECT_FALSE(letters.contains(letter)) << action->text().toStdString();
+      letters.insert(letter);
+    }
+  }
+}
+
+TEST_F(MainWindow, PanelFollowsTheHeightAndTheLandingPictureTheSize) {
+  StartOpen();
+  for (const int height : {740, 900}) {
+    window_.resize(1200, height);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Panel("Picture1")->height(), window_.centralWidget()->height() - 1350 / 15);
+  }
+  Entry(u"mnuFileClose"_s)->trigger();
+  QCoreApplication::processEvents();
+  const QWidget* picture = Find<QWidget>(window_.Child(), "Picture1");
+  EXPECT_EQ(picture->height(), window_.centralWidget()->height() - 420 / 15);
+  EXPECT_EQ(picture->width(), window_.centralWidget()->width() - 180 / 15);
+}
+
+TEST_F(MainWindow, PointerLightsOneLinkOfThePanel) {
+  StartOpen();
+  auto* stock = Find<QAbstractButton>(Panel("Picture1"), "go0");
+  auto* receipts = Find<QAbstractButton>(Panel("Picture1"), "go1");
+  const auto shows = [](QWidget* link, QRgb color) {
+    const QImage image = link->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixel(x, y) == color) return true;
+      }
+    }
+    return false;
+  };
+  // Colours are told as blue, green, red: 0xC0E0FF and 0xC0FFFF.
+  const QRgb peach = qRgb(0xFF, 0xE0, 0xC0);
+  const QRgb yellow = qRgb(0xFF, 0xFF, 0xC0);
+  QTest::mouseMove(stock);
+  QTest::mouseMove(receipts);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shows(receipts, peach); }));
+  EXPECT_FALSE(shows(stock, peach));
+  EXPECT_TRUE(shows(stock, yellow));
+  QTest::mouseMove(Panel("Picture1"), QPoint(2, 2));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !shows(receipts, peach); }));
+}
+
+TEST_F(MainWindow, HomeScreenFollowsItsStoredChoice) {
+  world_.Settings().Write(settings::kPanel, u"0"_s);
+  StartOpen();
+  EXPECT_FALSE(Panel("Picture1")->isVisible());
+  auto* home = window_.Child();
+  EXPECT_TRUE(Find<QWidget>(home, "Picture6")->isVisible());
+  Click(home, "Check1");
+  Click(home, "Check3");
+  EXPECT_FALSE(Find<QWidget>(home, "Picture6")->isVisible());
+  EXPECT_TRUE(Panel("Picture1")->isVisible());
+  EXPECT_EQ(Setting(settings::kTip), u"0"_s);
+  EXPECT_EQ(Setting(settings::kPanel), u"1"_s);
+  EXPECT_EQ(Find<QCheckBox>(home, "Check1")->text(),
+            u"Отображать подсказку \"     \" на главной"_s);
+}
+
+TEST_F(MainWindow, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {
+  StartOpen();
+  for (int link = 0; link <= 16; ++link) {
+    const QString name = u"go%1"_s.arg(link);
+    EXPECT_NE(window_.Child()->findChild<QAbstractButton*>(name), nullptr) << link;
+  }
+  EXPECT_EQ(window_.Child()->findChild<QWidget*>(u"go17"_s), nullptr);
+  ModalAnswers answers{[](QWidget* dialog) {
+    EXPECT_EQ(dialog->objectName(), u"currenc"_s);
+    dialog->close();
+  }};
+  Click(window_.Child(), "go16");
+}
+
+TEST_F(MainWindow, NewDatabaseIsOpenAtOnce) {
+  Start();
+  ModalAnswers answers{[](QWidget* dialog) {
+    Type(Find<QLineEdit>(dialog, "Text3"), u"Новая"_s);
+    Click(dialog, "Command1");
+  }};
+  Click(window_.Child(), "Label4");
+  EXPECT_EQ(window_.windowTitle(), u"Kladez - Новая"_s);
+  EXPECT_EQ(ChildName(), u"Main"_s);
+  EXPECT_TRUE(Panel("Picture1")->isVisible());
+  EXPECT_TRUE(Entry(u"mnuimp"_s)->isEnabled());
+  EXPECT_EQ(TheSession().bases_text1, QString());
+}
+
+TEST_F(MainWindow, CancelledChoiceOpensTheSameDatabaseAgain) {
+  StartOpen();
+  ClickPanel("go12");
+  world_.Temp().PutLines(u"0001\\склад.usd"_s, {u"Главный склад"_s, u"Киоск"_s});
+  {
+    ModalAnswers answers{Escape()};
+    Entry(u"mnuFileOpen"_s)->trigger();
+  }
+  EXPECT_EQ(ChildName(), u"Main"_s);
+  EXPECT_EQ(TheSession().SkladNames.size(), 2);
+  ClickPanel("go12");
+  {
+    ModalAnswers answers{Escape()};
+    Entry(u"mnubases"_s)->trigger();
+  }
+  EXPECT_EQ(ChildName(), u"sprTovar"_s);
+}
+
+}  // namespace
+}  // namespace kladez
