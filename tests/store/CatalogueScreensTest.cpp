@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLabel>
 
 #include "ScreenDriver.h"
 #include "store/Catalogue.h"
