@@ -178,15 +178,18 @@ void frmMain::CloseChildScreens() {
   child_ = nullptr;
 }
 
+// The screens before it are closed by now: one made already would be closed with them.
 void frmMain::ShowChild(QWidget* child) {
-  CloseChildScreens();
   child_ = child;
   child->setAttribute(Qt::WA_DeleteOnClose);
   host_layout_->addWidget(child);
-  // One that closes itself gives way to the home screen.
-  connect(child, &QObject::destroyed, this, [this] {
-    if (!child_) ShowHome();
-  });
+  // One that closes itself gives way to the home screen, once it is gone for good.
+  connect(
+      child, &QObject::destroyed, this,
+      [this] {
+        if (!child_) ShowHome();
+      },
+      Qt::QueuedConnection);
   child->show();
   (child->focusWidget() != nullptr ? child->focusWidget() : child)->setFocus();
 }
@@ -196,6 +199,7 @@ void frmMain::ShowHome() {
     ShowLanding();
     return;
   }
+  CloseChildScreens();
   auto* home = new Main(context_, host_);
   connect(home, &Main::Chosen, this, &frmMain::Go);
   connect(home, &Main::PanelToggled, Picture1, &QWidget::setVisible);
@@ -209,6 +213,7 @@ void frmMain::ShowHome() {
 }
 
 void frmMain::ShowLanding() {
+  CloseChildScreens();
   auto* landing = new main2(host_);
   connect(landing, &main2::OpenWanted, this, &frmMain::OpenFromCatalogue);
   connect(landing, &main2::CreateWanted, this, &frmMain::Create);
@@ -229,9 +234,7 @@ void frmMain::Go(Place place) {
     const bool child = RowOf(place).child;
     if (child) CloseChildScreens();
     QWidget* screen = NewScreen(place, context_, child ? host_ : this);
-    if (screen == nullptr) {
-      ShowInformation(this, u"Этот раздел появится в следующей версии программы."_s);
-    } else if (child) {
+    if (child) {
       ShowChild(screen);
     } else {
       const std::unique_ptr<QWidget> owned(screen);

@@ -302,15 +302,15 @@ TEST_F(CatalogueScreens, ImportGoesFromSourceToAreasToFiles) {
   SelectRow(&screen, 1);
   ModalAnswers answers{[](QWidget* dialog) {
     EXPECT_EQ(dialog->objectName(), u"Import"_s);
-    Click(dialog, "Check6");
+    Find<QAbstractButton>(dialog, "Check6")->click();
     for (const char* name : {"Check1", "Check2"}) {
       EXPECT_TRUE(Find<QAbstractButton>(dialog, name)->isChecked()) << name;
       EXPECT_FALSE(Find<QAbstractButton>(dialog, name)->isEnabled()) << name;
     }
-    Click(dialog, "Check6");
+    Find<QAbstractButton>(dialog, "Check6")->click();
     EXPECT_TRUE(Find<QAbstractButton>(dialog, "Check1")->isChecked());
     EXPECT_TRUE(Find<QAbstractButton>(dialog, "Check1")->isEnabled());
-    Click(dialog, "Check2");
+    Find<QAbstractButton>(dialog, "Check2")->click();
     Click(dialog, "Command1");
   }};
   auto expected = Tree();
