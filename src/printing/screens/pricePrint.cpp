@@ -114,6 +114,7 @@ QWidget* pricePrint::NewOther() {
        {&P::Check9, u"Check9", u"&Дата", true, &P::Text4, u"Text4",
         LongDateText(context_.clock.Today())},
        {&P::Check10, u"Check10", u"&Подпись внизу:", false, &P::Text5, u"Text5", {}}});
+  Text1->setMinimumWidth(36 * look::kGrid);  // an address is long
   frame.column->addLayout(grid);
   frame.column->addStretch();
   return frame.box;
