@@ -31,6 +31,7 @@ QLabel* NewHeading(QStringView text, QWidget* parent) {
   QPalette palette = heading->palette();
   palette.setColor(QPalette::WindowText, look::kAccent);
   heading->setPalette(palette);
+  heading->setForegroundRole(QPalette::WindowText);  // on a card it would be that of a field
   return heading;
 }
 
@@ -48,15 +49,15 @@ Main::Main(AppContext& context, QWidget* parent) : QWidget(parent), context_(con
   setObjectName(u"Main"_s);
   setWindowTitle(u"Главная"_s);
   auto* cards = new QHBoxLayout;
-  cards->setSpacing(look::kMargin);
+  cards->setSpacing(look::kGrid);
   for (const PlaceGroup group :
        {PlaceGroup::kStore, PlaceGroup::kReports, PlaceGroup::kDirectories}) {
     cards->addWidget(NewLinks(group), 1);
   }
   figures_ = NewFigures();
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(look::kGap, look::kMargin, look::kGap, look::kMargin);
-  layout->setSpacing(look::kMargin);
+  layout->setContentsMargins(look::kMargin, look::kMargin, look::kMargin, look::kMargin);
+  layout->setSpacing(look::kGrid);
   layout->addLayout(cards);
   layout->addWidget(figures_, 1);
   layout->addStretch(0);
@@ -125,7 +126,7 @@ QWidget* Main::NewFigures() {
   return card;
 }
 
-QBoxLayout* Main::NewOptions() {
+QLayout* Main::NewOptions() {
   // The question mark stands between the quotation marks.
   Check1 = NewOption(u"Check1"_s, u"Отображать подсказку \"     \" на главной"_s);
   Check2 = NewOption(u"Check2"_s, u"Показывать отчеты на главной странице"_s);
@@ -154,12 +155,16 @@ QBoxLayout* Main::NewOptions() {
     Store(settings::kPanel, Check3);
     ClickPanel();
   });
-  auto* row = new QHBoxLayout;
-  row->setSpacing(look::kGap);
-  for (QCheckBox* box : {Check1, Check2, Check3}) row->addWidget(box);
-  row->addWidget(AddHint(u"Picture22", this));
-  row->addStretch();
-  return row;
+  // Two lines, so that the window fits a screen of 1024 pixels.
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(look::kGap);
+  grid->setVerticalSpacing(look::kTight);
+  grid->setColumnStretch(3, 1);
+  grid->addWidget(Check1, 0, 0);
+  grid->addWidget(Check2, 0, 1);
+  grid->addWidget(AddHint(u"Picture22", this), 0, 2);
+  grid->addWidget(Check3, 1, 0);
+  return grid;
 }
 
 QCheckBox* Main::NewOption(const QString& name, const QString& caption) {

@@ -7,7 +7,7 @@
 #include "shell/AppContext.h"
 #include "shell/Places.h"
 
-class QBoxLayout;
+class QLayout;
 class QCheckBox;
 class QLabel;
 
@@ -34,7 +34,7 @@ class Main : public QWidget {
  private:
   QWidget* NewLinks(PlaceGroup group);
   QWidget* NewFigures();
-  QBoxLayout* NewOptions();
+  QLayout* NewOptions();
   QCheckBox* NewOption(const QString& name, const QString& caption);
   HintPicture* AddHint(QStringView picture, QWidget* parent);
   void Store(const Setting& setting, const QCheckBox* box);

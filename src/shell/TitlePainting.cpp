@@ -17,7 +17,8 @@ void PaintTitleGround(QPainter& painter, const QRect& room) {
   const int size = qMin(room.width(), room.height() * 5 / 4);
   const QRect sign(room.right() - size * 3 / 4, room.bottom() - size * 7 / 8, size, size);
   painter.setOpacity(0.09);
-  look::Icon(look::IconName::kProgram, look::kOnAccent).paint(&painter, sign);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawPixmap(sign, look::Icon(look::IconName::kProgram, look::kOnAccent).pixmap(128));
   painter.restore();
 }
 

@@ -50,6 +50,7 @@ Bases::Bases(AppContext& context, CatalogueHost& host, QWidget* parent)
   auto* top = new QHBoxLayout;
   top->addWidget(ListView1);
   top->addLayout(side);
+  top->addStretch();
   auto* fields = new QFormLayout;
   fields->addRow(u"И&мя базы данных:"_s, Text3);
   fields->addRow(u"По&льзователь:"_s, Combo1);

@@ -6,7 +6,6 @@
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QSignalBlocker>
 #include <QStorageInfo>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -58,6 +57,14 @@ FolderChooser::FolderChooser(QWidget* parent)
           [this](const QModelIndex& index) {
             if (index.isValid()) Chosen(folders_->filePath(index));
           });
+  // Folders come in bit by bit and are sorted later, which moves the chosen one out of sight;
+  // not while a person looks around in the tree.
+  const auto show_chosen = [this] {
+    if (Dir1->hasFocus()) return;
+    Dir1->scrollTo(folders_->index(folder_), QAbstractItemView::PositionAtCenter);
+  };
+  connect(folders_, &QFileSystemModel::directoryLoaded, this, show_chosen);
+  connect(folders_, &QFileSystemModel::layoutChanged, this, show_chosen, Qt::QueuedConnection);
   connect(Drive1, &QComboBox::activated, this,
           [this] { SetFolder(Drive1->currentData().toString()); });
   connect(Path1, &QLineEdit::textEdited, this, [this](const QString& path) {
@@ -79,14 +86,9 @@ void FolderChooser::SetFolder(const QString& folder) {
   if (!QDir(folder).exists()) return;
   const QString path = QDir::cleanPath(folder);
   const QModelIndex index = folders_->index(path);
-  {
-    const QSignalBlocker quiet(Dir1->selectionModel());
-    Dir1->setCurrentIndex(index);
-  }
-  Dir1->viewport()->update();
+  Dir1->setCurrentIndex(index);
   Dir1->expand(index);
   Dir1->scrollTo(index);
-  Chosen(path);
 }
 
 void FolderChooser::Chosen(const QString& folder) {

@@ -49,7 +49,7 @@ Import::Import(AppContext& context, const QString& source, QWidget* parent)
   frame->setObjectName(u"Frame1"_s);
   Picture5 = new HintPicture(HintFor(u"Import", u"Picture5"), frame);
   Picture5->setObjectName(u"Picture5"_s);
-  Picture5->move(0, 0);
+  Picture5->setGeometry(0, 0, look::kMargin + 2, look::kMargin + 2);
   auto* list = new QVBoxLayout(frame);
   list->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kMargin);
   list->setSpacing(look::kGrid);
