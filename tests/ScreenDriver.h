@@ -104,8 +104,9 @@ class ModalAnswers {
     QMetaObject::invokeMethod(
         &timer_,
         [this, step, dialog, before] {
-          // Until then the keyboard is still with the window below.
-          EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+          // Until then the keyboard is with the window below; qWaitForWindowActive would not wait,
+          // as to it a dialog is active with its parent.
+          EXPECT_TRUE(QTest::qWaitFor([=] { return QApplication::activeWindow() == dialog; }));
           step(dialog);
           busy_ = before;
         },

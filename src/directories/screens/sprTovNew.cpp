@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <algorithm>
 #include <array>
@@ -63,7 +63,6 @@ sprTovNew::sprTovNew(const GoodsEntry& entry, QWidget* parent)
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok_, cancel_));
   setMinimumWidth(60 * look::kGrid);
-  (group ? group_ : name_)->setFocus();
 
   connect(ok_, &QPushButton::clicked, this, &sprTovNew::Ok);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
@@ -138,6 +137,12 @@ void sprTovNew::Ok() {
     price_->setText(FormatMoney(*price));
   }
   accept();
+}
+
+// The keyboard goes to the first field of the page that the tabs show.
+void sprTovNew::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  (IsGroupShown() ? group_ : name_)->setFocus();
 }
 
 // Enter goes from field to field, and from the last one to OK.

@@ -30,6 +30,7 @@ class sprTovNew : public QDialog {
   GoodsRecord Record() const;
 
  protected:
+  void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
