@@ -9,7 +9,7 @@ class QWidget;
 namespace kladez {
 
 // A child screen as a QWidget, any other as a QDialog; nullptr for the home screen, which the main
-// window makes itself, and for a place that this version does not have. Throws filesystem_error.
+// window makes itself. Throws filesystem_error.
 QWidget* NewScreen(Place place, AppContext& context, QWidget* parent);
 
 }  // namespace kladez

@@ -70,6 +70,14 @@ Kind* ControlOf(const QString& name) {
   return control;
 }
 
+// Where the keyboard goes in the window in front; on a platform without a window manager the
+// application as a whole may know of none.
+QWidget* KeyboardTarget() {
+  QWidget* front = Front();
+  if (front == nullptr) return nullptr;
+  return front->focusWidget() != nullptr ? front->focusWidget() : front;
+}
+
 void TypeText(QWidget* into, const QString& text) {
   for (const QChar c : text) {
     QTest::sendKeyEvent(QTest::Click, into, Qt::Key_unknown, QString(c), Qt::NoModifier);
@@ -246,7 +254,7 @@ void Robot::Type(const QString& control, const QString& text) {
 
 void Robot::TypeHere(const QString& text) {
   InWindow([=] {
-    QWidget* widget = QApplication::focusWidget();
+    QWidget* widget = KeyboardTarget();
     if (widget == nullptr) Fail(u"Печатать некуда: "_s + text);
     TypeText(widget, text);
   });
@@ -254,8 +262,9 @@ void Robot::TypeHere(const QString& text) {
 
 void Robot::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   InWindow([=] {
-    QWidget* widget = QApplication::focusWidget();
-    QTest::keyClick(widget != nullptr ? widget : Front(), key, modifiers);
+    QWidget* widget = KeyboardTarget();
+    if (widget == nullptr) Fail(u"Нажимать некуда"_s);
+    QTest::keyClick(widget, key, modifiers);
   });
 }
 

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <cstdio>
 
 #include "demo/DemoBooks.h"
@@ -33,10 +35,13 @@ void Play(const QString& folder) {
   kladez::AppContext context{data, session, settings, clock, desk};
   kladez::frmMain window(context);
   window.resize(1280, 800);
-  window.show();
   kladez::Robot robot(folder);
   robot.Run([&](kladez::Robot& player) {
-    player.InWindow([&] { window.Start(kSplashMilliseconds); });
+    player.InWindow([&] {
+      window.Start(kSplashMilliseconds);
+      window.show();
+      window.activateWindow();
+    });
     kladez::OpenDatabaseByHand(player, u"Демонстрационная база"_s);
     kladez::PlayRoad(player);
     kladez::VisitScreens(player);
@@ -48,6 +53,12 @@ void Play(const QString& folder) {
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  // The title window closes before the main window comes up.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QTranslator translator;
+  if (translator.load(u"qtbase_ru"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    application.installTranslator(&translator);
+  }
   if (argc != 2) {
     std::fputs("usage: kladez-tour FOLDER\n", stderr);
     return 2;
