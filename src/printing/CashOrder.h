@@ -4,7 +4,7 @@
 #include <QString>
 
 #include "printing/DocumentTotals.h"
-#include "printing/PrintSource.h"
+#include "stock/PrintSource.h"
 
 namespace kladez {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "formats/DocumentFile.h"
-#include "printing/PrintSource.h"
+#include "stock/PrintSource.h"
 #include "stock/StockLedger.h"
 #include "store/Session.h"
 #include "store/SettingsStore.h"

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "directories/GoodsPick.h"
-#include "printing/PrintSource.h"
 #include "stock/DocumentRegister.h"
+#include "stock/PrintSource.h"
 
 namespace kladez {
 

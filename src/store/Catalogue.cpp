@@ -21,8 +21,7 @@ constexpr QStringView kExtension = u".us";
 std::vector<CatalogueEntry> ListDatabases(const DataDir& data) {
   std::vector<CatalogueEntry> entries;
   data.ForEachFile({}, kExtension, [&](const DataDir::ListedFile& file) {
-    entries.push_back(
-        {file.name, file.bytes ? ReadDescriptor(*file.bytes) : DatabaseDescriptor{}});
+    entries.push_back({file.name, file.bytes ? ReadDescriptor(*file.bytes) : DatabaseDescriptor{}});
     return true;
   });
   return entries;

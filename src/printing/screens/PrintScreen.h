@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "formats/CurrencyFile.h"
-#include "printing/PrintSource.h"
 #include "shell/AppContext.h"
+#include "stock/PrintSource.h"
 
 class QLineEdit;
 class QPushButton;

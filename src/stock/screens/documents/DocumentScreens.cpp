@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "directories/screens/sprtovar2.h"
+#include "prices/screens/price2.h"
 #include "printing/screens/PrihNakl.h"
 #include "printing/screens/PrihPrint.h"
 #include "printing/screens/UhodSch.h"
@@ -27,7 +28,13 @@ void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, con
   if (picker.Pick()) take(*picker.Pick());
 }
 
-void PickFromPrices(AppContext&, const QString&, QWidget*, const TakePick&) {}
+// Stays open from one pick to the next.
+void PickFromPrices(AppContext& context, const QString& warehouse, QWidget* parent,
+                    const TakePick& take) {
+  price2 picker(context, warehouse, parent);
+  QObject::connect(&picker, &price2::Picked, parent, take);
+  picker.exec();
+}
 
 Column Text(const QString& title, int twips) { return {title, twips}; }
 Column Number(const QString& title, int twips) { return {title, twips, true}; }

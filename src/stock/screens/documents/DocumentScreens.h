@@ -6,10 +6,10 @@
 #include <functional>
 #include <vector>
 
-#include "printing/PrintSource.h"
 #include "shell/AppContext.h"
 #include "shell/controls/RecordModel.h"
 #include "stock/DocumentDraft.h"
+#include "stock/PrintSource.h"
 
 namespace kladez {
 
