@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <map>
+#include <ostream>
 #include <string>
 
 namespace kladez {

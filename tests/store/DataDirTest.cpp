@@ -176,8 +176,11 @@ TEST(DataDir, EveryListedFileIsHandedOverEvenOneThatCannotBeRead) {
   temp.Put(u"D\\4.prh"_s, "four");
   ASSERT_EQ(::truncate(temp.MachinePath(u"D\\3.prh"_s).constData(), off_t{1} << 40), 0);
   std::vector<std::pair<QString, std::optional<QByteArray>>> seen;
-  const auto visit = [&](const QString& name, std::optional<QByteArrayView> bytes) {
-    seen.emplace_back(name, bytes ? std::optional(bytes->toByteArray()) : std::nullopt);
+  const auto visit = [&](const DataDir::ListedFile& file) {
+    EXPECT_EQ(file.index, static_cast<qsizetype>(seen.size()));
+    EXPECT_EQ(file.count, 4);
+    seen.emplace_back(file.name,
+                      file.bytes ? std::optional(file.bytes->toByteArray()) : std::nullopt);
     return true;
   };
   temp.Data().ForEachFile(u"D"_s, u".prh", visit);
@@ -185,7 +188,7 @@ TEST(DataDir, EveryListedFileIsHandedOverEvenOneThatCannotBeRead) {
       {u"1.prh"_s, "one, the longest"}, {u"2.prh"_s, ""}, {u"3.prh"_s, {}}, {u"4.prh"_s, "four"}};
   EXPECT_EQ(seen, expected);
   int count = 0;
-  temp.Data().ForEachFile(u"D"_s, u".prh", [&](auto&, auto) { return ++count < 2; });
+  temp.Data().ForEachFile(u"D"_s, u".prh", [&](const auto&) { return ++count < 2; });
   EXPECT_EQ(count, 2);
 }
 

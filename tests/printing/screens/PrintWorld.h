@@ -7,7 +7,7 @@
 #include "ScreenDriver.h"
 #include "formats/CurrencyFile.h"
 #include "printing/Pages.h"
-#include "printing/PrintSource.h"
+#include "stock/PrintSource.h"
 
 namespace kladez {
 
