@@ -130,7 +130,7 @@ void ShipGoods(Robot& robot) {
   robot.WaitFor(u"UhodNew"_s);
   robot.Check(u"Check1"_s, true);
   robot.Picture(u"UhodNew"_s);
-  robot.Click(u"waybill"_s);
+  robot.Click(u"prn"_s);
   robot.WaitFor(u"PrihNakl"_s);
   robot.Picture(u"PrihNakl"_s);
   robot.Click(u"Command1"_s);
