@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QDate>
-#include <QStandardItemModel>
 
 #include "ScreenDriver.h"
+#include "formats/CurrencyFile.h"
 #include "shell/controls/RecordList.h"
 #include "stock/Books.h"
 #include "stock/DocumentDraft.h"
@@ -22,6 +22,15 @@ class DocumentWorld : public ScreenWorld {
                                                              QStringLiteral("шт."),
                                                              QStringLiteral("45.50")});
     Temp().Put(QStringLiteral("0001\\marked"), {});
+    // What the print screens read as they open.
+    Temp().Put(QStringLiteral("0001\\currency.usd"), WriteCurrency(RoubleCurrency()));
+    QStringList firm{QStringLiteral("Ваша фирма")};
+    while (firm.size() < 15) firm << QStringLiteral("-");
+    Temp().PutLines(QStringLiteral("0001\\spr\\firma.spr"), firm);
+    Temp().Put(QStringLiteral("0001\\spr\\klient.spr"), {});
+    Temp().Put(QStringLiteral("0001\\spr\\post.spr"), {});
+    Temp().PutLines(QStringLiteral("0001\\Склад\\price.usd"), {QStringLiteral("Розница")});
+    Temp().Put(QStringLiteral("0001\\Склад\\PRICE\\0001.prc"), {});
   }
 
   DocumentDraft::Place In(DocumentKind kind) {
