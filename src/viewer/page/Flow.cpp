@@ -119,8 +119,12 @@ void Flow::EndParagraph(double margin) {
 void Flow::AddTable(std::unique_ptr<Table> table) {
   EndParagraph(0);
   table->space_before = TakeMargin();
-  table->follows_table = table->space_before == 0 && !blocks_.empty() &&
-                         std::holds_alternative<std::unique_ptr<Table>>(blocks_.back());
+  if (table->space_before == 0 && !blocks_.empty()) {
+    if (const auto* before = std::get_if<std::unique_ptr<Table>>(&blocks_.back())) {
+      table->follows_table = true;
+      table->shares_line = (*before)->border > 0 && (*before)->collapse;
+    }
+  }
   blocks_.emplace_back(std::move(table));
 }
 

@@ -79,6 +79,7 @@ struct Table {
   int columns = 0;
   double space_before = 0;
   bool follows_table = false;  // nothing stands between it and the table before
+  bool shares_line = false;    // and the lower line of that is its upper one
   std::vector<Row> rows;       // none of them is empty
 };
 

@@ -158,8 +158,10 @@ double PageDocument::ReadableWidth() const {
 void PageDocument::Fill(QTextCursor& cursor, const std::vector<Block>& blocks, bool on_page) {
   bool is_fresh = true;
   for (size_t i = 0; i < blocks.size(); ++i) {
-    in_closing_ = on_page && i >= page_->closing && i < page_->signature_end;
-    in_signature_ = on_page && i >= page_->signature && i < page_->signature_end;
+    if (on_page) {
+      in_closing_ = i >= page_->closing && i < page_->signature_end;
+      in_signature_ = i >= page_->signature && i < page_->signature_end;
+    }
     if (const auto* table = std::get_if<std::unique_ptr<Table>>(&blocks[i])) {
       AddTable(cursor, **table, on_page);
       is_fresh = true;
@@ -215,11 +217,10 @@ void PageDocument::AddTable(QTextCursor& cursor, const Table& table, bool on_pag
     while (end < count && ReachesPast(table, begin, end)) {
       ++end;
     }
-    const bool follows = table.follows_table || begin > 0;
-    QTextTable* made = AddRows(cursor, table, begin, end, follows);
+    QTextTable* made = AddRows(cursor, table, begin, end);
     if (on_page) {
       stacks_.back().Add(*page_, table, made);
-      NoteRows(table, begin, end, made, follows);
+      NoteRows(table, begin, end, made);
       rows_made_ += static_cast<int>(end - begin);
       steps_.Advance(rows_made_);
     }
@@ -227,8 +228,8 @@ void PageDocument::AddTable(QTextCursor& cursor, const Table& table, bool on_pag
   }
 }
 
-QTextTable* PageDocument::AddRows(QTextCursor& cursor, const Table& table, size_t begin, size_t end,
-                                  bool follows) {
+QTextTable* PageDocument::AddRows(QTextCursor& cursor, const Table& table, size_t begin,
+                                  size_t end) {
   QTextTable* made =
       cursor.insertTable(static_cast<int>(end - begin), table.columns, FormatOf(table));
   for (size_t r = begin; r < end; ++r) {
@@ -238,7 +239,7 @@ QTextTable* PageDocument::AddRows(QTextCursor& cursor, const Table& table, size_
         made->mergeCells(row, cell.column, cell.row_span, cell.column_span);
       }
       QTextTableCell place = made->cellAt(row, cell.column);
-      place.setFormat(FormatOf(table, cell, row == 0 && !follows));
+      place.setFormat(FormatOf(table, cell, r == 0 && !table.shares_line));
       QTextCursor inside = place.firstCursorPosition();
       Fill(inside, cell.blocks, false);
     }
@@ -257,8 +258,7 @@ void PageDocument::NoteParagraph(const QTextCursor& cursor, const Paragraph& par
   pieces_.push_back(piece);
 }
 
-void PageDocument::NoteRows(const Table& table, size_t begin, size_t end, QTextTable* made,
-                            bool follows) {
+void PageDocument::NoteRows(const Table& table, size_t begin, size_t end, QTextTable* made) {
   size_t reach = 0;
   for (size_t r = begin; r < end; ++r) {
     const Row& row = table.rows[r];
@@ -276,10 +276,11 @@ void PageDocument::NoteRows(const Table& table, size_t begin, size_t end, QTextT
     if (r > begin) {
       pieces_.back().last_block = piece.first_block - 1;
     }
-    piece.begins_stack = r == 0 && !follows;
-    piece.border = table.border;
+    piece.begins_stack = r == 0 && !table.follows_table;
+    const bool has_line_above = table.collapse && (r > 0 || table.shares_line);
+    piece.line_above = has_line_above ? table.border : 0;
     piece.inset_bottom = table.padding + table.border;
-    piece.inset_top = table.padding + (table.collapse && r + follows > 0 ? 0 : table.border);
+    piece.inset_top = table.padding + (has_line_above ? 0 : table.border);
     piece.blank = std::all_of(row.cells.begin(), row.cells.end(),
                               [](const Cell& cell) { return cell.Text().trimmed().isEmpty(); });
     piece.reaches_down = reach > r + 1;

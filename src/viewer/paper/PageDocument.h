@@ -41,9 +41,11 @@ class PageDocument {
     bool begins_stack = false;    // the first row of tables that follow each other directly
     bool heading = false;
     bool group = false;
-    bool blank = false;    // a row with nothing to be read
-    double border = 0;     // of a row: its lines, and what lies between the edge of the row and
-    double inset_top = 0;  // its first and last block; pixels at 96 dpi
+    bool blank = false;  // a row with nothing to be read
+    // Of a row, in pixels at 96 dpi: the line above that it shares with the row before, and what
+    // lies between its edges and its first and last block.
+    double line_above = 0;
+    double inset_top = 0;
     double inset_bottom = 0;
     bool reaches_down = false;  // a cell of it goes on in the next row
     bool closing = false;       // the totals under the last list
@@ -72,10 +74,9 @@ class PageDocument {
   void Fill(QTextCursor& cursor, const std::vector<Block>& blocks, bool on_page);
   void AddParagraph(QTextCursor& cursor, const Paragraph& paragraph);
   void AddTable(QTextCursor& cursor, const Table& table, bool on_page);
-  QTextTable* AddRows(QTextCursor& cursor, const Table& table, size_t begin, size_t end,
-                      bool follows);
+  QTextTable* AddRows(QTextCursor& cursor, const Table& table, size_t begin, size_t end);
   void NoteParagraph(const QTextCursor& cursor, const Paragraph& paragraph);
-  void NoteRows(const Table& table, size_t begin, size_t end, QTextTable* made, bool follows);
+  void NoteRows(const Table& table, size_t begin, size_t end, QTextTable* made);
   void MakeFormats();
 
   std::shared_ptr<const Page> page_;

@@ -31,7 +31,7 @@ void PaperLayout::DivideAcross(double layout_width, double paper_width) {
     edges.clear();
     for (int column = 0; column < piece.table->columns(); ++column) {
       const QTextBlock block = piece.table->cellAt(piece.row, column).firstCursorPosition().block();
-      const double inset = (kLeastPadding + piece.border) * PaperDpi() / kDotsPerInch;
+      const double inset = (kLeastPadding + 1) * PaperDpi() / kDotsPerInch;
       edges.push_back(layout->blockBoundingRect(block).left() - inset);
     }
   }

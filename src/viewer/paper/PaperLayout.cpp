@@ -134,7 +134,7 @@ void PaperLayout::AddRow(size_t index, double height, std::vector<Unit>& units) 
   Unit unit;
   unit.top = RowTop(piece);
   unit.bottom = next != nullptr && next->table == piece.table ? RowTop(*next) : RowBottom(piece);
-  unit.lead = piece.begins_stack ? 0 : piece.border * kDotsPerPixel;
+  unit.lead = piece.line_above * kDotsPerPixel;
   unit.keep_with_next = piece.heading || piece.group || piece.reaches_down || StaysWithNext(index);
   unit.blank = piece.blank;
   if (unit.bottom - unit.top > height / 2) {

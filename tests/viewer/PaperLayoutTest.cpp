@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <system_error>
+
+#include "viewer/DrawnText.h"
+#include "viewer/SamplePages.h"
+#include "viewer/page/PageReader.h"
+#include "viewer/paper/Output.h"
+#include "viewer/paper/PaperLayout.h"
+
+namespace kladez::viewer {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+std::shared_ptr<const Page> Read(const QString& text) {
+  QImage picture(400, 200, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  return std::make_shared<Page>(ReadPage(text, [&](const QString&) { return picture; }));
+}
+
+std::unique_ptr<PaperLayout> LaidOut(const QString& text, PaperFormat format = {}) {
+  auto layout = std::make_unique<PaperLayout>(Read(text));
+  EXPECT_TRUE(layout->LayOut(layout->Propose(format), {}));
+  return layout;
+}
+
+int CountOf(const QString& what, const QString& text) {
+  static const QString kEnd = u"(?!\\d)"_s;
+  return static_cast<int>(text.count(QRegularExpression(QRegularExpression::escape(what) + kEnd)));
+}
+
+TEST(PaperLayoutTest, EachGoodsIsOnOneSheetAndEachSheetHasTheHeading) {
+  struct Case {
+    const char* name;
+    QString page;
+    int rows;
+    QString heading;
+  };
+  const Case cases[] = {{"waybill", WaybillPage(150, u"К"_s), 150, u"Наименование"_s},
+                        {"invoice", InvoicePage(70), 70, u"Налоговая"_s},
+                        {"bill", BillPage(90), 90, u"Ед. изм."_s},
+                        {"report", ReportPage(700), 700, u"Товар"_s}};
+  for (const Case& test : cases) {
+    const auto layout = LaidOut(test.page);
+    const QStringList sheets = TextsOfSheets(*layout);
+    ASSERT_GT(sheets.size(), 1) << test.name;
+    const QString all = sheets.join(u' ');
+    for (int row = 1; row <= test.rows; ++row) {
+      ASSERT_EQ(CountOf(u"№%1"_s.arg(row), all), 1) << test.name << " row " << row;
+    }
+    for (int sheet = 0; sheet < sheets.size(); ++sheet) {
+      const bool has_rows = sheets[sheet].contains(u'№');
+      EXPECT_EQ(CountOf(test.heading, sheets[sheet]), has_rows ? 1 : 0)
+          << test.name << " sheet " << sheet;
+      const QString number = u"лист %1 из %2"_s.arg(sheet + 1).arg(sheets.size());
+      EXPECT_EQ(CountOf(number, sheets[sheet]), 1) << test.name;
+    }
+  }
+}
+
+TEST(PaperLayoutTest, GroupStandsAboveItsFirstRowOnEverySheet) {
+  // Groups of many lengths, so that some would end a sheet.
+  for (const int rows_of_group : {1, 2, 3, 5, 8}) {
+    const auto layout = LaidOut(PricePage(60, rows_of_group));
+    for (const QString& sheet : TextsOfSheets(*layout)) {
+      const QString body = sheet.left(sheet.indexOf(u"лист "_s));
+      EXPECT_FALSE(body.contains(QRegularExpression(u"Группа \\d+$"_s)))
+          << "a group ends a sheet: " << body.right(40).toStdString();
+    }
+  }
+}
+
+TEST(PaperLayoutTest, SignaturesStandOnOneSheetWithTheTotals) {
+  // Wherever the table ends on its sheet.
+  for (int rows = 30; rows < 60; ++rows) {
+    const QString last = TextsOfSheets(*LaidOut(WaybillPage(rows, u"К"_s))).last();
+    EXPECT_TRUE(last.contains(u"Всего: "_s)) << rows;
+    EXPECT_TRUE(last.contains(u"Отпустил"_s)) << rows;
+  }
+  for (int rows = 15; rows < 35; ++rows) {
+    const QString last = TextsOfSheets(*LaidOut(InvoicePage(rows))).last();
+    EXPECT_TRUE(last.contains(u"Руководитель"_s)) << rows;
+    EXPECT_TRUE(last.contains(u"недействительна"_s)) << rows;
+  }
+}
+
+TEST(PaperLayoutTest, OneSheetHasNoNumber) {
+  const QStringList sheets = TextsOfSheets(*LaidOut(WaybillPage(3, u"К"_s)));
+  ASSERT_EQ(sheets.size(), 1);
+  EXPECT_FALSE(sheets[0].contains(u"лист"_s));
+  EXPECT_TRUE(sheets[0].endsWith(u"Получил ___________"_s)) << "the end of the page is missing";
+}
+
+TEST(PaperLayoutTest, WidePageProposesLandscapeAndANarrowOneDoesNot) {
+  EXPECT_EQ(LaidOut(InvoicePage(3))->format().page.orientation(), QPageLayout::Landscape);
+  EXPECT_EQ(LaidOut(WaybillPage(3, u"К"_s))->format().page.orientation(), QPageLayout::Portrait);
+  PaperFormat portrait;
+  const double width = BodyWidth(portrait);
+  EXPECT_EQ(Propose(portrait, width / 0.86).page.orientation(), QPageLayout::Portrait);
+  EXPECT_EQ(Propose(portrait, width / 0.84).page.orientation(), QPageLayout::Landscape);
+}
+
+TEST(PaperLayoutTest, WithoutFitToWidthAWidePageGoesOnToTheRight) {
+  PaperLayout layout(Read(InvoicePage(3)));
+  PaperFormat format;
+  ASSERT_TRUE(layout.LayOut(format, {}));
+  EXPECT_LT(layout.Scale(), 1);
+  EXPECT_EQ(layout.SheetCount(), 1);
+  format.fit_width = false;
+  ASSERT_TRUE(layout.LayOut(format, {}));
+  EXPECT_EQ(layout.Scale(), 1);
+  EXPECT_EQ(layout.SheetCount(), 2);
+}
+
+TEST(PaperLayoutTest, PictureIsOnPaper) {
+  const auto layout = LaidOut(ChartPage());
+  WordDevice device;
+  QPainter painter(&device);
+  layout->Draw(painter, 0, 96);
+  painter.end();
+  EXPECT_EQ(device.words().pictures(), 1);
+}
+
+TEST(PaperLayoutTest, LayingOutStopsWhenAsked) {
+  PaperLayout layout(Read(ReportPage(600)));
+  int calls = 0;
+  EXPECT_FALSE(layout.LayOut({}, [&calls](int, int) { return ++calls < 3; }));
+  EXPECT_EQ(calls, 3);
+  EXPECT_EQ(layout.SheetCount(), 0);
+}
+
+TEST(OutputTest, StoppedPdfLeavesTheOldFile) {
+  const QTemporaryDir directory;
+  const QString path = directory.filePath(u"форма.pdf"_s);
+  const auto layout = LaidOut(WaybillPage(150, u"К"_s));
+  ASSERT_TRUE(WritePdf(*layout, u"Накладная"_s, path, {}));
+  const qint64 size = QFileInfo(path).size();
+  EXPECT_GT(size, 10000);
+  EXPECT_FALSE(WritePdf(*layout, u"Накладная"_s, path, [](int done, int) { return done < 2; }));
+  EXPECT_EQ(QFileInfo(path).size(), size);
+  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST(OutputTest, PdfThatCannotBeWrittenTellsTheReason) {
+  try {
+    ExportPdf(Read(WaybillPage(1, u"К"_s)), u"/none/such/форма.pdf"_s);
+    FAIL() << "a file in no directory was written";
+  } catch (const std::system_error& error) {
+    EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
+  }
+}
+
+TEST(OutputTest, SheetPicturesHaveLinesAndLettersInsideTheMargins) {
+  const QTemporaryDir directory;
+  const QStringList paths =
+      ExportSheetPictures(Read(WaybillPage(60, u"К"_s)), directory.path(), u"лист"_s, 96);
+  ASSERT_EQ(paths.size(), 2);
+  const QImage picture(paths.front());
+  EXPECT_NEAR(picture.width(), 210 / 25.4 * 96, 1);
+  const auto is_dark = [&picture](int x, int y) { return qGray(picture.pixel(x, y)) < 160; };
+  int dark_rows = 0;
+  int dark_at_edges = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    int dark = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      dark += is_dark(x, y);
+      dark_at_edges += is_dark(x, y) && (x < 36 || x > picture.width() - 36);
+    }
+    dark_rows += dark > 700;
+  }
+  EXPECT_GT(dark_rows, 40) << "lines between rows are missing";
+  EXPECT_EQ(dark_at_edges, 0) << "something is drawn in the margins";
+}
+
+TEST(OutputTest, PdfNameIsTakenByEveryFileSystem) {
+  EXPECT_EQ(PdfName(u"Отчет от 05 марта 2026"_s), u"Отчет от 05 марта 2026.pdf"_s);
+  EXPECT_EQ(PdfName(u"a/b\\c:d*e?\"<f>|"_s), u"a b c d e f.pdf"_s);
+  EXPECT_EQ(PdfName(u"..."_s), u"Печатная форма.pdf"_s);
+}
+
+}  // namespace
+}  // namespace kladez::viewer

@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextTable>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include "viewer/SamplePages.h"
+#include "viewer/page/PageReader.h"
+#include "viewer/window/PreviewDialog.h"
+#include "viewer/window/Printing.h"
+#include "viewer/window/SelectionText.h"
+#include "viewer/window/ViewerWindow.h"
+
+namespace kladez::viewer {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Closes the message that the next command brings up and keeps what it said.
+class MessageCatcher {
+ public:
+  MessageCatcher() {
+    timer_.setInterval(5);
+    QObject::connect(&timer_, &QTimer::timeout, [this] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        title_ = box->windowTitle();
+        text_ = box->text();
+        box->close();
+      }
+    });
+    timer_.start();
+  }
+  const QString& title() const { return title_; }
+  const QString& text() const { return text_; }
+
+ private:
+  QTimer timer_;
+  QString title_;
+  QString text_;
+};
+
+class ViewerWindowTest : public ::testing::Test {
+ protected:
+  ViewerWindowTest() : window_(QDir(directory_.path()), u"out.htm"_s) {}
+
+  void Put(const QString& page) {
+    QFile file(Path());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(ToWindows1251(page));
+  }
+  QString Path() const { return directory_.filePath(u"out.htm"_s); }
+  void LoadAndShow(const QString& page) {
+    Put(page);
+    ASSERT_TRUE(window_.Load());
+    window_.show();
+    QApplication::processEvents();
+  }
+  template <typename Control>
+  Control* Find(const QString& name) {
+    auto* control = window_.findChild<Control*>(name);
+    EXPECT_NE(control, nullptr) << name.toStdString();
+    return control;
+  }
+  PageView* View() { return Find<PageView>(u"PageView"_s); }
+
+  QTemporaryDir directory_;
+  ViewerWindow window_;
+};
+
+TEST_F(ViewerWindowTest, MissingPageIsToldWithWhatToDo) {
+  MessageCatcher message;
+  EXPECT_FALSE(window_.Load());
+  EXPECT_EQ(message.title(), u"Внимание!"_s);
+  EXPECT_EQ(message.text(), u"Нет печатной формы: файл\n"_s + Path() +
+                                u"\nне найден.\n\nВыведите документ на печать из программы еще "
+                                "раз."_s);
+  EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(ViewerWindowTest, UnreadablePageIsToldWithTheReason) {
+  ASSERT_TRUE(QDir(directory_.path()).mkdir(u"out.htm"_s));
+  MessageCatcher message;
+  EXPECT_FALSE(window_.Load());
+  EXPECT_TRUE(message.text().contains(Path()));
+  EXPECT_TRUE(message.text().contains(u"прочитать не удалось"_s));
+}
+
+TEST_F(ViewerWindowTest, OpensAtTheTopUnderItsTitle) {
+  LoadAndShow(WaybillPage(200, u"К"_s));
+  EXPECT_EQ(window_.windowTitle(), u"Накладная"_s);
+  EXPECT_EQ(View()->verticalScrollBar()->value(), 0);
+  EXPECT_GT(View()->verticalScrollBar()->maximum(), 1000);
+}
+
+TEST_F(ViewerWindowTest, KeepsItsContentWhenThePageOnDiskIsReplaced) {
+  LoadAndShow(WaybillPage(3, u"Первый"_s));
+  Put(WaybillPage(3, u"Второй"_s));
+  View()->SetZoom(150);
+  QApplication::processEvents();
+  EXPECT_TRUE(View()->toPlainText().contains(u"Первый"_s));
+
+  QTest::keyClick(&window_, Qt::Key_F5);
+  EXPECT_TRUE(View()->toPlainText().contains(u"Второй"_s));
+
+  ASSERT_TRUE(QFile::remove(Path()));
+  MessageCatcher message;
+  QTest::keyClick(&window_, Qt::Key_F5);
+  EXPECT_TRUE(message.text().contains(u"не найден"_s));
+  EXPECT_TRUE(View()->toPlainText().contains(u"Второй"_s)) << "a failed reload lost the page";
+}
+
+TEST_F(ViewerWindowTest, ZoomsByKeysAndWheelAndBack) {
+  LoadAndShow(WaybillPage(3, u"К"_s));
+  const int width = View()->lineWrapColumnOrWidth();
+  QTest::keyClick(&window_, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(View()->ZoomPercent(), 110);
+  EXPECT_GT(View()->lineWrapColumnOrWidth(), width);
+  QTest::keyClick(&window_, Qt::Key_Minus, Qt::ControlModifier);
+  QTest::keyClick(&window_, Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(View()->ZoomPercent(), 90);
+  QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), {}, {0, 120}, Qt::NoButton,
+                    Qt::ControlModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(View()->viewport(), &wheel);
+  QApplication::sendEvent(View()->viewport(), &wheel);
+  EXPECT_EQ(View()->ZoomPercent(), 110);
+  QTest::keyClick(&window_, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(View()->ZoomPercent(), 100);
+  EXPECT_EQ(View()->lineWrapColumnOrWidth(), width);
+}
+
+TEST_F(ViewerWindowTest, ZoomEnlargesEachLetterAndPicture) {
+  // Also the letters whose size is told in points, and what holds no letters at all.
+  LoadAndShow(InvoicePage(2) + u"<img src=temp.png>"_s);
+  QApplication::processEvents();
+  const qreal before = View()->document()->size().height();
+  View()->SetZoom(200);
+  EXPECT_NEAR(View()->document()->size().height() / before, 2, 0.06);
+}
+
+TEST_F(ViewerWindowTest, FindsForwardBackwardAndFromTheOtherEnd) {
+  LoadAndShow(WaybillPage(300, u"К"_s));
+  QTest::keyClick(&window_, Qt::Key_F, Qt::ControlModifier);
+  auto* text = Find<QLineEdit>(u"FindText"_s);
+  text->setText(u"болт м8х40"_s);  // letter case does not matter
+  QTest::keyClick(text, Qt::Key_Return);
+  EXPECT_EQ(View()->textCursor().selectedText(), u"Болт М8х40"_s);
+  const int first = View()->textCursor().position();
+  QTest::keyClick(text, Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_GT(View()->textCursor().position(), first) << "did not go on from the end";
+  EXPECT_GT(View()->verticalScrollBar()->value(), 0) << "what was found is out of sight";
+  QTest::keyClick(text, Qt::Key_Return);
+  EXPECT_EQ(View()->textCursor().position(), first);
+
+  text->setText(u"нет такого"_s);
+  QTest::keyClick(text, Qt::Key_Return);
+  EXPECT_EQ(Find<QLabel>(u"FindResult"_s)->text(), u"Не найдено"_s);
+  QTest::keyClick(text, Qt::Key_Escape);
+  EXPECT_FALSE(text->isVisible());
+}
+
+TEST_F(ViewerWindowTest, CopiedRowsComeInColumns) {
+  LoadAndShow(WaybillPage(2, u"Ромашка"_s));
+  QTest::keyClick(&window_, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&window_, Qt::Key_C, Qt::ControlModifier);
+  const QString copied = QApplication::clipboard()->text();
+  EXPECT_TRUE(copied.contains(u"Кому:Ромашка\n"_s));
+  EXPECT_TRUE(
+      copied.contains(u"\n1\t Гвозди строительные 100 мм №1 \t2 \t125.50 \t12550.00 \n2\t"_s));
+}
+
+TEST_F(ViewerWindowTest, CopiedRectangleHasItsColumnsOnly) {
+  LoadAndShow(WaybillPage(3, u"К"_s));
+  QTextCursor cursor = View()->textCursor();
+  cursor.movePosition(QTextCursor::Start);
+  while (cursor.currentTable() == nullptr) {
+    ASSERT_TRUE(cursor.movePosition(QTextCursor::NextBlock));
+  }
+  const QTextTable* table = cursor.currentTable();
+  cursor.setPosition(table->cellAt(1, 3).firstPosition());
+  cursor.setPosition(table->cellAt(2, 2).firstPosition(), QTextCursor::KeepAnchor);
+  EXPECT_EQ(PlainTextOf(cursor), u"2 \t125.50 \n3 \t125.50 "_s);
+}
+
+TEST(PreviewDialogTest, ProposesLandscapeAndObeysTheChoices) {
+  const auto page =
+      std::make_shared<Page>(ReadPage(InvoicePage(60), [](const QString&) { return QImage(); }));
+  PreviewDialog dialog(page);
+  ASSERT_TRUE(dialog.Prepare());
+  dialog.show();
+  EXPECT_TRUE(dialog.findChild<QRadioButton*>(u"Landscape"_s)->isChecked());
+  EXPECT_TRUE(dialog.findChild<QLabel*>(u"Proposal"_s)->isVisible());
+  EXPECT_TRUE(dialog.findChild<QCheckBox*>(u"FitWidth"_s)->isChecked());
+  EXPECT_EQ(dialog.findChild<QLabel*>(u"CurrentSheet"_s)->text(), u"Лист 1 из 3"_s);
+
+  dialog.findChild<QRadioButton*>(u"Portrait"_s)->click();
+  EXPECT_EQ(dialog.layout().format().page.orientation(), QPageLayout::Portrait);
+  EXPECT_LT(dialog.layout().Scale(), 0.85);
+  EXPECT_FALSE(dialog.findChild<QLabel*>(u"Proposal"_s)->isVisible());
+  const int sheets = dialog.layout().SheetCount();
+
+  dialog.findChild<QCheckBox*>(u"FitWidth"_s)->click();
+  EXPECT_EQ(dialog.layout().Scale(), 1);
+  EXPECT_GT(dialog.layout().SheetCount(), sheets);
+}
+
+TEST(PrintingTest, SheetsThatAPersonAsksFor) {
+  using Sheets = std::vector<int>;
+  EXPECT_EQ(ParseSheets(u" "_s, 3), (Sheets{0, 1, 2}));
+  EXPECT_EQ(ParseSheets(u"1-2, 3"_s, 3), (Sheets{0, 1, 2}));
+  EXPECT_EQ(ParseSheets(u"3,1"_s, 3), (Sheets{2, 0}));
+  for (const QString& refused : {u"0"_s, u"4"_s, u"2-1"_s, u"1-"_s, u"все"_s, u"1,,2"_s}) {
+    EXPECT_EQ(ParseSheets(refused, 3), std::nullopt) << refused.toStdString();
+  }
+}
+
+TEST(ViewerSpeedTest, LongPageAnswersBeforeAllOfItIsLaidOut) {
+  const auto page =
+      std::make_shared<Page>(ReadPage(ReportPage(5000), [](const QString&) { return QImage(); }));
+  ViewerWindow window(QDir(), {});
+  window.ShowPage(page);
+  auto* view = window.findChild<PageView*>();
+  int reports = 0;
+  int last_done = 0;
+  int total = 0;
+  QObject::connect(view, &PageView::Prepared, [&](int done, int all) {
+    ++reports;
+    last_done = done;
+    total = all;
+  });
+  window.show();
+  while (reports == 0 || last_done < total) {
+    QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+  EXPECT_GT(reports, 3) << "the page was laid out in one go";
+  EXPECT_FALSE(window.findChild<QProgressBar*>(u"LoadProgress"_s)->isVisible());
+}
+
+}  // namespace
+}  // namespace kladez::viewer
