@@ -13,7 +13,8 @@ namespace kladez::viewer {
 
 class WordKeeper : public QPaintEngine {
  public:
-  WordKeeper() : QPaintEngine(QPaintEngine::AllFeatures & ~QPaintEngine::PainterPaths) {}
+  WordKeeper()
+      : QPaintEngine(PaintEngineFeatures(AllFeatures) & ~PaintEngineFeatures(PainterPaths)) {}
   bool begin(QPaintDevice* /*device*/) override { return true; }
   bool end() override { return true; }
   void updateState(const QPaintEngineState& /*state*/) override {}
