@@ -124,7 +124,7 @@ void ShipGoods(Robot& robot) {
   robot.WaitFor(u"price2"_s);
   robot.Choose(u"Combo2"_s, u"Мелкий опт"_s);
   PickForShipment(robot, u"Чай «Ладья»"_s, u"3"_s);
-  PickForShipment(robot, u"Чай на вес"_s, u"0.125"_s);
+  PickForShipment(robot, u"Чай на вес"_s, u"0.25"_s);
   robot.Picture(u"price2"_s);
   robot.Press(Qt::Key_Escape);
   robot.WaitFor(u"UhodNew"_s);

@@ -10,48 +10,54 @@
 #include <cstdio>
 
 #include "demo/DemoBooks.h"
-#include "shell/frmMain.h"
 #include "store/Errors.h"
 #include "tour/Road.h"
+#include "tour/Stage.h"
+#include "viewer/page/PageReader.h"
+#include "viewer/paper/Output.h"
+#include "viewer/window/ViewerWindow.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kSplashMilliseconds = 400;
+constexpr int kSheetDotsPerInch = 96;
+
+// The page as the viewer shows it and prints it.
+void KeepPage(const QString& folder) {
+  const auto page = std::make_shared<const kladez::viewer::Page>(
+      kladez::viewer::ReadPageFile(QDir(folder), u"out.htm"_s));
+  kladez::viewer::RenderWindowPicture(page, folder + u"/out.png"_s);
+  kladez::viewer::ExportSheetPictures(page, folder, u"out-sheet"_s, kSheetDotsPerInch);
+  kladez::viewer::ExportPdf(page, folder + u"/out.pdf"_s);
+}
 
 void Play(const QString& folder) {
   const QTemporaryDir home;
-  const kladez::DataDir data(home.path());
-  kladez::Clock clock;
-  kladez::WriteDemonstrationBooks(data, clock.Today());
-  kladez::Session session;
-  kladez::SettingsStore settings(home.path() + u"/settings.ini"_s);
-  const kladez::PrintOutDesk desk(data, [&] {
+  const kladez::Clock clock;
+  const QString data = home.path() + u"/data"_s;
+  QDir().mkpath(data);
+  kladez::WriteDemonstrationBooks(kladez::DataDir(data), clock.Today());
+  kladez::Stage stage(data, home.path() + u"/settings.ini"_s, clock, [&] {
     const QString page = folder + u"/out.htm"_s;
     QFile::remove(page);
-    QFile::copy(data.Root() + u"/out.htm"_s, page);
+    QFile::copy(data + u"/out.htm"_s, page);
   });
-  kladez::AppContext context{data, session, settings, clock, desk};
-  kladez::frmMain window(context);
-  window.resize(1280, 800);
   kladez::Robot robot(folder);
-  robot.Run([&](kladez::Robot& player) {
-    player.InWindow([&] {
-      window.Start(kSplashMilliseconds);
-      window.show();
-      window.activateWindow();
-    });
+  stage.Play(robot, [](kladez::Robot& player) {
     kladez::OpenDatabaseByHand(player, u"Демонстрационная база"_s);
     kladez::PlayRoad(player);
     kladez::VisitScreens(player);
   });
+  KeepPage(folder);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The platform has no hints of sizes to take, and says so for each window.
+  qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   QApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);
