@@ -1,10 +1,11 @@
 #include "shell/LinkPanels.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "shell/Link.h"
+#include "shell/controls/WrapRow.h"
 
 namespace kladez {
 namespace {
@@ -31,15 +32,20 @@ QLabel* NewHeading(QStringView text, QWidget* parent) {
 
 }  // namespace
 
-LinksPanel::LinksPanel(QWidget* parent) : QWidget(parent) {
+LinksPanel::LinksPanel(QWidget* parent) : QScrollArea(parent) {
   setObjectName(u"Picture1"_s);
-  FillGround(this, look::kAccent);
-  auto* layout = new QVBoxLayout(this);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setWidgetResizable(true);
+  auto* ground = new QWidget(this);
+  FillGround(ground, look::kAccent);
+  auto* layout = new QVBoxLayout(ground);
   layout->setContentsMargins(look::kMargin, look::kMargin, look::kMargin, look::kMargin);
   layout->setSpacing(0);
   const auto add = [&](const PlaceRow& row) {
     auto* link = new Link(u"go%1"_s.arg(static_cast<int>(row.place)), row.link, row.icon,
-                          Link::Ground::kDark, Link::Form::kRow, this);
+                          Link::Ground::kDark, Link::Form::kRow, ground);
     connect(link, &Link::clicked, this, [this, place = row.place] { emit Chosen(place); });
     layout->addWidget(link);
   };
@@ -47,21 +53,30 @@ LinksPanel::LinksPanel(QWidget* parent) : QWidget(parent) {
   for (const PlaceGroup group :
        {PlaceGroup::kStore, PlaceGroup::kReports, PlaceGroup::kDirectories}) {
     layout->addSpacing(look::kMargin);
-    layout->addWidget(NewHeading(GroupHeading(group), this));
+    layout->addWidget(NewHeading(GroupHeading(group), ground));
     layout->addSpacing(look::kTight);
     for (const PlaceRow& row : Places()) {
       if (row.group == group) add(row);
     }
   }
   layout->addStretch();
+  setWidget(ground);
 }
+
+QSize LinksPanel::sizeHint() const {
+  const QSize links = widget()->minimumSizeHint();
+  const int bar = height() < links.height() ? verticalScrollBar()->sizeHint().width() : 0;
+  return {links.width() + bar, links.height()};
+}
+
+QSize LinksPanel::minimumSizeHint() const { return {sizeHint().width(), 0}; }
 
 LinksStrip::LinksStrip(QWidget* parent) : QWidget(parent) {
   setObjectName(u"Picture2"_s);
   FillGround(this, look::kAccentLight);
-  auto* layout = new QHBoxLayout(this);
+  auto* layout = new WrapRow(look::kGrid, 0);
+  setLayout(layout);
   layout->setContentsMargins(look::kGrid, 0, look::kGrid, 0);
-  layout->setSpacing(look::kGrid);
   const auto add = [&](const PlaceRow& row) {
     auto* link = new Link(row.strip.toString(), row.strip_caption, row.icon, Link::Ground::kLight,
                           Link::Form::kColumn, this);
@@ -72,7 +87,6 @@ LinksStrip::LinksStrip(QWidget* parent) : QWidget(parent) {
   for (const PlaceRow& row : Places()) {
     if (!row.strip.isEmpty() && row.place != Place::kHome) add(row);
   }
-  layout->addStretch();
 }
 
 }  // namespace kladez

@@ -1,18 +1,23 @@
 // The links around the child screen of the main window: the left panel and the strip at the top.
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 
 #include "shell/Places.h"
 
 namespace kladez {
 
-// Picture1: the links `go0` to `go17` under the headings of their groups, on a dark ground.
-class LinksPanel : public QWidget {
+// Picture1: the links `go0` to `go17` under the headings of their groups, on a dark ground. Scrolls
+// where the window is too low for all of them.
+class LinksPanel : public QScrollArea {
   Q_OBJECT
 
  public:
   explicit LinksPanel(QWidget* parent);
+
+  // As wide as its links.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  signals:
   void Chosen(Place place);

@@ -14,6 +14,7 @@
 #include "shell/Hints.h"
 #include "shell/Link.h"
 #include "shell/controls/LongWork.h"
+#include "shell/controls/WrapRow.h"
 
 namespace kladez {
 namespace {
@@ -155,16 +156,11 @@ QLayout* Main::NewOptions() {
     Store(settings::kPanel, Check3);
     ClickPanel();
   });
-  // Two lines, so that the window fits a screen of 1024 pixels.
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(look::kGap);
-  grid->setVerticalSpacing(look::kTight);
-  grid->setColumnStretch(3, 1);
-  grid->addWidget(Check1, 0, 0);
-  grid->addWidget(Check2, 0, 1);
-  grid->addWidget(AddHint(u"Picture22", this), 0, 2);
-  grid->addWidget(Check3, 1, 0);
-  return grid;
+  auto* row = new WrapRow(look::kGap, look::kTight);
+  row->addWidget(Check1);
+  row->AddGroup({Check2, AddHint(u"Picture22", this)}, look::kTight);
+  row->addWidget(Check3);
+  return row;
 }
 
 QCheckBox* Main::NewOption(const QString& name, const QString& caption) {

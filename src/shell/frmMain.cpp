@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <memory>
@@ -62,8 +63,15 @@ void frmMain::BuildLayout() {
   inner->setObjectName(u"inner"_s);
   Picture1 = new LinksPanel(inner);
   Picture2 = new LinksStrip(inner);
-  Picture2->setFixedHeight(look::FromTwips(kStripHeight));
+  Picture2->setMinimumHeight(look::FromTwips(kStripHeight));
   host_ = new QWidget(inner);
+  // With large letters on a small screen a child screen scrolls instead of being cut.
+  auto* view = new QScrollArea(inner);
+  view->setObjectName(u"view"_s);
+  view->setFrameShape(QFrame::NoFrame);
+  view->setFocusPolicy(Qt::NoFocus);
+  view->setWidgetResizable(true);
+  view->setWidget(host_);
   host_layout_ = new QVBoxLayout(host_);
   host_layout_->setContentsMargins(0, 0, 0, 0);
   foot_ = new QWidget(inner);
@@ -80,7 +88,7 @@ void frmMain::BuildLayout() {
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(Picture1);
-  middle->addWidget(host_, 1);
+  middle->addWidget(view, 1);
   auto* layout = new QVBoxLayout(inner);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);

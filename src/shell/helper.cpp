@@ -32,6 +32,7 @@ helper::helper(const Hint& hint, QWidget* parent)
   Label1->setWordWrap(true);
   Text1->setObjectName(u"Text1"_s);
   Text1->setReadOnly(true);
+  Text1->setAccessibleName(hint.heading);
   Text1->setFrameShape(QFrame::NoFrame);
   Text1->viewport()->setAutoFillBackground(false);
   Text1->setMinimumSize(52 * look::kGrid, 13 * look::kGrid);

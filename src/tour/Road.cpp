@@ -1,7 +1,5 @@
 #include "tour/Road.h"
 
-#include <array>
-
 namespace kladez {
 namespace {
 
@@ -172,32 +170,6 @@ void PlayRoad(Robot& robot) {
   ReceiveGoods(robot);
   SetPrices(robot);
   ShipGoods(robot);
-}
-
-void VisitScreens(Robot& robot) {
-  struct Visit {
-    QStringView menu;
-    QStringView screen;
-    bool dialog;
-  };
-  static constexpr std::array kVisits = {
-      Visit{u"mnu_Sklad_NT", u"Sklad", false},   Visit{u"mnu_Sklad_VO", u"vnutr", false},
-      Visit{u"mnu_Sklad_ZO", u"ost", true},      Visit{u"mnu_Otchet_OPP", u"otppr", true},
-      Visit{u"mnu_Otchet_RPVT", u"otrpt", true}, Visit{u"mnu_Otchet_GP", u"otgr", true},
-      Visit{u"mnu_Otchet_SR", u"otspeed", true}, Visit{u"mnu_Otchet_DB", u"otpruh", true},
-      Visit{u"mnu_Sprav_O", u"sprFirm", true},   Visit{u"mnu_Sprav_S", u"sprSklad", true},
-      Visit{u"mnu_Sprav_OV", u"currenc", true},  Visit{u"mnubases", u"Bases", true},
-      Visit{u"mnuimp", u"BasesImport", true},    Visit{u"arch", u"rescopy", true},
-      Visit{u"reparch", u"resrep", true},        Visit{u"mnAbout", u"about", true},
-  };
-  for (const Visit& visit : kVisits) {
-    robot.OpenMenu(visit.menu.toString());
-    robot.WaitFor(visit.screen.toString());
-    robot.Picture(visit.screen.toString());
-    if (!visit.dialog) continue;
-    robot.Press(Qt::Key_Escape);
-    robot.WaitUntilGone(visit.screen.toString());
-  }
 }
 
 }  // namespace kladez

@@ -14,7 +14,4 @@ void OpenDatabaseByHand(Robot& robot, const QString& name);
 // From the home screen, through to the printed waybill and the closed shipment.
 void PlayRoad(Robot& robot);
 
-// Opens every other screen once, for its picture.
-void VisitScreens(Robot& robot);
-
 }  // namespace kladez

@@ -12,16 +12,20 @@
 #include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QTabWidget>
 #include <QTest>
 #include <QThread>
 #include <QWidget>
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <stdexcept>
 #include <thread>
+
+#include "shell/controls/HintPicture.h"
 
 namespace kladez {
 namespace {
@@ -36,7 +40,8 @@ constexpr int kPatience = 20000;  // milliseconds until a step counts as failed
 QWidget* Front() {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  if (QWidget* active = QApplication::activeWindow()) return active;
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && active->isVisible()) return active;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (widget->isVisible()) return widget;
   }
@@ -51,6 +56,13 @@ QWidget* FindVisible(const QString& name) {
     if (widget->isVisible()) return widget;
   }
   return nullptr;
+}
+
+// A dialog in front, or the child screen of the main window; a command may bear the same name.
+QWidget* FindScreen(const QString& name) {
+  QWidget* front = Front();
+  if (front == nullptr || front->objectName() == name) return front;
+  return qobject_cast<QMainWindow*>(front) != nullptr ? FindVisible(name) : nullptr;
 }
 
 QWidget* Control(const QString& name) {
@@ -75,6 +87,9 @@ Kind* ControlOf(const QString& name) {
 QWidget* KeyboardTarget() {
   QWidget* front = Front();
   if (front == nullptr) return nullptr;
+  // Where a dialog closed, a window manager would make the window below it active.
+  const QWidget* active = QApplication::activeWindow();
+  if (active == nullptr || !active->isVisible()) QApplication::setActiveWindow(front->window());
   return front->focusWidget() != nullptr ? front->focusWidget() : front;
 }
 
@@ -100,6 +115,28 @@ QString ShownText(QWidget* control) {
   if (const auto* date = qobject_cast<QDateTimeEdit*>(control)) return date->text();
   return control->windowTitle();
 }
+
+// Waits for one window of a name to be shown.
+class ShowWatch : public QObject {
+ public:
+  ShowWatch(const QString& name, std::function<void(QWidget*)> shown)
+      : QObject(qApp), name_(name), shown_(std::move(shown)) {}
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (event->type() != QEvent::Show || widget == nullptr || widget->objectName() != name_) {
+      return false;
+    }
+    qApp->removeEventFilter(this);
+    deleteLater();
+    shown_(widget);
+    return false;
+  }
+
+ private:
+  QString name_;
+  std::function<void(QWidget*)> shown_;
+};
 
 }  // namespace
 
@@ -188,11 +225,11 @@ void Robot::WaitUntil(const QString& what, const std::function<bool()>& holds) {
 }
 
 void Robot::WaitFor(const QString& screen) {
-  WaitUntil(screen, [screen] { return FindVisible(screen) != nullptr; });
+  WaitUntil(screen, [screen] { return FindScreen(screen) != nullptr; });
 }
 
 void Robot::WaitUntilGone(const QString& screen) {
-  WaitUntil(u"закрытие "_s + screen, [screen] { return FindVisible(screen) == nullptr; });
+  WaitUntil(u"закрытие "_s + screen, [screen] { return FindScreen(screen) == nullptr; });
 }
 
 void Robot::AnswerMessage(const QString& button, const QString& text) {
@@ -217,6 +254,17 @@ void Robot::Click(const QString& control) {
     return widget != nullptr && widget->isEnabled();
   });
   InWindow([=] { QTest::mouseClick(Control(control), Qt::LeftButton); });
+}
+
+void Robot::ClickHint(const QString& heading) {
+  InWindow([=] {
+    for (HintPicture* picture : Front()->findChildren<HintPicture*>()) {
+      if (picture->isVisible() && picture->Content().heading == heading) {
+        return QTest::mouseClick(picture, Qt::LeftButton);
+      }
+    }
+    Fail(u"Нет подсказки "_s + heading);
+  });
 }
 
 void Robot::SelectRow(const QString& list, const QString& first_column) {
@@ -254,9 +302,12 @@ void Robot::Type(const QString& control, const QString& text) {
 
 void Robot::TypeHere(const QString& text) {
   InWindow([=] {
-    QWidget* widget = KeyboardTarget();
-    if (widget == nullptr) Fail(u"Печатать некуда: "_s + text);
-    TypeText(widget, text);
+    // A list passes what is typed to its search field: the focus may move with the first letter.
+    for (const QChar c : text) {
+      QWidget* widget = KeyboardTarget();
+      if (widget == nullptr) Fail(u"Печатать некуда: "_s + text);
+      TypeText(widget, c);
+    }
   });
 }
 
@@ -266,6 +317,36 @@ void Robot::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     if (widget == nullptr) Fail(u"Нажимать некуда"_s);
     QTest::keyClick(widget, key, modifiers);
   });
+}
+
+void Robot::PressLetter(QChar letter, Qt::KeyboardModifiers modifiers) {
+  InWindow([=] {
+    QWidget* widget = KeyboardTarget();
+    if (widget == nullptr) Fail(u"Нажимать некуда"_s);
+    QTest::sendKeyEvent(QTest::Click, widget, static_cast<Qt::Key>(letter.toUpper().unicode()),
+                        QString(letter), modifiers);
+  });
+  // A button that is pressed by its letter stays down for a moment before it clicks.
+  WaitUntil(u"нажатие кнопки"_s, [] {
+    QWidget* front = Front();
+    if (front == nullptr) return true;
+    const auto buttons = front->findChildren<QAbstractButton*>();
+    return std::none_of(buttons.begin(), buttons.end(),
+                        [](auto* button) { return button->isDown(); });
+  });
+}
+
+void Robot::TabTo(const QString& control) {
+  constexpr int kMostControls = 60;
+  for (int i = 0; i < kMostControls; ++i) {
+    const bool there = Ask<bool>([control] {
+      const QWidget* widget = KeyboardTarget();
+      return widget != nullptr && widget->objectName() == control;
+    });
+    if (there) return;
+    Press(Qt::Key_Tab);
+  }
+  Fail(u"Клавиша Tab не приводит к "_s + control);
 }
 
 void Robot::Choose(const QString& combo, const QString& entry) {
@@ -324,15 +405,27 @@ void Robot::Expect(const QString& control, const QString& text) {
 }
 
 void Robot::Picture(const QString& name) {
+  InWindow([=, this] {
+    if (QWidget* front = Front()) TakePicture(front, name);
+  });
+}
+
+void Robot::PictureWhenShown(const QString& screen) {
+  InWindow([=, this] {
+    qApp->installEventFilter(new ShowWatch(screen, [=, this](QWidget* window) {
+      window->ensurePolished();
+      TakePicture(window, screen);
+    }));
+  });
+}
+
+void Robot::TakePicture(QWidget* window, const QString& name) {
+  if (inspector_) inspector_(window, name);
   if (picture_folder_.isEmpty()) return;
   const QString file = picture_folder_ + u'/' +
                        QString::number(pictures_.size() + 1).rightJustified(2, u'0') + u'-' + name +
                        u".png"_s;
-  const bool saved = Ask<bool>([file] {
-    QWidget* front = Front();
-    return front != nullptr && front->grab().save(file);
-  });
-  if (!saved) Fail(u"Не удалось сохранить снимок "_s + file);
+  if (!window->grab().save(file)) Fail(u"Не удалось сохранить снимок "_s + file);
   pictures_.append(file);
 }
 

@@ -30,11 +30,17 @@ class Robot {
   void AnswerMessage(const QString& button, const QString& text = {});
 
   void Click(const QString& control);
+  // Clicks the question mark beside a control or in a frame, by what its hint is headed.
+  void ClickHint(const QString& heading);
   void DoubleClickRow(const QString& list, const QString& first_column);
   void SelectRow(const QString& list, const QString& first_column);
   void Type(const QString& control, const QString& text);  // replaces what stands there
   void TypeHere(const QString& text);                      // into the control with the focus
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  // A letter as it stands on the keyboard, with Alt for the mark of a caption or menu.
+  void PressLetter(QChar letter, Qt::KeyboardModifiers modifiers = Qt::AltModifier);
+  // Presses Tab until the control has the focus.
+  void TabTo(const QString& control);
   void Choose(const QString& combo, const QString& entry);
   void FocusOn(const QString& control);
   void OpenTab(const QString& tabs, const QString& title);
@@ -46,6 +52,11 @@ class Robot {
 
   // Saves a picture of the window in front under the name.
   void Picture(const QString& name);
+  // Saves a picture of the next window of that name that comes up, for those that close themselves.
+  void PictureWhenShown(const QString& screen);
+  // Called with each window and screen name of which a picture is taken, also where none is kept.
+  using Inspector = std::function<void(QWidget* window, const QString& screen)>;
+  void SetInspector(Inspector inspector) { inspector_ = std::move(inspector); }
   const QStringList& Pictures() const { return pictures_; }
 
   // Runs the action in the windows' thread; it may open a dialog and come back later.
@@ -56,7 +67,10 @@ class Robot {
   Value Ask(const std::function<Value()>& question);
   void WaitUntil(const QString& what, const std::function<bool()>& holds);
 
+  void TakePicture(QWidget* window, const QString& name);
+
   QString picture_folder_;
+  Inspector inspector_;
   QStringList pictures_;
 };
 

@@ -3,6 +3,8 @@
 namespace kladez {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr int kSplashMilliseconds = 400;
 
 }  // namespace
@@ -20,6 +22,7 @@ Stage::Stage(const QString& data_directory, const QString& settings_file, const 
 
 void Stage::Play(Robot& robot, const std::function<void(Robot&)>& script) {
   robot.Run([&](Robot& player) {
+    player.PictureWhenShown(u"frmSplash"_s);
     player.InWindow([this] {
       window_.Start(kSplashMilliseconds);
       window_.show();

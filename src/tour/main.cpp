@@ -13,6 +13,7 @@
 #include "store/Errors.h"
 #include "tour/Road.h"
 #include "tour/Stage.h"
+#include "tour/Visits.h"
 #include "viewer/page/PageReader.h"
 #include "viewer/paper/Output.h"
 #include "viewer/window/ViewerWindow.h"
@@ -52,12 +53,17 @@ void Play(const QString& folder) {
   KeepPage(folder);
 }
 
+// The platform without a display remarks on what it lacks at each window; only faults are told.
+void TellFaults(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type != QtCriticalMsg && type != QtFatalMsg) return;
+  std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  // The platform has no hints of sizes to take, and says so for each window.
-  qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+  qInstallMessageHandler(TellFaults);
   QApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -2,6 +2,8 @@
 // windows with keys and mouse; afterwards every file on disk is compared by whole bytes.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "TempData.h"
 #include "tour/Road.h"
 #include "tour/Stage.h"
@@ -88,6 +90,15 @@ Tree ExpectedTree() {
   return tree;
 }
 
+void ExpectTree(const Tree& tree) {
+  const Tree expected = ExpectedTree();
+  for (const auto& [path, bytes] : expected) {
+    ASSERT_TRUE(tree.contains(path)) << path << " is missing";
+    EXPECT_EQ(tree.at(path), bytes) << path;
+  }
+  for (const auto& [path, bytes] : tree) EXPECT_TRUE(expected.contains(path)) << path;
+}
+
 TEST(Road, FromAnEmptyDirectoryToTheWaybillEveryByteIsRight) {
   const TempData data;
   const QTemporaryDir settings;
@@ -101,13 +112,146 @@ TEST(Road, FromAnEmptyDirectoryToTheWaybillEveryByteIsRight) {
   });
 
   EXPECT_GE(robot.Pictures().size(), 20);
-  const Tree expected = ExpectedTree();
-  const Tree tree = data.Tree();
-  for (const auto& [path, bytes] : expected) {
-    ASSERT_TRUE(tree.contains(path)) << path << " is missing";
-    EXPECT_EQ(tree.at(path), bytes) << path;
+  ExpectTree(data.Tree());
+}
+
+// Keys only, as somebody plays it who has no mouse: letters with Alt, Tab, Enter, Escape, arrows.
+void Enter(Robot& robot, const QString& text) {
+  robot.TypeHere(text);
+  robot.Press(Qt::Key_Return);
+}
+
+void ChooseFromMenu(Robot& robot, QChar menu, QChar command, const QString& screen) {
+  robot.PressLetter(menu);
+  robot.PressLetter(command, Qt::NoModifier);
+  robot.WaitFor(screen);
+}
+
+void EnterGoods(Robot& robot) {
+  ChooseFromMenu(robot, u'п', u'т', u"sprTovar"_s);
+  robot.PressLetter(u'д');
+  robot.WaitFor(u"sprTovNew"_s);
+  Enter(robot, u"Чай"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"sprTovar"_s);
+  const std::array goods = {std::array{u"Чай «Ладья»"_s, u"Индия"_s, u""_s, u"пач."_s, u"45.00"_s},
+                            std::array{u"Чай на вес"_s, u"Грузия"_s, u""_s, u"кг"_s, u"1.01"_s}};
+  for (const auto& fields : goods) {
+    robot.PressLetter(u'д');
+    robot.WaitFor(u"sprTovNew"_s);
+    for (const QString& field : fields) Enter(robot, field);
+    robot.Press(Qt::Key_Return);
+    robot.WaitFor(u"sprTovar"_s);
   }
-  for (const auto& [path, bytes] : tree) EXPECT_TRUE(expected.contains(path)) << path;
+  robot.PressLetter(u'з');
+  robot.WaitFor(u"Main"_s);
+}
+
+void EnterParty(Robot& robot, QChar command, const QString& list, const QString& form,
+                const QString& name) {
+  ChooseFromMenu(robot, u'п', command, list);
+  robot.PressLetter(u'д');
+  robot.WaitFor(form);
+  Enter(robot, name);
+  robot.WaitFor(list);
+  robot.TabTo(u"ok"_s);
+  robot.Press(Qt::Key_Space);
+  robot.WaitUntilGone(list);
+}
+
+// In the list in front: finds the row by typing, picks it, answers the quantity.
+void PickByTyping(Robot& robot, const QString& beginning, const QString& quantity,
+                  const QString& back) {
+  robot.WaitFor(back);
+  robot.TypeHere(beginning);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"colvo"_s);
+  Enter(robot, quantity);
+}
+
+void ReceiveGoods(Robot& robot) {
+  ChooseFromMenu(robot, u'с', u'п', u"TovPrih"_s);
+  robot.PressLetter(u'д');
+  robot.WaitFor(u"PrihNew"_s);
+  robot.PressLetter(u'п');
+  robot.TypeHere(u"О"_s);
+  for (const auto& [goods, quantity] :
+       {std::pair{u"Чай «"_s, u"20"_s}, {u"Чай на"_s, u"2.125"_s}}) {
+    robot.PressLetter(u'д');
+    PickByTyping(robot, goods, quantity, u"sprtovar2"_s);
+    robot.WaitFor(u"PrihNew"_s);
+  }
+  robot.PressLetter(u'з');
+  robot.TabTo(u"ok"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"TovPrih"_s);
+}
+
+void SetPrices(Robot& robot) {
+  ChooseFromMenu(robot, u'с', u'л', u"Price"_s);
+  robot.PressLetter(u'р');
+  robot.Press(Qt::Key_Down);
+  for (const auto& [goods, price] : {std::pair{u"Чай «"_s, u"60.50"_s}, {u"Чай на"_s, u"1.35"_s}}) {
+    robot.TabTo(u"ListView1"_s);
+    robot.TypeHere(goods);
+    robot.Press(Qt::Key_Down);  // from the search field to the list
+    robot.Press(Qt::Key_Return);
+    robot.WaitFor(u"prChange"_s);
+    Enter(robot, price);
+    robot.WaitFor(u"Price"_s);
+  }
+}
+
+void ShipGoods(Robot& robot) {
+  ChooseFromMenu(robot, u'с', u'р', u"TovUhod"_s);
+  robot.PressLetter(u'д');
+  robot.WaitFor(u"UhodNew"_s);
+  robot.PressLetter(u'т');
+  robot.TypeHere(u"К"_s);
+  robot.PressLetter(u'к');
+  robot.TypeHere(u"10"_s);
+  robot.PressLetter(u'д');
+  robot.WaitFor(u"price2"_s);
+  robot.PressLetter(u'р');
+  robot.Press(Qt::Key_Down);
+  robot.TabTo(u"ListView1"_s);
+  PickByTyping(robot, u"Чай «"_s, u"3"_s, u"price2"_s);
+  PickByTyping(robot, u"Чай на"_s, u"0.25"_s, u"price2"_s);
+  robot.WaitFor(u"price2"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitFor(u"UhodNew"_s);
+  robot.PressLetter(u'з');
+  robot.PressLetter(u'н');
+  robot.WaitFor(u"PrihNakl"_s);
+  robot.PressLetter(u'п');
+  robot.WaitFor(u"UhodNew"_s);
+  robot.TabTo(u"ok"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"TovUhod"_s);
+}
+
+TEST(Road, IsPlayedByKeyboardAlone) {
+  const TempData data;
+  const QTemporaryDir settings;
+  const Clock clock(QDateTime(QDate(2026, 3, 5), QTime(10, 0)));
+  Stage stage(data.Root(), settings.filePath(u"settings.ini"_s), clock);
+  Robot robot;
+
+  stage.Play(robot, [](Robot& player) {
+    player.WaitFor(u"main2"_s);
+    player.Press(Qt::Key_Tab);
+    player.Press(Qt::Key_Return);
+    player.WaitFor(u"BasesNew"_s);
+    Enter(player, u"Чайная лавка"_s);
+    player.WaitFor(u"Main"_s);
+    EnterGoods(player);
+    EnterParty(player, u'п', u"sprPost"_s, u"sprpostnew"_s, u"ООО «Чайная гора»"_s);
+    EnterParty(player, u'к', u"sprklient"_s, u"sprklientnew"_s, u"Кафе «Блюдце»"_s);
+    ReceiveGoods(player);
+    SetPrices(player);
+    ShipGoods(player);
+  });
+  ExpectTree(data.Tree());
 }
 
 }  // namespace

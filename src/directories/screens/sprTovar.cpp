@@ -64,15 +64,10 @@ void sprTovar::BuildLayout() {
   order->addAction(down_);
   browser_->Filter()->Row()->addSpacing(look::kGrid);
   browser_->Filter()->Row()->addWidget(order);
-  auto* commands = new QHBoxLayout;
-  for (QPushButton* command : {add_, change_, remove_, sort_, chart_}) commands->addWidget(command);
-  commands->addStretch();
-  commands->addWidget(Command7);
-  commands->addWidget(Command9);
   auto* layout = new QVBoxLayout(this);
   look::SetPanelMargins(layout);
   layout->addWidget(browser_, 1);
-  layout->addLayout(commands);
+  layout->addLayout(NewCommandRow({add_, change_, remove_, sort_, chart_}, {Command7, Command9}));
 }
 
 void sprTovar::Wire() {

@@ -14,6 +14,7 @@
 #include "shell/controls/Choice.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
+#include "shell/controls/WrapRow.h"
 #include "stock/screens/colvo.h"
 
 namespace kladez {
@@ -79,10 +80,9 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceScreen kind, QWidget* paren
   BuildPanel(layout);
   BuildList();
   layout->addWidget(ListView1, 1);
-  auto* commands = new QHBoxLayout;
-  commands->setSpacing(look::kGrid);
+  auto* commands = new WrapRow(look::kGrid, look::kTight);
   AddCommands(commands, Place::kLeft);
-  commands->addStretch();
+  commands->AddStretch();
   AddCommands(commands, Place::kRight);
   layout->addLayout(commands);
   // A document brings its own warehouse to the picker; the editor picks nothing.
@@ -145,7 +145,7 @@ void PriceBrowser::BuildList() {
   filter_->SearchIn(ListView1);
 }
 
-void PriceBrowser::AddCommands(QHBoxLayout* row, Place place) {
+void PriceBrowser::AddCommands(QLayout* row, Place place) {
   for (const Command& command : CommandsOf(kind_)) {
     if (command.place != place) continue;
     QPushButton* button = command.icon

@@ -59,7 +59,7 @@ class PriceBrowser : public QWidget {
   static std::vector<Command> CommandsOf(PriceScreen kind);
   void BuildPanel(QVBoxLayout* layout);
   void BuildList();
-  void AddCommands(QHBoxLayout* row, Place place);
+  void AddCommands(QLayout* row, Place place);
 
   bool RefusedToSeller();
   void ListLists();

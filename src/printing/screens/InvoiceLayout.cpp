@@ -147,6 +147,8 @@ QWidget* InvoiceScreen::NewPaymentBlock() {
   Text33 = NewText(this, u"Text33"_s);
   auto* grid = new QGridLayout;
   FieldGrid rows(grid);
+  Text12->setAccessibleName(Check8->text().remove(u'&'));
+  Text13->setAccessibleName(Check12->text().remove(u'&'));
   rows.Add(Check8, SideBySide({Text12, Check12, Text13}));
   rows.Add(NewCaption(this, u"При&мечание:"_s, Text33), Text33, NewHint(u"Примечание"));
   grid->setContentsMargins(0, 0, 0, 0);

@@ -103,6 +103,10 @@ int FieldGrid::CaptionWidth() { return 17 * look::kGrid; }
 void FieldGrid::Add(QWidget* caption, QWidget* field, QWidget* hint) {
   auto* cell = new QHBoxLayout;
   cell->addWidget(field);
+  // A tick is no label; it names the field all the same.
+  if (const auto* tick = qobject_cast<QCheckBox*>(caption)) {
+    field->setAccessibleName(tick->text().remove(u'&'));
+  }
   Add(caption, cell, hint);
 }
 

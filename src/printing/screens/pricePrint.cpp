@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "formats/Dates.h"
 #include "formats/PartyFile.h"
@@ -33,6 +34,8 @@ Party FirstFirm(const AppContext& context) {
 std::optional<QString> TextIf(const QCheckBox* check, const QLineEdit* text) {
   return check->isChecked() ? std::optional(text->text()) : std::nullopt;
 }
+
+constexpr int kTextLetters = 15;  // wide is a field of free text
 
 }  // namespace
 
@@ -87,7 +90,7 @@ void pricePrint::AddChoices(QGridLayout* grid, const std::vector<Choice>& choice
     text->setAccessibleName(check->text());
     text->setText(choice.proposal);
     text->setCursorPosition(0);
-    text->setMinimumWidth(16 * look::kGrid);
+    text->setFixedWidth(text->fontMetrics().averageCharWidth() * kTextLetters);
     text->setEnabled(choice.on);
     connect(check, &QCheckBox::toggled, text, &QWidget::setEnabled);
     grid->addWidget(check, row, 0);
@@ -114,7 +117,10 @@ QWidget* pricePrint::NewOther() {
        {&P::Check9, u"Check9", u"&Дата", true, &P::Text4, u"Text4",
         LongDateText(context_.clock.Today())},
        {&P::Check10, u"Check10", u"&Подпись внизу:", false, &P::Text5, u"Text5", {}}});
-  Text1->setMinimumWidth(36 * look::kGrid);  // an address is long
+  // An address is long, and shows its whole where the screen has room.
+  for (TextLine* text : {Text1, Text2, Text3, Text6, Text4, Text5}) {
+    text->setFixedWidth(std::max(text->width(), 24 * look::kGrid));
+  }
   frame.column->addLayout(grid);
   frame.column->addStretch();
   return frame.box;

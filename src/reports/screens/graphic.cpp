@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "reports/screens/ChartWidget.h"
 #include "reports/screens/waitplease.h"
@@ -34,7 +35,9 @@ graphic::graphic(AppContext& context, const ChartGrid& grid, QWidget* parent)
   GoldButton1 = NewCommand(this, u"GoldButton1"_s, u"&Печать"_s, look::IconName::kPrint);
   Command1 = NewCommand(this, u"Command1"_s, u"&Закрыть"_s);
   AddTwin(this, u"Command2"_s, Command1);
-  for (QPushButton* button : {GoldButton1, Command1}) button->setMinimumWidth(12 * look::kGrid);
+  for (QPushButton* button : {GoldButton1, Command1}) {
+    button->setMinimumWidth(std::max(12 * look::kGrid, button->sizeHint().width()));
+  }
   auto* foot = new QHBoxLayout;
   foot->setSpacing(look::kGrid);
   foot->addWidget(kinds);

@@ -2,6 +2,8 @@
 
 #include <QHBoxLayout>
 
+#include "shell/controls/WrapRow.h"
+
 namespace kladez {
 
 QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& caption) {
@@ -23,6 +25,15 @@ void AddTwin(QWidget* parent, const QString& name, QPushButton* of) {
   QPushButton* twin = NewCommand(parent, name, {});
   twin->hide();
   QObject::connect(twin, &QPushButton::clicked, of, &QPushButton::click);
+}
+
+QLayout* NewCommandRow(std::initializer_list<QPushButton*> left,
+                       std::initializer_list<QPushButton*> right) {
+  auto* row = new WrapRow(look::kGrid, look::kTight);
+  for (QPushButton* command : left) row->addWidget(command);
+  row->AddStretch();
+  for (QPushButton* command : right) row->addWidget(command);
+  return row;
 }
 
 QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no) {

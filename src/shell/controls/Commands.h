@@ -7,6 +7,7 @@
 #include "shell/controls/Look.h"
 
 class QBoxLayout;
+class QLayout;
 
 namespace kladez {
 
@@ -17,6 +18,11 @@ QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& cap
 
 // The hidden twin of a command that screens have for their keys: pressing it presses the command.
 void AddTwin(QWidget* parent, const QString& name, QPushButton* of);
+
+// The commands of a child screen in one row, or in more where they need it: `left` at the left end,
+// `right` at the right one.
+QLayout* NewCommandRow(std::initializer_list<QPushButton*> left,
+                       std::initializer_list<QPushButton*> right);
 
 // The two that end a dialog, at the lower right: `yes` is the default command and `no` the one of
 // the Escape key, where there is one.

@@ -14,6 +14,8 @@
 #include "shell/controls/Look.h"
 
 namespace kladez {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 // Up and Down typed in a search field belong to the list.
@@ -157,6 +159,42 @@ bool RecordList::SelectFirstBeginning(const QString& text) {
 void RecordList::SetEmptyText(const QString& text) {
   empty_text_ = text;
   viewport()->update();
+}
+
+void RecordList::resizeEvent(QResizeEvent* event) {
+  QTreeView::resizeEvent(event);
+  FitStretchedColumn();
+}
+
+// The column that takes the room left over keeps half of its told width; beyond that the list
+// scrolls.
+void RecordList::FitStretchedColumn() {
+  if (Records() == nullptr) return;
+  const auto& columns = Records()->Columns();
+  int stretched = -1;
+  int room = viewport()->width();
+  for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+    if (columns[i].stretch) {
+      stretched = i;
+    } else if (!isColumnHidden(i)) {
+      room -= columnWidth(i);
+    }
+  }
+  if (stretched < 0) return;
+  const int least =
+      std::max(look::FromTwips(columns[stretched].twips) / 2, header()->sectionSizeHint(stretched));
+  const bool fits = room >= least;
+  header()->setSectionResizeMode(stretched, fits ? QHeaderView::Stretch : QHeaderView::Interactive);
+  if (!fits) header()->resizeSection(stretched, least);
+}
+
+void RecordList::showEvent(QShowEvent* event) {
+  QTreeView::showEvent(event);
+  // A screen reader tells a list by the screen that it fills.
+  for (QWidget* screen = parentWidget(); screen != nullptr && accessibleName().isEmpty();
+       screen = screen->parentWidget()) {
+    if (!screen->windowTitle().isEmpty()) setAccessibleName(u"Список: "_s + screen->windowTitle());
+  }
 }
 
 void RecordList::keyPressEvent(QKeyEvent* event) {

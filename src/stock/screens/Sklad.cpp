@@ -81,17 +81,12 @@ void Sklad::BuildList() {
 void Sklad::BuildLayout() {
   auto* choice = new QHBoxLayout;
   AddChoice(choice, u"С&клад:"_s, Combo1, HintFor(u"Sklad", u"Склад"));
-  auto* commands = new QHBoxLayout;
-  commands->setSpacing(look::kGrid);
-  for (QPushButton* command : {Command1, Command3, Command2}) commands->addWidget(command);
-  commands->addStretch();
-  commands->addWidget(Command4);
   auto* layout = new QVBoxLayout(this);
   look::SetPanelMargins(layout);
   layout->addLayout(choice);
   layout->addWidget(filter_);
   layout->addWidget(ListView1, 1);
-  layout->addLayout(commands);
+  layout->addLayout(NewCommandRow({Command1, Command3, Command2}, {Command4}));
   layout->addWidget(look::NewSeparator(this));
   layout->addWidget(StatusBar1);
 }

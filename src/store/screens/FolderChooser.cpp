@@ -41,6 +41,7 @@ FolderChooser::FolderChooser(QWidget* parent)
   Dir1->setModel(folders_);
   for (int column = 1; column < folders_->columnCount(); ++column) Dir1->hideColumn(column);
   Dir1->setHeaderHidden(true);
+  Dir1->setAccessibleName(u"Папки"_s);
   Dir1->setEditTriggers(QAbstractItemView::NoEditTriggers);
   FillDrives();
 

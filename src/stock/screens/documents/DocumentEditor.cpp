@@ -11,6 +11,7 @@
 #include "shell/controls/Forms.h"
 #include "shell/controls/Guard.h"
 #include "shell/controls/RecordList.h"
+#include "shell/controls/WrapRow.h"
 #include "stock/screens/change.h"
 
 namespace kladez {
@@ -76,6 +77,8 @@ QLayout* DocumentEditor::NewHead() {
 
 TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
   auto* choice = new TextChoice(context_.session.SkladNames, this);
+  choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  choice->setMinimumContentsLength(8);
   choice->Choose(draft_.Head().*side);
   connect(choice, &QComboBox::currentIndexChanged, this, [=, this] {
     // A warehouse whose ledger can't be read is not chosen.
@@ -155,14 +158,12 @@ QLayout* DocumentEditor::NewTotals() {
 }
 
 QLayout* DocumentEditor::NewPrints() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(look::kGrid);
+  auto* row = new WrapRow(look::kGrid, look::kTight);
   for (const PrintCommand& command : screens_.prints) {
     QPushButton* button = NewCommand(this, command.name, command.caption, look::IconName::kPrint);
     connect(button, &QPushButton::clicked, this, [this, &command] { Print(command); });
     row->addWidget(button);
   }
-  row->addStretch();
   return row;
 }
 

@@ -34,7 +34,7 @@ DocumentRegisterScreen::DocumentRegisterScreen(AppContext& context, DocumentKind
   look::SetPanelMargins(layout);
   layout->addWidget(filter_);
   layout->addWidget(ListView1, 1);
-  layout->addLayout(NewCommandRow());
+  layout->addLayout(NewCommands());
   layout->addWidget(look::NewSeparator(this));
   layout->addWidget(status_);
 
@@ -67,7 +67,7 @@ void DocumentRegisterScreen::BuildList() {
   connect(ListView1, &RecordList::DeletePressed, this, &DocumentRegisterScreen::Delete);
 }
 
-QHBoxLayout* DocumentRegisterScreen::NewCommandRow() {
+QLayout* DocumentRegisterScreen::NewCommands() {
   using look::IconName;
   Command1 = NewCommand(this, u"Command1"_s, u"&Добавить"_s, IconName::kAdd);
   Command2 = NewCommand(this, u"Command2"_s, u"&Изменить"_s, IconName::kChange);
@@ -81,17 +81,12 @@ QHBoxLayout* DocumentRegisterScreen::NewCommandRow() {
   connect(Command8, &QPushButton::clicked, this, &DocumentRegisterScreen::View);
   connect(Command7, &QPushButton::clicked, this, &QWidget::close);
 
-  auto* row = new QHBoxLayout;
-  row->setSpacing(look::kGrid);
-  for (QPushButton* button : {Command1, Command2, Command3, Command8}) row->addWidget(button);
-  if (screens_.has_journal) {
-    // There is no journal to print: the command has its place and does nothing.
-    Command9 = NewCommand(this, u"Command9"_s, u"Печать &журнала"_s, IconName::kPrint);
-    row->addWidget(Command9);
+  if (!screens_.has_journal) {
+    return NewCommandRow({Command1, Command2, Command3, Command8}, {Command7});
   }
-  row->addStretch();
-  row->addWidget(Command7);
-  return row;
+  // There is no journal to print: the command has its place and does nothing.
+  Command9 = NewCommand(this, u"Command9"_s, u"Печать &журнала"_s, IconName::kPrint);
+  return NewCommandRow({Command1, Command2, Command3, Command8, Command9}, {Command7});
 }
 
 bool DocumentRegisterScreen::HasWarehouse() const { return !context_.session.SkladNames.isEmpty(); }

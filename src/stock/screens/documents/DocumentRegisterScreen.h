@@ -27,7 +27,7 @@ class DocumentRegisterScreen : public QWidget {
 
  private:
   void BuildList();
-  QHBoxLayout* NewCommandRow();
+  QLayout* NewCommands();
   bool HasWarehouse() const;
   void Rebuild();
   void Edit(DocumentDraft draft, int row);

@@ -10,6 +10,7 @@
 #include "shell/controls/FoldButton.h"
 #include "shell/controls/Forms.h"
 #include "shell/controls/Look.h"
+#include "shell/controls/WrapRow.h"
 
 namespace kladez {
 namespace {
@@ -48,18 +49,17 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
   if (BookOf(screens.kind).in_warehouse) {
     warehouse_ = new TextChoice(context.session.SkladNames, this);
     warehouse_->setObjectName(u"warehouse"_s);
-    warehouse_->setMinimumContentsLength(24);
+    warehouse_->setMinimumContentsLength(14);
     head->addWidget(NewLabel(u"&Склад:"_s, warehouse_, this));
     head->addWidget(warehouse_);
-    AddHint(head, u"Склад");
+    if (QWidget* hint = NewHint(u"Склад")) head->addWidget(hint);
     connect(warehouse_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
   }
 
-  auto* row = new QHBoxLayout(options_);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(look::kTight);
+  auto* row = new WrapRow(look::kMargin, look::kTight);
+  options_->setLayout(row);
   BuildPeriod(row);
-  row->addStretch();
+  row->AddStretch();
   BuildOrder(row);
 
   auto* layout = new QVBoxLayout(this);
@@ -79,13 +79,13 @@ QRadioButton* RegisterFilterPanel::NewOption(const QString& name, const QString&
   return option;
 }
 
-void RegisterFilterPanel::AddHint(QHBoxLayout* row, QStringView place) {
-  // The register of transfers has no question marks.
-  if (!HintPlaces(screens_.register_name).contains(place)) return;
-  row->addWidget(new HintPicture(HintFor(screens_.register_name, place), this));
+// None in the register of transfers, which has no question marks.
+QWidget* RegisterFilterPanel::NewHint(QStringView place) {
+  if (!HintPlaces(screens_.register_name).contains(place)) return nullptr;
+  return new HintPicture(HintFor(screens_.register_name, place), this);
 }
 
-void RegisterFilterPanel::BuildPeriod(QHBoxLayout* row) {
+void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
   const QDate today = context_.clock.Today();
   auto* group = new QButtonGroup(this);
   by_month_ = NewOption(u"by_month"_s, u"За &месяц:"_s, group);
@@ -105,10 +105,8 @@ void RegisterFilterPanel::BuildPeriod(QHBoxLayout* row) {
   day_->setObjectName(u"day"_s);
 
   const auto add = [&](QRadioButton* option, QWidget* input, QStringView place) {
-    row->addWidget(option);
-    row->addWidget(input);
-    AddHint(row, place);
-    row->addSpacing(look::kGrid);
+    input->setAccessibleName(option->text().remove(u'&'));
+    row->AddGroup({option, input, NewHint(place)}, look::kTight);
   };
   add(by_month_, month_, u"За месяц");
   add(by_year_, year_, u"За год");
@@ -124,14 +122,12 @@ void RegisterFilterPanel::BuildPeriod(QHBoxLayout* row) {
   connect(day_, &QDateEdit::dateChanged, this, &RegisterFilterPanel::Changed);
 }
 
-void RegisterFilterPanel::BuildOrder(QHBoxLayout* row) {
+void RegisterFilterPanel::BuildOrder(WrapRow* row) {
   auto* group = new QButtonGroup(this);
   first_to_last_ = NewOption(u"first_to_last"_s, u"&A-Z"_s, group);
   last_to_first_ = NewOption(u"last_to_first"_s, u"&Z-A"_s, group);
   (context_.settings.Read(sort_) == u"ZA" ? last_to_first_ : first_to_last_)->setChecked(true);
-  row->addWidget(first_to_last_);
-  row->addWidget(last_to_first_);
-  AddHint(row, u"Сортировка");
+  row->AddGroup({first_to_last_, last_to_first_, NewHint(u"Сортировка")}, look::kGrid);
   connect(group, &QButtonGroup::buttonToggled, this, [this](QAbstractButton*, bool on) {
     if (!on) return;
     context_.settings.Write(sort_, last_to_first_->isChecked() ? u"ZA"_s : u"AZ"_s);

@@ -9,7 +9,6 @@
 #include "stock/screens/documents/DocumentScreens.h"
 
 class QButtonGroup;
-class QHBoxLayout;
 class QRadioButton;
 
 namespace kladez {
@@ -17,6 +16,7 @@ namespace kladez {
 class DateField;
 class FoldButton;
 class TextChoice;
+class WrapRow;
 
 class RegisterFilterPanel : public QWidget {
   Q_OBJECT
@@ -32,9 +32,9 @@ class RegisterFilterPanel : public QWidget {
   void Changed();
 
  private:
-  void BuildPeriod(QHBoxLayout* row);
-  void BuildOrder(QHBoxLayout* row);
-  void AddHint(QHBoxLayout* row, QStringView place);
+  void BuildPeriod(WrapRow* row);
+  void BuildOrder(WrapRow* row);
+  QWidget* NewHint(QStringView place);
   QRadioButton* NewOption(const QString& name, const QString& caption, QButtonGroup* group);
   void EnableInputs();
 

@@ -1,0 +1,153 @@
+#include "tour/Visits.h"
+
+#include <array>
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Shows a dialog that is in front by now, and closes it.
+void ShowAndLeave(Robot& robot, const QString& screen) {
+  robot.WaitFor(screen);
+  robot.Picture(screen);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitUntilGone(screen);
+}
+
+void ShowDialog(Robot& robot, const QString& opener, const QString& screen) {
+  robot.Click(opener);
+  ShowAndLeave(robot, screen);
+}
+
+void OpenChild(Robot& robot, const QString& menu, const QString& screen) {
+  robot.OpenMenu(menu);
+  robot.WaitFor(screen);
+}
+
+void VisitReceipts(Robot& robot) {
+  OpenChild(robot, u"mnu_Sklad_P"_s, u"TovPrih"_s);
+  robot.Click(u"Command2"_s);
+  robot.WaitFor(u"PrihNew"_s);
+  ShowDialog(robot, u"prn"_s, u"prihnokl"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitFor(u"TovPrih"_s);
+  ShowDialog(robot, u"Command8"_s, u"TovPrih_Ass"_s);
+}
+
+void VisitShipments(Robot& robot) {
+  OpenChild(robot, u"mnu_Sklad_R"_s, u"TovUhod"_s);
+  robot.Click(u"Command2"_s);
+  robot.WaitFor(u"UhodNew"_s);
+  ShowDialog(robot, u"change"_s, u"change"_s);
+  ShowDialog(robot, u"prs"_s, u"chFactPrint"_s);
+  ShowDialog(robot, u"pri"_s, u"UhodSch"_s);
+  ShowDialog(robot, u"prp"_s, u"PrihPrint"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitFor(u"TovUhod"_s);
+  ShowDialog(robot, u"Command8"_s, u"TovUhod_Ass"_s);
+}
+
+void MakeTransfer(Robot& robot) {
+  OpenChild(robot, u"mnu_Sklad_VO"_s, u"vnutr"_s);
+  robot.Click(u"Command1"_s);
+  robot.WaitFor(u"vnutrNew"_s);
+  robot.Choose(u"destination"_s, u"Магазин на Садовой"_s);
+  robot.Click(u"add"_s);
+  robot.WaitFor(u"price2"_s);
+  robot.SelectRow(u"ListView1"_s, u"Чай «Ладья»"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"colvo"_s);
+  robot.Type(u"Text1"_s, u"2"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"price2"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitFor(u"vnutrNew"_s);
+  robot.Picture(u"vnutrNew"_s);
+  ShowDialog(robot, u"prn"_s, u"vnNakl"_s);
+  robot.Click(u"ok"_s);
+  robot.WaitFor(u"vnutr"_s);
+  robot.Picture(u"vnutr"_s);
+  ShowDialog(robot, u"Command8"_s, u"vnutr_Ass"_s);
+}
+
+void VisitCharts(Robot& robot) {
+  robot.OpenMenu(u"mnu_Otchet_GP"_s);
+  robot.WaitFor(u"otgr"_s);
+  robot.Picture(u"otgr"_s);
+  robot.Click(u"Command1"_s);
+  robot.WaitFor(u"graphic"_s);
+  robot.Picture(u"graphic"_s);
+  robot.PictureWhenShown(u"waitplease"_s);
+  robot.Click(u"GoldButton1"_s);
+  robot.WaitUntilGone(u"waitplease"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitUntilGone(u"graphic"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitUntilGone(u"otgr"_s);
+}
+
+void VisitCatalogue(Robot& robot) {
+  robot.OpenMenu(u"mnuFileCreate"_s);
+  ShowAndLeave(robot, u"BasesNew"_s);
+  robot.OpenMenu(u"mnubases"_s);
+  robot.WaitFor(u"Bases"_s);
+  robot.Click(u"GoldButton3"_s);
+  robot.WaitFor(u"AskText"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"Bases"_s);
+  ShowAndLeave(robot, u"Bases"_s);
+  robot.OpenMenu(u"mnuimp"_s);
+  robot.WaitFor(u"BasesImport"_s);
+  robot.SelectRow(u"ListView1"_s, u"Новая база"_s);
+  robot.Picture(u"BasesImport"_s);
+  robot.Click(u"Command1"_s);
+  ShowAndLeave(robot, u"Import"_s);
+}
+
+void VisitDialogs(Robot& robot) {
+  struct Visit {
+    QStringView menu;
+    QStringView screen;
+  };
+  static constexpr std::array kVisits = {
+      Visit{u"mnu_Sklad_ZO", u"ost"},      Visit{u"mnu_Otchet_OPP", u"otppr"},
+      Visit{u"mnu_Otchet_RPVT", u"otrpt"}, Visit{u"mnu_Otchet_SR", u"otspeed"},
+      Visit{u"mnu_Otchet_DB", u"otpruh"},  Visit{u"mnu_Sprav_S", u"sprSklad"},
+      Visit{u"mnu_Sprav_OV", u"currenc"},  Visit{u"arch", u"rescopy"},
+      Visit{u"reparch", u"resrep"},        Visit{u"mnAbout", u"about"},
+  };
+  for (const Visit& visit : kVisits) {
+    robot.OpenMenu(visit.menu.toString());
+    ShowAndLeave(robot, visit.screen.toString());
+  }
+}
+
+}  // namespace
+
+void VisitScreens(Robot& robot) {
+  OpenChild(robot, u"mnu_Sklad_R"_s, u"TovUhod"_s);
+  robot.ClickHint(u"Склад"_s);
+  robot.WaitFor(u"helper"_s);
+  robot.Picture(u"helper"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitFor(u"TovUhod"_s);
+  VisitReceipts(robot);
+  VisitShipments(robot);
+  MakeTransfer(robot);
+  OpenChild(robot, u"mnu_Sklad_NT"_s, u"Sklad"_s);
+  robot.Picture(u"Sklad"_s);
+  OpenChild(robot, u"mnu_Sklad_PL"_s, u"Price"_s);
+  ShowDialog(robot, u"Command9"_s, u"pricePrint"_s);
+  VisitCharts(robot);
+  robot.OpenMenu(u"mnu_Sprav_O"_s);
+  robot.WaitFor(u"sprFirm"_s);
+  robot.Picture(u"sprFirm"_s);
+  ShowDialog(robot, u"change"_s, u"sprFirmNew"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitUntilGone(u"sprFirm"_s);
+  VisitDialogs(robot);
+  VisitCatalogue(robot);
+}
+
+}  // namespace kladez
