@@ -1,4 +1,5 @@
-// The entry of libFuzzer; one program a target, which KLADEZ_FUZZ_TARGET names.
+// The entry of libFuzzer; one program a target: KLADEZ_FUZZ_TARGET, one of the
+// KLADEZ_FUZZ_TARGETS.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +10,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static const kladez::FuzzTarget target = [] {
-    const auto targets = kladez::FuzzTargets();
+    const auto targets = kladez::KLADEZ_FUZZ_TARGETS();
     const auto found = std::find_if(targets.begin(), targets.end(), [](const auto& candidate) {
       return std::string_view(candidate.name) == KLADEZ_FUZZ_TARGET;
     });

@@ -14,6 +14,8 @@ struct FuzzTarget {
   bool is_file = true;  // else a field or a path, which is never long
 };
 
+// The readers and routines of the program, and what the viewer reads.
 std::span<const FuzzTarget> FuzzTargets();
+std::span<const FuzzTarget> ViewerFuzzTargets();
 
 }  // namespace kladez

@@ -38,6 +38,7 @@ const std::array<unsigned char, kEncodeSize> kEncode = [] {
 constexpr QByteArrayView kLineEnd{"\r\n", 2};
 
 qsizetype FindLineEnd(QByteArrayView bytes) {
+  if (bytes.isEmpty()) return -1;  // may be null, which memchr does not take
   const char* from = bytes.data();
   const char* end = from + bytes.size();
   while (const auto* cr = static_cast<const char*>(std::memchr(from, '\r', end - from))) {

@@ -61,10 +61,15 @@ TEST_P(Corpus, HugeFilesAreRead) {
   EXPECT_NO_THROW(GetParam().run(line.repeated(huge / line.size())));
 }
 
-INSTANTIATE_TEST_SUITE_P(, Corpus, testing::ValuesIn(FuzzTargets().begin(), FuzzTargets().end()),
-                         [](const testing::TestParamInfo<FuzzTarget>& target) {
-                           return std::string(target.param.name);
-                         });
+std::string NameOf(const testing::TestParamInfo<FuzzTarget>& target) { return target.param.name; }
+
+template <typename Targets>
+auto Each(const Targets& targets) {
+  return testing::ValuesIn(targets.begin(), targets.end());
+}
+
+INSTANTIATE_TEST_SUITE_P(, Corpus, Each(FuzzTargets()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Viewer, Corpus, Each(ViewerFuzzTargets()), NameOf);
 
 }  // namespace
 }  // namespace kladez
