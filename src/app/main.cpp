@@ -2,12 +2,11 @@
 // window.
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
 #include <QStandardPaths>
-#include <QTranslator>
 #include <cerrno>
 
 #include "shell/controls/Guard.h"
+#include "shell/controls/Toolkit.h"
 #include "shell/frmMain.h"
 #include "store/Backup.h"
 #include "store/SaveSet.h"
@@ -50,10 +49,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  QTranslator translator;
-  if (translator.load(u"qtbase_ru"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    application.installTranslator(&translator);
-  }
+  const kladez::RussianToolkit toolkit;
   int code = 1;
   kladez::Guarded(nullptr, [&] { code = Run(); });
   return code;

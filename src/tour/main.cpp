@@ -4,13 +4,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLibraryInfo>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <cstdio>
 
 #include "demo/DemoBooks.h"
+#include "shell/controls/Toolkit.h"
 #include "store/Errors.h"
+#include "tour/OffscreenDisplay.h"
 #include "tour/Road.h"
 #include "tour/Stage.h"
 #include "tour/Visits.h"
@@ -62,15 +62,14 @@ void TellFaults(QtMsgType type, const QMessageLogContext&, const QString& text) 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const std::unique_ptr<QTemporaryFile> display = qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
+                                                      ? kladez::UseOffscreenDisplay({1280, 1024})
+                                                      : nullptr;
   qInstallMessageHandler(TellFaults);
   QApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  QTranslator translator;
-  if (translator.load(u"qtbase_ru"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    application.installTranslator(&translator);
-  }
+  const kladez::RussianToolkit toolkit;
   if (argc != 2) {
     std::fputs("usage: kladez-tour FOLDER\n", stderr);
     return 2;

@@ -1,0 +1,177 @@
+// Each writing command meets every fault at every step at which it changes the disk: no room, no
+// right, a file that vanished, a disk that turns read-only, and the death of the process. What lies
+// on the disk after the next start is the old state or the new one, whole, and a command that did
+// not come to its end has said so. Prints how many faults each command met, and the losses.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+#include "WritingCommands.h"
+#include "store/Errors.h"
+#include "store/SystemCalls.h"
+
+namespace kladez {
+namespace {
+
+using Tree = std::map<std::string, std::string>;
+
+struct Fault {
+  const char* name;
+  int error;           // 0: the process dies
+  bool stays = false;  // from that step on, not only at it
+};
+
+constexpr Fault kFaults[] = {{"no room", ENOSPC},
+                             {"no right", EACCES},
+                             {"file vanished", ENOENT},
+                             {"disk turned read-only", EROFS, true},
+                             {"killed", 0}};
+
+// A backup that grows has a name that nobody takes for a good one; a killed process leaves it.
+Tree WithoutUnfinishedBackups(Tree tree) {
+  std::erase_if(tree, [](const auto& entry) {
+    return entry.first.find(" (не закончена)") != std::string::npos;
+  });
+  return tree;
+}
+
+struct Outcome {
+  bool reached = false;  // the step came up
+  bool told = false;     // the command failed with words for the user
+};
+
+std::function<int(std::string_view, const QByteArray&)> HookFor(const Fault& fault, int step,
+                                                                int* calls) {
+  return [=](std::string_view, const QByteArray&) {
+    ++*calls;
+    if (*calls < step || (*calls > step && !fault.stays)) return 0;
+    if (fault.error == 0) ::_exit(9);
+    return fault.error;
+  };
+}
+
+Outcome RunWithError(const std::function<void()>& command, const Fault& fault, int step) {
+  int calls = 0;
+  Outcome outcome;
+  syscalls::SetFaultHook(HookFor(fault, step, &calls));
+  try {
+    command();
+  } catch (const std::system_error& error) {
+    outcome.told = ErrorText(error).contains(QLatin1Char('/'));
+  }
+  syscalls::SetFaultHook({});
+  outcome.reached = calls >= step;
+  return outcome;
+}
+
+Outcome RunToDeath(const std::function<void()>& command, const Fault& fault, int step) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    int calls = 0;
+    syscalls::SetFaultHook(HookFor(fault, step, &calls));
+    try {
+      command();
+    } catch (...) {
+      ::_exit(1);
+    }
+    ::_exit(0);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  const bool died = WIFEXITED(status) && WEXITSTATUS(status) == 9;
+  return {died, died};
+}
+
+struct States {
+  Tree before;
+  Tree after;
+};
+
+States StatesOf(const WritingCommand& command) {
+  FaultBooks books(command.beside);
+  const auto run = command.prepare(books);
+  States states{books.Tree(), {}};
+  run();
+  states.after = books.Tree();
+  return states;
+}
+
+struct Count {
+  int tried = 0;
+  int losses = 0;
+};
+
+void Try(const WritingCommand& command, const States& states, const Fault& fault, Count* count) {
+  for (int step = 1;; ++step) {
+    FaultBooks books(command.beside);
+    const auto run = command.prepare(books);
+    const Outcome outcome =
+        fault.error == 0 ? RunToDeath(run, fault, step) : RunWithError(run, fault, step);
+    if (!outcome.reached) return;
+    ++count->tried;
+    books.Reopen();
+    const Tree tree = WithoutUnfinishedBackups(books.Tree());
+    const bool is_new = tree == states.after;
+    const bool is_old = tree == states.before;
+    // A failure that was told has changed nothing, what was not told has been done. On a disk that
+    // stays read-only nothing can be taken back either: the next start decides, for the whole.
+    const bool either = fault.error == 0 || command.silent || (fault.stays && outcome.told);
+    const bool right = either ? is_old || is_new : outcome.told ? is_old : is_new;
+    if (right) continue;
+    ++count->losses;
+    ADD_FAILURE() << command.name << ", " << fault.name << " at step " << step
+                  << (outcome.told ? ", told" : ", not told") << (is_old ? ", old" : "")
+                  << (is_new ? ", new" : "");
+  }
+}
+
+TEST(CommandFaults, NoCommandLosesAnythingWhateverTheDiskDoes) {
+  std::printf("%8s %8s   %s\n", "faults", "losses", "command");
+  Count all;
+  for (const WritingCommand& command : WritingCommands()) {
+    const States states = StatesOf(command);
+    ASSERT_NE(states.before, states.after) << command.name << " writes nothing";
+    Count count;
+    for (const Fault& fault : kFaults) Try(command, states, fault, &count);
+    EXPECT_GE(count.tried, 15) << command.name << ": too few steps are watched";
+    std::printf("%8d %8d   %s\n", count.tried, count.losses, command.name.c_str());
+    all.tried += count.tried;
+    all.losses += count.losses;
+  }
+  std::printf("%8d %8d   in all\n", all.tried, all.losses);
+}
+
+// Directories and files that really have no right to be written, one after the other.
+TEST(CommandFaults, AReadOnlyPlaceIsToldAndNothingChanges) {
+  int refusals = 0;
+  for (const WritingCommand& command : WritingCommands()) {
+    const States states = StatesOf(command);
+    for (const auto& [path, bytes] : states.before) {
+      if (path.find("/PRICE/000") != std::string::npos && !path.ends_with("2.prc"))
+        continue;  // alike
+      FaultBooks books(command.beside);
+      const auto run = command.prepare(books);
+      const std::string place = (books.Root() / path).string();
+      const mode_t mode = path.ends_with('/') ? 0755 : 0644;
+      ::chmod(place.c_str(), mode & 0555);
+      const Outcome outcome = RunWithError(run, {"", 0}, -1);
+      ::chmod(place.c_str(), mode);
+      refusals += outcome.told ? 1 : 0;
+      books.Reopen();
+      const Tree tree = books.Tree();
+      if (outcome.told) {
+        EXPECT_EQ(tree, states.before) << command.name << ", " << path;
+      } else if (!command.silent && command.source != "store/Import.cpp") {
+        EXPECT_EQ(tree, states.after) << command.name << ", " << path;
+      }
+    }
+  }
+  EXPECT_GE(refusals, static_cast<int>(WritingCommands().size()));
+}
+
+}  // namespace
+}  // namespace kladez

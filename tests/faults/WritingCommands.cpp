@@ -1,0 +1,355 @@
+#include "WritingCommands.h"
+
+#include <QDir>
+#include <QFile>
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+#include "directories/GoodsDirectory.h"
+#include "directories/GoodsMarks.h"
+#include "directories/MainCurrency.h"
+#include "directories/PartyDirectory.h"
+#include "directories/WarehouseDirectory.h"
+#include "prices/PriceStore.h"
+#include "printing/PrintOutDesk.h"
+#include "stock/DocumentDraft.h"
+#include "stock/DocumentRegister.h"
+#include "stock/OnHand.h"
+#include "stock/OpeningBalances.h"
+#include "store/Backup.h"
+#include "store/Catalogue.h"
+#include "store/Import.h"
+#include "store/SaveSet.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+
+const QDate kToday(2026, 11, 23);
+const QString kWarehouse = u"Главный склад"_s;
+
+// The order of the calls is what is tested; syncing to a real disk would take most of the time.
+const bool in_memory = fs::exists("/dev/shm") && qputenv("TMPDIR", "/dev/shm");
+
+DocumentDraft::Place In(FaultBooks& books, DocumentKind kind) {
+  return {books.Data(), books.Opened(), kind,
+          kind == DocumentKind::kTransfer ? QString() : kWarehouse};
+}
+
+DocumentDraft NewDraft(FaultBooks& books, DocumentKind kind, bool closed) {
+  DocumentDraft draft = DocumentDraft::New(In(books, kind), kToday);
+  draft.AddLine({u"Чай"_s, u"3"_s, u"пач."_s, u"45.00"_s, u"60.50"_s});
+  if (kind != DocumentKind::kTransfer) draft.SetClosed(closed);
+  return draft;
+}
+
+void MakeBooks(const fs::path& root, Beside beside) {
+  fs::create_directories(root / "data");
+  fs::create_directories(root / "backups");
+  const DataDir data(QString::fromStdString(root / "data"));
+  Session session;
+  session.bases_text1 = CreateDatabase(data, u"Лавка"_s);
+  OpenDatabase(session, data);
+  WarehouseDirectory(data, session).Create(u"Магазин"_s);
+  GoodsDirectory goods(data, session, GoodsView::kGroups);
+  goods.Insert(-1, {u" Бакалея"_s, {}, {}, {}, {}});
+  goods.Insert(0, {u"Чай"_s, u"Индия"_s, {}, u"пач."_s, u"45.00"_s});
+  goods.Insert(1, {u"Соль"_s, u"Россия"_s, {}, u"кг"_s, u"9.50"_s});
+  goods.Save();
+  for (const DocumentKind kind :
+       {DocumentKind::kReceipt, DocumentKind::kShipment, DocumentKind::kTransfer}) {
+    DocumentDraft draft = DocumentDraft::New(
+        {data, session, kind, kind == DocumentKind::kTransfer ? QString() : kWarehouse}, kToday);
+    draft.AddLine({u"Чай"_s, u"20"_s, u"пач."_s, u"45.00"_s, u"60.50"_s});
+    if (kind == DocumentKind::kReceipt) draft.SetClosed(true);
+    draft.Save();
+  }
+  if (beside == Beside::kNothing) return;
+  CreateDatabase(data, u"Вторая"_s);
+  MakeBackup(data, {ListDatabases(data).at(1)}, QString::fromStdString(root / "backups"), kToday);
+}
+
+// Made once and copied for each try: most of the tries' time would go into making them.
+fs::path Template(Beside beside) {
+  static const QTemporaryDir directory;
+  const fs::path root = fs::path(directory.path().toStdString()) /
+                        (beside == Beside::kNothing ? "alone" : "with_others");
+  if (!fs::exists(root)) MakeBooks(root, beside);
+  return root;
+}
+
+RegisterRow FirstDocument(FaultBooks& books, DocumentKind kind) {
+  DocumentRegister rows(books.Data(), books.Opened(), kind);
+  rows.Load(kWarehouse, {.period = RegisterFilter::Period::kYear, .year = u"2026"_s}, kToday,
+            false);
+  return rows.Rows().at(0);
+}
+
+WritingCommand NewDocument(const std::string& name, DocumentKind kind, bool closed) {
+  return {name, "stock/DocumentDraft.cpp", [=](FaultBooks& books) {
+            auto draft = std::make_shared<DocumentDraft>(NewDraft(books, kind, closed));
+            return [=] { draft->Save(); };
+          }};
+}
+
+WritingCommand SavedAgain(const std::string& name, DocumentKind kind, bool close) {
+  return {name, "stock/DocumentDraft.cpp", [=](FaultBooks& books) {
+            auto draft = std::make_shared<DocumentDraft>(
+                DocumentDraft::Open(In(books, kind), FirstDocument(books, kind)));
+            draft->SetNumber(u"77"_s);
+            if (close) draft->SetClosed(true);
+            return [=] { draft->Save(); };
+          }};
+}
+
+WritingCommand DeletedDocument(const std::string& name, DocumentKind kind, bool reverse) {
+  return {name, "stock/DocumentRegister.cpp", [=](FaultBooks& books) {
+            const QString file = FirstDocument(books, kind).file;
+            return [=, &books] {
+              DeleteDocument(books.Data(), books.Opened(), kind, kWarehouse, file, reverse);
+            };
+          }};
+}
+
+template <typename Change>
+WritingCommand OfGoods(const std::string& name, GoodsView view, Change change) {
+  return {name, "directories/GoodsDirectory.cpp", [=](FaultBooks& books) {
+            auto goods =
+                std::make_shared<GoodsDirectory>(books.Data(), books.Opened(), GoodsView::kGroups);
+            if (view == GoodsView::kGoodsOnly) goods->ShowGoodsOnly();
+            return [=] { change(*goods); };
+          }};
+}
+
+template <typename Change>
+WritingCommand OfWarehouses(const std::string& name, Change change) {
+  return {name, "directories/WarehouseDirectory.cpp", [=](FaultBooks& books) {
+            auto list = std::make_shared<WarehouseDirectory>(books.Data(), books.Opened());
+            return [=] { change(*list); };
+          }};
+}
+
+WritingCommand OfParties(const std::string& name, PartyKind kind) {
+  return {name, "directories/PartyDirectory.cpp", [=](FaultBooks& books) {
+            auto list = std::make_shared<PartyDirectory>(books.Data(), books.Opened(), kind);
+            Party party = list->Rows().empty() ? Party{} : list->Rows().front();
+            party.resize(kind == PartyKind::kFirm ? 15 : 14);
+            party[0] = u"ООО «Заря»"_s;
+            list->Add(party);
+            return [=] { list->Save(); };
+          }};
+}
+
+template <typename Change>
+WritingCommand OfPrices(const std::string& name, Change change) {
+  return {name, "prices/PriceStore.cpp", [=](FaultBooks& books) {
+            auto store = std::make_shared<PriceStore>(books.Data(), books.Opened());
+            auto list = std::make_shared<PriceList>(store->Load(kWarehouse, 1, GoodsView::kGroups));
+            list->SetSalePrice(1, u"61"_s);
+            list->SetTick(1, true);
+            store->Copy(*list);
+            list->SetSalePrice(2, u"12"_s);
+            return [=] { change(*store, *list); };
+          }};
+}
+
+template <typename Change>
+WritingCommand OfCatalogue(const std::string& name, Change change) {
+  return {name, "store/Catalogue.cpp",
+          [=](FaultBooks& books) {
+            return [=, &books] { change(books.Data(), ListDatabases(books.Data())); };
+          },
+          Beside::kSecondDatabaseAndBackup};
+}
+
+std::vector<WritingCommand> DocumentCommands() {
+  return {
+      NewDocument("приход, новый открытый", DocumentKind::kReceipt, false),
+      NewDocument("приход, новый закрытый", DocumentKind::kReceipt, true),
+      SavedAgain("приход, закрытый снова", DocumentKind::kReceipt, false),
+      NewDocument("расход, новый открытый", DocumentKind::kShipment, false),
+      NewDocument("расход, новый закрытый", DocumentKind::kShipment, true),
+      SavedAgain("расход, закрытие", DocumentKind::kShipment, true),
+      NewDocument("перемещение, новое", DocumentKind::kTransfer, false),
+      SavedAgain("перемещение, снова", DocumentKind::kTransfer, false),
+      DeletedDocument("приход, удаление", DocumentKind::kReceipt, false),
+      DeletedDocument("приход, удаление со списанием", DocumentKind::kReceipt, true),
+      DeletedDocument("расход, удаление с возвратом", DocumentKind::kShipment, true),
+      DeletedDocument("перемещение, удаление с возвратом", DocumentKind::kTransfer, true),
+  };
+}
+
+std::vector<WritingCommand> DirectoryCommands() {
+  return {
+      OfGoods("товары, запись", GoodsView::kGroups,
+              [](GoodsDirectory& goods) {
+                goods.Remove(2);
+                goods.Save();
+              }),
+      OfGoods("товары, показ без групп", GoodsView::kGroups,
+              [](GoodsDirectory& goods) {
+                goods.MoveDown(1);
+                goods.ShowGoodsOnly();
+              }),
+      OfGoods("товары, изменение без групп", GoodsView::kGoodsOnly,
+              [](GoodsDirectory& goods) {
+                goods.SaveChange(goods.Change(0, {u"Соль"_s, {}, {}, u"пач."_s, u"10.00"_s}));
+              }),
+      OfGoods("товары, выбор", GoodsView::kGroups,
+              [](GoodsDirectory& goods) {
+                goods.Remove(2);
+                goods.SaveBeforePick();
+              }),
+      OfParties("фирмы", PartyKind::kFirm),
+      OfParties("клиенты", PartyKind::kClient),
+      OfParties("поставщики", PartyKind::kSupplier),
+      OfWarehouses("склад, создание", [](auto& list) { list.Create(u"Лавка"_s); }),
+      OfWarehouses("склад, переименование", [](auto& list) { list.Rename(1, u"Ларёк"_s); }),
+      OfWarehouses("склад, удаление", [](auto& list) { list.Delete(1); }),
+      {"склады, OK после переименования", "directories/WarehouseDirectory.cpp",
+       [](FaultBooks& books) {
+         auto list = std::make_shared<WarehouseDirectory>(books.Data(), books.Opened());
+         list->Rename(1, u"Ларёк"_s);
+         return [=] { list->Save(); };
+       }},
+      {"основная валюта", "directories/MainCurrency.cpp",
+       [](FaultBooks& books) {
+         Currency currency = LoadMainCurrency(books.Data(), books.Opened());
+         currency.forms[0] = u"р."_s;
+         return [=, &books] { SaveMainCurrency(books.Data(), books.Opened(), currency); };
+       }},
+  };
+}
+
+std::vector<WritingCommand> StockCommands() {
+  return {
+      {"занесение остатков", "stock/OpeningBalances.cpp",
+       [](FaultBooks& books) {
+         auto balances = std::make_shared<OpeningBalances>();
+         balances->Add({u"Соль"_s, u"7"_s, u"кг"_s, {}, {}});
+         return [=, &books] { balances->Book(books.Data(), books.Opened(), kWarehouse); };
+       }},
+      {"наличие, изменение", "stock/OnHand.cpp",
+       [](FaultBooks& books) {
+         auto list = std::make_shared<OnHandList>(
+             LoadOnHand(books.Data(), books.Opened(), {kWarehouse}, GoodsView::kGroups));
+         list->ChangeQuantity(2, u"5"_s);
+         return [=, &books] { SaveOnHand(*list, books.Data(), books.Opened(), kWarehouse); };
+       }},
+      {"наличие, обнуление", "stock/OnHand.cpp",
+       [](FaultBooks& books) {
+         auto list = std::make_shared<OnHandList>(
+             LoadOnHand(books.Data(), books.Opened(), {kWarehouse}, GoodsView::kGroups));
+         return [=, &books] { ZeroOnHand(*list, books.Data(), books.Opened(), kWarehouse); };
+       }},
+      OfPrices("прайс, сохранение",
+               [](PriceStore& store, PriceList& list) { store.Save(list, kWarehouse, 1); }),
+      OfPrices("прайс, галочки", [](PriceStore& store, PriceList& list) { store.SaveTicks(list); }),
+      OfPrices("прайс, копирование", [](PriceStore& store, PriceList& list) { store.Copy(list); }),
+      OfPrices("прайс, вставка",
+               [](PriceStore& store, PriceList& list) { store.Paste(list, kWarehouse, 2); }),
+      {"печатная форма", "printing/PrintOutDesk.cpp",
+       [](FaultBooks& books) {
+         return [&books] { PrintOutDesk(books.Data(), {}).Write(u"nakl.htm"_s, "<HTML>\r\n"); };
+       }},
+  };
+}
+
+std::vector<WritingCommand> StoreCommands() {
+  return {
+      OfCatalogue("база, создание", [](auto& data, auto&&) { CreateDatabase(data, u"Третья"_s); }),
+      OfCatalogue("база, переименование",
+                  [](auto& data, auto&& list) { RenameDatabase(data, list.at(1), u"Иная"_s); }),
+      OfCatalogue("база, удаление",
+                  [](auto& data, auto&& list) { DeleteDatabase(data, list.at(1)); }),
+      {"база, открытие без валюты", "store/Session.cpp",
+       [](FaultBooks& books) {
+         QFile::remove(books.Data().Resolve(u"0001\\currency.usd"_s));
+         return [&books] {
+           Session session;
+           session.bases_text1 = u"0001\\"_s;
+           OpenDatabase(session, books.Data());
+         };
+       },
+       Beside::kNothing, true},
+      {"импорт, все области", "store/Import.cpp",
+       [](FaultBooks& books) {
+         return [&books] {
+           ImportChoice choice;
+           for (int area = kImportAreas - 1; area >= 0; --area) {
+             choice.Tick(static_cast<ImportArea>(area), true);
+           }
+           ImportAreas(books.Data(), u"0001\\"_s, u"0002\\"_s, choice);
+         };
+       },
+       Beside::kSecondDatabaseAndBackup},
+      {"резервное копирование", "store/Backup.cpp",
+       [](FaultBooks& books) {
+         return [&books] {
+           MakeBackup(books.Data(), ListDatabases(books.Data()), books.Backups(),
+                      kToday.addDays(1));
+         };
+       },
+       Beside::kSecondDatabaseAndBackup},
+      {"восстановление", "store/Backup.cpp",
+       [](FaultBooks& books) {
+         return [&books] {
+           const DataDir backup(BackupTarget(books.Backups(), kToday));
+           RestoreDatabases(books.Data(), backup, {ListDatabases(backup).at(0)});
+         };
+       },
+       Beside::kSecondDatabaseAndBackup},
+  };
+}
+
+std::string BytesOf(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << in.rdbuf();
+  return bytes.str();
+}
+
+}  // namespace
+
+FaultBooks::FaultBooks(Beside beside)
+    : data_([this, beside] {
+        fs::copy(Template(beside), Root(), fs::copy_options::recursive);
+        return DataDir(root_.path() + u"/data"_s);
+      }()) {
+  session_.bases_text1 = u"0001\\"_s;
+  OpenDatabase(session_, data_);
+}
+
+std::map<std::string, std::string> FaultBooks::Tree() const {
+  std::map<std::string, std::string> tree;
+  for (const auto& entry : fs::recursive_directory_iterator(Root())) {
+    const std::string name = fs::relative(entry.path(), Root()).string();
+    if (entry.is_directory()) {
+      tree[name + "/"] = {};
+    } else {
+      tree[name] = BytesOf(entry.path());
+    }
+  }
+  return tree;
+}
+
+void FaultBooks::Reopen() {
+  SaveSet::Recover(data_);
+  RemoveUnfinishedRestore(data_);
+}
+
+const std::vector<WritingCommand>& WritingCommands() {
+  static const std::vector<WritingCommand> commands = [] {
+    std::vector<WritingCommand> all;
+    for (auto part : {DocumentCommands(), DirectoryCommands(), StockCommands(), StoreCommands()}) {
+      all.insert(all.end(), part.begin(), part.end());
+    }
+    return all;
+  }();
+  return commands;
+}
+
+}  // namespace kladez
