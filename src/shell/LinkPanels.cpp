@@ -69,6 +69,12 @@ QSize LinksPanel::sizeHint() const {
   return {links.width() + bar, links.height()};
 }
 
+void LinksPanel::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  // The height decides whether there is a scroll bar beside the links.
+  updateGeometry();
+}
+
 QSize LinksPanel::minimumSizeHint() const { return {sizeHint().width(), 0}; }
 
 LinksStrip::LinksStrip(QWidget* parent) : QWidget(parent) {

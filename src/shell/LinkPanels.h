@@ -19,6 +19,9 @@ class LinksPanel : public QScrollArea {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  signals:
   void Chosen(Place place);
 };

@@ -36,6 +36,14 @@ using namespace Qt::StringLiterals;
 constexpr int kStripHeight = 900;
 constexpr int kFootHeight = 450;
 
+// A child screen that could use more height than there is gets what there is: only one that can't
+// do with it scrolls.
+class HostLayout : public QVBoxLayout {
+ public:
+  using QVBoxLayout::QVBoxLayout;
+  bool hasHeightForWidth() const override { return false; }
+};
+
 }  // namespace
 
 frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(menuBar(), this)) {
@@ -72,7 +80,7 @@ void frmMain::BuildLayout() {
   view->setFocusPolicy(Qt::NoFocus);
   view->setWidgetResizable(true);
   view->setWidget(host_);
-  host_layout_ = new QVBoxLayout(host_);
+  host_layout_ = new HostLayout(host_);
   host_layout_->setContentsMargins(0, 0, 0, 0);
   foot_ = new QWidget(inner);
   foot_->setFixedHeight(look::FromTwips(kFootHeight));

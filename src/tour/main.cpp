@@ -24,8 +24,11 @@ using namespace Qt::StringLiterals;
 
 constexpr int kSheetDotsPerInch = 96;
 
-// The page as the viewer shows it and prints it.
-void KeepPage(const QString& folder) {
+// The page that was printed last, and as the viewer shows it and prints it.
+void KeepPage(const QString& data, const QString& folder) {
+  const QString kept = folder + u"/out.htm"_s;
+  QFile::remove(kept);
+  QFile::copy(data + u"/out.htm"_s, kept);
   const auto page = std::make_shared<const kladez::viewer::Page>(
       kladez::viewer::ReadPageFile(QDir(folder), u"out.htm"_s));
   kladez::viewer::RenderWindowPicture(page, folder + u"/out.png"_s);
@@ -39,18 +42,14 @@ void Play(const QString& folder) {
   const QString data = home.path() + u"/data"_s;
   QDir().mkpath(data);
   kladez::WriteDemonstrationBooks(kladez::DataDir(data), clock.Today());
-  kladez::Stage stage(data, home.path() + u"/settings.ini"_s, clock, [&] {
-    const QString page = folder + u"/out.htm"_s;
-    QFile::remove(page);
-    QFile::copy(data + u"/out.htm"_s, page);
-  });
+  kladez::Stage stage(data, home.path() + u"/settings.ini"_s, clock);
   kladez::Robot robot(folder);
-  stage.Play(robot, [](kladez::Robot& player) {
+  stage.Play(robot, [&](kladez::Robot& player) {
     kladez::OpenDatabaseByHand(player, u"Демонстрационная база"_s);
     kladez::PlayRoad(player);
+    player.InWindow([&] { KeepPage(data, folder); });
     kladez::VisitScreens(player);
   });
-  KeepPage(folder);
 }
 
 // The platform without a display remarks on what it lacks at each window; only faults are told.
