@@ -1,6 +1,8 @@
 #include "shell/Help.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QPushButton>
 #include <QUrl>
 
@@ -17,21 +19,31 @@ std::function<bool(const QUrl&)>& Opener() {
   return opener;
 }
 
-void OpenFile(QWidget* parent, const DataDir& data, const QString& path) {
-  if (!data.FileExists(path)) {
+// The guide of the user's own beside the Databases goes before the one that came with the program,
+// installed or in the folder that it was built in. Empty where there is none.
+QString FindPage(const DataDir& data, const QString& page) {
+  if (data.FileExists(u"help\\"_s + page)) return data.Resolve(u"help\\"_s + page);
+  for (const QStringView folder : {u"/../share/kladez/help/", u"/../../../help/"}) {
+    const QFileInfo file(QCoreApplication::applicationDirPath() + folder + page);
+    if (file.isFile()) return file.canonicalFilePath();
+  }
+  return {};
+}
+
+void OpenFile(QWidget* parent, const DataDir& data, const QString& file, const QString& name) {
+  if (file.isEmpty()) {
     ShowInformation(
-        parent, u"Нет файла справки «"_s + path + u"».\nПоложите его в каталог "_s + data.Root());
+        parent, u"Нет файла справки «"_s + name + u"».\nПоложите его в каталог "_s + data.Root());
     return;
   }
-  if (Opener()(QUrl::fromLocalFile(data.Resolve(path)))) return;
-  ShowInformation(parent,
-                  u"Не найдена программа, которая показала бы файл\n"_s + data.Resolve(path));
+  if (Opener()(QUrl::fromLocalFile(file))) return;
+  ShowInformation(parent, u"Не найдена программа, которая показала бы файл\n"_s + file);
 }
 
 }  // namespace
 
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page) {
-  OpenFile(parent, data, u"help\\"_s + page);
+  OpenFile(parent, data, FindPage(data, page.toString()), u"help\\"_s + page);
 }
 
 QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page) {
@@ -43,7 +55,10 @@ QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView pa
 }
 
 void OpenHelpFile(QWidget* parent, const DataDir& data) {
-  OpenFile(parent, data, kHelpFile.toString());
+  const QString name = kHelpFile.toString();
+  const QString file =
+      data.FileExists(name) ? data.Resolve(name) : FindPage(data, kHelpIndex.toString());
+  OpenFile(parent, data, file, name);
 }
 
 void OpenAddress(QWidget* parent, QStringView address) {

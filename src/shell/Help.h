@@ -1,5 +1,5 @@
-// The help file, its topic pages and the product's pages, shown by the desktop's own browser. None
-// of them is part of the program: where one is missing, a message says so.
+// The user guide (the folder help/), its topic pages and the product's pages, shown by the
+// desktop's own browser. Where one is missing, a message says so.
 #pragma once
 
 #include <QString>
@@ -14,15 +14,17 @@ class QWidget;
 namespace kladez {
 
 inline constexpr QStringView kHelpFile = u"kladez.chm";
+inline constexpr QStringView kHelpIndex = u"index.htm";
 inline constexpr QStringView kProductPage = u"https://kladez.example/";
 inline constexpr QStringView kNewsPage = u"https://kladez.example/news/";
 inline constexpr QStringView kProductMail = u"mailto:info@kladez.example";
 
-// A page of the folder "help" beside the Databases, such as "workdb.htm".
+// A page of the folder "help", such as "workdb.htm": beside the Databases, else as it came with the
+// program.
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page);
 // The command "Справка" of a screen that has a page; the help key gives it too.
 QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page);
-// The help file as a whole.
+// The help file beside the Databases, else the first page of the guide.
 void OpenHelpFile(QWidget* parent, const DataDir& data);
 void OpenAddress(QWidget* parent, QStringView address);
 
