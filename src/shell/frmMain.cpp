@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <memory>
 
 #include "formats/Dates.h"
@@ -37,11 +38,24 @@ constexpr int kStripHeight = 900;
 constexpr int kFootHeight = 450;
 
 // A child screen that could use more height than there is gets what there is: only one that can't
-// do with it scrolls.
+// do with it scrolls. What it can do with depends on the width, where its rows go on in a next
+// line.
 class HostLayout : public QVBoxLayout {
  public:
   using QVBoxLayout::QVBoxLayout;
   bool hasHeightForWidth() const override { return false; }
+
+  QSize minimumSize() const override {
+    QSize least = QVBoxLayout::minimumSize();
+    const QLayoutItem* child = itemAt(0);
+    const QLayout* layout = child != nullptr ? child->widget()->layout() : nullptr;
+    if (layout != nullptr && layout->hasHeightForWidth()) {
+      const QWidget* view = parentWidget()->parentWidget();
+      const int width = std::max(least.width(), view->width());
+      least.setHeight(std::max(least.height(), layout->minimumHeightForWidth(width)));
+    }
+    return least;
+  }
 };
 
 }  // namespace

@@ -6,13 +6,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QTabWidget>
@@ -22,98 +19,24 @@
 #include <algorithm>
 #include <exception>
 #include <memory>
-#include <stdexcept>
 #include <thread>
 
 #include "shell/controls/HintPicture.h"
+#include "tour/Eyes.h"
 
 namespace kladez {
-namespace {
 
+using namespace eyes;
 using namespace Qt::StringLiterals;
 
+namespace {
+
 constexpr int kPatience = 20000;  // milliseconds until a step counts as failed
-
-[[noreturn]] void Fail(const QString& what) { throw std::runtime_error(what.toStdString()); }
-
-// The window that a person would type into now.
-QWidget* Front() {
-  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  QWidget* active = QApplication::activeWindow();
-  if (active != nullptr && active->isVisible()) return active;
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (widget->isVisible()) return widget;
-  }
-  return nullptr;
-}
-
-QWidget* FindVisible(const QString& name) {
-  QWidget* front = Front();
-  if (front == nullptr) return nullptr;
-  if (front->objectName() == name) return front;
-  for (QWidget* widget : front->findChildren<QWidget*>(name)) {
-    if (widget->isVisible()) return widget;
-  }
-  return nullptr;
-}
-
-// A dialog in front, or the child screen of the main window; a command may bear the same name.
-QWidget* FindScreen(const QString& name) {
-  QWidget* front = Front();
-  if (front == nullptr || front->objectName() == name) return front;
-  return qobject_cast<QMainWindow*>(front) != nullptr ? FindVisible(name) : nullptr;
-}
-
-QWidget* Control(const QString& name) {
-  QWidget* control = FindVisible(name);
-  if (control == nullptr) {
-    QWidget* front = Front();
-    Fail(u"Нет элемента "_s + name + u" в окне "_s +
-         (front != nullptr ? front->objectName() : u"-"_s));
-  }
-  return control;
-}
-
-template <typename Kind>
-Kind* ControlOf(const QString& name) {
-  auto* control = qobject_cast<Kind*>(Control(name));
-  if (control == nullptr) Fail(u"Элемент "_s + name + u" другого вида"_s);
-  return control;
-}
-
-// Where the keyboard goes in the window in front; on a platform without a window manager the
-// application as a whole may know of none.
-QWidget* KeyboardTarget() {
-  QWidget* front = Front();
-  if (front == nullptr) return nullptr;
-  // Where a dialog closed, a window manager would make the window below it active.
-  const QWidget* active = QApplication::activeWindow();
-  if (active == nullptr || !active->isVisible()) QApplication::setActiveWindow(front->window());
-  return front->focusWidget() != nullptr ? front->focusWidget() : front;
-}
 
 void TypeText(QWidget* into, const QString& text) {
   for (const QChar c : text) {
     QTest::sendKeyEvent(QTest::Click, into, Qt::Key_unknown, QString(c), Qt::NoModifier);
   }
-}
-
-QModelIndex RowOf(QAbstractItemView* list, const QString& first_column) {
-  for (int row = 0; row < list->model()->rowCount(); ++row) {
-    const QModelIndex index = list->model()->index(row, 0);
-    if (index.data().toString() == first_column) return index;
-  }
-  Fail(u"Нет строки "_s + first_column);
-}
-
-QString ShownText(QWidget* control) {
-  if (const auto* label = qobject_cast<QLabel*>(control)) return label->text();
-  if (const auto* line = qobject_cast<QLineEdit*>(control)) return line->text();
-  if (const auto* combo = qobject_cast<QComboBox*>(control)) return combo->currentText();
-  if (const auto* button = qobject_cast<QAbstractButton*>(control)) return button->text();
-  if (const auto* date = qobject_cast<QDateTimeEdit*>(control)) return date->text();
-  return control->windowTitle();
 }
 
 // Waits for one window of a name to be shown.

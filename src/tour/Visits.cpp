@@ -25,27 +25,25 @@ void OpenChild(Robot& robot, const QString& menu, const QString& screen) {
   robot.WaitFor(screen);
 }
 
-void VisitReceipts(Robot& robot) {
-  OpenChild(robot, u"mnu_Sklad_P"_s, u"TovPrih"_s);
-  robot.Click(u"Command2"_s);
-  robot.WaitFor(u"PrihNew"_s);
-  ShowDialog(robot, u"prn"_s, u"prihnokl"_s);
-  robot.Press(Qt::Key_Escape);
-  robot.WaitFor(u"TovPrih"_s);
-  ShowDialog(robot, u"Command8"_s, u"TovPrih_Ass"_s);
-}
+struct Dialog {
+  QStringView opener;
+  QStringView screen;
+};
 
-void VisitShipments(Robot& robot) {
-  OpenChild(robot, u"mnu_Sklad_R"_s, u"TovUhod"_s);
+// The first document of a register in its editor, with the dialogs that open from there, and its
+// properties.
+void VisitDocuments(Robot& robot, const QString& menu, const QString& register_screen,
+                    const QString& editor, std::initializer_list<Dialog> dialogs,
+                    const QString& properties) {
+  OpenChild(robot, menu, register_screen);
   robot.Click(u"Command2"_s);
-  robot.WaitFor(u"UhodNew"_s);
-  ShowDialog(robot, u"change"_s, u"change"_s);
-  ShowDialog(robot, u"prs"_s, u"chFactPrint"_s);
-  ShowDialog(robot, u"pri"_s, u"UhodSch"_s);
-  ShowDialog(robot, u"prp"_s, u"PrihPrint"_s);
+  robot.WaitFor(editor);
+  for (const Dialog& dialog : dialogs) {
+    ShowDialog(robot, dialog.opener.toString(), dialog.screen.toString());
+  }
   robot.Press(Qt::Key_Escape);
-  robot.WaitFor(u"TovUhod"_s);
-  ShowDialog(robot, u"Command8"_s, u"TovUhod_Ass"_s);
+  robot.WaitFor(register_screen);
+  ShowDialog(robot, u"Command8"_s, properties);
 }
 
 void MakeTransfer(Robot& robot) {
@@ -132,8 +130,14 @@ void VisitScreens(Robot& robot) {
   robot.Picture(u"helper"_s);
   robot.Press(Qt::Key_Escape);
   robot.WaitFor(u"TovUhod"_s);
-  VisitReceipts(robot);
-  VisitShipments(robot);
+  VisitDocuments(robot, u"mnu_Sklad_P"_s, u"TovPrih"_s, u"PrihNew"_s, {{u"prn", u"prihnokl"}},
+                 u"TovPrih_Ass"_s);
+  VisitDocuments(robot, u"mnu_Sklad_R"_s, u"TovUhod"_s, u"UhodNew"_s,
+                 {{u"change", u"change"},
+                  {u"prs", u"chFactPrint"},
+                  {u"pri", u"UhodSch"},
+                  {u"prp", u"PrihPrint"}},
+                 u"TovUhod_Ass"_s);
   MakeTransfer(robot);
   OpenChild(robot, u"mnu_Sklad_NT"_s, u"Sklad"_s);
   robot.Picture(u"Sklad"_s);

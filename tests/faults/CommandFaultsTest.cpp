@@ -4,15 +4,13 @@
 // not come to its end has said so. Prints how many faults each command met, and the losses.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 
+#include "DiesAtStep.h"
 #include "WritingCommands.h"
 #include "store/Errors.h"
-#include "store/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -44,46 +42,27 @@ struct Outcome {
   bool told = false;     // the command failed with words for the user
 };
 
-std::function<int(std::string_view, const QByteArray&)> HookFor(const Fault& fault, int step,
-                                                                int* calls) {
-  return [=](std::string_view, const QByteArray&) {
-    ++*calls;
-    if (*calls < step || (*calls > step && !fault.stays)) return 0;
-    if (fault.error == 0) ::_exit(9);
-    return fault.error;
-  };
-}
-
-Outcome RunWithError(const std::function<void()>& command, const Fault& fault, int step) {
-  int calls = 0;
-  Outcome outcome;
-  syscalls::SetFaultHook(HookFor(fault, step, &calls));
+// Runs the command while the hook decides which of its changes fail.
+bool IsToldToFail(const std::function<void()>& command, syscalls::FaultHook hook) {
+  bool told = false;
+  syscalls::SetFaultHook(std::move(hook));
   try {
     command();
   } catch (const std::system_error& error) {
-    outcome.told = ErrorText(error).contains(QLatin1Char('/'));
+    told = ErrorText(error).contains(QLatin1Char('/'));
   }
   syscalls::SetFaultHook({});
-  outcome.reached = calls >= step;
-  return outcome;
+  return told;
 }
 
-Outcome RunToDeath(const std::function<void()>& command, const Fault& fault, int step) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    int calls = 0;
-    syscalls::SetFaultHook(HookFor(fault, step, &calls));
-    try {
-      command();
-    } catch (...) {
-      ::_exit(1);
-    }
-    ::_exit(0);
-  }
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  const bool died = WIFEXITED(status) && WEXITSTATUS(status) == 9;
-  return {died, died};
+Outcome Run(const std::function<void()>& command, const Fault& fault, int step) {
+  if (fault.error == 0) return {.reached = DiesAtStep(step, command)};
+  int calls = 0;
+  const bool told = IsToldToFail(command, [&](auto, auto&) {
+    ++calls;
+    return calls == step || (calls > step && fault.stays) ? fault.error : 0;
+  });
+  return {calls >= step, told};
 }
 
 struct States {
@@ -109,8 +88,7 @@ void Try(const WritingCommand& command, const States& states, const Fault& fault
   for (int step = 1;; ++step) {
     FaultBooks books(command.beside);
     const auto run = command.prepare(books);
-    const Outcome outcome =
-        fault.error == 0 ? RunToDeath(run, fault, step) : RunWithError(run, fault, step);
+    const Outcome outcome = Run(run, fault, step);
     if (!outcome.reached) return;
     ++count->tried;
     books.Reopen();
@@ -158,12 +136,12 @@ TEST(CommandFaults, AReadOnlyPlaceIsToldAndNothingChanges) {
       const std::string place = (books.Root() / path).string();
       const mode_t mode = path.ends_with('/') ? 0755 : 0644;
       ::chmod(place.c_str(), mode & 0555);
-      const Outcome outcome = RunWithError(run, {"", 0}, -1);
+      const bool told = IsToldToFail(run, {});
       ::chmod(place.c_str(), mode);
-      refusals += outcome.told ? 1 : 0;
+      refusals += told ? 1 : 0;
       books.Reopen();
       const Tree tree = books.Tree();
-      if (outcome.told) {
+      if (told) {
         EXPECT_EQ(tree, states.before) << command.name << ", " << path;
       } else if (!command.silent && command.source != "store/Import.cpp") {
         EXPECT_EQ(tree, states.after) << command.name << ", " << path;

@@ -1,41 +1,13 @@
 // The program is killed at every step of saving, and at every step of the recovery from that: the
 // data directory holds the whole command or nothing of it afterwards, and nothing extra.
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cerrno>
-#include <functional>
 
+#include "DiesAtStep.h"
 #include "SaveScenarios.h"
 #include "store/Errors.h"
-#include "store/SystemCalls.h"
 
 namespace kladez {
 namespace {
-
-// Runs the action in a process of its own that dies at its `step`th change of the disk; false when
-// it came to its end before.
-bool DiesAtStep(int step, const std::function<void()>& action) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    int calls = 0;
-    syscalls::SetFaultHook([&](auto, auto&) {
-      if (++calls == step) ::_exit(9);
-      return 0;
-    });
-    try {
-      action();
-    } catch (...) {
-      ::_exit(1);
-    }
-    ::_exit(0);
-  }
-  int status = 0;
-  EXPECT_EQ(::waitpid(child, &status, 0), child);
-  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  EXPECT_TRUE(code == 0 || code == 9) << "step " << step << " ended with " << code;
-  return code == 9;
-}
 
 class SaveCrash : public testing::TestWithParam<SaveScenario> {};
 

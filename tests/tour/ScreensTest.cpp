@@ -37,8 +37,14 @@ TEST(Screens, NoneIsCutNoneOverlapsAndEveryControlHasAName) {
   const Clock clock(QDateTime(QDate(2026, 11, 23), QTime(10, 0)));
   WriteDemonstrationBooks(data.Data(), clock.Today());
   Stage stage(data.Root(), settings.filePath(u"settings.ini"_s), clock);
-  stage.Window().resize(QGuiApplication::primaryScreen()->availableSize());
-  Robot robot(qEnvironmentVariable("WALK_PICTURES"));
+  const QScreen& display = *QGuiApplication::primaryScreen();
+  // The display is the one asked for: a walk elsewhere would prove nothing.
+  EXPECT_TRUE(qEnvironmentVariable("WALK").startsWith(
+      u"%1x%2-%3-"_s.arg(display.size().width() * display.devicePixelRatio())
+          .arg(display.size().height() * display.devicePixelRatio())
+          .arg(QGuiApplication::font().pointSize())));
+  stage.Window().resize(display.availableSize());
+  Robot robot(QStringLiteral(WALK_PICTURES) + u'/' + qEnvironmentVariable("WALK"));
   std::set<QString> unseen = kScreens;
   robot.SetInspector([&](QWidget* window, const QString& screen) {
     unseen.erase(screen);

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -117,10 +118,6 @@ QWidget* pricePrint::NewOther() {
        {&P::Check9, u"Check9", u"&Дата", true, &P::Text4, u"Text4",
         LongDateText(context_.clock.Today())},
        {&P::Check10, u"Check10", u"&Подпись внизу:", false, &P::Text5, u"Text5", {}}});
-  // An address is long, and shows its whole where the screen has room.
-  for (TextLine* text : {Text1, Text2, Text3, Text6, Text4, Text5}) {
-    text->setFixedWidth(std::max(text->width(), 24 * look::kGrid));
-  }
   frame.column->addLayout(grid);
   frame.column->addStretch();
   return frame.box;
@@ -249,6 +246,10 @@ void pricePrint::BuildLayout() {
   layout->addWidget(panel);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(ending);
+  // An address is long: its fields take what the screen leaves, up to its whole.
+  const int spare = screen()->availableSize().width() - sizeHint().width() - look::kGap;
+  const int width = Text1->width() + std::clamp(spare, 0, 22 * look::kGrid);
+  for (TextLine* text : {Text1, Text2, Text3, Text6, Text4, Text5}) text->setFixedWidth(width);
 }
 
 void pricePrint::FollowGroups() {

@@ -35,10 +35,8 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
 
   Command1 = NewCommand(this, u"Command1"_s, texts.yes.toString());
   Command2 = NewCommand(this, u"Command2"_s, texts.no.toString());
-  auto* help = NewCommand(this, u"help"_s, u"Справка"_s, look::IconName::kHint);
-  help->setShortcut(QKeySequence::HelpContents);
   auto* ending = NewEndingRow(Command1, Command2);
-  ending->insertWidget(0, help);
+  ending->insertWidget(0, NewHelpCommand(this, context_.data, texts.help));
 
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
@@ -52,8 +50,6 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
 
   connect(Command1, &QPushButton::clicked, this, [this] { Ok(); });
   connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-  connect(help, &QPushButton::clicked, this,
-          [this, page = texts.help] { OpenHelpPage(this, context_.data, page); });
 }
 
 QGroupBox* PeriodDialog::NewFrame() {
@@ -62,8 +58,8 @@ QGroupBox* PeriodDialog::NewFrame() {
   frame->setObjectName(u"Frame1"_s);
   auto* hint = new HintPicture(HintFor(objectName(), u"Документы"), frame);
   hint->setObjectName(u"Picture1"_s);
-  hint->setFixedSize(2 * look::kGrid + look::kTight, 2 * look::kGrid + look::kTight);
-  hint->move(look::kTight, 0);
+  hint->setFixedSize(look::kMargin, look::kMargin);
+  hint->move(0, look::kTight / 2);
   return frame;
 }
 

@@ -26,12 +26,16 @@ QLayoutItem* WrapRow::takeAt(int index) {
   return index >= 0 && index < items_.size() ? items_.takeAt(index) : nullptr;
 }
 
-int WrapRow::heightForWidth(int width) const { return Arrange(QRect(0, 0, width, 0), false); }
+int WrapRow::heightForWidth(int width) const {
+  const QMargins margins = contentsMargins();
+  const QRect room(0, 0, width - margins.left() - margins.right(), 0);
+  return Arrange(room, false) + margins.top() + margins.bottom();
+}
 
 QSize WrapRow::minimumSize() const {
   QSize size;
   for (const QLayoutItem* item : items_) size = size.expandedTo(item->minimumSize());
-  return size;
+  return size.grownBy(contentsMargins());
 }
 
 QSize WrapRow::sizeHint() const {
@@ -41,12 +45,15 @@ QSize WrapRow::sizeHint() const {
     size.rwidth() += item->sizeHint().width() + gap_;
     size.setHeight(std::max(size.height(), item->sizeHint().height()));
   }
-  return size.expandedTo(QSize(0, 0));
+  return size.expandedTo(QSize(0, 0)).grownBy(contentsMargins());
 }
 
 void WrapRow::setGeometry(const QRect& rect) {
   QLayout::setGeometry(rect);
-  Arrange(rect, true);
+  QRect room = contentsRect();
+  // Where there is more height than the lines take, they stand in the middle of it.
+  room.adjust(0, std::max(0, (room.height() - Arrange(room, false)) / 2), 0, 0);
+  Arrange(room, true);
 }
 
 int WrapRow::Arrange(const QRect& rect, bool apply) const {

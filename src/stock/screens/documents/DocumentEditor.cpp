@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QScreen>
+#include <algorithm>
 
 #include "formats/Dates.h"
 #include "shell/Hints.h"
@@ -18,6 +20,12 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 using H = DocumentHead;
+
+namespace {
+
+constexpr int kLettersAcross = 110;
+
+}  // namespace
 
 DocumentEditor::DocumentEditor(AppContext& context, DocumentKind kind, DocumentDraft draft,
                                QWidget* parent)
@@ -39,7 +47,10 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentKind kind, DocumentD
   ShowSums();
   ListView1->SelectRow(0);
   ListView1->setFocus();
-  resize(96 * look::kGrid, 68 * look::kGrid);
+  // Wide enough for the names of two warehouses, with large letters too.
+  const int room = screen()->availableSize().width() - look::kGap;
+  const int wanted = std::max(112 * look::kGrid, kLettersAcross * fontMetrics().averageCharWidth());
+  resize(std::min(room, wanted), 68 * look::kGrid);
 }
 
 void DocumentEditor::AddField(QHBoxLayout* row, const QString& caption, QWidget* field,

@@ -53,7 +53,8 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   layout->addLayout(fields);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(commands);
-  resize(96 * look::kGrid, 56 * look::kGrid);
+  // A shipment has eight columns.
+  resize((screens_.HasDiscount() ? 124 : 96) * look::kGrid, 56 * look::kGrid);
 }
 
 TextLine* DocumentProperties::AddField(QFormLayout* form, const QString& caption,

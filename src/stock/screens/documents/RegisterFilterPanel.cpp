@@ -10,27 +10,12 @@
 #include "shell/controls/FoldButton.h"
 #include "shell/controls/Forms.h"
 #include "shell/controls/Look.h"
+#include "shell/controls/PeriodLists.h"
 #include "shell/controls/WrapRow.h"
 
 namespace kladez {
-namespace {
 
 using namespace Qt::StringLiterals;
-
-QStringList MonthNames() {
-  QStringList names;
-  for (int month = 1; month <= 12; ++month) names << MonthName(month);
-  return names;
-}
-
-QStringList YearsAround(int year) {
-  constexpr int kBack = 30;
-  QStringList years;
-  for (int y = year - kBack; y <= year + 1; ++y) years << QString::number(y);
-  return years;
-}
-
-}  // namespace
 
 RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScreens& screens,
                                          QWidget* parent)
@@ -56,7 +41,7 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
     connect(warehouse_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
   }
 
-  auto* row = new WrapRow(look::kMargin, look::kTight);
+  auto* row = new WrapRow(look::kGrid, look::kTight);
   options_->setLayout(row);
   BuildPeriod(row);
   row->AddStretch();
