@@ -98,8 +98,32 @@ int TakeDigits(Cursor<Char>& in, Digits& out, bool grouped) {
   return count;
 }
 
+// Digits with at most one point, as nearly all numbers of files are: up to 15 digits and a power of
+// ten are exact, so one division rounds as the conversion of the text does.
+template <typename Char>
+std::optional<double> ParsePlain(Cursor<Char> in) {
+  constexpr std::array kTens = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  qint64 whole = 0;
+  size_t digits = 0;
+  size_t before_point = kTens.size();
+  for (; !in.AtEnd(); in.Step()) {
+    if (IsDigit(in.Now()) && ++digits < kTens.size()) {
+      whole = whole * 10 + (in.Now() - u'0');
+    } else if (in.Now() == u'.' && before_point == kTens.size()) {
+      before_point = digits;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (digits == 0) return std::nullopt;
+  const size_t decimals = before_point < digits ? digits - before_point : 0;
+  return static_cast<double>(whole) / kTens[decimals];
+}
+
 template <typename Char>
 std::optional<double> ParseStrictly(Cursor<Char> in) {
+  if (const auto plain = ParsePlain(in)) return plain;
   Digits digits;
   in.SkipBlanks();
   bool negative = false;
@@ -318,8 +342,11 @@ QString GeneralText(double value) {
 }
 
 double RoundGeneral(double value) {
-  // Whole numbers of up to 15 digits come back as they are, and most quantities are whole.
-  if (std::fabs(value) < 1e15 && value == std::trunc(value)) return value;
+  // A number of up to 15 digits comes back as it is, and most quantities have no more than three
+  // decimals.
+  constexpr double kDecimals = 1000;
+  const double scaled = std::round(value * kDecimals);
+  if (std::fabs(scaled) < 1e15 && scaled / kDecimals == value) return value;
   std::array<char, 40> buffer;
   const auto text = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                   std::chars_format::scientific, 14);

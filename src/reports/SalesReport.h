@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "formats/TextPool.h"
 #include "reports/ReportScope.h"
-#include "reports/TextPool.h"
 
 namespace kladez {
 

@@ -4,8 +4,8 @@
 
 #include "formats/Numbers.h"
 #include "formats/Ordering.h"
+#include "formats/TextPool.h"
 #include "reports/ReportPage.h"
-#include "reports/TextPool.h"
 
 namespace kladez {
 namespace {

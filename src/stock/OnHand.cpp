@@ -4,7 +4,6 @@
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
-#include "stock/PrefixIndex.h"
 #include "store/SaveSet.h"
 
 namespace kladez {
@@ -20,6 +19,32 @@ QString LedgerPath(const Session& session, const QString& warehouse) {
 
 bool IsKept(const OnHandRow& row) { return !row.IsGroup() && row.quantity != kNothing; }
 
+// The directory's rows as the view shows them, quantity "0".
+std::vector<OnHandRow> DirectoryRows(QByteArrayView goods, GoodsView view) {
+  std::vector<GoodsRecord> records = ReadGoods(goods);
+  std::vector<OnHandRow> rows;
+  rows.reserve(records.size());
+  QString group;
+  for (GoodsRecord& record : records) {
+    if (record.IsGroup()) {
+      group = record.name;
+      if (view == GoodsView::kGroups) rows.push_back({record.name, {}, {}, {}, group});
+    } else {
+      rows.push_back({std::move(record.name), kNothing, std::move(record.unit),
+                      std::move(record.price), group});
+    }
+  }
+  // Sorted before the join: "the first row" is the first of the list as it is shown.
+  return view == GoodsView::kGoodsOnly ? SortedByName(std::move(rows)) : rows;
+}
+
+std::vector<QByteArray> EncodedNames(const std::vector<OnHandRow>& rows) {
+  std::vector<QByteArray> names;
+  names.reserve(rows.size());
+  for (const OnHandRow& row : rows) names.push_back(EncodeText(row.name));
+  return names;
+}
+
 void SaveLedger(const DataDir& data, const QString& path, QByteArray bytes) {
   SaveSet save(data);
   save.Write(path, std::move(bytes));
@@ -28,50 +53,28 @@ void SaveLedger(const DataDir& data, const QString& path, QByteArray bytes) {
 
 }  // namespace
 
-OnHandList::OnHandList(QByteArrayView goods, const std::vector<QByteArray>& ledgers,
-                       GoodsView view) {
-  QString group;
-  for (GoodsRecord& record : ReadGoods(goods)) {
-    if (record.IsGroup()) {
-      group = record.name;
-      if (view == GoodsView::kGroups) rows_.push_back({record.name, {}, {}, {}, group});
-    } else {
-      rows_.push_back({std::move(record.name), kNothing, std::move(record.unit),
-                       std::move(record.price), group});
-    }
-  }
-  // Sorted before the join: "the first row" is the first of the list as it is shown.
-  if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
-  AddLedgers(ledgers);
+OnHandJoin::OnHandJoin(QByteArrayView goods, GoodsView view)
+    : rows_(DirectoryRows(goods, view)), index_(EncodedNames(rows_)), sums_(rows_.size()) {}
+
+void OnHandJoin::Add(QByteArrayView ledger) {
+  ForEachLedgerRecord(ledger,
+                      [&](QByteArrayView name, QByteArrayView quantity, QByteArrayView /*unit*/) {
+                        const int row = index_.FirstBeginning(name);
+                        if (row < 0) return;
+                        Sum& sum = sums_[row];
+                        sum.value = RoundGeneral(sum.value + NumberOr(quantity));
+                        sum.touched = true;
+                      });
 }
 
-void OnHandList::AddLedgers(const std::vector<QByteArray>& ledgers) {
-  std::vector<QByteArray> names;
-  names.reserve(rows_.size());
-  for (const OnHandRow& row : rows_) names.push_back(EncodeText(row.name));
-  const PrefixIndex index(std::move(names));
-
-  struct Sum {
-    double value = 0;
-    bool touched = false;
-  };
-  std::vector<Sum> sums(rows_.size());
-  for (const QByteArray& ledger : ledgers) {
-    ForEachLedgerRecord(ledger,
-                        [&](QByteArrayView name, QByteArrayView quantity, QByteArrayView /*unit*/) {
-                          const int row = index.FirstBeginning(name);
-                          if (row < 0) return;
-                          Sum& sum = sums[row];
-                          sum.value = RoundGeneral(sum.value + NumberOr(quantity));
-                          sum.touched = true;
-                        });
-  }
+OnHandList OnHandJoin::Take() {
   for (size_t row = 0; row < rows_.size(); ++row) {
     // A record without a name begins every name, a group's too, and a group has no stock.
-    if (sums[row].touched && !rows_[row].IsGroup()) {
-      rows_[row].quantity = GeneralText(sums[row].value);
+    if (sums_[row].touched && !rows_[row].IsGroup()) {
+      rows_[row].quantity = GeneralText(sums_[row].value);
     }
   }
+  return OnHandList(std::move(rows_));
 }
 
 OnHandList::Totals OnHandList::Total() const {
@@ -119,11 +122,9 @@ QByteArray OnHandList::ZeroedLedgerBytes() const {
 
 OnHandList LoadOnHand(const DataDir& data, const Session& session, const QStringList& warehouses,
                       GoodsView view) {
-  std::vector<QByteArray> ledgers;
-  for (const QString& warehouse : warehouses) {
-    ledgers.push_back(data.Read(LedgerPath(session, warehouse)));
-  }
-  return {data.Read(session.Path(u"spr\\товар.spr")), ledgers, view};
+  OnHandJoin join(data.Read(session.Path(u"spr\\товар.spr")), view);
+  for (const QString& warehouse : warehouses) join.Add(data.Read(LedgerPath(session, warehouse)));
+  return join.Take();
 }
 
 void SaveOnHand(const OnHandList& list, const DataDir& data, const Session& session,

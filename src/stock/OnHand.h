@@ -11,6 +11,7 @@
 
 #include "directories/GoodsView.h"
 #include "formats/GoodsFile.h"
+#include "stock/PrefixIndex.h"
 #include "store/Session.h"
 
 namespace kladez {
@@ -33,9 +34,7 @@ class OnHandList {
   };
 
   OnHandList() = default;
-  // The directory's rows with quantity "0", to which the records of the ledgers are added one after
-  // the other, each sum kept as text between two additions. Bytes are those of the files.
-  OnHandList(QByteArrayView goods, const std::vector<QByteArray>& ledgers, GoodsView view);
+  explicit OnHandList(std::vector<OnHandRow> rows) : rows_(std::move(rows)) {}
 
   const std::vector<OnHandRow>& Rows() const { return rows_; }
   Totals Total() const;
@@ -52,9 +51,26 @@ class OnHandList {
   QByteArray ZeroedLedgerBytes() const;
 
  private:
-  void AddLedgers(const std::vector<QByteArray>& ledgers);
+  std::vector<OnHandRow> rows_;
+};
+
+// Makes the list: the directory's rows with quantity "0", to which the records of the ledgers are
+// added one after the other, each sum kept as text between two additions. Bytes are those of files.
+class OnHandJoin {
+ public:
+  OnHandJoin(QByteArrayView goods, GoodsView view);
+  void Add(QByteArrayView ledger);
+  OnHandList Take();
+
+ private:
+  struct Sum {
+    double value = 0;
+    bool touched = false;
+  };
 
   std::vector<OnHandRow> rows_;
+  PrefixIndex index_;
+  std::vector<Sum> sums_;
 };
 
 // Reads the directory and the ledgers of the named warehouses. Throws filesystem_error.

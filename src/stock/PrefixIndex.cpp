@@ -33,11 +33,12 @@ PrefixIndex::PrefixIndex(std::vector<QByteArray> names) : names_(std::move(names
     first_.push_back(std::move(coarser));
   }
 
-  known_.reserve(count);
+  answers_.reserve(names_.size());
   for (size_t i = 0; i < sorted_.size(); ++i) {
     const QByteArrayView name = NameOf(sorted_[i]);
     if (i > 0 && NameOf(sorted_[i - 1]) == name) continue;
-    known_.insert(name, FirstRow(i, EndOfBeginning(i, name)));
+    asked_.Add(name);
+    answers_.push_back(FirstRow(i, EndOfBeginning(i, name)));
   }
 }
 
@@ -67,20 +68,19 @@ int PrefixIndex::FirstRow(size_t from, size_t to) const {
 }
 
 int PrefixIndex::FirstBeginning(QByteArrayView text) const {
-  if (const auto known = known_.constFind(text); known != known_.cend()) return *known;
+  const auto number = static_cast<size_t>(asked_.Add(text));
+  if (number == answers_.size()) answers_.push_back(Find(text));
+  return answers_[number];
+}
+
+int PrefixIndex::Find(QByteArrayView text) const {
   const quint64 head = HeadOf(text);
   const auto at = std::partition_point(sorted_.begin(), sorted_.end(), [&](const Entry& entry) {
     return entry.head != head ? entry.head < head : NameOf(entry).compare(text) < 0;
   });
-  int row = -1;
-  if (at != sorted_.end() && NameOf(*at).startsWith(text)) {
-    const auto from = static_cast<size_t>(at - sorted_.begin());
-    row = FirstRow(from, EndOfBeginning(from, text));
-  }
-  // Moving an array keeps its bytes where they are, so the key stays good as the list grows.
-  asked_.push_back(text.toByteArray());
-  known_.insert(asked_.back(), row);
-  return row;
+  if (at == sorted_.end() || !NameOf(*at).startsWith(text)) return -1;
+  const auto from = static_cast<size_t>(at - sorted_.begin());
+  return FirstRow(from, EndOfBeginning(from, text));
 }
 
 }  // namespace kladez

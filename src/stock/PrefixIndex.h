@@ -5,8 +5,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <vector>
+
+#include "formats/TextPool.h"
 
 namespace kladez {
 
@@ -30,13 +31,14 @@ class PrefixIndex {
   // The end of the neighbours from `from` on that begin with the text.
   size_t EndOfBeginning(size_t from, QByteArrayView text) const;
   int FirstRow(size_t from, size_t to) const;
+  int Find(QByteArrayView text) const;
 
   std::vector<QByteArray> names_;
   Entries sorted_;
   std::vector<std::vector<int>> first_;  // [k][i]: lowest row of sorted_[i, i + 2^k)
-  // Texts asked before, all the names themselves to begin with.
-  mutable QHash<QByteArrayView, int> known_;
-  mutable std::vector<QByteArray> asked_;  // what the added keys of known_ point into
+  // Texts asked before, all the names themselves to begin with, and their answers.
+  mutable TextPool asked_;
+  mutable std::vector<int> answers_;
 };
 
 }  // namespace kladez

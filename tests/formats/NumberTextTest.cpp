@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <random>
 #include <string>
 
 #include "formats/Numbers.h"
@@ -145,6 +147,22 @@ TEST(NumberText, ASumKeptAsTextIsTheSumRoundedLikeText) {
   for (const double value : {0.1 + 0.2, 5.0, -1e14, 1e15, 123456789012345678.0, -2.0 / 3, 1e-20,
                              999999999999999.9, 0.1 + 1e9}) {
     EXPECT_EQ(RoundGeneral(value), ParseStrict(GeneralText(value))) << value;
+  }
+  // Sums as ledgers have them, with all numbers of decimals.
+  std::mt19937_64 random(2026);
+  for (int i = 0; i < 20'000; ++i) {
+    const double value = static_cast<double>(random() >> (11 + i % 50)) / std::pow(10, i % 12) +
+                         static_cast<double>(random() % 1000) / 1000;
+    ASSERT_EQ(RoundGeneral(value), ParseStrict(GeneralText(value))) << value;
+  }
+}
+
+TEST(NumberText, PlainDigitsReadAsTheNearestDouble) {
+  std::mt19937_64 random(2026);
+  for (int i = 0; i < 20'000; ++i) {
+    std::string text = std::to_string(random() >> (i % 60));
+    if (i % 3 != 0) text.insert(random() % (text.size() + 1), ".");
+    ASSERT_EQ(ParseStrict(QByteArrayView(text)), std::strtod(text.c_str(), nullptr)) << text;
   }
 }
 

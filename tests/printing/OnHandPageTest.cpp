@@ -37,9 +37,9 @@ const QStringList kGoods = {u"Пакет"_s,     u""_s, u""_s, u"шт."_s, u"2.0
 class OnHandPages : public testing::TestWithParam<GoodsView> {};
 
 TEST_P(OnHandPages, StandInGroupsByNameWhateverTheScreenShows) {
-  const QByteArray ledger =
-      EncodeLines({u"Ассам"_s, u"5.50"_s, u"кор."_s, u"Пакет"_s, u"-3"_s, u"шт."_s});
-  const OnHandList list(EncodeLines(kGoods), {ledger}, GetParam());
+  OnHandJoin join(EncodeLines(kGoods), GetParam());
+  join.Add(EncodeLines({u"Ассам"_s, u"5.50"_s, u"кор."_s, u"Пакет"_s, u"-3"_s, u"шт."_s}));
+  const OnHandList list = join.Take();
   QStringList page = {
       PageHead(u"Наличие товаров"_s),
       u"<p align=CENTER><FONT FACE=Arial SIZE=4><b>Состояние склада от 22.11.2026</b></FONT></p>"_s,

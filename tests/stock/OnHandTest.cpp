@@ -43,9 +43,9 @@ class Joining : public testing::TestWithParam<Case> {};
 
 TEST_P(Joining, ShowsTheseQuantities) {
   const Case& c = GetParam();
-  std::vector<QByteArray> ledgers;
-  for (const QStringList& lines : c.ledgers) ledgers.push_back(EncodeLines(lines));
-  const OnHandList list(Goods(c.goods), ledgers, c.view);
+  OnHandJoin join(Goods(c.goods), c.view);
+  for (const QStringList& lines : c.ledgers) join.Add(EncodeLines(lines));
+  const OnHandList list = join.Take();
   EXPECT_EQ(Shown(list), c.shown);
   EXPECT_EQ(list.StatusText(), c.status);
 }
