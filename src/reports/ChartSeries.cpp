@@ -17,19 +17,22 @@ QString PeriodTitle(const ChartScope& scope) {
   return scope.by_day ? QString(MonthName(scope.month) + u' ' + year) : QString(year + u" год"_s);
 }
 
+int DaysOf(const ChartScope& scope) { return QDate(scope.year, scope.month, 1).daysInMonth(); }
+
 ChartGrid EmptyGrid(const QString& title, const ChartScope& scope, const QStringList& columns) {
-  const int rows = scope.by_day ? QDate(scope.year, scope.month, 1).daysInMonth() : 12;
+  const int rows = scope.by_day ? DaysOf(scope) : 12;
   return NumberedChartGrid(title + PeriodTitle(scope), rows, columns);
 }
 
 // The row that a date falls into. By day the key holds two digits of the year, so a date a century
-// off counts as well.
+// off counts as well, unless the month lacks its day: only some years have a 29th of February.
 std::optional<int> RowOf(const ChartScope& scope, QDate date) {
   if (!scope.by_day) {
     if (date.year() != scope.year) return std::nullopt;
     return date.month() - 1;
   }
   if (date.year() % 100 != scope.year % 100 || date.month() != scope.month) return std::nullopt;
+  if (date.day() > DaysOf(scope)) return std::nullopt;
   return date.day() - 1;
 }
 

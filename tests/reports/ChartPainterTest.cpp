@@ -106,6 +106,39 @@ TEST(ChartPainter, ColumnsDifferInABlackAndWhitePrint) {
   EXPECT_GE(qGray(style.ground.rgb()) - qGray(style.series[1].face.rgb()), 60);
 }
 
+// The column farther back is moved aside, but not so far that it is read off the next label.
+TEST(ChartPainter, FarRibbonPeaksOverItsOwnRow) {
+  const ChartStyle style = DefaultChartStyle();
+  for (const QSize size : {QSize(300, 180), QSize(600, 400), QSize(1200, 800)}) {
+    for (const int rows : {12, 31}) {
+      SCOPED_TRACE(testing::Message() << size.width() << ' ' << rows);
+      ChartGrid grid = NumberedChartGrid(u""_s, rows, {u"Реализация"_s, u"Прибыль"_s});
+      grid.Cell(7, 0) = 100;
+      const ChartLayout layout =
+          LayOutChart(QRectF(QPointF(), size), grid, ChartKind::k3DLines, style);
+      const QImage image = Paint(grid, ChartKind::k3DLines, size);
+      // Of the legend nothing is looked at.
+      const QRect below(0, static_cast<int>(layout.legend.bottom()) + 1, size.width(),
+                        size.height());
+      const QRect ribbon = BoundsOf(image.copy(below), style.series[0].side());
+      const QRect peak = BoundsOf(image.copy(0, below.top() + ribbon.top(), size.width(), 1),
+                                  style.series[0].side());
+      EXPECT_NEAR(peak.center().x(), layout.Middle(7), layout.slot / 2);
+    }
+  }
+}
+
+TEST(ChartPainter, OneRowIsSeenInEveryKind) {
+  ChartGrid grid = NumberedChartGrid(u""_s, 1, {u"Количество"_s});
+  grid.Cell(0, 0) = 35;
+  const SeriesStyle series = DefaultChartStyle().series[0];
+  for (const ChartKind kind : kAllChartKinds) {
+    const QColor colour = kind == ChartKind::k3DLines ? series.top() : series.face;
+    EXPECT_FALSE(BoundsOf(Paint(grid, kind, {300, 180}), colour).isEmpty())
+        << static_cast<int>(kind);
+  }
+}
+
 TEST(ChartPainter, OddGridsAreDrawnWithoutMarksOfTheirOwn) {
   ChartGrid unreal = OneBar(std::numeric_limits<double>::quiet_NaN());
   unreal.Cell(1, 0) = std::numeric_limits<double>::infinity();

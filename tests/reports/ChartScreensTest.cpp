@@ -142,6 +142,20 @@ TEST_F(ChartScreens, OptionsChangeTheKindByTheirNumbers) {
   }
 }
 
+TEST_F(ChartScreens, ALongNameLeavesTheChartItsRoomAndTheTitleItsPeriod) {
+  for (const QString& name : {QString(3000, u'Ш'), u"Чай крупный лист "_s.repeated(200)}) {
+    ChartGrid grid = TeaGrid();
+    grid.title = u"График реализации товара "_s + name + u" за Февраль 2026"_s;
+    graphic screen(Context(), grid);
+    ShowActive(&screen);
+    const auto* chart = Find<ChartWidget>(&screen, "MSChart1");
+    EXPECT_LE(screen.width(), 1024);
+    EXPECT_GE(chart->height(), screen.height() / 2);
+    EXPECT_TRUE(Find<QLabel>(&screen, "title")->text().endsWith(u" за Февраль 2026"_s));
+    EXPECT_EQ(chart->grid().title, grid.title) << "the print-out has it whole";
+  }
+}
+
 TEST_F(ChartScreens, PrintedChartIsThePictureOnThePage) {
   Temp().Put(u"temp.gif"_s, "the chart of yesterday");
   graphic screen(Context(), TeaGrid());

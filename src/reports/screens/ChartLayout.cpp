@@ -17,7 +17,8 @@ QPointF DepthOf(ChartKind kind, const QRectF& rect, int rows) {
   if (!HasDepth(kind)) return {};
   const double slot = rect.width() / std::max(rows, 1);
   if (HasLines(kind)) {
-    const double across = std::clamp(rect.width() * 0.045, 12.0, 50.0);
+    // Deeper than a row is wide, the far ribbon would stand over the label of the next row.
+    const double across = std::clamp(std::min(rect.width() * 0.045, slot * 0.65), 6.0, 50.0);
     return {across, -0.85 * across};
   }
   const double across = std::clamp(slot * 0.38, 4.0, 30.0);

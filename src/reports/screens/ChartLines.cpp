@@ -70,11 +70,18 @@ std::size_t LightOn(QPointF from, QPointF to, QPointF depth, std::size_t levels)
   return 2 + static_cast<std::size_t>(std::lround(share * static_cast<double>(levels - 3)));
 }
 
+// What a ribbon of one row is: there is no second row to reach for.
+QPolygonF Plank(const ChartCanvas& canvas, QPointF middle) {
+  const QPointF half(std::min(canvas.layout.slot * 0.4, canvas.layout.line_height), 0);
+  return {middle - half, middle + half};
+}
+
 void DrawRibbon(const ChartCanvas& canvas, int column) {
   const SeriesStyle& series = canvas.Series(column);
   const Lane lane = LaneOf(canvas, column);
   const QPointF across = canvas.layout.depth * (lane.far - lane.near);
   QPolygonF near = PointsOf(canvas, column);
+  if (near.size() == 1) near = Plank(canvas, near.first());
   near.translate(canvas.layout.depth * lane.near);
   for (qsizetype i = 0; i + 1 < near.size(); ++i) {
     const QPointF from = near[i];

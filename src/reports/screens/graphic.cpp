@@ -15,18 +15,35 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Of the name of the goods, which may have hundreds of letters, what leaves the chart its room; the
+// period at the end stays.
+QString ShownTitle(const QString& title) {
+  constexpr int kHead = 140;
+  constexpr int kTail = 40;
+  return title.size() <= kHead + kTail ? title
+                                       : title.left(kHead) + u" ... "_s + title.right(kTail);
+}
+
+}  // namespace
+
 graphic::graphic(AppContext& context, const ChartGrid& grid, QWidget* parent)
     : QDialog(parent), context_(context) {
   setObjectName(u"graphic"_s);
-  setWindowTitle(grid.title);
+  setWindowTitle(ShownTitle(grid.title));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   title_ = new QLabel(this);
   title_->setObjectName(u"title"_s);
   title_->setTextFormat(Qt::PlainText);
-  title_->setText(grid.title);
+  title_->setText(ShownTitle(grid.title));
   title_->setFont(look::HeadingFont(title_->font()));
   title_->setAlignment(Qt::AlignCenter);
   title_->setWordWrap(true);
+  // A name without a blank does not wrap, and must not widen the window beyond the display.
+  QSizePolicy policy = title_->sizePolicy();
+  policy.setHorizontalPolicy(QSizePolicy::Ignored);
+  title_->setSizePolicy(policy);
   chart_ = new ChartWidget(this);
   chart_->setObjectName(u"MSChart1"_s);
   chart_->SetGrid(grid);
@@ -77,8 +94,10 @@ QRadioButton* graphic::NewKind(const QString& name, const QString& caption, Char
   connect(option, &QRadioButton::toggled, this, [this, kind](bool on) {
     if (on) chart_->SetKind(kind);
   });
-  frame->layout()->addWidget(option);
-  frame->layout()->addWidget(new HintPicture(HintFor(u"graphic", u"Option"), frame));
+  auto* row = static_cast<QBoxLayout*>(frame->layout());
+  row->addWidget(option);
+  row->addWidget(new HintPicture(HintFor(u"graphic", u"Option"), frame));
+  row->addSpacing(look::kGrid);  // a question mark belongs to the option before it
   return option;
 }
 
