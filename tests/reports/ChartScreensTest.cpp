@@ -16,6 +16,8 @@
 #include "reports/screens/waitplease.h"
 #include "shell/controls/Fields.h"
 #include "shell/controls/RecordList.h"
+#include "viewer/page/PageReader.h"
+#include "viewer/paper/PaperLayout.h"
 
 namespace kladez {
 namespace {
@@ -164,7 +166,7 @@ TEST_F(ChartScreens, PrintedChartIsThePictureOnThePage) {
   Click(&screen, "GoldButton1");
   EXPECT_EQ(ViewerStarts(), 1);
   EXPECT_TRUE(screen.isVisible());
-  const IndexedImage expected = RenderChartIndexed(TeaGrid(), ChartKind::k2DBars, QSize(1200, 800));
+  const IndexedImage expected = RenderChartIndexed(TeaGrid(), ChartKind::k2DBars, QSize(1200, 640));
   const IndexedImage printed = ReadGif(Temp().Bytes(u"temp.gif"_s));
   EXPECT_EQ(printed.width, 1200);
   EXPECT_EQ(printed.colours, expected.colours);
@@ -175,6 +177,20 @@ TEST_F(ChartScreens, PrintedChartIsThePictureOnThePage) {
                    u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>График реализации товара "
                    "<b>Чай</b> & Ко за 2026 год</FONT></B><br><br><br>"_s,
                    u"<img src=temp.gif>"_s, u"</center></table><p></p>"_s, u"</body></html>"_s}));
+}
+
+TEST_F(ChartScreens, PrintedChartStandsUnderItsTitleOnOneSheet) {
+  for (const QString& name : {u"Чай"_s, u"Чай крупный лист "_s.repeated(12)}) {
+    ChartGrid grid = TeaGrid();
+    grid.title = u"График реализации товара "_s + name + u" за Февраль 2026"_s;
+    graphic screen(Context(), grid);
+    ShowActive(&screen);
+    Click(&screen, "GoldButton1");
+    viewer::PaperLayout paper(std::make_shared<const viewer::Page>(
+        viewer::ReadPageFile(QDir(Temp().Root()), u"out.htm"_s)));
+    ASSERT_TRUE(paper.LayOut(paper.Propose({}), {}));
+    EXPECT_EQ(paper.SheetCount(), 1) << name.toStdString();
+  }
 }
 
 TEST_F(ChartScreens, TheWaitTellsWhatItIsFor) {

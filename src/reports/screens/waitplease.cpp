@@ -18,8 +18,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Pixels: sharp over the width of a sheet of paper.
-constexpr QSize kPictureSize(1200, 800);
+// Pixels: sharp over the width of a sheet of paper, with room on it for a title of three lines.
+constexpr QSize kPictureSize(1200, 640);
 
 }  // namespace
 
