@@ -97,6 +97,11 @@ void LineWriter::AddRaw(QByteArrayView line) {
     bytes_.replace(at, kLineEnd.size(), "  ");
   }
   bytes_.append(kLineEnd);
+  constexpr qsizetype kPiece = 1 << 16;
+  if (sink_ && bytes_.size() >= kPiece) {
+    sink_(bytes_);
+    bytes_.resize(0);  // keeps its room
+  }
 }
 
 QStringList DecodeLines(QByteArrayView bytes) {

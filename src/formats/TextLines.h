@@ -7,6 +7,7 @@
 #include <QByteArrayView>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 namespace kladez {
 
@@ -37,15 +38,24 @@ class LineReader {
   QByteArrayView rest_;
 };
 
+// Takes the bytes of a long file piece by piece.
+using ByteSink = std::function<void(QByteArrayView piece)>;
+
 // Gathers the bytes of a file line by line.
 class LineWriter {
  public:
+  LineWriter() = default;
+  // Hands the bytes on as they come, so that a file of any length needs little memory.
+  explicit LineWriter(ByteSink sink) : sink_(std::move(sink)) {}
+
   void Add(QStringView line);
   void AddRaw(QByteArrayView line);
   void Reserve(qsizetype bytes) { bytes_.reserve(bytes); }
+  // What has not gone to a sink: without one, all of it.
   QByteArray Take() { return std::move(bytes_); }
 
  private:
+  ByteSink sink_;
   QByteArray bytes_;
 };
 

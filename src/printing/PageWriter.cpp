@@ -44,7 +44,7 @@ QString CellsHtml(const std::vector<PageCell>& cells, PageFont font) {
   return html;
 }
 
-PageWriter::PageWriter(const QString& title) {
+PageWriter::PageWriter(const QString& title, LineWriter lines) : lines_(std::move(lines)) {
   Line(
       uR"(<HTML><HEAD><meta http-equiv="Content-Type" content="text/html; )"
       uR"(charset=windows-1251"><TITLE>)"_s +

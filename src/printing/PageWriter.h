@@ -41,7 +41,9 @@ QString CellsHtml(const std::vector<PageCell>& cells, PageFont font);
 class PageWriter {
  public:
   // Writes the head, up to the opened BODY.
-  explicit PageWriter(const QString& title);
+  explicit PageWriter(const QString& title) : PageWriter(title, LineWriter()) {}
+  // A long page goes where the lines go.
+  PageWriter(const QString& title, LineWriter lines);
 
   // One line of the file. Throws std::system_error for what Windows-1251 lacks.
   void Line(const QString& html = {}) { lines_.Add(html); }

@@ -6,8 +6,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include "store/SaveSet.h"
-
 namespace kladez {
 
 using namespace Qt::StringLiterals;
@@ -18,6 +16,12 @@ PrintOutDesk::PrintOutDesk(const DataDir& data, std::function<void()> start_view
 void PrintOutDesk::Write(const QString& name, const QByteArray& bytes) const {
   SaveSet save(data_);
   save.Write(name, bytes);
+  save.Commit();
+}
+
+void PrintOutDesk::WriteInPieces(const QString& name, SaveSet::Contents contents) const {
+  SaveSet save(data_);
+  save.WriteInPieces(name, std::move(contents));
   save.Commit();
 }
 

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "store/DataDir.h"
+#include "store/SaveSet.h"
 
 namespace kladez {
 
@@ -18,6 +19,7 @@ class PrintOutDesk {
 
   // Writes a work file ("nakl.htm"); any old one is replaced. Throws filesystem_error.
   void Write(const QString& name, const QByteArray& bytes) const;
+  void WriteInPieces(const QString& name, SaveSet::Contents contents) const;
 
   // Deletes "out.htm", renames the work file to it, starts the viewer: each step is tried whatever
   // became of the one before, and no failure is told.

@@ -30,8 +30,9 @@ std::optional<FlowReport> CollectFlow(const DataDir& data, const Session& sessio
   return report;
 }
 
-QByteArray FlowReportPage(const FlowReport& report, const ReportScope& scope) {
-  ReportPage page(u"Отчет по поступлению/реализации товара от "_s, scope);
+void WriteFlowReport(const FlowReport& report, const ReportScope& scope, const ByteSink& sink,
+                     const Progress& /*a row a day is short work*/) {
+  ReportPage page(u"Отчет по поступлению/реализации товара от "_s, scope, sink);
   page.Heads({{u"Дата"_s, 25}, {u"Поступление"_s, 10}, {u"Реализация"_s, 10}, {u"Прибыль"_s, 10}},
              /*texts=*/1);
   FlowReport::Day total;
@@ -45,7 +46,6 @@ QByteArray FlowReportPage(const FlowReport& report, const ReportScope& scope) {
   }
   page.Total(
       {u"ИТОГО:"_s, FormatMoney(total.receipts), FormatMoney(total.sales), FormatMoney(profit)});
-  return page.Take();
 }
 
 }  // namespace kladez

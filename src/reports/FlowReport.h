@@ -20,6 +20,7 @@ struct FlowReport {
 
 std::optional<FlowReport> CollectFlow(const DataDir& data, const Session& session,
                                       const ReportScope& scope, const Progress& progress = {});
-QByteArray FlowReportPage(const FlowReport& report, const ReportScope& scope);
+void WriteFlowReport(const FlowReport& report, const ReportScope& scope, const ByteSink& sink,
+                     const Progress& progress);
 
 }  // namespace kladez

@@ -24,8 +24,8 @@ QString PeriodLine(const ReportPeriod& period) {
 
 }  // namespace
 
-ReportPage::ReportPage(const QString& heading, const ReportScope& scope)
-    : page_(u"Отчет от "_s + LongDateText(scope.period.today)) {
+ReportPage::ReportPage(const QString& heading, const ReportScope& scope, const ByteSink& sink)
+    : sink_(sink), page_(u"Отчет от "_s + LongDateText(scope.period.today), LineWriter(sink)) {
   page_.Line(u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>"_s + heading +
              LongDateText(scope.period.today) + u"</FONT></B><br></p>"_s);
   page_.Line(FontHtml({.size = 3}, scope.warehouse) + u"<br>"_s);
@@ -46,15 +46,22 @@ void ReportPage::Heads(std::vector<Head> heads, size_t texts) {
 
 void ReportPage::Row(const std::vector<QString>& values) { page_.Row(Cells(values), kRowFont); }
 
-void ReportPage::Total(const std::vector<QString>& values) {
-  page_.TotalRow(Cells(values), kRowFont);
+void ReportPage::Rows(size_t count, const std::function<std::vector<QString>(size_t)>& values,
+                      const Progress& progress) {
+  constexpr size_t kRowsBetweenProgress = 256;
+  for (size_t i = 0; i < count; ++i) {
+    const double part = static_cast<double>(i) / static_cast<double>(count);
+    if (i % kRowsBetweenProgress == 0 && progress && !progress(part)) throw WorkEnded();
+    Row(values(i));
+  }
 }
 
-QByteArray ReportPage::Take() {
+void ReportPage::Total(const std::vector<QString>& values) {
+  page_.TotalRow(Cells(values), kRowFont);
   page_.Line(u"<tr>"_s);
   page_.Line(u"</center></table><p></p>"_s);
   page_.Line(u"</body></html>"_s);
-  return page_.Take();
+  sink_(page_.Take());
 }
 
 std::vector<PageCell> ReportPage::Cells(const std::vector<QString>& values) const {

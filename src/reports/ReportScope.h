@@ -39,6 +39,8 @@ struct ReportScope {
 
 // Told how much of the work is done, 0 to 1; false ends it.
 using Progress = std::function<bool(double part)>;
+// Thrown by work that has no other way to say that the progress ended it.
+struct WorkEnded {};
 
 // Visits the documents of a kind in the warehouses, one after the other; a warehouse without the
 // directory has none, and one whose directory can't be listed is treated as an unreadable file is.

@@ -49,21 +49,23 @@ double SalesReport::TotalAmount() const {
   return total;
 }
 
-QByteArray SalesReportPage(const SalesReport& report, const ReportScope& scope) {
-  ReportPage page(u"Отчет по продажам от "_s, scope);
+void WriteSalesReport(const SalesReport& report, const ReportScope& scope, const ByteSink& sink,
+                      const Progress& progress) {
+  ReportPage page(u"Отчет по продажам от "_s, scope, sink);
   page.Heads(
       {{u"Дата"_s, 5}, {u"Товар"_s, 30}, {u"Ед.изм"_s, 10}, {u"Кол-во"_s, 10}, {u"Сумма"_s, 10}},
       /*texts=*/2);
-  for (const SalesReport::Row& row : report.rows) {
-    page.Row({DayOfKey(row.day_key), report.texts.Text(row.name), report.texts.Text(row.unit),
-              ToNumberOr(report.texts.Text(row.quantity)), FormatMoney(row.amount)});
-  }
+  const auto values = [&](size_t i) -> std::vector<QString> {
+    const SalesReport::Row& row = report.rows[i];
+    return {DayOfKey(row.day_key), report.texts.Text(row.name), report.texts.Text(row.unit),
+            ToNumberOr(report.texts.Text(row.quantity)), FormatMoney(row.amount)};
+  };
+  page.Rows(report.rows.size(), values, progress);
   page.Total({u"ИТОГО:"_s,
               {},
               {},
               GeneralText(report.TotalQuantity()),
               FormatMoney(report.TotalAmount())});
-  return page.Take();
 }
 
 }  // namespace kladez

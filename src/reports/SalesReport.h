@@ -33,7 +33,8 @@ struct SalesReport {
 std::optional<SalesReport> CollectSales(const DataDir& data, const Session& session,
                                         const ReportScope& scope, const Progress& progress = {});
 
-// The page "temp.htm".
-QByteArray SalesReportPage(const SalesReport& report, const ReportScope& scope);
+// The page "temp.htm". Throws WorkEnded.
+void WriteSalesReport(const SalesReport& report, const ReportScope& scope, const ByteSink& sink,
+                      const Progress& progress);
 
 }  // namespace kladez

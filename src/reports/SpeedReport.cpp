@@ -106,23 +106,25 @@ double SpeedReport::TotalProfit() const {
   return total;
 }
 
-QByteArray SpeedReportPage(const SpeedReport& report, const ReportScope& scope) {
-  ReportPage page(u"Скорость реализации товаров от "_s, scope);
+void WriteSpeedReport(const SpeedReport& report, const ReportScope& scope, const ByteSink& sink,
+                      const Progress& progress) {
+  ReportPage page(u"Скорость реализации товаров от "_s, scope, sink);
   page.Heads({{u"Товар"_s, 25},
               {u"Ед.изм."_s, 10},
               {u"Кол-во"_s, 10},
               {u"Реализация"_s, 10},
               {u"Прибыль"_s, 10}},
              /*texts=*/1);
-  for (const SpeedReport::Row& row : report.rows) {
-    page.Row({row.name, row.unit, row.quantity, FormatMoney(row.sales), FormatMoney(row.profit)});
-  }
+  const auto values = [&](size_t i) -> std::vector<QString> {
+    const SpeedReport::Row& row = report.rows[i];
+    return {row.name, row.unit, row.quantity, FormatMoney(row.sales), FormatMoney(row.profit)};
+  };
+  page.Rows(report.rows.size(), values, progress);
   page.Total({u"ИТОГО:"_s,
               {},
               GeneralText(report.TotalQuantity()),
               FormatMoney(report.TotalSales()),
               FormatMoney(report.TotalProfit())});
-  return page.Take();
 }
 
 }  // namespace kladez

@@ -30,6 +30,7 @@ struct SpeedReport {
 // As CollectSales.
 std::optional<SpeedReport> CollectSpeed(const DataDir& data, const Session& session,
                                         const ReportScope& scope, const Progress& progress = {});
-QByteArray SpeedReportPage(const SpeedReport& report, const ReportScope& scope);
+void WriteSpeedReport(const SpeedReport& report, const ReportScope& scope, const ByteSink& sink,
+                      const Progress& progress);
 
 }  // namespace kladez

@@ -62,7 +62,9 @@ about::about(QWidget* parent) : QDialog(parent) {
   layout->setSpacing(0);
   layout->addWidget(new Banner(this));
   layout->addLayout(body, 1);
-  setFixedWidth(54 * look::kGrid);
+  // As high as the wrapped text needs at this width, whatever the letters.
+  constexpr int kWidth = 54 * look::kGrid;
+  setFixedSize(kWidth, layout->totalHeightForWidth(kWidth));
   connect(site, &Link::clicked, this, [this] { OpenAddress(this, kProductPage); });
   connect(mail, &Link::clicked, this, [this] { OpenAddress(this, kProductMail); });
   connect(close, &QPushButton::clicked, this, &QDialog::accept);

@@ -146,7 +146,15 @@ void SaveJournal::StageWrite(size_t index, Change& change) {
     Check(syscalls::KeepCopy(change.path, Old(index)), change.path);
     mode = status->st_mode & 0777;
   }
-  Check(syscalls::WriteNewFile(New(index), change.bytes, mode), change.path);
+  syscalls::NewFile file(New(index));
+  const ByteSink write = [&](QByteArrayView piece) { Check(file.Write(piece), change.path); };
+  Check(file.Create(mode), change.path);
+  if (change.contents) {
+    change.contents(write);
+  } else {
+    write(change.bytes);
+  }
+  Check(file.Sync(), change.path);
 }
 
 void SaveJournal::MakeFinal(std::span<const Change> changes) {

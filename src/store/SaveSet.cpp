@@ -41,6 +41,14 @@ void SaveSet::Write(const QString& path, QByteArray bytes) {
   }
 }
 
+void SaveSet::WriteInPieces(const QString& path, Contents contents) {
+  changes_.push_back({.kind = Kind::kWrite,
+                      .path = Target(path),
+                      .to = {},
+                      .bytes = {},
+                      .contents = std::move(contents)});
+}
+
 void SaveSet::Append(const QString& path, QByteArrayView lines) {
   const Change* last = LastChangeOf(Target(path));
   QByteArray bytes = last != nullptr && last->kind == Kind::kWrite ? last->bytes : data_.Read(path);

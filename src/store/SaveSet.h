@@ -10,8 +10,10 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <vector>
 
+#include "formats/TextLines.h"
 #include "store/DataDir.h"
 
 namespace kladez {
@@ -24,6 +26,10 @@ class SaveSet {
   // looked up on the disk as it is before the commit, so nothing inside a directory that the same
   // set renames may be named by its new path.
   void Write(const QString& path, QByteArray bytes);
+  // Contents too long to lie in memory: made piece by piece during the commit; what making them
+  // throws goes on to the caller, and nothing has changed then.
+  using Contents = std::function<void(const ByteSink&)>;
+  void WriteInPieces(const QString& path, Contents contents);
   // Adds lines to the end of a file as it is now; the file must exist.
   void Append(const QString& path, QByteArrayView lines);
   void Delete(const QString& path);                              // a file; fails if read-only
@@ -48,6 +54,7 @@ class SaveSet {
     QByteArray to;       // renames
     bool fresh = false;  // nothing stood at the path before
     QByteArray bytes;
+    Contents contents = {};  // of a write, instead of the bytes
   };
 
  private:

@@ -78,15 +78,30 @@ int CopyFile(const QByteArray& from, const QByteArray& to) {
 
 void SetFaultHook(FaultHook hook) { Hook() = std::move(hook); }
 
+NewFile::~NewFile() {
+  if (fd_ >= 0) ::close(fd_);
+}
+
+int NewFile::Create(unsigned mode) {
+  if (const int error = Fault("create", path_)) return error;
+  fd_ = ::open(path_.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666);
+  if (fd_ < 0) return errno;
+  if (mode != 0) ::fchmod(fd_, mode);  // file systems without modes refuse, and need none
+  return 0;
+}
+
+int NewFile::Write(QByteArrayView bytes) { return WriteAll(fd_, bytes, path_); }
+
+int NewFile::Sync() {
+  if (const int error = Fault("fsync", path_)) return error;
+  return Result(::fsync(fd_));
+}
+
 int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {
-  if (const int error = Fault("create", path)) return error;
-  const Descriptor out(
-      ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666));
-  if (!out) return errno;
-  if (mode != 0) ::fchmod(out.Get(), mode);  // file systems without modes refuse, and need none
-  if (const int error = WriteAll(out.Get(), bytes, path)) return error;
-  if (const int error = Fault("fsync", path)) return error;
-  return Result(::fsync(out.Get()));
+  NewFile file(path);
+  if (const int error = file.Create(mode)) return error;
+  if (const int error = file.Write(bytes)) return error;
+  return file.Sync();
 }
 
 int SyncDirectory(const QByteArray& path) {

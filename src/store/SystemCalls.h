@@ -35,4 +35,22 @@ bool Exists(const QByteArray& path);  // a link counts, wherever it leads
 // refuse nothing.
 int WriteRefusal(const QByteArray& path);
 
+// A new file that is written piece by piece, over any old one of that path. Each step returns 0 or
+// an errno.
+class NewFile {
+ public:
+  explicit NewFile(QByteArray path) : path_(std::move(path)) {}
+  ~NewFile();
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+
+  int Create(unsigned mode);  // 0 for the usual mode
+  int Write(QByteArrayView bytes);
+  int Sync();
+
+ private:
+  const QByteArray path_;
+  int fd_ = -1;
+};
+
 }  // namespace kladez::syscalls

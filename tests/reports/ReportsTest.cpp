@@ -19,7 +19,14 @@ ReportScope Scope(const QString& warehouse, PeriodKind kind, QDate from = {}, QD
   return {warehouse, {kind, kToday, from, to}};
 }
 
-QStringList PageLines(const QByteArray& page) { return DecodeLines(page); }
+template <typename Report>
+QStringList PageLines(void write(const Report&, const ReportScope&, const ByteSink&,
+                                 const Progress&),
+                      const Report& report, const ReportScope& scope) {
+  QByteArray page;
+  write(report, scope, [&](QByteArrayView piece) { page.append(piece); }, {});
+  return DecodeLines(page);
+}
 
 class Reports : public ::testing::Test, protected ShipmentsOnDisk {};
 
@@ -43,7 +50,7 @@ TEST_F(Reports, SalesPageIsWholeAndRoundsTheSumAfterEachAddition) {
           table.Row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3.5"_s, u"192.96"_s}),
           table.Total({u"ИТОГО:"_s, {}, {}, u"3.625"_s, u"193.07"_s})} +
       ReportEnd();
-  EXPECT_EQ(PageLines(SalesReportPage(*report, scope)), expected);
+  EXPECT_EQ(PageLines(WriteSalesReport, *report, scope), expected);
 }
 
 TEST_F(Reports, CurrentMonthCountsThatMonthOfEveryYearAndARangeComparesTwoDigitsOfTheYear) {
@@ -102,7 +109,7 @@ TEST_F(Reports, SpeedAddsUpItemsByTheirExactNameAndKeepsALoneQuantityAsWritten) 
   EXPECT_EQ(tea.profit, -1.24);  // 2.2625 is 2.26, less 3.50
   EXPECT_EQ(report->rows[1].quantity, u"1.50"_s);
   EXPECT_EQ(report->rows[1].profit, 4.5) << "an empty cost counts as 0";
-  const QStringList page = PageLines(SpeedReportPage(*report, scope));
+  const QStringList page = PageLines(WriteSpeedReport, *report, scope);
   const ReportTable table{{25, 10, 10, 10, 10}, 1};
   EXPECT_EQ(page, (ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s) +
                    QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
@@ -121,7 +128,7 @@ TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
   const ReportScope scope =
       Scope(kAllWarehouses.toString(), PeriodKind::kRange, QDate(2026, 11, 5), QDate(2026, 11, 6));
   const auto report = CollectFlow(temp.Data(), session, scope);
-  const QStringList page = PageLines(FlowReportPage(*report, scope));
+  const QStringList page = PageLines(WriteFlowReport, *report, scope);
   const ReportTable table{{25, 10, 10, 10}, 1};
   EXPECT_EQ(page,
             (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"ВСЕ СКЛАДЫ"_s,
@@ -133,11 +140,31 @@ TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
              ReportEnd()));
 }
 
+TEST_F(Reports, APageIsNotFinishedOnceTheUserEndsIt) {
+  const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
+  SalesReport report;
+  report.rows.resize(2000, {.day_key = 261122,
+                            .name = report.texts.Add("x"),
+                            .quantity = report.texts.Add("1"),
+                            .unit = report.texts.Add(""),
+                            .amount = 1});
+  std::vector<double> parts;
+  const auto end_at_half = [&](double part) {
+    parts.push_back(part);
+    return part < 0.5;
+  };
+  EXPECT_THROW(WriteSalesReport(
+                   report, scope, [](QByteArrayView) {}, end_at_half),
+               WorkEnded);
+  EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+  EXPECT_LT(parts.back(), 0.7) << "it ends soon";
+}
+
 TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {
   session.SkladNames.append(u"Стёртый"_s);
   const ReportScope scope = Scope(u"Стёртый"_s, PeriodKind::kCurrentMonth);
   const QStringList page =
-      PageLines(SalesReportPage(*CollectSales(temp.Data(), session, scope), scope));
+      PageLines(WriteSalesReport, *CollectSales(temp.Data(), session, scope), scope);
   EXPECT_EQ(page[3], u"<FONT FACE=Arial SIZE=3>Месяц: Ноябрь</FONT><br>"_s);
   EXPECT_EQ(page.filter(u"<tr><TD"_s).size(), 2);
 }

@@ -109,6 +109,30 @@ TEST(SaveSet, ReplacedFilesKeepTheirMode) {
   EXPECT_EQ(Mode(temp, u"a"_s), 0640u);
 }
 
+TEST(SaveSet, AFileMadeInPiecesIsThereWholeOrAsItWas) {
+  TempData temp;
+  temp.Put(u"a"_s, "1");
+  const auto commit = [&](int lines, bool broken_off) {
+    SaveSet save(temp.Data());
+    save.WriteInPieces(u"a"_s, [=](const ByteSink& sink) {
+      LineWriter writer(sink);
+      for (int i = 0; i < lines; ++i) writer.Add(QString::number(i));
+      if (broken_off) throw std::runtime_error("broken off");
+      sink(writer.Take());
+    });
+    save.Commit();
+  };
+  constexpr int kLines = 40'000;  // more than one piece
+  EXPECT_THROW(commit(kLines, true), std::runtime_error);
+  EXPECT_EQ(temp.Tree(), (std::map<std::string, std::string>{{"a", "1"}}));
+  commit(kLines, false);
+  QByteArray expected;
+  for (int i = 0; i < kLines; ++i) expected += QByteArray::number(i) + "\r\n";
+  EXPECT_EQ(temp.Bytes(u"a"_s), expected);
+  commit(0, false);
+  EXPECT_EQ(temp.Bytes(u"a"_s), "");
+}
+
 // Memory sticks know no links: what is replaced is kept as a copy there.
 TEST(SaveSet, WithoutLinksAFailedSaveIsTakenBackWhole) {
   int failing = 0;

@@ -14,5 +14,7 @@ class PrintOutDesk;
 // Throws filesystem_error when the page can't be written; the screen stays open then.
 void CloseAndShow(QDialog& screen, const PrintOutDesk& desk, const QString& file,
                   const QByteArray& page);
+// The same for a page that is written already.
+void CloseAndOpen(QDialog& screen, const PrintOutDesk& desk, const QString& file);
 
 }  // namespace kladez

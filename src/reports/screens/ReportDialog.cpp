@@ -76,12 +76,13 @@ ReportScope ReportDialog::Scope() const {
 
 void ReportDialog::Ok() {
   Guarded(this, [this] {
-    std::optional<QByteArray> page;
-    {
+    try {
       LongWork work(this, u"Составляется отчет..."_s);
-      page = form_.make(Context().data, Context().session, Scope(), work.Callback());
+      form_.make(Context(), Scope(), work.Callback());
+    } catch (const WorkEnded&) {
+      return;
     }
-    if (page) CloseAndShow(*this, Context().print_outs, u"temp.htm"_s, *page);
+    CloseAndOpen(*this, Context().print_outs, kReportPage.toString());
   });
 }
 

@@ -2,8 +2,6 @@
 // it. They differ in their texts and in what is made.
 #pragma once
 
-#include <optional>
-
 #include "reports/ReportScope.h"
 #include "reports/screens/PeriodDialog.h"
 
@@ -14,11 +12,12 @@ namespace kladez {
 
 class DateField;
 
+inline constexpr QStringView kReportPage = u"temp.htm";
+
 struct ReportForm {
   PeriodTexts texts;
-  // Reads the documents and makes the page; nothing when the progress ended it.
-  std::optional<QByteArray> (*make)(const DataDir& data, const Session& session,
-                                    const ReportScope& scope, const Progress& progress);
+  // Reads the documents and writes kReportPage. Throws WorkEnded when the progress ends it.
+  void (*make)(const AppContext& context, const ReportScope& scope, const Progress& progress);
 };
 
 class ReportDialog : public PeriodDialog {
