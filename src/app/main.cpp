@@ -1,11 +1,12 @@
-// The program: finds its data directory, finishes what a crash left there, and shows the main
-// window.
-#include <QApplication>
+// The program: finds its data directory, finishes what a crash left there, gives a new one the
+// demonstration books, and shows the main window.
 #include <QDir>
 #include <QStandardPaths>
 #include <cerrno>
 
+#include "demo/DemoBooks.h"
 #include "shell/controls/Guard.h"
+#include "shell/controls/GuardedApplication.h"
 #include "shell/controls/Toolkit.h"
 #include "shell/frmMain.h"
 #include "store/Backup.h"
@@ -30,6 +31,9 @@ int Run() {
   kladez::Guarded(nullptr, [&] {
     kladez::SaveSet::Recover(data);
     kladez::RemoveUnfinishedRestore(data);
+    if (QDir(data.Root()).isEmpty()) {
+      kladez::WriteDemonstrationBooks(data, kladez::Clock().Today());
+    }
   });
   kladez::Session session;
   kladez::SettingsStore settings;
@@ -46,7 +50,7 @@ int Run() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+  const kladez::GuardedApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);
   const kladez::RussianToolkit toolkit;
