@@ -134,6 +134,33 @@ TEST_F(Editors, TheDiscountedSumFollowsSumAndPercent) {
             QStringList({u"100.00"_s, u"12.5"_s, u"87.50"_s}));
 }
 
+TEST_F(Editors, AnEmptiedSumOrDiscountIsSavedAsTheZeroThatItsFieldShows) {
+  world_.Put(DocumentKind::kShipment);
+  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  ShowActive(&editor);
+  for (const char* name : {"Text19", "Text2"}) {
+    auto* field = Find<QLineEdit>(&editor, name);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete);
+    EXPECT_EQ(field->text(), u"0"_s) << name;
+  }
+  Click(&editor, "ok");
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3),
+            QStringList({u"0.00"_s, u"0"_s, u"0.00"_s}));
+}
+
+TEST_F(Editors, TheCaretStaysWhereADigitOfTheSumIsTyped) {
+  world_.Put(DocumentKind::kReceipt);
+  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  ShowActive(&editor);
+  auto* sum = Find<QLineEdit>(&editor, "Text2");
+  sum->setFocus();
+  sum->setCursorPosition(1);
+  Type(sum, u"23"_s);
+  EXPECT_EQ(sum->text(), u"12380.00"_s);
+}
+
 TEST_F(Editors, AClosedDocumentKeepsItsFlagAndItsPartyThatIsGone) {
   world_.TheSession().Klient << u"Бывший клиент"_s;
   DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kShipment), QDate(2026, 11, 22));

@@ -5,7 +5,9 @@
 #include <QTimer>
 #include <QToolTip>
 #include <QValidator>
+#include <algorithm>
 #include <functional>
+#include <limits>
 
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
@@ -59,8 +61,14 @@ bool IsTyping(const QKeyEvent& event) {
 }  // namespace
 
 TextLine::TextLine(QWidget* parent) : QLineEdit(parent) {
+  // The toolkit would cut at 32767 characters, and saving would lose the rest.
+  setMaxLength(std::numeric_limits<int>::max());
   setValidator(
       new FileTextValidator(this, [this](const QString& characters) { TellRefused(characters); }));
+  connect(this, &QLineEdit::textChanged, this, [this] {
+    emit Change();
+    Repair();
+  });
 }
 
 void TextLine::TellRefused(const QString& characters) {
@@ -77,6 +85,8 @@ void TextLine::TellRefused(const QString& characters) {
 void TextLine::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   hover_ = false;
+  // The field's own menu gives back what it only borrowed: its "Вставить" goes where the caret is.
+  if (event->reason() == Qt::PopupFocusReason) return;
   // A click would set the caret after this event and undo the selection.
   if (event->reason() == Qt::MouseFocusReason) {
     QTimer::singleShot(0, this, [this] {
@@ -89,13 +99,15 @@ void TextLine::focusInEvent(QFocusEvent* event) {
 
 void TextLine::enterEvent(QEnterEvent* event) {
   QLineEdit::enterEvent(event);
-  hover_ = !hasFocus();
+  if (hasFocus()) return;
+  hover_ = true;
   emit MouseEnter();
   update();
 }
 
 void TextLine::leaveEvent(QEvent* event) {
   QLineEdit::leaveEvent(event);
+  if (!hover_) return;
   hover_ = false;
   emit MouseLeave();
   update();
@@ -111,7 +123,6 @@ void TextLine::paintEvent(QPaintEvent* event) {
 
 TextLineNumber::TextLineNumber(QWidget* parent) : TextLine(parent) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  connect(this, &QLineEdit::textChanged, this, &TextLineNumber::Repair);
 }
 
 void TextLineNumber::keyPressEvent(QKeyEvent* event) {
@@ -120,6 +131,14 @@ void TextLineNumber::keyPressEvent(QKeyEvent* event) {
     return;
   }
   TextLine::keyPressEvent(event);
+}
+
+// Dead keys and input methods bring their characters past the keys.
+void TextLineNumber::inputMethodEvent(QInputMethodEvent* event) {
+  const QString typed = event->commitString();
+  if (std::all_of(typed.begin(), typed.end(), [this](QChar key) { return Takes(key); })) {
+    TextLine::inputMethodEvent(event);
+  }
 }
 
 bool TextLineNumber::Takes(QChar key) const {
@@ -131,8 +150,13 @@ int TextLineNumber::InsertionPoint() const {
   return hasSelectedText() ? selectionStart() : cursorPosition();
 }
 
+// The caret stays: an emptied field has it before the zero, which the next digit replaces.
 void TextLineNumber::Repair() {
-  if (!ParseStrict(text())) setText(ToNumberOr(text()));
+  if (ParseStrict(text())) return;
+  const int caret = cursorPosition();
+  setText(ToNumberOr(text()));
+  setCursorPosition(caret);
+  if (caret == 0) selectAll();
 }
 
 bool TextLineDecimal::Takes(QChar key) const {

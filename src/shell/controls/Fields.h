@@ -15,6 +15,9 @@ class TextLine : public QLineEdit {
   explicit TextLine(QWidget* parent = nullptr);
 
  signals:
+  // The text has changed. What follows from a field listens to this and not to textChanged: a
+  // number field repairs its text after it, and then tells of the repaired text by another one.
+  void Change();
   void MouseEnter();
   void MouseLeave();
   // The characters that were refused just now.
@@ -25,6 +28,9 @@ class TextLine : public QLineEdit {
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+  // What the field makes of a text that it can't leave as it is.
+  virtual void Repair() {}
 
  private:
   void TellRefused(const QString& characters);
@@ -40,13 +46,12 @@ class TextLineNumber : public TextLine {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void Repair() override;
   // Whether the field takes the key as its text stands now.
   virtual bool Takes(QChar key) const;
   // Where typing would go in: the start of the selection, or the caret.
   int InsertionPoint() const;
-
- private:
-  void Repair();
 };
 
 // Money: as TextLineNumber, but with two decimals shown a further digit goes in only before the

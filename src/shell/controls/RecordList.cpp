@@ -255,9 +255,9 @@ void RecordList::currentChanged(const QModelIndex& current, const QModelIndex& p
 }
 
 void WireSearch(TextLine* field, RecordList* list, EmptySearch empty) {
-  QObject::connect(field, &QLineEdit::textChanged, list, [=](const QString& text) {
-    if (!text.isEmpty()) {
-      list->SelectFirstBeginning(text);
+  QObject::connect(field, &TextLine::Change, list, [=] {
+    if (!field->text().isEmpty()) {
+      list->SelectFirstBeginning(field->text());
     } else if (empty == EmptySearch::kReturnsToList && field->hasFocus()) {
       list->setFocus(Qt::OtherFocusReason);
     }

@@ -53,7 +53,7 @@ change::change(const DraftLine& line, QWidget* parent) : QDialog(parent) {
   setMinimumWidth(52 * look::kGrid);
 
   for (TextLine* field : {static_cast<TextLine*>(Text2), static_cast<TextLine*>(Text4)}) {
-    connect(field, &QLineEdit::textChanged, this, &change::Recompute);
+    connect(field, &TextLine::Change, this, &change::Recompute);
   }
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

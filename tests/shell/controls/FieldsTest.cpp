@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -79,6 +80,61 @@ TEST(Fields, ANumberFieldIsNeverEmptyAndRepairsAForeignSeparator) {
   EXPECT_EQ(field.text(), u"0"_s);
   field.setText(u"пять"_s);
   EXPECT_EQ(field.text(), u"0"_s);
+}
+
+TEST(Fields, AFieldTellsOfTheTypedTextAndThenOfTheRepairedOne) {
+  TextLineNumber field;
+  field.setText(u"12"_s);
+  QStringList told;
+  QObject::connect(&field, &TextLine::Change, [&] { told.append(field.text()); });
+  field.clear();
+  EXPECT_EQ(told, QStringList({QString(), u"0"_s}));
+}
+
+TEST(Fields, TheNextDigitReplacesTheZeroOfAnEmptiedField) {
+  TextLineDecimal field;
+  field.setText(u"45.00"_s);
+  field.selectAll();
+  QTest::keyClick(&field, Qt::Key_Delete);
+  Type(&field, u"7"_s);
+  EXPECT_EQ(field.text(), u"7"_s);
+  field.selectAll();
+  Type(&field, u"..5"_s);  // a point alone is no number and gives the zero before the next point
+  EXPECT_EQ(field.text(), u"0.5"_s);
+}
+
+TEST(Fields, WhatComesPastTheKeysIsFilteredAsKeysAre) {
+  TextLineNumber field;
+  field.setText(u"12"_s);
+  for (const QString& typed : {u"\u00E9"_s, u"5"_s}) {
+    QInputMethodEvent event;
+    event.setCommitString(typed);
+    QApplication::sendEvent(&field, &event);
+  }
+  EXPECT_EQ(field.text(), u"125"_s);
+}
+
+TEST(Fields, TheFieldsOwnMenuLeavesTheCaretWhereItWas) {
+  QWidget window;
+  TextLine field(&window);
+  field.setText(u"Чай чёрный"_s);
+  ShowActive(&window);
+  field.setFocus(Qt::TabFocusReason);
+  field.setCursorPosition(3);
+  {
+    QMenu menu;
+    menu.popup(QPoint(0, 0));
+    menu.close();
+  }
+  EXPECT_FALSE(field.hasSelectedText());
+  EXPECT_EQ(field.cursorPosition(), 3);
+}
+
+TEST(Fields, AnOverlongLineOfADamagedFileIsNotCut) {
+  TextLine field;
+  const QString text(40000, u'ж');
+  field.setText(text);
+  EXPECT_EQ(field.text(), text);
 }
 
 TEST(Fields, TextRefusesOnlyTheCharactersThatFilesCannotHold) {

@@ -145,18 +145,18 @@ QLayout* DocumentEditor::NewTotals() {
   Text2 = new TextLineDecimal(this);
   Text2->setText(draft_.Head().sum);
   AddTotal(form, screens_.sum_caption, Text2, u"Text2"_s, screens_.sum_hint);
-  connect(Text2, &QLineEdit::textChanged, this, [this](const QString& text) {
-    draft_.SetSum(text);
-    ShowSums();
+  connect(Text2, &TextLine::Change, this, [this] {
+    draft_.SetSum(Text2->text());
+    ShowNetSum();
   });
   if (!screens_.HasDiscount()) return form;
 
   Text19 = new TextLineNumber(this);
   Text19->setText(draft_.Head().discount);
   AddTotal(form, u"С&кидка %:"_s, Text19, u"Text19"_s, u"Скидка"_s);
-  connect(Text19, &QLineEdit::textChanged, this, [this](const QString& text) {
-    draft_.SetDiscount(text);
-    ShowSums();
+  connect(Text19, &TextLine::Change, this, [this] {
+    draft_.SetDiscount(Text19->text());
+    ShowNetSum();
   });
   // It follows from the two above and can't be typed.
   DecText1 = new TextLineDecimal(this);
@@ -208,6 +208,10 @@ QLayout* DocumentEditor::NewFoot() {
 
 void DocumentEditor::ShowSums() {
   Text2->setText(draft_.Head().sum);
+  ShowNetSum();
+}
+
+void DocumentEditor::ShowNetSum() {
   if (DecText1 != nullptr) DecText1->setText(draft_.Head().net_sum);
 }
 

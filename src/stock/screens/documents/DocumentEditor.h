@@ -48,6 +48,7 @@ class DocumentEditor : public QDialog {
   void Remove();
   void Save();
   void ShowSums();
+  void ShowNetSum();
   void TakeFields();
   void Print(const PrintCommand& command);
 
