@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QUrl>
 
@@ -40,15 +41,38 @@ void OpenFile(QWidget* parent, const DataDir& data, const QString& file, const Q
   ShowInformation(parent, u"Не найдена программа, которая показала бы файл\n"_s + file);
 }
 
+// Takes the help key before the menu of the main window does, which a shortcut of the screen's own
+// would only get in the way of.
+class HelpKey : public QObject {
+ public:
+  explicit HelpKey(QPushButton* command) : QObject(command), command_(command) {}
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool press = event->type() == QEvent::KeyPress;
+    if (!press && event->type() != QEvent::ShortcutOverride) {
+      return QObject::eventFilter(watched, event);
+    }
+    if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents)) return false;
+    event->accept();
+    if (press) command_->click();
+    return true;
+  }
+
+ private:
+  QPushButton* command_;
+};
+
 }  // namespace
 
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page) {
   OpenFile(parent, data, FindPage(data, page.toString()), u"help\\"_s + page);
 }
 
-QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page) {
-  QPushButton* command = NewCommand(screen, u"help"_s, u"Справка"_s, look::IconName::kHint);
-  command->setShortcut(QKeySequence::HelpContents);
+QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page,
+                            QStringView name) {
+  QPushButton* command = NewCommand(screen, name.toString(), u"Справка"_s, look::IconName::kHint);
+  screen->installEventFilter(new HelpKey(command));
   QObject::connect(command, &QPushButton::clicked, screen,
                    [screen, &data, page = page.toString()] { OpenHelpPage(screen, data, page); });
   return command;

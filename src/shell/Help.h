@@ -15,15 +15,17 @@ namespace kladez {
 
 inline constexpr QStringView kHelpFile = u"kladez.chm";
 inline constexpr QStringView kHelpIndex = u"index.htm";
-inline constexpr QStringView kProductPage = u"https://kladez.example/";
-inline constexpr QStringView kNewsPage = u"https://kladez.example/news/";
+inline constexpr QStringView kProductAddress = u"https://kladez.example/";
+inline constexpr QStringView kNewsAddress = u"https://kladez.example/news/";
 inline constexpr QStringView kProductMail = u"mailto:info@kladez.example";
 
 // A page of the folder "help", such as "workdb.htm": beside the Databases, else as it came with the
 // program.
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page);
-// The command "Справка" of a screen that has a page; the help key gives it too.
-QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page);
+// The command "Справка" of a screen that has a page; the help key gives it too, while the keyboard
+// is in the screen. `name` is the control's name.
+QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page,
+                            QStringView name = u"help");
 // The help file beside the Databases, else the first page of the guide.
 void OpenHelpFile(QWidget* parent, const DataDir& data);
 void OpenAddress(QWidget* parent, QStringView address);

@@ -41,7 +41,7 @@ about::about(QWidget* parent) : QDialog(parent) {
       u"прайс-листы, печатные формы и отчеты."_s,
       this);
   purpose->setWordWrap(true);
-  auto* site = new Link(u"lblSite"_s, kProductPage, look::IconName::kHome, Link::Ground::kLight,
+  auto* site = new Link(u"lblSite"_s, kProductAddress, look::IconName::kHome, Link::Ground::kLight,
                         Link::Form::kRow, this);
   auto* mail = new Link(u"lblMail"_s, kProductMail.sliced(kProductMail.indexOf(u':') + 1),
                         look::IconName::kParty, Link::Ground::kLight, Link::Form::kRow, this);
@@ -65,7 +65,7 @@ about::about(QWidget* parent) : QDialog(parent) {
   // As high as the wrapped text needs at this width, whatever the letters.
   constexpr int kWidth = 54 * look::kGrid;
   setFixedSize(kWidth, layout->totalHeightForWidth(kWidth));
-  connect(site, &Link::clicked, this, [this] { OpenAddress(this, kProductPage); });
+  connect(site, &Link::clicked, this, [this] { OpenAddress(this, kProductAddress); });
   connect(mail, &Link::clicked, this, [this] { OpenAddress(this, kProductMail); });
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   close->setFocus();

@@ -313,10 +313,10 @@ void frmMain::Do(Command command) {
       OpenHelpFile(this, context_.data);
       break;
     case Command::kProductPage:
-      OpenAddress(this, kProductPage);
+      OpenAddress(this, kProductAddress);
       break;
     case Command::kNewsPage:
-      OpenAddress(this, kNewsPage);
+      OpenAddress(this, kNewsAddress);
       break;
     case Command::kAbout:
       about(this).exec();

@@ -3,8 +3,10 @@
 #include <QCheckBox>
 #include <QMenu>
 #include <QMenuBar>
+#include <QUrl>
 
 #include "ScreenDriver.h"
+#include "shell/Help.h"
 #include "shell/Main.h"
 #include "shell/frmMain.h"
 #include "store/Catalogue.h"
@@ -291,6 +293,31 @@ TEST_F(MainWindow, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {
     dialog->close();
   }};
   Click(window_.Child(), "go16");
+}
+
+TEST_F(MainWindow, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
+  for (const char16_t* page : {u"price.htm", u"ost.htm", u"workdb.htm", u"index.htm"}) {
+    world_.Temp().Put(u"help\\"_s + QString::fromUtf16(page), "x");
+  }
+  StartOpen();
+  QStringList opened;
+  SetAddressOpener([&](const QUrl& address) {
+    opened.append(address.fileName());
+    return true;
+  });
+  const auto press = [](QWidget* screen) { QTest::keyClick(screen->focusWidget(), Qt::Key_F1); };
+  press(&window_);
+  ClickPanel("go4");
+  press(&window_);
+  for (const QString& entry : {u"mnu_Sklad_ZO"_s, u"mnubases"_s}) {
+    ModalAnswers answers{[&](QWidget* dialog) {
+      press(dialog);
+      dialog->close();
+    }};
+    Entry(entry)->trigger();
+  }
+  SetAddressOpener([](const QUrl&) { return true; });
+  EXPECT_EQ(opened, QStringList({u"index.htm"_s, u"price.htm"_s, u"ost.htm"_s, u"workdb.htm"_s}));
 }
 
 TEST_F(MainWindow, NewDatabaseIsOpenAtOnce) {

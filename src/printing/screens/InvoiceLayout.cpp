@@ -209,8 +209,7 @@ void InvoiceScreen::Build() {
 void InvoiceScreen::BuildCommands(QVBoxLayout* layout) {
   Command1 = NewCommand(this, u"Command1"_s, u"П&ечать"_s, look::IconName::kPrint);
   Command2 = NewCommand(this, u"Command2"_s, u"О&тмена"_s);
-  Command5 = NewCommand(this, u"Command5"_s, u"Справка"_s, look::IconName::kHint);
-  Command5->setShortcut(QKeySequence::HelpContents);
+  Command5 = NewHelpCommand(this, Context().data, u"uhodchfakt.htm", u"Command5");
   AddTwin(this, u"Command3"_s, Command1);
   AddTwin(this, u"Command4"_s, Command2);
   QBoxLayout* row = NewEndingRow(Command1, Command2);
@@ -219,8 +218,6 @@ void InvoiceScreen::BuildCommands(QVBoxLayout* layout) {
   layout->addLayout(row);
   connect(Command1, &QPushButton::clicked, this, &InvoiceScreen::Print);
   connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-  connect(Command5, &QPushButton::clicked, this,
-          [this] { OpenHelpPage(this, Context().data, u"uhodchfakt.htm"); });
 }
 
 void InvoiceScreen::ChainTabs() {

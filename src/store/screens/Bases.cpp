@@ -34,7 +34,7 @@ Bases::Bases(AppContext& context, CatalogueHost& host, QWidget* parent)
       GoldButton1(NewCommand(this, u"GoldButton1"_s, u"&Изменить"_s, look::IconName::kChange)),
       GoldButton2(NewCommand(this, u"GoldButton2"_s, u"&Удалить"_s, look::IconName::kRemove)),
       GoldButton3(NewCommand(this, u"GoldButton3"_s, u"&Создать"_s, look::IconName::kAdd)),
-      Command3(NewCommand(this, u"Command3"_s, u"С&правка"_s)) {
+      Command3(NewHelpCommand(this, context.data, u"workdb.htm", u"Command3")) {
   setObjectName(u"Bases"_s);
   Text3->setObjectName(u"Text3"_s);
   Text3->setReadOnly(true);
@@ -71,8 +71,6 @@ Bases::Bases(AppContext& context, CatalogueHost& host, QWidget* parent)
           [this](int index) { context_.session.role = static_cast<UserRole>(index); });
   connect(Command1, &QPushButton::clicked, this, &Bases::Open);
   connect(Command2, &QPushButton::clicked, this, &Bases::reject);
-  connect(Command3, &QPushButton::clicked, this,
-          [this] { OpenHelpPage(this, context_.data, u"workdb.htm"); });
   connect(GoldButton1, &QPushButton::clicked, this, &Bases::Rename);
   connect(GoldButton2, &QPushButton::clicked, this, &Bases::Delete);
   connect(GoldButton3, &QPushButton::clicked, this, &Bases::Create);

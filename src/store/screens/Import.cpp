@@ -41,7 +41,7 @@ Import::Import(AppContext& context, const QString& source, QWidget* parent)
       Text1(source),
       Command1(NewCommand(this, u"Command1"_s, u"OK"_s)),
       Command2(NewCommand(this, u"Command2"_s, u"О&тмена"_s)),
-      Command3(NewCommand(this, u"Command3"_s, u"С&правка"_s)) {
+      Command3(NewHelpCommand(this, context.data, u"workdb.htm", u"Command3")) {
   setObjectName(u"Import"_s);
   setWindowTitle(u"Импорт"_s);
   // The blanks leave room for the question mark.
@@ -73,8 +73,6 @@ Import::Import(AppContext& context, const QString& source, QWidget* parent)
 
   connect(Command1, &QPushButton::clicked, this, &Import::Copy);
   connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-  connect(Command3, &QPushButton::clicked, this,
-          [this] { OpenHelpPage(this, context_.data, u"workdb.htm"); });
   boxes_.front()->setFocus();
 }
 
