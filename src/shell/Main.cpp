@@ -79,7 +79,7 @@ QWidget* Main::NewLinks(PlaceGroup group) {
                           Link::Ground::kLight, Link::Form::kRow, card);
     connect(link, &Link::clicked, this, [this, place = row.place] { emit Chosen(place); });
     grid->addWidget(link, line, 0, Qt::AlignLeft);
-    grid->addWidget(AddHint(row.hint, card), line++, 1);
+    grid->addWidget(AddHint(row.hint, {link}, card), line++, 1);
   }
   grid->setRowStretch(line, 1);
   return card;
@@ -90,7 +90,7 @@ QWidget* Main::NewFigures() {
   auto* sums = new QGridLayout;
   sums->setVerticalSpacing(look::kGrid);
   sums->addWidget(NewHeading(u"Реализация", card), 0, 0);
-  sums->addWidget(AddHint(u"Picture5", card), 0, 1, Qt::AlignRight);
+  sums->addWidget(AddHint(u"Picture5", {}, card), 0, 1, Qt::AlignRight);
   int line = 1;
   const auto add = [&](const QString& name, const QString& caption) {
     auto* label = new QLabel(u"0.00"_s, card);
@@ -106,9 +106,9 @@ QWidget* Main::NewFigures() {
   sums->setRowStretch(line, 1);
   auto* chart_head = new QHBoxLayout;
   chart_head->addWidget(NewHeading(u"График продаж за месяц по дням", card), 1);
-  chart_head->addWidget(AddHint(u"Picture4", card));
   MSChart1 = new ChartWidget(card);
   MSChart1->setObjectName(u"MSChart1"_s);
+  chart_head->addWidget(AddHint(u"Picture4", {MSChart1}, card));
   Picture3 = new QWidget(MSChart1);
   Picture3->setObjectName(u"Picture3"_s);
   Picture3->setAutoFillBackground(true);
@@ -158,7 +158,7 @@ QLayout* Main::NewOptions() {
   });
   auto* row = new WrapRow(look::kGap, look::kTight);
   row->addWidget(Check1);
-  row->AddGroup({Check2, AddHint(u"Picture22", this)}, look::kTight);
+  row->AddGroup({Check2, AddHint(u"Picture22", {Check1, Check2, Check3}, this)}, look::kTight);
   row->addWidget(Check3);
   return row;
 }
@@ -169,8 +169,9 @@ QCheckBox* Main::NewOption(const QString& name, const QString& caption) {
   return box;
 }
 
-HintPicture* Main::AddHint(QStringView picture, QWidget* parent) {
-  auto* hint = new HintPicture(HintFor(u"Main", picture), parent);
+HintPicture* Main::AddHint(QStringView picture, std::initializer_list<QWidget*> about,
+                           QWidget* parent) {
+  auto* hint = new HintPicture(HintFor(u"Main", picture), about, parent);
   hint->setObjectName(picture.toString());
   QSizePolicy policy = hint->sizePolicy();
   policy.setRetainSizeWhenHidden(true);

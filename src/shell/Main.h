@@ -36,7 +36,7 @@ class Main : public QWidget {
   QWidget* NewFigures();
   QLayout* NewOptions();
   QCheckBox* NewOption(const QString& name, const QString& caption);
-  HintPicture* AddHint(QStringView picture, QWidget* parent);
+  HintPicture* AddHint(QStringView picture, std::initializer_list<QWidget*> about, QWidget* parent);
   void Store(const Setting& setting, const QCheckBox* box);
   void ClickTip();
   void ClickReport();

@@ -33,6 +33,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr QStringView kTitle = u"Kladez";  // with no Database open
+
 // In twips: the strip and the line at the foot together take 1350 from the panel's height.
 constexpr int kStripHeight = 900;
 constexpr int kFootHeight = 450;
@@ -62,7 +64,7 @@ class HostLayout : public QVBoxLayout {
 
 frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(menuBar(), this)) {
   setObjectName(u"frmMain"_s);
-  setWindowTitle(u"Kladez"_s);
+  setWindowTitle(kTitle.toString());
   setWindowIcon(look::Icon(look::IconName::kProgram));
   HintPicture::SetOpener(&helper::Show);
   BuildLayout();
@@ -136,7 +138,7 @@ void frmMain::OpenDatabase() {
     DisableDatabaseCommands();
     HideDatabaseMenus();
     ShowLanding();
-    SetDatabaseTitle({});
+    setWindowTitle(kTitle.toString());
     return;
   }
   menu_->EnableDatabaseCommands(true);
@@ -150,16 +152,14 @@ void frmMain::CloseDatabase() {
   CloseChildScreens();
   context_.settings.Write(settings::kBaseName, {});
   context_.settings.Write(settings::kBaseTitle, {});
-  SetDatabaseTitle({});
+  setWindowTitle(kTitle.toString());
   kladez::CloseDatabase(context_.session);
   HideDatabaseMenus();
   DisableDatabaseCommands();
   ShowLanding();
 }
 
-void frmMain::SetDatabaseTitle(const QString& name) {
-  setWindowTitle(name.isEmpty() ? u"Kladez"_s : QString(u"Kladez - "_s + name));
-}
+void frmMain::SetDatabaseTitle(const QString& name) { setWindowTitle(kTitle + u" - "_s + name); }
 
 void frmMain::HideDatabaseMenus() { menu_->ShowDatabaseMenus(false); }
 
@@ -251,10 +251,6 @@ void frmMain::ShowLanding() {
   ShowChild(landing);
 }
 
-void frmMain::ActivateHome() {
-  if (auto* home = qobject_cast<Main*>(child_.data())) home->Activate();
-}
-
 void frmMain::Go(Place place) {
   if (place == Place::kHome) {
     ShowHome();
@@ -268,15 +264,16 @@ void frmMain::Go(Place place) {
       ShowChild(screen);
     } else {
       const std::unique_ptr<QWidget> owned(screen);
-      RunModal(*qobject_cast<QDialog*>(screen));
+      qobject_cast<QDialog*>(screen)->exec();
+      Return();
     }
   });
   if (!child_) ShowHome();
 }
 
-void frmMain::RunModal(QDialog& dialog) {
-  dialog.exec();
-  ActivateHome();
+// From a dialog that left the child screen where it was.
+void frmMain::Return() {
+  if (auto* home = qobject_cast<Main*>(child_.data())) home->Activate();
   ShowFoot();
 }
 
@@ -289,8 +286,11 @@ void frmMain::Do(Command command) {
       OpenFromCatalogue();
       break;
     case Command::kCatalogue:
-      if (bases_->Run(Bases::Mode::kCatalogue)) OpenDatabase();
-      ShowFoot();
+      if (bases_->Run(Bases::Mode::kCatalogue)) {
+        OpenDatabase();
+      } else {
+        Return();
+      }
       break;
     case Command::kImport:
       if (!context_.session.IsOpen()) break;
@@ -299,9 +299,11 @@ void frmMain::Do(Command command) {
       break;
     case Command::kBackup:
       rescopy(context_, this).exec();
+      Return();
       break;
     case Command::kRestore:
       resrep(context_, this).exec();
+      Return();
       break;
     case Command::kClose:
       CloseDatabase();
@@ -320,6 +322,7 @@ void frmMain::Do(Command command) {
       break;
     case Command::kAbout:
       about(this).exec();
+      Return();
       break;
   }
 }
@@ -327,13 +330,15 @@ void frmMain::Do(Command command) {
 void frmMain::OpenFromCatalogue() {
   bases_->Run(Bases::Mode::kOpen);
   // A cancelled choice opens the same Database once more.
-  if (!context_.session.bases_text1.isEmpty()) OpenDatabase();
-  ShowFoot();
+  if (context_.session.bases_text1.isEmpty()) {
+    Return();
+  } else {
+    OpenDatabase();
+  }
 }
 
 void frmMain::Create() {
-  BasesNew(context_, *this, this).exec();
-  ShowFoot();
+  if (BasesNew(context_, *this, this).exec() == QDialog::Rejected) Return();
 }
 
 void frmMain::Exit() {

@@ -55,8 +55,7 @@ class frmMain : public QMainWindow, public CatalogueHost {
   void ShowChild(QWidget* child);
   void ShowHome();
   void ShowLanding();
-  void RunModal(QDialog& dialog);
-  void ActivateHome();
+  void Return();
   void ShowFoot();
 
   AppContext& context_;

@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <set>
 
 #include "ScreenDriver.h"
 #include "shell/Hints.h"
+#include "shell/controls/Fields.h"
 #include "shell/helper.h"
 
 namespace kladez {
@@ -27,13 +32,34 @@ class HintWindow : public testing::Test {
   void SetUp() override {
     HintPicture::SetOpener(&helper::Show);
     screen_.resize(400, 300);
+    field_.move(0, 100);
+    frame_.setGeometry(0, 150, 200, 100);
+    receipts_.move(0, 20);
+    frame_hint_.move(0, 40);
+    inner_hint_.move(0, 60);
     ShowActive(&screen_);
   }
   void TearDown() override { HintPicture::SetOpener({}); }
 
+  // What the one hint that is shown is headed with; empty when none is, or several are.
+  QString ShownHeading() {
+    const auto shown = ShownHints();
+    return shown.size() == 1 ? Find<QLabel>(shown.front(), "Label1")->text() : QString();
+  }
+  void AskIn(QWidget* widget) {
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_F1, Qt::ShiftModifier);
+  }
+
   QWidget screen_;
-  HintPicture stock_{HintFor(u"Main", u"Picture6"), &screen_};
-  HintPicture receipts_{HintFor(u"Main", u"Picture7"), &screen_};
+  TextLineDecimal field_{&screen_};
+  QGroupBox frame_{&screen_};
+  QComboBox plain_{&frame_};
+  QCheckBox inner_{&frame_};
+  HintPicture stock_{HintFor(u"Main", u"Picture6"), {}, &screen_};
+  HintPicture receipts_{HintFor(u"Main", u"Picture7"), {&field_}, &screen_};
+  HintPicture frame_hint_{HintFor(u"Main", u"Picture8"), {&frame_}, &screen_};
+  HintPicture inner_hint_{HintFor(u"Main", u"Picture9"), {&inner_}, &screen_};
 };
 
 TEST(Hints, NoPlaceOfTheTableIsLostOrDoubled) {
@@ -61,6 +87,9 @@ TEST(Hints, LikePlacesKeepTheirOddHeadings) {
   EXPECT_EQ(HintFor(u"TovPrih", u"За год").heading, u"За месяц"_s);
   EXPECT_NE(HintFor(u"TovPrih", u"За год").body, HintFor(u"TovPrih", u"За месяц").body);
   EXPECT_EQ(HintFor(u"vnutrNew", u"Куда").heading, u"Откуда"_s);
+  // Not what the options are called.
+  EXPECT_EQ(HintPlaces(u"UhodSch").filter(u"Печат"_s),
+            QStringList({u"Печатать в рублях"_s, u"Печатать в USD"_s}));
   EXPECT_TRUE(HintFor(u"Main", u"Picture13").body.endsWith(u"а какой нет. "_s));
   EXPECT_TRUE(HintFor(u"Main", u"Picture7").body.contains(u"число.  В окне"_s));
   EXPECT_NE(HintFor(u"PrihNakl", u"Курс доллара").body, HintFor(u"UhodSch", u"Курс доллара").body);
@@ -77,6 +106,33 @@ TEST_F(HintWindow, SecondHintIsShownAlone) {
   EXPECT_EQ(Find<QLabel>(hint, "Label1")->text(), u"Приход"_s);
   EXPECT_EQ(Find<QPlainTextEdit>(hint, "Text1")->toPlainText(), HintFor(u"Main", u"Picture7").body);
   EXPECT_TRUE(Find<QPlainTextEdit>(hint, "Text1")->isReadOnly());
+}
+
+TEST_F(HintWindow, TheKeyboardReachesEveryHint) {
+  AskIn(&field_);
+  EXPECT_EQ(ShownHeading(), u"Приход"_s);
+  AskIn(&plain_);
+  EXPECT_EQ(ShownHeading(), u"Расход"_s);
+  AskIn(&inner_);
+  EXPECT_EQ(ShownHeading(), u"Внутреннее перемещение"_s);
+  ShownHints().front()->close();
+  inner_hint_.hide();  // as the home screen does with all of its question marks
+  AskIn(&inner_);
+  EXPECT_EQ(ShownHeading(), u"Расход"_s);
+  // One that stands beside no field is a stop of its own.
+  EXPECT_EQ(stock_.focusPolicy(), Qt::TabFocus);
+  stock_.setFocus();
+  QTest::keyClick(&stock_, Qt::Key_Space);
+  EXPECT_EQ(ShownHeading(), u"Наличие товаров"_s);
+}
+
+TEST_F(HintWindow, AssistiveToolsFindThePictureAndReadTheHint) {
+  auto* picture = QAccessible::queryAccessibleInterface(&receipts_);
+  EXPECT_EQ(picture->text(QAccessible::Name), u"Подсказка: Приход"_s);
+  picture->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return ShownHeading() == u"Приход"_s; }));
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&field_)->text(QAccessible::Description),
+            HintFor(u"Main", u"Picture7").body);
 }
 
 TEST_F(HintWindow, GoesAwayOnEscapeOnTheButtonAndWhenAnotherWindowIsActivated) {

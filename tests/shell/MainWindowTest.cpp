@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QUrl>
@@ -92,6 +93,13 @@ TEST_F(MainWindow, LastDatabaseOpensWithFullRights) {
   }
   EXPECT_TRUE(Entry(u"mnuimp"_s)->isEnabled() && Entry(u"mnuFileClose"_s)->isEnabled());
   EXPECT_TRUE(Panel("Picture1")->isVisible() && Panel("Picture2")->isVisible());
+}
+
+TEST_F(MainWindow, ADatabaseWithoutANameKeepsTheDashOfTheTitle) {
+  CreateDatabase(Data(), u"Первая"_s);
+  world_.Settings().Write(settings::kBaseName, u"0001\\"_s);
+  Start();
+  EXPECT_EQ(window_.windowTitle(), u"Kladez - "_s);
 }
 
 TEST_F(MainWindow, RemovedDatabaseLandsSilentlyAndKeepsTheKey) {
@@ -279,6 +287,21 @@ TEST_F(MainWindow, HomeScreenFollowsItsStoredChoice) {
   EXPECT_EQ(Setting(settings::kPanel), u"1"_s);
   EXPECT_EQ(Find<QCheckBox>(home, "Check1")->text(),
             u"Отображать подсказку \"     \" на главной"_s);
+}
+
+TEST_F(MainWindow, TheHomeScreenCountsAnewAfterEveryDialogAboveIt) {
+  StartOpen();
+  int documents = 0;
+  for (const QString& entry : {u"mnAbout"_s, u"mnuFileCreate"_s, u"mnubases"_s, u"arch"_s}) {
+    ModalAnswers answers{[&](QWidget* dialog) {
+      world_.Temp().PutLines(u"0001\\Главный склад\\UHD\\000%1.uhd"_s.arg(++documents),
+                             {u"1"_s, u"22.11.2026"_s, u"-"_s, u"1"_s, u"0"_s, u"1"_s, u"нет"_s});
+      QTest::keyClick(dialog, Qt::Key_Escape);
+    }};
+    Entry(entry)->trigger();
+    EXPECT_EQ(Find<QLabel>(window_.Child(), "Label18")->text(), u"%1.00"_s.arg(documents))
+        << entry.toStdString();
+  }
 }
 
 TEST_F(MainWindow, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {

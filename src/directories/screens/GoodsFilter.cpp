@@ -31,13 +31,13 @@ GoodsFilter::GoodsFilter(SettingsStore& store, const Settings& settings, QString
   row_->setSpacing(look::kTight);
   row_->addWidget(label);
   row_->addWidget(search_, 1);
-  row_->addWidget(new HintPicture(HintFor(screen, u"Поиск"), this));
+  row_->addWidget(new HintPicture(HintFor(screen, u"Поиск"), {search_}, this));
   row_->addSpacing(look::kMargin);
   row_->addWidget(groups_);
-  row_->addWidget(new HintPicture(HintFor(screen, u"Группы"), this));
+  row_->addWidget(new HintPicture(HintFor(screen, u"Группы"), {groups_}, this));
   row_->addSpacing(look::kGrid);
   row_->addWidget(goods_only_);
-  row_->addWidget(new HintPicture(HintFor(screen, u"Только товары"), this));
+  row_->addWidget(new HintPicture(HintFor(screen, u"Только товары"), {goods_only_}, this));
   SetView(ReadGoodsView(store, settings.goods_only));
   // The two exclude each other, so one of them tells of every choice.
   connect(goods_only_, &QRadioButton::toggled, this, [this] { emit ViewChosen(View()); });

@@ -34,7 +34,7 @@ void AddRow(QFormLayout* form, const QString& caption, QLineEdit* field, QString
   auto* row = new QHBoxLayout;
   row->setSpacing(look::kTight);
   row->addWidget(field);
-  row->addWidget(new HintPicture(HintFor(u"sprTovNew", hint), field->parentWidget()));
+  row->addWidget(new HintPicture(HintFor(u"sprTovNew", hint), {field}, field->parentWidget()));
   form->addRow(caption, row);
   // The row is a layout, for which the form gives its label no buddy.
   qobject_cast<QLabel*>(form->labelForField(row))->setBuddy(field);

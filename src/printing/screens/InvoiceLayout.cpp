@@ -90,8 +90,8 @@ QWidget* InvoiceScreen::NewHeadBlock() {
     connect(option, &QRadioButton::clicked, this, &InvoiceScreen::Reload);
   }
   auto* block = new QWidget(this);
-  QHBoxLayout* row =
-      SideBySide({Text1, Option1, NewHint(u"Печать в рублях"), Option2, NewHint(u"Печать в USD")});
+  QHBoxLayout* row = SideBySide({Text1, Option1, NewHint(u"Печатать в рублях", {Option1}), Option2,
+                                 NewHint(u"Печатать в USD", {Option2})});
   row->setContentsMargins(0, 0, 0, 0);
   block->setLayout(row);
   return block;
@@ -150,7 +150,7 @@ QWidget* InvoiceScreen::NewPaymentBlock() {
   Text12->setAccessibleName(Check8->text().remove(u'&'));
   Text13->setAccessibleName(Check12->text().remove(u'&'));
   rows.Add(Check8, SideBySide({Text12, Check12, Text13}));
-  rows.Add(NewCaption(this, u"При&мечание:"_s, Text33), Text33, NewHint(u"Примечание"));
+  rows.Add(NewCaption(this, u"При&мечание:"_s, Text33), Text33, NewHint(u"Примечание", {Text33}));
   grid->setContentsMargins(0, 0, 0, 0);
   auto* block = new QWidget(this);
   block->setLayout(grid);

@@ -67,10 +67,11 @@ QGroupBox* PrihPrint::NewParametersFrame() {
   ReloadWhenLeft(Text43);
   auto* grid = new QGridLayout;
   FieldGrid fields(grid, 4);
-  fields.Add(NewCaption(this, u"С&умма %:"_s, Text45), Text45, NewHint(u"Сумма"));
-  fields.Add(NewCaption(this, u"&Курс $:"_s, DecText1), DecText1, NewHint(u"Курс доллара"));
-  fields.Add(NewCaption(this, u"Н&ДС:"_s, Text44), Text44, NewHint(u"НДС"));
-  fields.Add(NewCaption(this, u"Н&СП:"_s, Text43), Text43, NewHint(u"НСП"));
+  fields.Add(NewCaption(this, u"С&умма %:"_s, Text45), Text45, NewHint(u"Сумма", {Text45}));
+  fields.Add(NewCaption(this, u"&Курс $:"_s, DecText1), DecText1,
+             NewHint(u"Курс доллара", {DecText1}));
+  fields.Add(NewCaption(this, u"Н&ДС:"_s, Text44), Text44, NewHint(u"НДС", {Text44}));
+  fields.Add(NewCaption(this, u"Н&СП:"_s, Text43), Text43, NewHint(u"НСП", {Text43}));
   auto* frame = new QGroupBox(this);
   frame->setObjectName(u"Frame1"_s);
   frame->setLayout(grid);

@@ -81,8 +81,8 @@ QString PrintScreen::FirstFirm() const {
   return LineReader(firms).Next();
 }
 
-HintPicture* PrintScreen::NewHint(QStringView place) {
-  return new HintPicture(HintFor(objectName(), place), this);
+HintPicture* PrintScreen::NewHint(QStringView place, std::initializer_list<QWidget*> about) {
+  return new HintPicture(HintFor(objectName(), place), about, this);
 }
 
 }  // namespace kladez

@@ -49,7 +49,7 @@ class PrintScreen : public QDialog {
   const PrintSource& Source() const { return source_; }
   Currency TheCurrency() const;  // as currency.usd has it now
   QString FirstFirm() const;     // first line of the firms' directory
-  HintPicture* NewHint(QStringView place);
+  HintPicture* NewHint(QStringView place, std::initializer_list<QWidget*> about);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -35,10 +35,10 @@ TotalsScreen::TotalsScreen(AppContext& context, const PrintSource& source, const
 QGridLayout* TotalsScreen::NewTotalsBlock() {
   auto* grid = new QGridLayout;
   FieldGrid fields(grid);
-  fields.Add(NewCaption(this, u"&Всего:"_s, Text6), Text6, NewHint(u"Всего"));
+  fields.Add(NewCaption(this, u"&Всего:"_s, Text6), Text6, NewHint(u"Всего", {Text6}));
   if (Check5 != nullptr) {
-    fields.Add(Check5, Text9, NewHint(u"Включая НДС"));
-    fields.Add(Check6, Text10, NewHint(u"Налог с продаж"));
+    fields.Add(Check5, Text9, NewHint(u"Включая НДС", {Check5, Text9}));
+    fields.Add(Check6, Text10, NewHint(u"Налог с продаж", {Check6, Text10}));
   }
   grid->setColumnMinimumWidth(0, FieldGrid::CaptionWidth());
   return grid;
@@ -47,7 +47,8 @@ QGridLayout* TotalsScreen::NewTotalsBlock() {
 QGridLayout* TotalsScreen::NewWordsBlock() {
   auto* grid = new QGridLayout;
   FieldGrid fields(grid);
-  fields.Add(NewCaption(this, u"&Итого к оплате:"_s, Text20), Text20, NewHint(u"Итого к оплате"));
+  fields.Add(NewCaption(this, u"&Итого к оплате:"_s, Text20), Text20,
+             NewHint(u"Итого к оплате", {Text20}));
   grid->setColumnMinimumWidth(0, FieldGrid::CaptionWidth());
   return grid;
 }
@@ -55,14 +56,15 @@ QGridLayout* TotalsScreen::NewWordsBlock() {
 QGridLayout* TotalsScreen::NewParametersBlock(int groups_a_row) {
   auto* grid = new QGridLayout;
   FieldGrid fields(grid, groups_a_row);
-  fields.Add(NewCaption(this, u"&Цены:"_s, Text18), Text18, NewHint(u"Цены"));
+  fields.Add(NewCaption(this, u"&Цены:"_s, Text18), Text18, NewHint(u"Цены", {Text18}));
   if (Text19 != nullptr) {
-    fields.Add(NewCaption(this, u"Скидк&а %:"_s, Text19), Text19, NewHint(u"Скидка"));
+    fields.Add(NewCaption(this, u"Скидк&а %:"_s, Text19), Text19, NewHint(u"Скидка", {Text19}));
   }
-  fields.Add(NewCaption(this, u"К&урс $:"_s, DecText1), DecText1, NewHint(u"Курс доллара"));
+  fields.Add(NewCaption(this, u"К&урс $:"_s, DecText1), DecText1,
+             NewHint(u"Курс доллара", {DecText1}));
   if (Text7 != nullptr) {
-    fields.Add(NewCaption(this, u"Н&ДС:"_s, Text7), Text7, NewHint(u"НДС"));
-    fields.Add(NewCaption(this, u"Н&СП:"_s, Text8), Text8, NewHint(u"НСП"));
+    fields.Add(NewCaption(this, u"Н&ДС:"_s, Text7), Text7, NewHint(u"НДС", {Text7}));
+    fields.Add(NewCaption(this, u"Н&СП:"_s, Text8), Text8, NewHint(u"НСП", {Text8}));
   }
   return grid;
 }

@@ -50,7 +50,7 @@ QLayout* WaybillScreen::NewHeadBlock() {
 
   auto* grid = new QGridLayout;
   FieldGrid fields(grid);
-  fields.Add(Check7, Text12, NewHint(u"Примечание"));
+  fields.Add(Check7, Text12, NewHint(u"Примечание", {Check7, Text12}));
   fields.Add(Check1, Text2);
   fields.Add(Check2, Text3);
   fields.Add(Check3, Text4);

@@ -78,7 +78,7 @@ pricePrint::Frame pricePrint::NewFrame(const QString& title) {
   auto* column = new QVBoxLayout;
   column->setSpacing(look::kGrid);
   row->addLayout(column, 1);
-  row->addWidget(new HintPicture(HintFor(u"pricePrint", title), box), 0, Qt::AlignTop);
+  row->addWidget(new HintPicture(HintFor(u"pricePrint", title), {box}, box), 0, Qt::AlignTop);
   return {box, column};
 }
 
@@ -213,14 +213,14 @@ QWidget* pricePrint::NewOrder() {
   Text12->setAccessibleName(Check14->text());
   auto* grid = new QGridLayout(order);
   grid->setContentsMargins(0, 0, 0, 0);
-  const auto hint = [&](const QString& place) {
-    return new HintPicture(HintFor(u"pricePrint", place), order);
+  const auto hint = [&](QStringView place, std::initializer_list<QWidget*> about) {
+    return new HintPicture(HintFor(u"pricePrint", place), about, order);
   };
   grid->addWidget(Check1, 0, 0);
-  grid->addWidget(hint(u"Распределять по группам"_s), 0, 2);
+  grid->addWidget(hint(u"Распределять по группам", {Check1}), 0, 2);
   grid->addWidget(Check14, 1, 0);
   grid->addWidget(Text12, 1, 1);
-  grid->addWidget(hint(u"Промежуток между алфавитными блоками"_s), 1, 2);
+  grid->addWidget(hint(u"Промежуток между алфавитными блоками", {Check14, Text12}), 1, 2);
   grid->setColumnStretch(3, 1);
   return order;
 }

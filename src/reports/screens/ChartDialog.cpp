@@ -48,7 +48,8 @@ QWidget* ChartDialog::BuildGoods(const QString& goods) {
   field->addWidget(Command3);
   Fields()->addWidget(NewLabel(u"&Товар"_s, Text1, this), 1, 0);
   Fields()->addLayout(field, 1, 1);
-  Fields()->addWidget(new HintPicture(HintFor(form_.texts.name, u"Товар"), this), 1, 2);
+  Fields()->addWidget(new HintPicture(HintFor(form_.texts.name, u"Товар"), {Text1, Command3}, this),
+                      1, 2);
   connect(Command3, &QPushButton::clicked, this, &ChartDialog::PickGoods);
   setTabOrder(Combo1, Text1);
   setTabOrder(Text1, Command3);

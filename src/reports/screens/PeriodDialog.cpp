@@ -23,7 +23,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   Combo1->setObjectName(u"Combo1"_s);
   Combo1->setMinimumContentsLength(28);
   Combo1->setCurrentIndex(Combo1->count() - 1);
-  auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), this);
+  auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), {Combo1}, this);
   hint->setObjectName(u"Picture5"_s);
   fields_ = new QGridLayout;
   fields_->setSpacing(look::kGrid);
@@ -56,7 +56,7 @@ QGroupBox* PeriodDialog::NewFrame() {
   // The question mark stands in the blanks before the word.
   auto* frame = new QGroupBox(u"     Документы"_s, this);
   frame->setObjectName(u"Frame1"_s);
-  auto* hint = new HintPicture(HintFor(objectName(), u"Документы"), frame);
+  auto* hint = new HintPicture(HintFor(objectName(), u"Документы"), {frame}, frame);
   hint->setObjectName(u"Picture1"_s);
   hint->setFixedSize(look::kMargin, look::kMargin);
   hint->move(0, look::kTight / 2);

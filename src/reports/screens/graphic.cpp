@@ -83,7 +83,7 @@ QGroupBox* graphic::NewKinds() {
   Option2 = NewKind(u"Option2"_s, u"3D/&Линии"_s, ChartKind::k3DLines, frame);
   Option3 = NewKind(u"Option3"_s, u"&2D/Колонки"_s, ChartKind::k2DBars, frame);
   Option4 = NewKind(u"Option4"_s, u"2D/Л&инии"_s, ChartKind::k2DLines, frame);
-  row->addWidget(new HintPicture(HintFor(u"graphic", u"Вид отображения графика"), frame));
+  row->addWidget(new HintPicture(HintFor(u"graphic", u"Вид отображения графика"), {chart_}, frame));
   return frame;
 }
 
@@ -96,7 +96,7 @@ QRadioButton* graphic::NewKind(const QString& name, const QString& caption, Char
   });
   auto* row = static_cast<QBoxLayout*>(frame->layout());
   row->addWidget(option);
-  row->addWidget(new HintPicture(HintFor(u"graphic", u"Option"), frame));
+  row->addWidget(new HintPicture(HintFor(u"graphic", u"Option"), {option}, frame));
   row->addSpacing(look::kGrid);  // a question mark belongs to the option before it
   return option;
 }

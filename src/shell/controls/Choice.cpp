@@ -13,7 +13,7 @@ void AddChoice(QHBoxLayout* row, const QString& caption, QComboBox* field, const
   row->setSpacing(look::kTight);
   row->addWidget(label);
   row->addWidget(field, 1);
-  row->addWidget(new HintPicture(hint, field->parentWidget()));
+  row->addWidget(new HintPicture(hint, {field}, field->parentWidget()));
 }
 
 }  // namespace kladez

@@ -22,7 +22,7 @@ QBoxLayout* WithHint(QWidget* field, const Hint& hint) {
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
   row->addWidget(field);
-  row->addWidget(new HintPicture(hint, field->parentWidget()));
+  row->addWidget(new HintPicture(hint, {field}, field->parentWidget()));
   return row;
 }
 

@@ -1,5 +1,7 @@
 #include "shell/controls/HintPicture.h"
 
+#include <QKeyEvent>
+
 #include "shell/controls/Look.h"
 
 namespace kladez {
@@ -14,17 +16,32 @@ HintPicture::Opener& TheOpener() {
 
 }  // namespace
 
-HintPicture::HintPicture(const Hint& hint, QWidget* parent) : QToolButton(parent), hint_(hint) {
+HintPicture::HintPicture(const Hint& hint, std::initializer_list<QWidget*> about, QWidget* parent)
+    : QToolButton(parent), hint_(hint) {
   setIcon(look::Icon(look::IconName::kHint, look::kQuiet));
   setIconSize(QSize(look::kMargin, look::kMargin));
   setAutoRaise(true);
-  // Tabbing goes from field to field; the hints are a click away.
-  setFocusPolicy(Qt::NoFocus);
-  setToolTip(u"Подсказка"_s);
+  // Tabbing goes from field to field.
+  setFocusPolicy(about.size() > 0 ? Qt::NoFocus : Qt::TabFocus);
+  setToolTip(u"Подсказка (Shift+F1)"_s);
   setAccessibleName(u"Подсказка: "_s + hint_.heading);
   connect(this, &QToolButton::clicked, this, [this] {
     if (TheOpener()) TheOpener()(window(), hint_);
   });
+  for (QWidget* field : about) {
+    field->installEventFilter(this);
+    field->setAccessibleDescription(hint_.body);
+  }
+}
+
+// Keys that the widget with the keyboard has no use for come by the widgets around it in turn.
+bool HintPicture::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || !isVisible() ||
+      !static_cast<QKeyEvent*>(event)->matches(QKeySequence::WhatsThis)) {
+    return QToolButton::eventFilter(watched, event);
+  }
+  click();
+  return true;
 }
 
 void HintPicture::SetOpener(Opener opener) { TheOpener() = std::move(opener); }

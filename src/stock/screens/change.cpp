@@ -35,11 +35,11 @@ change::change(const DraftLine& line, QWidget* parent) : QDialog(parent) {
     field->setObjectName(name);
     form->addRow(NewLabel(caption, field, this), WithHint(field, HintFor(u"change", hint)));
   };
-  add(u"Товар:"_s, Text1, u"Text1"_s, u"Товар"_s);
+  add(u"Т&овар:"_s, Text1, u"Text1"_s, u"Товар"_s);
   add(u"&Кол-во:"_s, Text2, u"Text2"_s, u"Количество товара"_s);
-  add(u"Ед. изм.:"_s, Text3, u"Text3"_s, u"Единица измерения"_s);
+  add(u"&Ед. изм.:"_s, Text3, u"Text3"_s, u"Единица измерения"_s);
   add(u"&Цена:"_s, Text4, u"Text4"_s, u"Цена"_s);
-  add(u"Сумма:"_s, Text5, u"Text5"_s, u"Сумма"_s);
+  add(u"&Сумма:"_s, Text5, u"Text5"_s, u"Сумма"_s);
   // What a line is called is the goods directory's business, and its sum follows from the rest.
   for (TextLine* field : {Text1, Text3, static_cast<TextLine*>(Text5)}) MakeReadOnly(field);
 

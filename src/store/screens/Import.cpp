@@ -47,7 +47,7 @@ Import::Import(AppContext& context, const QString& source, QWidget* parent)
   // The blanks leave room for the question mark.
   auto* frame = new QGroupBox(u"     Что импортировать?"_s, this);
   frame->setObjectName(u"Frame1"_s);
-  Picture5 = new HintPicture(HintFor(u"Import", u"Picture5"), frame);
+  Picture5 = new HintPicture(HintFor(u"Import", u"Picture5"), {frame}, frame);
   Picture5->setObjectName(u"Picture5"_s);
   Picture5->setGeometry(0, 0, look::kMargin + 2, look::kMargin + 2);
   auto* list = new QVBoxLayout(frame);

@@ -125,7 +125,8 @@ QLayout* DocumentEditor::NewListHead() {
   auto* row = new QHBoxLayout;
   row->setSpacing(look::kGrid);
   for (QPushButton* button : {add_, change_, remove_}) row->addWidget(button);
-  row->addWidget(new HintPicture(HintFor(screens_.editor_name, u"Список товаров"), this));
+  row->addWidget(
+      new HintPicture(HintFor(screens_.editor_name, u"Список товаров"), {ListView1}, this));
   row->addStretch();
   return row;
 }

@@ -37,7 +37,7 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
     warehouse_->setMinimumContentsLength(14);
     head->addWidget(NewLabel(u"&Склад:"_s, warehouse_, this));
     head->addWidget(warehouse_);
-    if (QWidget* hint = NewHint(u"Склад")) head->addWidget(hint);
+    if (QWidget* hint = NewHint(u"Склад", {warehouse_})) head->addWidget(hint);
     connect(warehouse_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
   }
 
@@ -65,9 +65,9 @@ QRadioButton* RegisterFilterPanel::NewOption(const QString& name, const QString&
 }
 
 // None in the register of transfers, which has no question marks.
-QWidget* RegisterFilterPanel::NewHint(QStringView place) {
+QWidget* RegisterFilterPanel::NewHint(QStringView place, std::initializer_list<QWidget*> about) {
   if (!HintPlaces(screens_.register_name).contains(place)) return nullptr;
-  return new HintPicture(HintFor(screens_.register_name, place), this);
+  return new HintPicture(HintFor(screens_.register_name, place), about, this);
 }
 
 void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
@@ -91,7 +91,7 @@ void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
 
   const auto add = [&](QRadioButton* option, QWidget* input, QStringView place) {
     input->setAccessibleName(option->text().remove(u'&'));
-    row->AddGroup({option, input, NewHint(place)}, look::kTight);
+    row->AddGroup({option, input, NewHint(place, {option, input})}, look::kTight);
   };
   add(by_month_, month_, u"За месяц");
   add(by_year_, year_, u"За год");
@@ -112,7 +112,9 @@ void RegisterFilterPanel::BuildOrder(WrapRow* row) {
   first_to_last_ = NewOption(u"first_to_last"_s, u"&A-Z"_s, group);
   last_to_first_ = NewOption(u"last_to_first"_s, u"&Z-A"_s, group);
   (context_.settings.Read(sort_) == u"ZA" ? last_to_first_ : first_to_last_)->setChecked(true);
-  row->AddGroup({first_to_last_, last_to_first_, NewHint(u"Сортировка")}, look::kGrid);
+  row->AddGroup(
+      {first_to_last_, last_to_first_, NewHint(u"Сортировка", {first_to_last_, last_to_first_})},
+      look::kGrid);
   connect(group, &QButtonGroup::buttonToggled, this, [this](QAbstractButton*, bool on) {
     if (!on) return;
     context_.settings.Write(sort_, last_to_first_->isChecked() ? u"ZA"_s : u"AZ"_s);

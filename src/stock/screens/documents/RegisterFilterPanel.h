@@ -34,7 +34,7 @@ class RegisterFilterPanel : public QWidget {
  private:
   void BuildPeriod(WrapRow* row);
   void BuildOrder(WrapRow* row);
-  QWidget* NewHint(QStringView place);
+  QWidget* NewHint(QStringView place, std::initializer_list<QWidget*> about);
   QRadioButton* NewOption(const QString& name, const QString& caption, QButtonGroup* group);
   void EnableInputs();
 
