@@ -7,12 +7,15 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTabBar>
 #include <QTreeView>
 
 namespace kladez {
@@ -116,6 +119,44 @@ void AppendMisplaced(const QList<QWidget*>& controls, QStringList& faults) {
   }
 }
 
+QList<QKeySequence> LettersOf(const QWidget* control) {
+  QList<QKeySequence> letters;
+  if (const auto* label = qobject_cast<const QLabel*>(control); label && label->buddy()) {
+    letters.append(QKeySequence::mnemonic(label->text()));
+  }
+  if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
+    letters.append(button->shortcut());
+  }
+  if (const auto* box = qobject_cast<const QGroupBox*>(control)) {
+    letters.append(QKeySequence::mnemonic(box->title()));
+  }
+  if (const auto* tabs = qobject_cast<const QTabBar*>(control)) {
+    for (int i = 0; i < tabs->count(); ++i)
+      letters.append(QKeySequence::mnemonic(tabs->tabText(i)));
+  }
+  if (qobject_cast<const QMenuBar*>(control)) {
+    for (const QAction* menu : control->actions()) {
+      if (menu->isVisible()) letters.append(QKeySequence::mnemonic(menu->text()));
+    }
+  }
+  letters.removeAll(QKeySequence());
+  return letters;
+}
+
+void AppendDoubledLetters(const QList<QWidget*>& controls, QStringList& faults) {
+  QMap<QKeySequence, QWidget*> taken;
+  for (QWidget* control : controls) {
+    for (const QKeySequence& letter : LettersOf(control)) {
+      QWidget*& first = taken[letter];
+      if (first != nullptr) {
+        faults.append(letter.toString() + u" у двоих: "_s + Named(first) + u" и "_s +
+                      Named(control));
+      }
+      first = control;
+    }
+  }
+}
+
 bool IsInteractive(const QWidget* widget) {
   return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
          qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
@@ -135,6 +176,7 @@ QStringList FaultsOf(QWidget* window) {
   const QList<QWidget*> controls = ControlsOf(window);
   for (QWidget* control : controls) AppendCutTexts(control, faults);
   AppendMisplaced(controls, faults);
+  AppendDoubledLetters(controls, faults);
   const QSize room = window->screen()->availableSize();
   if (window->width() > room.width() || window->height() > room.height()) {
     faults.append(u"окно больше экрана: %1x%2"_s.arg(window->width()).arg(window->height()));

@@ -1,5 +1,6 @@
 // Looks over a window as a person would who sees badly or not at all: texts that are cut, controls
-// that lie over each other or stick out, controls that a screen reader could not name.
+// that lie over each other or stick out, two that want the same letter with Alt, controls that a
+// screen reader could not name.
 #pragma once
 
 #include <QStringList>

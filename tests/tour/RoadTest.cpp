@@ -189,7 +189,7 @@ void ReceiveGoods(Robot& robot) {
 
 void SetPrices(Robot& robot) {
   ChooseFromMenu(robot, u'с', u'л', u"Price"_s);
-  robot.PressLetter(u'р');
+  robot.PressLetter(u'й');
   robot.Press(Qt::Key_Down);
   for (const auto& [goods, price] : {std::pair{u"Чай «"_s, u"60.50"_s}, {u"Чай на"_s, u"1.35"_s}}) {
     robot.TabTo(u"ListView1"_s);
@@ -206,13 +206,13 @@ void ShipGoods(Robot& robot) {
   ChooseFromMenu(robot, u'с', u'р', u"TovUhod"_s);
   robot.PressLetter(u'д');
   robot.WaitFor(u"UhodNew"_s);
-  robot.PressLetter(u'т');
+  robot.PressLetter(u'л');
   robot.TypeHere(u"К"_s);
   robot.PressLetter(u'к');
   robot.TypeHere(u"10"_s);
   robot.PressLetter(u'д');
   robot.WaitFor(u"price2"_s);
-  robot.PressLetter(u'р');
+  robot.PressLetter(u'й');
   robot.Press(Qt::Key_Down);
   robot.TabTo(u"ListView1"_s);
   PickByTyping(robot, u"Чай «"_s, u"3"_s, u"price2"_s);

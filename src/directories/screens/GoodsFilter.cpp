@@ -21,7 +21,7 @@ GoodsFilter::GoodsFilter(SettingsStore& store, const Settings& settings, QString
       search_(new TextLine(this)),
       groups_(new QRadioButton(u"&Группы"_s, this)),
       goods_only_(new QRadioButton(u"&Только товары"_s, this)) {
-  auto* label = new QLabel(u"&Поиск:"_s, this);
+  auto* label = new QLabel(u"Поис&к:"_s, this);
   label->setBuddy(search_);
   search_->setObjectName(u"search"_s);
   search_->setClearButtonEnabled(true);

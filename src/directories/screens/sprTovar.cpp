@@ -25,9 +25,9 @@ sprTovar::sprTovar(AppContext& context, QWidget* parent)
       add_(NewCommand(this, u"add"_s, u"&Добавить"_s, IconName::kAdd)),
       change_(NewCommand(this, u"change"_s, u"&Изменить"_s, IconName::kChange)),
       remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
-      sort_(NewCommand(this, u"sort"_s, u"&Сортировка"_s, IconName::kSort)),
-      chart_(NewCommand(this, u"chart"_s, u"Гра&фик..."_s, IconName::kChart)),
-      Command7(NewCommand(this, u"Command7"_s, u"&Выбрать"_s, IconName::kPick)),
+      sort_(NewCommand(this, u"sort"_s, u"Сортиро&вка"_s, IconName::kSort)),
+      chart_(NewCommand(this, u"chart"_s, u"Г&рафик..."_s, IconName::kChart)),
+      Command7(NewCommand(this, u"Command7"_s, u"Вы&брать"_s, IconName::kPick)),
       Command9(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
       up_(NewMove(u"up"_s, u"Порядок: вверх"_s, Qt::Key_Up, true)),
       down_(NewMove(u"down"_s, u"Порядок: вниз"_s, Qt::Key_Down, false)) {

@@ -47,7 +47,7 @@ struct PriceBrowser::Command {
 
 std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
   using P = PriceBrowser;
-  const Command copy = {&P::Command7, u"Command7"_s, u"&Копировать"_s, IconName::kCopy, &P::Copy};
+  const Command copy = {&P::Command7, u"Command7"_s, u"Копи&ровать"_s, IconName::kCopy, &P::Copy};
   const Command paste = {&P::Command8, u"Command8"_s, u"&Вставить"_s, IconName::kPaste, &P::Paste};
   const Command pick = {&P::Command6,    u"Command6"_s, u"В&ыбрать"_s,
                         IconName::kPick, &P::Pick,      Place::kRight};
@@ -63,7 +63,7 @@ std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
       paste,
       {&P::Command9, u"Command9"_s, u"П&ечать"_s, IconName::kPrint, &P::Print},
       {&P::Command10, u"Command10"_s, u"О&бновить"_s, IconName::kRefresh, &P::Load, Place::kPanel},
-      {&P::Command5, u"Command5"_s, u"&Сохранить"_s, IconName::kSave, &P::Save, Place::kRight},
+      {&P::Command5, u"Command5"_s, u"Со&хранить"_s, IconName::kSave, &P::Save, Place::kRight},
       pick,
       close(u"&Закрыть"_s)};
 }
@@ -112,7 +112,7 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
   auto* choices = new QHBoxLayout;
   AddChoice(choices, u"Ск&лад:"_s, Combo1, HintFor(screen, u"Склад"));
   choices->addSpacing(look::kMargin);
-  AddChoice(choices, u"П&райс:"_s, Combo2, HintFor(screen, u"Прайс"));
+  AddChoice(choices, u"Пра&йс:"_s, Combo2, HintFor(screen, u"Прайс"));
   choices->addSpacing(look::kMargin);
   AddCommands(choices, Place::kPanel);
   choices->addWidget(NewHelpCommand(this, context_.data, u"price.htm"));

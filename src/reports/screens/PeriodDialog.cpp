@@ -28,7 +28,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   fields_ = new QGridLayout;
   fields_->setSpacing(look::kGrid);
   fields_->setColumnStretch(1, 1);
-  fields_->addWidget(NewLabel(u"&Склад:"_s, Combo1, this), 0, 0);
+  fields_->addWidget(NewLabel(u"С&клад:"_s, Combo1, this), 0, 0);
   fields_->addWidget(Combo1, 0, 1);
   fields_->addWidget(hint, 0, 2);
   frame_ = NewFrame();

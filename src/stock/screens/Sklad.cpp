@@ -35,7 +35,7 @@ Sklad::Sklad(AppContext& context, QWidget* parent)
       StatusBar1(new QLabel(this)),
       Command1(NewCommand(this, u"Command1"_s, u"&Изменить"_s, IconName::kChange)),
       Command2(NewCommand(this, u"Command2"_s, u"П&ечать"_s, IconName::kPrint)),
-      Command3(NewCommand(this, u"Command3"_s, u"&Обнулить"_s, IconName::kRemove)),
+      Command3(NewCommand(this, u"Command3"_s, u"О&бнулить"_s, IconName::kRemove)),
       Command4(NewCommand(this, u"Command4"_s, u"&Закрыть"_s)) {
   setObjectName(u"Sklad"_s);
   setWindowTitle(u"Наличие товаров на складе"_s);
@@ -80,7 +80,7 @@ void Sklad::BuildList() {
 
 void Sklad::BuildLayout() {
   auto* choice = new QHBoxLayout;
-  AddChoice(choice, u"С&клад:"_s, Combo1, HintFor(u"Sklad", u"Склад"));
+  AddChoice(choice, u"Ск&лад:"_s, Combo1, HintFor(u"Sklad", u"Склад"));
   auto* layout = new QVBoxLayout(this);
   look::SetPanelMargins(layout);
   layout->addLayout(choice);

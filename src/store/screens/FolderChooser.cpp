@@ -46,7 +46,7 @@ FolderChooser::FolderChooser(QWidget* parent)
   FillDrives();
 
   auto* fields = new QFormLayout;
-  fields->addRow(u"&Диск:"_s, Drive1);
+  fields->addRow(u"Д&иск:"_s, Drive1);
   fields->addRow(u"&Папка:"_s, Path1);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -81,7 +81,7 @@ QLayout* DocumentEditor::NewHead() {
     party_ = NewWarehouse(&H::party);
     AddField(row, screens_.party_caption, party_, u"party"_s, screens_.party_hint);
     destination_ = NewWarehouse(&H::destination);
-    AddField(row, u"К&уда:"_s, destination_, u"destination"_s, u"Куда"_s);
+    AddField(row, u"&Куда:"_s, destination_, u"destination"_s, u"Куда"_s);
   }
   return row;
 }

@@ -72,7 +72,7 @@ QLayout* DocumentRegisterScreen::NewCommands() {
   Command1 = NewCommand(this, u"Command1"_s, u"&Добавить"_s, IconName::kAdd);
   Command2 = NewCommand(this, u"Command2"_s, u"&Изменить"_s, IconName::kChange);
   Command3 = NewCommand(this, u"Command3"_s, u"&Удалить"_s, IconName::kRemove);
-  Command8 = NewCommand(this, u"Command8"_s, u"&Просмотр"_s);
+  Command8 = NewCommand(this, u"Command8"_s, u"П&росмотр"_s);
   Command7 = NewCommand(this, u"Command7"_s, u"&Закрыть"_s);
   Command1->setEnabled(HasWarehouse());
   connect(Command1, &QPushButton::clicked, this, &DocumentRegisterScreen::Add);

@@ -24,7 +24,7 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
       screens_(screens),
       sort_(BookOf(screens.kind).sort),
       options_(new QWidget(this)) {
-  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"&Фильтр"_s, options_, true, this);
+  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"Фи&льтр"_s, options_, true, this);
   GoldButton1->setFlat(true);
 
   auto* head = new QHBoxLayout;
@@ -35,7 +35,7 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
     warehouse_ = new TextChoice(context.session.SkladNames, this);
     warehouse_->setObjectName(u"warehouse"_s);
     warehouse_->setMinimumContentsLength(14);
-    head->addWidget(NewLabel(u"&Склад:"_s, warehouse_, this));
+    head->addWidget(NewLabel(u"С&клад:"_s, warehouse_, this));
     head->addWidget(warehouse_);
     if (QWidget* hint = NewHint(u"Склад", {warehouse_})) head->addWidget(hint);
     connect(warehouse_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
