@@ -155,8 +155,17 @@ void Robot::WaitUntilGone(const QString& screen) {
   WaitUntil(u"закрытие "_s + screen, [screen] { return FindScreen(screen) == nullptr; });
 }
 
+void Robot::WaitForMessage() {
+  WaitUntil(u"сообщение"_s, [] { return qobject_cast<QMessageBox*>(Front()) != nullptr; });
+}
+
+void Robot::Settle() {
+  // Steps that a step posts post none themselves.
+  for (int i = 0; i < 3; ++i) InWindow([] {});
+}
+
 void Robot::AnswerMessage(const QString& button, const QString& text) {
-  WaitUntil(u"сообщение "_s + text, [] { return qobject_cast<QMessageBox*>(Front()) != nullptr; });
+  WaitForMessage();
   InWindow([=] {
     auto* box = qobject_cast<QMessageBox*>(Front());
     if (!text.isEmpty() && box->text() != text) {

@@ -26,6 +26,9 @@ class Robot {
   // window.
   void WaitFor(const QString& screen);
   void WaitUntilGone(const QString& screen);
+  void WaitForMessage();
+  // Waits until all that the last step set off has been done.
+  void Settle();
   // Waits for a message box, checks its text where one is given, presses the button so called.
   void AnswerMessage(const QString& button, const QString& text = {});
 

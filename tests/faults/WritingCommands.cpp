@@ -1,10 +1,7 @@
 #include "WritingCommands.h"
 
-#include <QDir>
 #include <QFile>
-#include <fstream>
 #include <memory>
-#include <sstream>
 
 #include "directories/GoodsDirectory.h"
 #include "directories/GoodsMarks.h"
@@ -26,64 +23,21 @@ namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
-namespace fs = std::filesystem;
-
-const QDate kToday(2026, 11, 23);
-const QString kWarehouse = u"Главный склад"_s;
-
-// The order of the calls is what is tested; syncing to a real disk would take most of the time.
-const bool in_memory = fs::exists("/dev/shm") && qputenv("TMPDIR", "/dev/shm");
-
 DocumentDraft::Place In(FaultBooks& books, DocumentKind kind) {
   return {books.Data(), books.Opened(), kind,
-          kind == DocumentKind::kTransfer ? QString() : kWarehouse};
+          kind == DocumentKind::kTransfer ? QString() : kMainWarehouse};
 }
 
 DocumentDraft NewDraft(FaultBooks& books, DocumentKind kind, bool closed) {
-  DocumentDraft draft = DocumentDraft::New(In(books, kind), kToday);
+  DocumentDraft draft = DocumentDraft::New(In(books, kind), kBooksDay);
   draft.AddLine({u"Чай"_s, u"3"_s, u"пач."_s, u"45.00"_s, u"60.50"_s});
   if (kind != DocumentKind::kTransfer) draft.SetClosed(closed);
   return draft;
 }
 
-void MakeBooks(const fs::path& root, Beside beside) {
-  fs::create_directories(root / "data");
-  fs::create_directories(root / "backups");
-  const DataDir data(QString::fromStdString(root / "data"));
-  Session session;
-  session.bases_text1 = CreateDatabase(data, u"Лавка"_s);
-  OpenDatabase(session, data);
-  WarehouseDirectory(data, session).Create(u"Магазин"_s);
-  GoodsDirectory goods(data, session, GoodsView::kGroups);
-  goods.Insert(-1, {u" Бакалея"_s, {}, {}, {}, {}});
-  goods.Insert(0, {u"Чай"_s, u"Индия"_s, {}, u"пач."_s, u"45.00"_s});
-  goods.Insert(1, {u"Соль"_s, u"Россия"_s, {}, u"кг"_s, u"9.50"_s});
-  goods.Save();
-  for (const DocumentKind kind :
-       {DocumentKind::kReceipt, DocumentKind::kShipment, DocumentKind::kTransfer}) {
-    DocumentDraft draft = DocumentDraft::New(
-        {data, session, kind, kind == DocumentKind::kTransfer ? QString() : kWarehouse}, kToday);
-    draft.AddLine({u"Чай"_s, u"20"_s, u"пач."_s, u"45.00"_s, u"60.50"_s});
-    if (kind == DocumentKind::kReceipt) draft.SetClosed(true);
-    draft.Save();
-  }
-  if (beside == Beside::kNothing) return;
-  CreateDatabase(data, u"Вторая"_s);
-  MakeBackup(data, {ListDatabases(data).at(1)}, QString::fromStdString(root / "backups"), kToday);
-}
-
-// Made once and copied for each try: most of the tries' time would go into making them.
-fs::path Template(Beside beside) {
-  static const QTemporaryDir directory;
-  const fs::path root = fs::path(directory.path().toStdString()) /
-                        (beside == Beside::kNothing ? "alone" : "with_others");
-  if (!fs::exists(root)) MakeBooks(root, beside);
-  return root;
-}
-
 RegisterRow FirstDocument(FaultBooks& books, DocumentKind kind) {
   DocumentRegister rows(books.Data(), books.Opened(), kind);
-  rows.Load(kWarehouse, {.period = RegisterFilter::Period::kYear, .year = u"2026"_s}, kToday,
+  rows.Load(kMainWarehouse, {.period = RegisterFilter::Period::kYear, .year = u"2026"_s}, kBooksDay,
             false);
   return rows.Rows().at(0);
 }
@@ -109,7 +63,7 @@ WritingCommand DeletedDocument(const std::string& name, DocumentKind kind, bool 
   return {name, "stock/DocumentRegister.cpp", [=](FaultBooks& books) {
             const QString file = FirstDocument(books, kind).file;
             return [=, &books] {
-              DeleteDocument(books.Data(), books.Opened(), kind, kWarehouse, file, reverse);
+              DeleteDocument(books.Data(), books.Opened(), kind, kMainWarehouse, file, reverse);
             };
           }};
 }
@@ -147,7 +101,8 @@ template <typename Change>
 WritingCommand OfPrices(const std::string& name, Change change) {
   return {name, "prices/PriceStore.cpp", [=](FaultBooks& books) {
             auto store = std::make_shared<PriceStore>(books.Data(), books.Opened());
-            auto list = std::make_shared<PriceList>(store->Load(kWarehouse, 1, GoodsView::kGroups));
+            auto list =
+                std::make_shared<PriceList>(store->Load(kMainWarehouse, 1, GoodsView::kGroups));
             list->SetSalePrice(1, u"61"_s);
             list->SetTick(1, true);
             store->Copy(*list);
@@ -230,27 +185,27 @@ std::vector<WritingCommand> StockCommands() {
        [](FaultBooks& books) {
          auto balances = std::make_shared<OpeningBalances>();
          balances->Add({u"Соль"_s, u"7"_s, u"кг"_s, {}, {}});
-         return [=, &books] { balances->Book(books.Data(), books.Opened(), kWarehouse); };
+         return [=, &books] { balances->Book(books.Data(), books.Opened(), kMainWarehouse); };
        }},
       {"наличие, изменение", "stock/OnHand.cpp",
        [](FaultBooks& books) {
          auto list = std::make_shared<OnHandList>(
-             LoadOnHand(books.Data(), books.Opened(), {kWarehouse}, GoodsView::kGroups));
+             LoadOnHand(books.Data(), books.Opened(), {kMainWarehouse}, GoodsView::kGroups));
          list->ChangeQuantity(2, u"5"_s);
-         return [=, &books] { SaveOnHand(*list, books.Data(), books.Opened(), kWarehouse); };
+         return [=, &books] { SaveOnHand(*list, books.Data(), books.Opened(), kMainWarehouse); };
        }},
       {"наличие, обнуление", "stock/OnHand.cpp",
        [](FaultBooks& books) {
          auto list = std::make_shared<OnHandList>(
-             LoadOnHand(books.Data(), books.Opened(), {kWarehouse}, GoodsView::kGroups));
-         return [=, &books] { ZeroOnHand(*list, books.Data(), books.Opened(), kWarehouse); };
+             LoadOnHand(books.Data(), books.Opened(), {kMainWarehouse}, GoodsView::kGroups));
+         return [=, &books] { ZeroOnHand(*list, books.Data(), books.Opened(), kMainWarehouse); };
        }},
       OfPrices("прайс, сохранение",
-               [](PriceStore& store, PriceList& list) { store.Save(list, kWarehouse, 1); }),
+               [](PriceStore& store, PriceList& list) { store.Save(list, kMainWarehouse, 1); }),
       OfPrices("прайс, галочки", [](PriceStore& store, PriceList& list) { store.SaveTicks(list); }),
       OfPrices("прайс, копирование", [](PriceStore& store, PriceList& list) { store.Copy(list); }),
       OfPrices("прайс, вставка",
-               [](PriceStore& store, PriceList& list) { store.Paste(list, kWarehouse, 2); }),
+               [](PriceStore& store, PriceList& list) { store.Paste(list, kMainWarehouse, 2); }),
       {"печатная форма", "printing/PrintOutDesk.cpp",
        [](FaultBooks& books) {
          return [&books] { PrintOutDesk(books.Data(), {}).Write(u"nakl.htm"_s, "<HTML>\r\n"); };
@@ -290,14 +245,14 @@ std::vector<WritingCommand> StoreCommands() {
        [](FaultBooks& books) {
          return [&books] {
            MakeBackup(books.Data(), ListDatabases(books.Data()), books.Backups(),
-                      kToday.addDays(1));
+                      kBooksDay.addDays(1));
          };
        },
        Beside::kSecondDatabaseAndBackup},
       {"восстановление", "store/Backup.cpp",
        [](FaultBooks& books) {
          return [&books] {
-           const DataDir backup(BackupTarget(books.Backups(), kToday));
+           const DataDir backup(BackupTarget(books.Backups(), kBooksDay));
            RestoreDatabases(books.Data(), backup, {ListDatabases(backup).at(0)});
          };
        },
@@ -305,41 +260,7 @@ std::vector<WritingCommand> StoreCommands() {
   };
 }
 
-std::string BytesOf(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
-
 }  // namespace
-
-FaultBooks::FaultBooks(Beside beside)
-    : data_([this, beside] {
-        fs::copy(Template(beside), Root(), fs::copy_options::recursive);
-        return DataDir(root_.path() + u"/data"_s);
-      }()) {
-  session_.bases_text1 = u"0001\\"_s;
-  OpenDatabase(session_, data_);
-}
-
-std::map<std::string, std::string> FaultBooks::Tree() const {
-  std::map<std::string, std::string> tree;
-  for (const auto& entry : fs::recursive_directory_iterator(Root())) {
-    const std::string name = fs::relative(entry.path(), Root()).string();
-    if (entry.is_directory()) {
-      tree[name + "/"] = {};
-    } else {
-      tree[name] = BytesOf(entry.path());
-    }
-  }
-  return tree;
-}
-
-void FaultBooks::Reopen() {
-  SaveSet::Recover(data_);
-  RemoveUnfinishedRestore(data_);
-}
 
 const std::vector<WritingCommand>& WritingCommands() {
   static const std::vector<WritingCommand> commands = [] {

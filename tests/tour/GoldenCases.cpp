@@ -1,0 +1,351 @@
+#include "GoldenCases.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTest>
+#include <fstream>
+#include <sstream>
+
+#include "formats/TextLines.h"
+#include "tour/Eyes.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Step = std::function<void(Robot&)>;
+
+// Screens are told by their names, whatever they open from.
+Step Menu(const QString& command, const QString& screen) {
+  return [=](Robot& robot) {
+    robot.OpenMenu(command);
+    robot.WaitFor(screen);
+  };
+}
+
+Step operator>>(const Step& first, const Step& second) {
+  return [=](Robot& robot) {
+    first(robot);
+    second(robot);
+  };
+}
+
+Step Click(const QString& control) {
+  return [=](Robot& robot) { robot.Click(control); };
+}
+
+Step Open(const QString& control, const QString& screen) {
+  return [=](Robot& robot) {
+    robot.Click(control);
+    robot.WaitFor(screen);
+  };
+}
+
+Step Select(const QString& row) {
+  return [=](Robot& robot) { robot.SelectRow(u"ListView1"_s, row); };
+}
+
+// Into the input box or quantity dialog that has come up.
+Step Answer(const QString& screen, const QString& typed) {
+  return [=](Robot& robot) {
+    robot.WaitFor(screen);
+    robot.Type(u"Text1"_s, typed);
+    robot.Press(Qt::Key_Return);
+  };
+}
+
+Step Yes() {
+  return [](Robot& robot) {
+    robot.WaitForMessage();
+    robot.InWindow([] {
+      auto* box = qobject_cast<QMessageBox*>(eyes::Front());
+      QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
+    });
+  };
+}
+
+// One party more, in the list that the menu opens.
+Step AddParty(const QString& menu, const QString& list, const QString& form) {
+  return Menu(menu, list) >> Open(u"add"_s, form) >> [=](Robot& robot) {
+    robot.Type(u"field1"_s, u"ООО «Заря»"_s);
+    robot.Click(u"ok"_s);
+    robot.WaitFor(list);
+  };
+}
+
+Step TypeFolder(const QString& folder) {
+  return [=](Robot& robot) {
+    robot.Type(u"Path1"_s, qEnvironmentVariable("GOLDEN_BACKUPS") + folder);
+  };
+}
+
+Step AddLine(const QString& picker, const QString& editor) {
+  return Open(u"add"_s, picker) >> [=](Robot& robot) {
+    robot.SelectRow(u"ListView1"_s, u"Чай"_s);
+    robot.Press(Qt::Key_Return);
+    robot.WaitFor(u"colvo"_s);
+    robot.Type(u"Text1"_s, u"2.5"_s);
+    robot.Press(Qt::Key_Return);
+    if (picker == u"price2") {
+      robot.WaitFor(picker);
+      robot.Press(Qt::Key_Escape);
+    }
+    robot.WaitFor(editor);
+  };
+}
+
+Step CheckAt(const QString& control) {
+  return [=](Robot& robot) { robot.Check(control, true); };
+}
+
+Step ChooseIn(const QString& combo, const QString& entry) {
+  return [=](Robot& robot) { robot.Choose(combo, entry); };
+}
+
+std::string Lines(const QString& lines) { return EncodeLines(lines.split(u'\n')).toStdString(); }
+
+using Change = std::function<void(Tree&)>;
+
+Change Changed(const std::string& path, const QString& lines) {
+  return [=](Tree& tree) { tree[path] = Lines(lines); };
+}
+
+Change Empty(const std::string& path) {
+  return [=](Tree& tree) { tree[path] = ""; };
+}
+
+// A file, or a directory with all in it.
+Change Gone(const std::string& path) {
+  return [=](Tree& tree) {
+    std::erase_if(tree, [&](const auto& entry) { return entry.first.starts_with(path); });
+  };
+}
+
+Change Copied(const std::string& from, const std::string& to) {
+  return [=](Tree& tree) {
+    for (const auto& [path, bytes] : Tree(tree)) {
+      if (path.starts_with(from)) tree[to + path.substr(from.size())] = bytes;
+    }
+  };
+}
+
+Change operator+(const Change& first, const Change& second) {
+  return [=](Tree& tree) {
+    first(tree);
+    second(tree);
+  };
+}
+
+// A page as it lies, in UTF-8, in the folder golden/.
+Change PageOf(const std::string& name) {
+  return [=](Tree& tree) {
+    std::ifstream in(std::string(GOLDEN_PAGES "/") + name + ".htm", std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    tree["data/out.htm"] = Lines(QString::fromStdString(text.str()).chopped(1));
+  };
+}
+
+const std::string kBase = "data/0001/";
+const std::string kMain = kBase + "Главный склад/";
+const std::string kKiosk = kBase + "Ларёк/";
+const std::string kBackup = "Копия БД Kladez от 23-11-26/";
+const std::string kShop = kBase + "Магазин/";
+
+std::vector<GoldenCase> DirectoryCases() {
+  return {
+      {"sprTovar sprTovNew", "товары: добавление",
+       Menu(u"mnu_Sprav_T"_s, u"sprTovar"_s) >> Select(u"Соль"_s) >>
+           Open(u"add"_s, u"sprTovNew"_s) >>
+           [](Robot& robot) {
+             robot.Type(u"name"_s, u"Сахар"_s);
+             robot.Type(u"unit"_s, u"кг"_s);
+             robot.Type(u"price"_s, u"55.5"_s);
+             robot.Click(u"ok"_s);
+             robot.WaitFor(u"sprTovar"_s);
+           },
+       Click(u"Command9"_s),
+       Changed(kBase + "SPR/товар.spr",
+               u" Бакалея\nЧай\nИндия\n\nпач.\n45.00\nСоль\nРоссия\n\nкг\n9.50\n"
+               u"Сахар\nРоссия\n\nкг\n55.50"_s)},
+      {"sprFirm sprFirmNew", "фирмы: добавление",
+       AddParty(u"mnu_Sprav_O"_s, u"sprFirm"_s, u"sprFirmNew"_s), Click(u"ok"_s),
+       Changed(kBase + "SPR/firma.spr",
+               u"Ваша фирма"_s + u"\n-"_s.repeated(14) + u"\nООО «Заря»"_s + u"\n"_s.repeated(14))},
+      {"sprPost sprpostnew", "поставщики: добавление",
+       AddParty(u"mnu_Sprav_P"_s, u"sprPost"_s, u"sprpostnew"_s), Click(u"ok"_s),
+       Changed(kBase + "SPR/post.spr", u"ООО «Заря»"_s + u"\n"_s.repeated(13))},
+      {"sprklient sprklientnew", "клиенты: добавление",
+       AddParty(u"mnu_Sprav_K"_s, u"sprklient"_s, u"sprklientnew"_s), Click(u"ok"_s),
+       Changed(kBase + "SPR/klient.spr", u"ООО «Заря»"_s + u"\n"_s.repeated(13))},
+      {"sprSklad", "склады: создание", Menu(u"mnu_Sprav_S"_s, u"sprSklad"_s),
+       Click(u"add"_s) >> Answer(u"AskText"_s, u"Ларёк"_s),
+       Copied(kShop, kKiosk) + Empty(kKiosk + "товар.usl") +
+           Changed(kBase + "склад.usd", u"Главный склад\nМагазин\nЛарёк"_s)},
+      {"sprSklad", "склады: переименование",
+       Menu(u"mnu_Sprav_S"_s, u"sprSklad"_s) >> Select(u"Магазин"_s),
+       Click(u"change"_s) >> Answer(u"AskText"_s, u"Ларёк"_s), Copied(kShop, kKiosk) + Gone(kShop)},
+      {"sprSklad", "склады: удаление",
+       Menu(u"mnu_Sprav_S"_s, u"sprSklad"_s) >> Select(u"Магазин"_s), Click(u"remove"_s) >> Yes(),
+       Gone(kShop) + Changed(kBase + "склад.usd", u"Главный склад"_s)},
+      {"currenc", "валюта",
+       Menu(u"mnu_Sprav_OV"_s, u"currenc"_s) >>
+           [](Robot& robot) { robot.Type(u"form1"_s, u"р."_s); },
+       Click(u"ok"_s),
+       Changed(kBase + "currency.usd",
+               u"р.\nрубль\nрубля\nрублей\nкоп.\nкопейка\nкопейки\nкопеек"_s)},
+  };
+}
+
+std::vector<GoldenCase> DocumentCases() {
+  return {
+      {"TovPrih PrihNew sprtovar2", "приход: новый закрытый",
+       Menu(u"mnu_Sklad_P"_s, u"TovPrih"_s) >> Open(u"Command1"_s, u"PrihNew"_s) >>
+           AddLine(u"sprtovar2"_s, u"PrihNew"_s) >> CheckAt(u"Check1"_s),
+       Click(u"ok"_s),
+       Changed(kMain + "товар.usl", u"Чай\n2.5\nпач."_s) +
+           Changed(kMain + "PRH/0002.prh",
+                   u"2\n23.11.2026\n-\n112.50\nда\nЧай\n2.5\nпач.\n45.00"_s)},
+      {"TovPrih", "приход: удаление со списанием", Menu(u"mnu_Sklad_P"_s, u"TovPrih"_s),
+       Click(u"Command3"_s) >> Yes(),
+       Gone(kMain + "PRH/0001.prh") +
+           Changed(kMain + "товар.usl", u"Чай\n0.00\nпач.\nЧай\n- 20\nпач."_s)},
+      {"TovUhod UhodNew price2", "расход: новый закрытый",
+       Menu(u"mnu_Sklad_R"_s, u"TovUhod"_s) >> Open(u"Command1"_s, u"UhodNew"_s) >>
+           [](Robot& robot) { robot.Type(u"Text19"_s, u"10"_s); } >>
+           AddLine(u"price2"_s, u"UhodNew"_s) >> CheckAt(u"Check1"_s),
+       Click(u"ok"_s),
+       Changed(kMain + "товар.usl", u"Чай\n-2.50\nпач."_s) +
+           Changed(kMain + "UHD/0002.uhd",
+                   u"2\n23.11.2026\n-\n112.50\n10\n101.25\nда\n"
+                   u"Чай\n2.5\nпач.\n45.00\n45.00\n40.50"_s)},
+      {"TovUhod", "расход: удаление открытого", Menu(u"mnu_Sklad_R"_s, u"TovUhod"_s),
+       Click(u"Command3"_s) >> Yes(), Gone(kMain + "UHD/0001.uhd")},
+      {"vnutr vnutrNew", "перемещение: новое",
+       Menu(u"mnu_Sklad_VO"_s, u"vnutr"_s) >> Open(u"Command1"_s, u"vnutrNew"_s) >>
+           ChooseIn(u"destination"_s, u"Магазин"_s) >> AddLine(u"price2"_s, u"vnutrNew"_s),
+       Click(u"ok"_s),
+       Changed(kMain + "товар.usl", u"Чай\n-2.50\nпач."_s) +
+           Changed(kShop + "товар.usl", u"Чай\n22.5\nпач."_s) +
+           Changed(kBase + "ВНПЕР/0002.vpr",
+                   u"2\n23.11.2026\nГлавный склад\nМагазин\n112.50\n"
+                   u"Чай\n2.5\nпач.\n45.00\n45.00"_s)},
+      {"vnutr", "перемещение: удаление с возвратом", Menu(u"mnu_Sklad_VO"_s, u"vnutr"_s),
+       Click(u"Command3"_s) >> Yes(),
+       Gone(kBase + "ВНПЕР/0001.vpr") +
+           Changed(kMain + "товар.usl", u"Чай\n0.00\nпач.\nЧай\n20\nпач."_s) +
+           Changed(kShop + "товар.usl", u"Чай\n20\nпач.\nЧай\n- 20\nпач."_s)},
+      {"ost sprtovar2", "остатки",
+       Menu(u"mnu_Sklad_ZO"_s, u"ost"_s) >> ChooseIn(u"Combo1"_s, u"Магазин"_s) >>
+           Open(u"Command1"_s, u"sprtovar2"_s) >>
+           [](Robot& robot) {
+             robot.SelectRow(u"ListView1"_s, u"Соль"_s);
+             robot.Press(Qt::Key_Return);
+             Answer(u"colvo"_s, u"7"_s)(robot);
+             robot.WaitFor(u"ost"_s);
+           },
+       Click(u"Command4"_s), Changed(kShop + "товар.usl", u"Чай\n20\nпач.\nСоль\n7\nкг"_s)},
+      {"Sklad colvo", "наличие: изменение",
+       Menu(u"mnu_Sklad_NT"_s, u"Sklad"_s) >> Select(u"Соль"_s),
+       Click(u"Command1"_s) >> Answer(u"colvo"_s, u"5"_s),
+       Changed(kMain + "товар.usl", u"Соль\n5\nкг"_s)},
+      {"Sklad", "наличие: обнуление",
+       Menu(u"mnu_Sklad_NT"_s, u"Sklad"_s) >> ChooseIn(u"Combo1"_s, u"Магазин"_s),
+       Click(u"Command3"_s) >> Yes(), Changed(kShop + "товар.usl", u"Чай\n0\n0"_s)},
+  };
+}
+
+std::vector<GoldenCase> PriceCases() {
+  const Step open = Menu(u"mnu_Sklad_PL"_s, u"Price"_s) >> ChooseIn(u"Combo2"_s, u"Опт"_s);
+  return {
+      {"Price prChange", "прайс: цена", open >> Select(u"Чай"_s),
+       Click(u"Command2"_s) >> Answer(u"prChange"_s, u"61.5"_s),
+       Changed(kMain + "PRICE/0003.prc",
+               u" Бакалея\nЧай\nпач.\n45.00\n61.50\nСоль\nкг\n9.50\n9.50"_s)},
+      {"Price", "прайс: сохранение", open >> Select(u"Соль"_s) >> Click(u"GoldButton2"_s),
+       Click(u"Command5"_s),
+       Changed(kMain + "PRICE/0003.prc", u" Бакалея\nЧай\nпач.\n45.00\n45.00"_s)},
+      {"Price", "прайс: копирование", open, Click(u"Command7"_s),
+       Changed("data/temp.prc", u" Бакалея\nЧай\nпач.\n45.00\n45.00\nСоль\nкг\n9.50\n9.50"_s)},
+  };
+}
+
+std::vector<GoldenCase> StoreCases() {
+  return {
+      {"BasesNew", "база: создание",
+       Menu(u"mnuFileCreate"_s, u"BasesNew"_s) >>
+           [](Robot& robot) { robot.Type(u"Text3"_s, u"Третья"_s); },
+       Click(u"Command1"_s),
+       Copied("data/0002/", "data/0003/") + Changed("data/0003.us", u"0003\\\nТретья"_s),
+       Beside::kSecondDatabaseAndBackup},
+      {"Bases", "базы: переименование", Menu(u"mnubases"_s, u"Bases"_s) >> Select(u"Вторая"_s),
+       Click(u"GoldButton1"_s) >> Answer(u"AskText"_s, u"Иная"_s),
+       Changed("data/0002.us", u"0002\\\nИная"_s), Beside::kSecondDatabaseAndBackup},
+      {"Bases", "базы: удаление", Menu(u"mnubases"_s, u"Bases"_s) >> Select(u"Вторая"_s),
+       Click(u"GoldButton2"_s) >> Yes(), Gone("data/0002"), Beside::kSecondDatabaseAndBackup},
+      {"BasesImport Import", "импорт",
+       Menu(u"mnuimp"_s, u"BasesImport"_s) >> Select(u"Вторая"_s) >>
+           Open(u"Command1"_s, u"Import"_s) >> CheckAt(u"Check1"_s),
+       Click(u"Command1"_s), Empty(kBase + "SPR/товар.spr"), Beside::kSecondDatabaseAndBackup},
+      {"rescopy", "копирование",
+       Menu(u"arch"_s, u"rescopy"_s) >> Select(u"Лавка"_s) >>
+           [](Robot& robot) { robot.Press(Qt::Key_Space); } >> Click(u"Command1"_s) >>
+           TypeFolder(u"/.."_s),
+       Click(u"Command1"_s),
+       Empty(kBackup) + Copied(kBase, kBackup + "0001/") +
+           Changed(kBackup + "0001.us", u"0001\\\nЛавка"_s) +
+           Changed(kBackup + "archive.idb", u"0001.us\n0001\\\nЛавка"_s),
+       Beside::kSecondDatabaseAndBackup, "rescopy"},
+      {"resrep", "восстановление",
+       Menu(u"reparch"_s, u"resrep"_s) >> TypeFolder(u"/Копия БД Kladez от 23-11-26"_s) >>
+           Click(u"Command1"_s) >> Select(u"Вторая"_s) >>
+           [](Robot& robot) { robot.Press(Qt::Key_Space); },
+       Click(u"Command1"_s),
+       Copied("data/0002/", "data/0003/") + Changed("data/0003.us", u"0003\\\nВторая (копия)"_s),
+       Beside::kSecondDatabaseAndBackup, "resrep"},
+  };
+}
+
+GoldenCase Page(const std::string& screens, const std::string& what, const Step& prepare,
+                const QString& command = u"Command1"_s) {
+  return {screens, what, prepare, Click(command), PageOf(screens)};
+}
+
+std::vector<GoldenCase> PageCases() {
+  const Step receipt = Menu(u"mnu_Sklad_P"_s, u"TovPrih"_s) >> Open(u"Command2"_s, u"PrihNew"_s);
+  const Step shipment = Menu(u"mnu_Sklad_R"_s, u"TovUhod"_s) >> Open(u"Command2"_s, u"UhodNew"_s);
+  const Step transfer = Menu(u"mnu_Sklad_VO"_s, u"vnutr"_s) >> Open(u"Command2"_s, u"vnutrNew"_s);
+  return {
+      Page("prihnokl", "накладная прихода", receipt >> Open(u"prn"_s, u"prihnokl"_s)),
+      Page("PrihNakl", "накладная расхода", shipment >> Open(u"prn"_s, u"PrihNakl"_s)),
+      Page("vnNakl", "накладная перемещения", transfer >> Open(u"prn"_s, u"vnNakl"_s)),
+      Page("chFactPrint", "счет-фактура", shipment >> Open(u"prs"_s, u"chFactPrint"_s)),
+      Page("UhodSch", "счет", shipment >> Open(u"pri"_s, u"UhodSch"_s)),
+      Page("pricePrint", "прайс-лист",
+           Menu(u"mnu_Sklad_PL"_s, u"Price"_s) >> Open(u"Command9"_s, u"pricePrint"_s)),
+      Page("Sklad", "наличие", Menu(u"mnu_Sklad_NT"_s, u"Sklad"_s), u"Command2"_s),
+      Page("otppr", "отчет по продажам", Menu(u"mnu_Otchet_OPP"_s, u"otppr"_s)),
+      Page("otrpt", "скорость реализации", Menu(u"mnu_Otchet_RPVT"_s, u"otrpt"_s)),
+      Page("otpruh", "поступление и реализация", Menu(u"mnu_Otchet_DB"_s, u"otpruh"_s)),
+      {"otgr graphic waitplease", "график",
+       Menu(u"mnu_Otchet_GP"_s, u"otgr"_s) >> Open(u"Command1"_s, u"graphic"_s),
+       Click(u"GoldButton1"_s), Empty("data/temp.gif") + PageOf("waitplease"), Beside::kNothing,
+       "waitplease"},
+  };
+}
+
+}  // namespace
+
+const std::vector<GoldenCase>& GoldenCases() {
+  static const std::vector<GoldenCase> cases = [] {
+    std::vector<GoldenCase> all;
+    for (auto& part :
+         {DirectoryCases(), DocumentCases(), PriceCases(), StoreCases(), PageCases()}) {
+      all.insert(all.end(), part.begin(), part.end());
+    }
+    return all;
+  }();
+  return cases;
+}
+
+}  // namespace kladez
