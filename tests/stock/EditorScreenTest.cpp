@@ -248,6 +248,26 @@ TEST_F(Editors, PropertiesShowTheFileAndOpenThePrints) {
   }
 }
 
+// Documents from before the decimal point was fixed have a comma in their figures.
+TEST_F(Editors, PropertiesPrintTheFiguresOfADocumentWithDecimalCommas) {
+  world_.Temp().PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
+                         {u"1"_s, u"22.11.2026"_s, u"-"_s, u"180,00"_s, u"2,5"_s, u"175,50"_s,
+                          u"да"_s, u"Чай"_s, u"3"_s, u"шт."_s, u"45.50"_s, u"60.00"_s, u"58.50"_s});
+  TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+  ShowActive(&properties);
+  EXPECT_EQ(TextOf(&properties, "Text3"), u"2.5");
+  EXPECT_EQ(TextOf(&properties, "net_sum"), u"175.50");
+  for (const char* entry : {"prn", "prs", "pri"}) {
+    ModalAnswers answers({[&](QWidget* screen) {
+      EXPECT_EQ(TextOf(screen, "Text6"), QLatin1String(entry) == "prn"_L1 ? u"180.00" : u"175.50");
+      EXPECT_EQ(TextOf(screen, "Text19"), u"2.5");
+      EXPECT_TRUE(TextOf(screen, "Text20").startsWith(u"Сто семьдесят ")) << entry;
+      QTest::keyClick(screen, Qt::Key_Escape);
+    }});
+    Find<QAction>(&properties, entry)->trigger();
+  }
+}
+
 TEST_F(Editors, EachPrintCommandOpensItsScreen) {
   world_.Put(DocumentKind::kReceipt);
   world_.Put(DocumentKind::kTransfer);

@@ -23,7 +23,10 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   Document document =
       ReadDocument(kind, context.data.Read(DocumentPath(context.session, kind, warehouse, file)));
   head_ = document.head;
-  head_.sum = ToNumberOr(head_.sum);
+  // The prints are given these figures as they stand here.
+  for (QString* figure : {&head_.sum, &head_.discount, &head_.net_sum}) {
+    *figure = ToNumberOr(*figure);
+  }
   for (DocumentLine& line : document.lines) lines_.push_back(WithAmount(std::move(line)));
   setObjectName(screens_.properties_name);
   setWindowTitle(screens_.properties_caption + head_.number.left(look::kLongestText));
@@ -75,8 +78,8 @@ QFormLayout* DocumentProperties::NewFields(const DocumentHead& head) {
   form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
   Text4 = AddField(form, screens_.properties_sum_caption, u"Text4"_s, head.sum);
   if (screens_.HasDiscount()) {
-    Text3 = AddField(form, u"Скидка %:"_s, u"Text3"_s, ToNumberOr(head.discount));
-    net_sum_ = AddField(form, u"Сумма со скидкой:"_s, u"net_sum"_s, ToNumberOr(head.net_sum));
+    Text3 = AddField(form, u"Скидка %:"_s, u"Text3"_s, head.discount);
+    net_sum_ = AddField(form, u"Сумма со скидкой:"_s, u"net_sum"_s, head.net_sum);
   }
   if (BookOf(screens_.kind).has_flag) {
     closed_ = AddField(form, u"Счет закрыт:"_s, u"closed"_s, head.closed);
