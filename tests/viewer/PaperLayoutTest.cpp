@@ -175,6 +175,38 @@ TEST(OutputTest, SheetPicturesHaveLinesAndLettersInsideTheMargins) {
   EXPECT_EQ(dark_at_edges, 0) << "something is drawn in the margins";
 }
 
+// How many lines across the upper third of the first sheet have a hole; `lines` of them there are.
+int LinesWithHoles(const PaperLayout& layout, int* lines) {
+  constexpr int kFineDpi = 1200;
+  const QSize paper = layout.format().page.fullRectPixels(kFineDpi).size();
+  QImage picture(paper.width(), paper.height() / 3, QImage::Format_Grayscale8);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  layout.Draw(painter, 0, kFineDpi);
+  painter.end();
+  int holes = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    const uchar* row = picture.constScanLine(y);
+    const auto dark = std::count_if(row, row + paper.width(), [](uchar c) { return c < 128; });
+    if (dark < paper.width() * 0.8) {
+      continue;
+    }
+    ++*lines;
+    const auto first = std::find_if(row, row + paper.width(), [](uchar c) { return c < 128; });
+    holes += std::any_of(first, first + dark, [](uchar c) { return c >= 128; });
+  }
+  return holes;
+}
+
+TEST(OutputTest, LinesOfTablesHaveNoHoles) {
+  for (const QString& page : {WaybillPage(5, u"К"_s), PricePage(5, 3)}) {
+    const auto layout = LaidOut(page);
+    int lines = 0;
+    EXPECT_EQ(LinesWithHoles(*layout, &lines), 0) << page.mid(100, 60).toStdString();
+    EXPECT_GT(lines, 50);
+  }
+}
+
 TEST(OutputTest, PdfNameIsTakenByEveryFileSystem) {
   EXPECT_EQ(PdfName(u"Отчет от 05 марта 2026"_s), u"Отчет от 05 марта 2026.pdf"_s);
   EXPECT_EQ(PdfName(u"a/b\\c:d*e?\"<f>|"_s), u"a b c d e f.pdf"_s);

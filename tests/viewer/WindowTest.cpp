@@ -98,6 +98,33 @@ TEST_F(ViewerWindowTest, OpensAtTheTopUnderItsTitle) {
   EXPECT_GT(View()->verticalScrollBar()->maximum(), 1000);
 }
 
+TEST_F(ViewerWindowTest, TablesOfTheWholeWidthStandBetweenTheMarginsOfTheSheet) {
+  for (const QString& page :
+       {WaybillPage(3, u"К"_s), ReportPage(9), BillPage(3), PricePage(3, 2)}) {
+    LoadAndShow(page);
+    window_.resize(View()->WidthForPage(), window_.height());
+    QApplication::processEvents();
+    const QImage sheet = View()->viewport()->grab().toImage();
+    const auto is_dark = [&sheet](int x, int y) { return qGray(sheet.pixel(x, y)) < 64; };
+    const double margin = View()->document()->documentMargin();
+    int lines = 0;
+    for (int y = 0; y < sheet.height(); ++y) {
+      int left = 0;
+      int right = sheet.width() - 1;
+      while (left < right && !is_dark(left, y)) ++left;
+      while (left < right && !is_dark(right, y)) --right;
+      if (right - left < sheet.width() / 2 || !is_dark((left + right) / 2, y)) continue;
+      int dark = 0;
+      for (int x = left; x <= right; ++x) dark += is_dark(x, y);
+      if (dark <= right - left) continue;
+      ++lines;
+      EXPECT_NEAR(left, margin, 1) << window_.windowTitle().toStdString();
+      EXPECT_NEAR(right, sheet.width() - margin, 2) << window_.windowTitle().toStdString();
+    }
+    EXPECT_GT(lines, 4) << window_.windowTitle().toStdString();
+  }
+}
+
 TEST_F(ViewerWindowTest, KeepsItsContentWhenThePageOnDiskIsReplaced) {
   LoadAndShow(WaybillPage(3, u"Первый"_s));
   Put(WaybillPage(3, u"Второй"_s));

@@ -33,7 +33,11 @@ QTextLength LengthOf(const Width& width) {
 QTextTableFormat FormatOf(const Table& table) {
   QTextTableFormat format;
   format.setWidth(LengthOf(table.width));
-  format.setAlignment(table.align);
+  // The toolkit centres a table between the edge of the view and the right margin: one that takes
+  // the whole width would stand half a margin too far to the right.
+  if (table.width.kind != Width::Kind::kPercent || table.width.value < 100) {
+    format.setAlignment(table.align);
+  }
   format.setCellPadding(table.padding);
   format.setCellSpacing(table.collapse ? 0 : table.spacing);
   // A collapsed border is drawn by the cells: the toolkit draws that of a table out of its place.

@@ -11,8 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Fine enough for letters to stand as on any printer; the strip of the page is measured in it.
-constexpr int kPaperDpi = 600;
+// Fine enough for letters to stand as on any printer; the strip of the page is measured in it. A
+// pixel of the page is a whole number of its dots, so that lines of a table meet without a gap.
+constexpr int kPaperDpi = 576;
 constexpr double kDotsPerPixel = kPaperDpi / kDotsPerInch;
 constexpr double kDotsPerMillimetre = kPaperDpi / 25.4;
 
