@@ -121,6 +121,35 @@ TEST_F(CopyWizards, CancelWhileCopyingLeavesNothing) {
   EXPECT_TRUE(drive_.Tree().empty());
 }
 
+// The folder of the last good path would be taken in silence.
+TEST_F(CopyWizards, TypedPathThatIsNoFolderIsNotPassedOver) {
+  rescopy screen(world_.Context(), nullptr);
+  const QString missing = drive_.Root() + u"/нет такой"_s;
+  const ModalAnswers::Step told = Press(
+      QMessageBox::Ok, u"Такой папки нет. Выберите её в дереве или напишите полный путь к ней."_s);
+  ModalAnswers answers{[&](QWidget* dialog) {
+                         ToLastStepOfBackup(dialog);
+                         auto* path = Find<QLineEdit>(dialog, "Path1");
+                         path->setFocus();
+                         for (const QString& typed : {missing, u"папка"_s, u""_s}) {
+                           path->selectAll();
+                           QTest::keyClick(path, Qt::Key_Delete);
+                           Type(path, typed);
+                           EXPECT_EQ(path->text(), typed);
+                           Click(dialog, "Command1");
+                           EXPECT_TRUE(dialog->isVisible());
+                           EXPECT_TRUE(drive_.Tree().empty()) << typed.toStdString();
+                         }
+                         // The same folder as before, whose row is still the current one.
+                         Choose(dialog, drive_.Root());
+                         Click(dialog, "Command1");
+                         EXPECT_FALSE(dialog->isVisible());
+                       },
+                       told, told, told};
+  screen.exec();
+  EXPECT_TRUE(QFile::exists(drive_.Root() + kFolder + u"/archive.idb"_s));
+}
+
 TEST_F(CopyWizards, RestoreWaitsForAFolderWithAnIndex) {
   ASSERT_TRUE(
       MakeBackup(Data(), ListDatabases(Data()), drive_.Root(), world_.Context().clock.Today()));
@@ -129,6 +158,10 @@ TEST_F(CopyWizards, RestoreWaitsForAFolderWithAnIndex) {
                          EXPECT_EQ(Find<QLabel>(dialog, "Label1")->text(),
                                    u"Выбрите папку, в которую Вы ранее скопировали базы данных"_s);
                          Choose(dialog, drive_.Root());
+                         EXPECT_FALSE(Find<QAbstractButton>(dialog, "Command1")->isEnabled());
+                         Choose(dialog, drive_.Root() + kFolder);
+                         EXPECT_TRUE(Find<QAbstractButton>(dialog, "Command1")->isEnabled());
+                         Type(Find<QLineEdit>(dialog, "Path1"), u"?"_s);
                          EXPECT_FALSE(Find<QAbstractButton>(dialog, "Command1")->isEnabled());
                          Choose(dialog, drive_.Root() + kFolder);
                          EXPECT_TRUE(Find<QAbstractButton>(dialog, "Command1")->isEnabled());

@@ -68,10 +68,10 @@ FolderChooser::FolderChooser(QWidget* parent)
   connect(folders_, &QFileSystemModel::layoutChanged, this, show_chosen, Qt::QueuedConnection);
   connect(Drive1, &QComboBox::activated, this,
           [this] { SetFolder(Drive1->currentData().toString()); });
-  connect(Path1, &QLineEdit::textEdited, this, [this](const QString& path) {
-    // A path that is not there yet is kept in the field and is no folder.
-    if (QDir::isAbsolutePath(path) && QDir(path).exists()) SetFolder(path);
-  });
+  // A click on the current row chooses it again, after a typed path that led nowhere.
+  connect(Dir1, &QTreeView::clicked, this,
+          [this](const QModelIndex& index) { Chosen(folders_->filePath(index)); });
+  connect(Path1, &QLineEdit::textEdited, this, &FolderChooser::Typed);
   SetFolder(QDir::homePath());
 }
 
@@ -90,6 +90,17 @@ void FolderChooser::SetFolder(const QString& folder) {
   Dir1->setCurrentIndex(index);
   Dir1->expand(index);
   Dir1->scrollTo(index);
+  if (folder_ != path) Chosen(path);  // its row was the current one already
+}
+
+void FolderChooser::Typed(const QString& path) {
+  if (QDir::isAbsolutePath(path) && QDir(path).exists()) {
+    SetFolder(path);
+    return;
+  }
+  // It is kept in the field, and the folder of before is not taken for it.
+  folder_.clear();
+  emit FolderChanged(folder_);
 }
 
 void FolderChooser::Chosen(const QString& folder) {

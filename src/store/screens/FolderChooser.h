@@ -17,7 +17,7 @@ class FolderChooser : public QWidget {
  public:
   explicit FolderChooser(QWidget* parent);
 
-  // A path of the machine.
+  // A path of the machine; empty while the path that was typed is no folder.
   QString Folder() const { return folder_; }
   void SetFolder(const QString& folder);  // no effect where it does not exist
 
@@ -26,6 +26,7 @@ class FolderChooser : public QWidget {
 
  private:
   void FillDrives();
+  void Typed(const QString& path);
   void Chosen(const QString& folder);
 
   QString folder_;

@@ -34,6 +34,10 @@ void rescopy::Next() {
     });
     return;
   }
+  if (chooser_->Folder().isEmpty()) {
+    ShowMessage(this, u"Такой папки нет. Выберите её в дереве или напишите полный путь к ней."_s);
+    return;
+  }
   Copy(
       [this](const CopyProgress& progress) {
         return MakeBackup(context_.data, ListView1->Checked(), chooser_->Folder(),
