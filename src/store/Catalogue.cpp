@@ -129,7 +129,8 @@ void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
 
 QString DirectorPassword(const DataDir& data) {
   const QByteArray bytes = data.ReadIfAny(u"bases.psw"_s).value_or(QByteArray());
-  return LineReader(bytes).Next();
+  const QString line = LineReader(bytes).Next();
+  return line.left(line.indexOf(u'\n'));
 }
 
 }  // namespace kladez

@@ -208,6 +208,11 @@ TEST(Catalogue, PasswordIsTheFirstLineOnly) {
   EXPECT_EQ(DirectorPassword(temp.Data()), QString());
   temp.PutLines(u"BASES.PSW"_s, {u" Пароль "_s, u"x"_s});
   EXPECT_EQ(DirectorPassword(temp.Data()), u" Пароль "_s);
+  // The file is placed by hand, and most editors here end a line otherwise.
+  temp.Put(u"BASES.PSW"_s, "secret\n");
+  EXPECT_EQ(DirectorPassword(temp.Data()), u"secret"_s);
+  temp.Put(u"BASES.PSW"_s, "\nsecond\n");
+  EXPECT_EQ(DirectorPassword(temp.Data()), QString());
 }
 
 }  // namespace
