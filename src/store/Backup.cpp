@@ -101,9 +101,9 @@ bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
 }
 
 bool IsBackupFolder(const QString& folder) {
-  return QFileInfo(folder.endsWith(u'/') ? QString(folder + kIndex)
-                                         : QString(folder + u'/' + kIndex))
-      .isFile();
+  bool found = false;
+  IgnoreErrors([&] { found = DataDir(folder).FileExists(kIndex.toString()); });
+  return found;
 }
 
 bool RestoreDatabases(const DataDir& data, const DataDir& backup,

@@ -28,7 +28,8 @@ QString BackupTarget(const QString& folder, QDate day);
 bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
                 const QString& folder, QDate day, const CopyProgress& progress = {});
 
-// Whether a folder of the machine holds archive.idb, by which a backup is known.
+// Whether a folder of the machine holds archive.idb, by which a backup is known. No folder, no
+// backup.
 bool IsBackupFolder(const QString& folder);
 
 // Brings the entries of a backup (ListDatabases of its folder) back one after the other, each under

@@ -83,6 +83,10 @@ TEST_F(BackupTest, HoldsIndexDescriptorsAndWholeTrees) {
   EXPECT_EQ(data_.Tree(), before_);
   EXPECT_TRUE(IsBackupFolder(BackupTarget(drive_.Root(), kDay)));
   EXPECT_FALSE(IsBackupFolder(drive_.Root()));
+  // Memory sticks may give names back in capitals.
+  ASSERT_TRUE(QDir(BackupTarget(drive_.Root(), kDay)).rename(u"archive.idb"_s, u"ARCHIVE.IDB"_s));
+  EXPECT_TRUE(IsBackupFolder(BackupTarget(drive_.Root(), kDay)));
+  EXPECT_FALSE(IsBackupFolder({}));
 }
 
 TEST_F(BackupTest, RootOfADriveGetsNoSecondSeparator) {
