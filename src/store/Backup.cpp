@@ -40,7 +40,7 @@ class Unfinished {
 };
 
 QByteArray TreeOf(const DataDir& data, const CatalogueEntry& entry) {
-  RequirePlainPath(entry);
+  RequirePlainPath(data, entry);
   if (!data.DirectoryExists(entry.descriptor.path)) {
     ThrowFileError(u"Нет каталога базы «"_s + entry.descriptor.name + u'»',
                    data.Root() + u'/' + entry.descriptor.path.chopped(1), ENOENT);

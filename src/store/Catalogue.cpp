@@ -50,15 +50,26 @@ int FreeDatabaseNumber(const DataDir& data) {
   return number;
 }
 
-void RequirePlainPath(const CatalogueEntry& entry) {
-  if (IsPlainTreePath(entry.descriptor.path)) return;
+void RequirePlainPath(const DataDir& data, const CatalogueEntry& entry) {
+  const QString& path = entry.descriptor.path;
+  int reason = IsPlainTreePath(path) ? 0 : EINVAL;
+  try {
+    if (reason == 0) data.Resolve(path);
+  } catch (const std::filesystem::filesystem_error& error) {
+    reason = error.code().value();
+  }
+  if (reason == 0) return;
   ThrowFileError(u"В описании базы "_s + entry.file +
                      u" указан путь не к каталогу рядом с ним, работать с ней нельзя"_s,
-                 entry.descriptor.path, EINVAL);
+                 path, reason);
 }
 
-bool IsInUse(const Session& session, const CatalogueEntry& entry) {
-  return session.IsOpen() && entry.descriptor.path == session.basedir;
+bool IsInUse(const DataDir& data, const Session& session, const CatalogueEntry& entry) {
+  if (!session.IsOpen()) return false;
+  bool same = entry.descriptor.path == session.basedir;
+  IgnoreErrors(
+      [&] { same = same || data.Resolve(entry.descriptor.path) == data.Resolve(session.basedir); });
+  return same;
 }
 
 int RowAtPosition(int position, int rows) {
@@ -120,7 +131,7 @@ void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QStr
 }
 
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
-  RequirePlainPath(entry);
+  RequirePlainPath(data, entry);
   SaveSet save(data);
   if (data.DirectoryExists(entry.descriptor.path)) save.DeleteTree(entry.descriptor.path);
   save.Delete(entry.file);

@@ -39,11 +39,13 @@ void AddNewWarehouse(SaveSet& save, const QString& path);
 int FreeDatabaseNumber(const DataDir& data);
 
 // Throws filesystem_error for an entry whose path is not one plain directory name (see
-// IsPlainTreePath): it is listed, but neither opened nor deleted, copied or imported from.
-void RequirePlainPath(const CatalogueEntry& entry);
+// IsPlainTreePath), or is a link that leads out of the directory of the descriptor: it is listed,
+// but neither opened nor deleted, copied or imported from.
+void RequirePlainPath(const DataDir& data, const CatalogueEntry& entry);
 
-// Whether the entry is the open Database, which can be neither renamed nor deleted.
-bool IsInUse(const Session& session, const CatalogueEntry& entry);
+// Whether the entry is the open Database, however it is spelled; that one can be neither renamed
+// nor deleted.
+bool IsInUse(const DataDir& data, const Session& session, const CatalogueEntry& entry);
 
 // The row (from 0) that a catalogue list selects: `position` is the setting "FilePos", from 1. One
 // past the end, as a creation leaves it, gives the last row, anything further out the first; -1 in

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QComboBox>
 #include <QLabel>
@@ -192,7 +193,7 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
       {true, {}, false, {}, {}, u"7"_s, u"old"_s},
       {true, {}, true, u"0001\\"_s, {}, u"1"_s, u"old"_s},
       {false, u"0001\\"_s, false, {}, both, u"7"_s, u"old"_s},
-      {false, u"0001\\"_s, true, {}, {u"HideDatabaseMenus"_s}, u"0"_s, u"0001\\"_s},
+      {false, u"0001\\"_s, true, {}, {u"HideDatabaseMenus"_s}, u"7"_s, u"0001\\"_s},
   };
   for (const Case& c : cases) {
     for (const auto& entry : ListDatabases(Data())) DeleteDatabase(Data(), entry);
@@ -233,6 +234,52 @@ TEST_F(CatalogueScreens, PathThatLeadsElsewhereIsShownButNotOpened) {
       }};
   EXPECT_FALSE(bases_.Run(Bases::Mode::kOpen));
   EXPECT_EQ(host_.calls, QStringList());
+}
+
+TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNorImported) {
+  const TempData outside;
+  Create({u"Первая"_s});
+  world_.Temp().PutLines(u"0002.us"_s, {u"0002\\"_s, u"Чужая"_s});
+  const QByteArray link = QFile::encodeName(world_.Temp().Root() + u"/0002"_s);
+  ASSERT_EQ(::symlink(QFile::encodeName(outside.Root()).constData(), link.constData()), 0);
+  const ModalAnswers::Step told = [](QWidget* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    ASSERT_NE(box, nullptr) << dialog->objectName().toStdString();
+    EXPECT_TRUE(box->text().contains(u"0002.us"_s)) << box->text().toStdString();
+    box->close();
+  };
+  {
+    ModalAnswers answers{On([](Bases* bases) {
+                           SelectRow(bases, 1);
+                           Click(bases, "Command1");
+                           EXPECT_TRUE(bases->isVisible());
+                           Click(bases, "GoldButton2");
+                           bases->close();
+                         }),
+                         told, Press(QMessageBox::Yes, u"Вы уверены?"_s), told};
+    EXPECT_FALSE(bases_.Run(Bases::Mode::kCatalogue));
+  }
+  EXPECT_EQ(host_.calls, QStringList());
+  EXPECT_EQ(ListDatabases(Data()).size(), 2u);
+  TheSession().basedir = u"0001\\"_s;
+  BasesImport screen(world_.Context(), host_, nullptr);
+  ShowActive(&screen);
+  SelectRow(&screen, 1);
+  ModalAnswers answers{told};
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+}
+
+TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
+  for (const auto mode : {Bases::Mode::kCatalogue, Bases::Mode::kOpen}) {
+    ModalAnswers answers{On([](Bases* bases) {
+      const QString text = Find<CatalogueList>(bases, "ListView1")->EmptyText();
+      const bool there = Find<QAbstractButton>(bases, "GoldButton3")->isVisible();
+      EXPECT_EQ(text.contains(u"Нажмите «Создать»"_s), there) << text.toStdString();
+      bases->close();
+    })};
+    bases_.Run(mode);
+  }
 }
 
 TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {

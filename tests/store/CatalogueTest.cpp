@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "TempData.h"
 #include "store/Catalogue.h"
@@ -183,6 +184,47 @@ TEST(Catalogue, PathThatLeadsElsewhereIsNeverDeleted) {
     }
     EXPECT_EQ(temp.Tree(), before);
   }
+}
+
+// A plain name is not enough: the directory beside the descriptor may be a link.
+TEST(Catalogue, TreeBehindALinkThatLeadsOutIsNeverDeleted) {
+  const TempData outside;
+  outside.Put(u"marked"_s, "x");
+  const TempData temp;
+  temp.PutLines(u"0001.us"_s, {u"0001\\"_s, u"Чужая"_s});
+  const QByteArray link = QFile::encodeName(temp.Root() + u"/0001"_s);
+  ASSERT_EQ(::symlink(QFile::encodeName(outside.Root()).constData(), link.constData()), 0);
+  try {
+    DeleteDatabase(temp.Data(), ListDatabases(temp.Data()).front());
+    ADD_FAILURE() << "nothing was refused";
+  } catch (const std::filesystem::filesystem_error& error) {
+    const QString told = ErrorText(error);
+    EXPECT_TRUE(told.contains(u"0001.us"_s) && told.contains(u"ссылка"_s)) << told.toStdString();
+  }
+  EXPECT_EQ(temp.Lines(u"0001.us"_s), (QStringList{u"0001\\"_s, u"Чужая"_s}));
+  EXPECT_EQ(outside.Bytes(u"marked"_s), "x");
+}
+
+TEST(Catalogue, OpenTreeIsKnownUnderEverySpelling) {
+  const TempData temp;
+  temp.Put(u"Лавка\\marked"_s, "x");
+  temp.Put(u"0002\\marked"_s, "y");
+  ASSERT_EQ(::symlink("Лавка", QFile::encodeName(temp.Root() + u"/0001"_s).constData()), 0);
+  Session session;
+  const auto in_use = [&](const QString& path) {
+    return IsInUse(temp.Data(), session, {u"0001.us"_s, {path, u"А"_s}});
+  };
+  EXPECT_FALSE(in_use({}));
+  session.basedir = u"Лавка\\"_s;
+  for (const QString& path : {u"Лавка\\"_s, u"ЛАВКА\\"_s, u"0001\\"_s}) {
+    EXPECT_TRUE(in_use(path)) << path.toStdString();
+  }
+  for (const QString& path : {u""_s, u"0002\\"_s, u"..\\"_s, u"нет\\"_s}) {
+    EXPECT_FALSE(in_use(path)) << path.toStdString();
+  }
+  // The open one may have been removed from the disk meanwhile.
+  session.basedir = u"0009\\"_s;
+  EXPECT_TRUE(in_use(u"0009\\"_s));
 }
 
 TEST(Catalogue, PositionPicksTheRowThatWasLeft) {

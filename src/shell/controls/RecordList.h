@@ -31,6 +31,7 @@ class RecordList : public QTreeView {
 
   // What stands in an empty list: what to do first.
   void SetEmptyText(const QString& text);
+  const QString& EmptyText() const { return empty_text_; }
 
  signals:
   void InsertPressed();

@@ -42,7 +42,6 @@ Bases::Bases(AppContext& context, CatalogueHost& host, QWidget* parent)
   Combo1->addItems({u"Продавец"_s, u"Директор"_s});
   Combo1->setCurrentIndex(-1);
   Combo1->setPlaceholderText(u"не выбран"_s);
-  ListView1->SetEmptyText(u"Нет ни одной базы данных. Нажмите «Создать»."_s);
 
   auto* side = new QVBoxLayout;
   for (QPushButton* button : {GoldButton3, GoldButton1, GoldButton2}) side->addWidget(button);
@@ -81,6 +80,8 @@ bool Bases::Run(Mode mode) {
   setWindowTitle(open ? u"Открыть"_s : u"Kladez"_s);
   ListView1->setFixedWidth(look::FromTwips(open ? kWideListWidth : kListWidth));
   for (QPushButton* button : {GoldButton1, GoldButton2, GoldButton3}) button->setVisible(!open);
+  ListView1->SetEmptyText(open ? u"Нет ни одной базы данных."_s
+                               : u"Нет ни одной базы данных. Нажмите «Создать»."_s);
   adjustSize();
   Guarded(this, [this] { Fill(); });
   ListView1->setFocus();
@@ -100,7 +101,8 @@ void Bases::Fill() {
 
 void Bases::WriteChoice(int position) {
   context_.settings.Write(settings::kRole, QString::number(Combo1->currentIndex()));
-  context_.settings.Write(settings::kFilePos, QString::number(position));
+  // Without a selected row the position of before stays.
+  if (position > 0) context_.settings.Write(settings::kFilePos, QString::number(position));
 }
 
 bool Bases::MayEnter() {
@@ -120,7 +122,7 @@ void Bases::Open() {
   Guarded(this, [this] {
     if (!ListView1->HasSelection()) return;
     const CatalogueEntry entry = ListView1->Selected();
-    RequirePlainPath(entry);
+    RequirePlainPath(context_.data, entry);
     if (!MayEnter()) return;
     context_.session.bases_text1 = entry.descriptor.path;
     host_.CloseChildScreens();
@@ -157,7 +159,7 @@ void Bases::closeEvent(QCloseEvent* event) {
 void Bases::Rename() {
   Guarded(this, [this] {
     const CatalogueEntry entry = ListView1->Selected();
-    if (IsInUse(context_.session, entry)) {
+    if (IsInUse(context_.data, context_.session, entry)) {
       ShowInformation(this, u"Изменение невозможно, т.к. база данных используется."_s);
       return;
     }
@@ -176,7 +178,7 @@ void Bases::Rename() {
 void Bases::Delete() {
   Guarded(this, [this] {
     const CatalogueEntry entry = ListView1->Selected();
-    if (IsInUse(context_.session, entry)) {
+    if (IsInUse(context_.data, context_.session, entry)) {
       ShowInformation(this, u"Удаление невозможно, т.к. база данных используется."_s);
       return;
     }

@@ -56,7 +56,7 @@ void BasesImport::Choose() {
       ShowMessage(this, u"Нельзя импортировать базу саму в себя"_s);
       return;
     }
-    RequirePlainPath(entry);
+    RequirePlainPath(context_.data, entry);
     WriteChoice();
     accept();
     Import(context_, entry.descriptor.path, parentWidget()).exec();
@@ -66,6 +66,7 @@ void BasesImport::Choose() {
 void BasesImport::WriteChoice() {
   context_.settings.Write(settings::kRole,
                           QString::number(static_cast<int>(context_.session.role)));
+  if (!ListView1->HasSelection()) return;
   context_.settings.Write(settings::kFilePos, QString::number(ListView1->CurrentRow() + 1));
 }
 

@@ -28,7 +28,9 @@ void rescopy::Next() {
   if (ListIsShown()) {
     if (!AnyChecked()) return;
     Guarded(this, [this] {
-      for (const CatalogueEntry& entry : ListView1->Checked()) RequirePlainPath(entry);
+      for (const CatalogueEntry& entry : ListView1->Checked()) {
+        RequirePlainPath(context_.data, entry);
+      }
       Command1->setText(u"OK"_s);
       ShowChooser(u"Выбирите папку, куда необходимо скопировать базы данных"_s);
     });
