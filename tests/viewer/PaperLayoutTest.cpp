@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <system_error>
 
 #include "viewer/DrawnText.h"
@@ -92,6 +94,20 @@ TEST(PaperLayoutTest, OneSheetHasNoNumber) {
   ASSERT_EQ(sheets.size(), 1);
   EXPECT_FALSE(sheets[0].contains(u"лист"_s));
   EXPECT_TRUE(sheets[0].endsWith(u"Получил ___________"_s)) << "the end of the page is missing";
+}
+
+TEST(PaperLayoutTest, AHeadingIsNotBrokenAtAHyphenBeforeAShortEnd) {
+  // Long figures beside it leave the heading the least width of its column.
+  QString page = WaybillPage(3, u"К"_s);
+  page.replace(u"125.50&nbsp;"_s, u"118518516.00&nbsp;"_s);
+  page.replace(u"12550.00&nbsp;"_s, u"1185185160000.00&nbsp;"_s);
+  PageDocument document(Read(page), {});
+  document.document()->setTextWidth(718);
+  document.FitColumns(718);
+  const QTextCursor heading = document.document()->find(u"Кол-во"_s);
+  ASSERT_FALSE(heading.isNull());
+  document.document()->documentLayout()->blockBoundingRect(heading.block());
+  EXPECT_EQ(heading.block().layout()->lineCount(), 1);
 }
 
 TEST(PaperLayoutTest, WidePageProposesLandscapeAndANarrowOneDoesNot) {

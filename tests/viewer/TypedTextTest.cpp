@@ -44,6 +44,10 @@ TEST(TypedTextTest, WhatPeopleTypedIsNoMarkup) {
       {u"M&M's &copy &nbspx"_s, u"M&amp;M's &amp;copy &amp;nbspx"_s},
       {u"<body><script>x</script>"_s, u"<body>&lt;script>x&lt;/script>"_s},
       {u"<BODY><title>Книга</title>"_s, u"<BODY>&lt;title>Книга&lt;/title>"_s},
+      {u"<FONT FACE=Arial SIZE=3>Кому:<b></U></b></FONT><br>"_s,
+       u"<FONT FACE=Arial SIZE=3>Кому:&lt;b></U></b></FONT><br>"_s},
+      {u"<FONT FACE=Arial SIZE=2>Покупатель: ООО <I></FONT>"_s,
+       u"<FONT FACE=Arial SIZE=2>Покупатель: ООО &lt;I></FONT>"_s},
       {u"<table><tr><td>Болт <b> М8</td></tr></table>"_s,
        u"<table><tr><td>Болт &lt;b> М8</td></tr></table>"_s},
   };
@@ -58,6 +62,7 @@ TEST(TypedTextTest, MarkupOfPrintOutsStaysAsItIs) {
         u"<font size='1' face='Arial, Helvetica, sans-serif'>"_s, u"</U></b></FONT><br>"_s,
         u"<p>&nbsp;<center>&#171;</center></P>"_s, u"<img src=temp.gif>"_s, u"a &lt; b &amp; c"_s,
         u"<table><tr><td><b>ИТОГО:</b></td></tr></table>"_s,
+        u"<p align=CENTER><B><FONT SIZE=5>Отчет</FONT></B><br></p>\r\n<i>Всего</i>"_s,
         u"<TITLE>Счет</TITLE></HEAD><BODY BGCOLOR=#ffffff>"_s}) {
     EXPECT_EQ(EscapeTypedText(page), page);
   }

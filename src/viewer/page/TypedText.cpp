@@ -126,9 +126,18 @@ class TypedTextEscaper {
     if (kind == TagKind::kPlain && !match.capturedView(3).isEmpty()) {
       return false;
     }
-    // A bold that no one closes within its cell is not ours: the goods is called so.
-    return kind != TagKind::kPlain || closes || tables_.empty() || !tables_.back() ||
-           name == u"center"_s || IsClosedInCell(name, pos_ + match.capturedLength());
+    if (kind != TagKind::kPlain || closes || name == u"center"_s) {
+      return true;
+    }
+    // A bold behind a text is not ours: the firm is called so. Neither is one that no one closes
+    // within its cell: there the goods is.
+    return FollowsMarkup() && (tables_.empty() || !tables_.back() ||
+                               IsClosedInCell(name, pos_ + match.capturedLength()));
+  }
+
+  bool FollowsMarkup() const {
+    const QStringView before = QStringView(page_).first(pos_);
+    return before.isEmpty() || before.back() == u'>' || before.back() == u'\n';
   }
 
   bool IsClosedInCell(const QString& name, qsizetype from) const {

@@ -17,6 +17,9 @@ namespace {
 constexpr double kWidestLetter = 1.25;
 // What rounding at another resolution may add to the width of a word.
 constexpr double kSlack = 1.02;
+// What follows a hyphen stays with it when it is as short as in "Кол-во", the blank after it
+// counted.
+constexpr qsizetype kShortTail = 3;
 // A column that gets less than this part of its share is too narrow to be read with ease.
 constexpr double kLeastOfShare = 0.7;
 // A part of a dot that keeps a whole number of them whole.
@@ -63,6 +66,9 @@ class WordMeasure {
       QTextBoundaryFinder finder(QTextBoundaryFinder::Line, word.data(), word.size());
       qsizetype begin = 0;
       for (qsizetype end = finder.toNextBoundary(); end > 0; end = finder.toNextBoundary()) {
+        if (word.size() - end <= kShortTail && end < word.size()) {
+          continue;
+        }
         const QString part = word.mid(begin, end - begin).toString();
         known = std::max(known, metrics.horizontalAdvance(part) * kSlack);
         begin = end;
