@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -234,6 +236,19 @@ TEST(PreviewDialogTest, ProposesLandscapeAndObeysTheChoices) {
   dialog.findChild<QCheckBox*>(u"FitWidth"_s)->click();
   EXPECT_EQ(dialog.layout().Scale(), 1);
   EXPECT_GT(dialog.layout().SheetCount(), sheets);
+}
+
+TEST(PreviewDialogTest, IsAllInSightOnASmallDisplay) {
+  const auto page =
+      std::make_shared<Page>(ReadPage(InvoicePage(3), [](const QString&) { return QImage(); }));
+  PreviewDialog dialog(page);
+  ASSERT_TRUE(dialog.Prepare());
+  dialog.show();
+  const QSize room = dialog.screen()->availableSize();
+  EXPECT_LT(dialog.width(), room.width());
+  EXPECT_LT(dialog.height(), room.height());
+  const auto* print = dialog.findChild<QPushButton*>(u"Print"_s);
+  EXPECT_TRUE(dialog.rect().contains(QRect(print->mapTo(&dialog, QPoint()), print->size())));
 }
 
 TEST(PrintingTest, SheetsThatAPersonAsksFor) {

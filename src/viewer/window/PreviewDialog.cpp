@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPageSetupDialog>
 #include <QPrinterInfo>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "viewer/window/Printing.h"
@@ -35,7 +36,7 @@ PreviewDialog::PreviewDialog(std::shared_ptr<const Page> page, QWidget* parent)
   row->addLayout(left, 1);
   row->addLayout(MakePanel());
   FillPrinters();
-  resize(look::kPreviewSize);
+  resize(look::kPreviewSize.boundedTo(screen()->availableSize() * look::kMostOfScreen));
   print_->setDefault(true);
   print_->setFocus();
 }

@@ -23,7 +23,6 @@ namespace {
 
 // Milliseconds for which nobody needs to be told that the work goes on.
 constexpr int kPatience = 300;
-constexpr double kMostOfScreen = 0.95;
 constexpr int kLeastWidth = 640;
 constexpr int kMostHeight = 1000;
 
@@ -148,7 +147,7 @@ void ViewerWindow::ShowPage(std::shared_ptr<const Page> page, const Progress& pr
 }
 
 void ViewerWindow::FitToScreen() {
-  const QSize room = screen()->availableSize() * kMostOfScreen;
+  const QSize room = screen()->availableSize() * look::kMostOfScreen;
   resize(std::clamp(view_->WidthForPage(), std::min(kLeastWidth, room.width()), room.width()),
          std::min(room.height(), kMostHeight));
 }
