@@ -30,7 +30,7 @@ class FirstRows {
 }  // namespace
 
 PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked,
-                     GoodsView view) {
+                     GoodsView view, const LoadProgress& progress) {
   ForEachGoods(goods, [&](const RawGoods& record) {
     if (record.IsGroup() && view == GoodsView::kGoodsOnly) return;
     PriceRow& row = rows_.emplace_back();
@@ -43,8 +43,14 @@ PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView
   if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
 
   const FirstRows first(rows_);
+  qsizetype told = 0;
   ForEachPrice(prices,
                [&](QByteArrayView name, QByteArrayView, QByteArrayView, QByteArrayView sale) {
+                 const qsizetype done = name.data() - prices.data();
+                 if (progress && (done - told) * 100 >= prices.size()) {
+                   told = done;
+                   progress(static_cast<double>(done) / static_cast<double>(prices.size()));
+                 }
                  if (name.startsWith(' ')) return;
                  if (PriceRow* row = first.Find(DecodeText(name)))
                    row->sale = MoneyText(DecodeText(sale));

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <vector>
 
 #include "directories/GoodsPick.h"
@@ -19,13 +20,18 @@ struct PriceRow : PriceRecord {
   bool picked = false;  // put in by a pick: shown like a group until the list is loaded again
 };
 
+// Takes how much of the work is done, 0 to 1.
+using LoadProgress = std::function<void(double part)>;
+
 class PriceList {
  public:
   PriceList() = default;
   // The bytes are those of spr\товар.spr, of the list's .prc and of `marked`. Goods that the .prc
   // lacks get their purchase price for sale price; what the directory lacks is dropped. Of several
-  // rows of one name the first gets price and tick.
-  PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked, GoodsView view);
+  // rows of one name the first gets price and tick. `progress` is told up to a hundred times how
+  // much of the .prc is read.
+  PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked, GoodsView view,
+            const LoadProgress& progress = {});
 
   const std::vector<PriceRow>& Rows() const { return rows_; }
 

@@ -36,12 +36,13 @@ QString PriceStore::FileOf(const QString& warehouse, int index) const {
   return files[index];
 }
 
-PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view) const {
+PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
+                           const LoadProgress& progress) const {
   const QStringList files = Files(warehouse);
   const bool has_file = index >= 0 && index < files.size();
   return {data_.Read(session_.Path(u"spr\\товар.spr")),
           has_file ? data_.Read(files[index]) : QByteArray(),
-          data_.ReadIfAny(MarksPath(session_)).value_or(QByteArray()), view};
+          data_.ReadIfAny(MarksPath(session_)).value_or(QByteArray()), view, progress};
 }
 
 void PriceStore::Save(const PriceList& list, const QString& warehouse, int index) const {

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -60,6 +61,21 @@ class HostLayout : public QVBoxLayout {
   }
 };
 
+// Keeps its room while it is away, so that nothing moves when it comes.
+QProgressBar* NewProgressBar(QWidget* parent) {
+  auto* bar = new QProgressBar(parent);
+  bar->setObjectName(u"ProgressBar1"_s);
+  bar->setAccessibleName(u"Ход работы"_s);
+  bar->setRange(0, 100);
+  bar->setTextVisible(false);
+  bar->setFixedSize(15 * look::kGrid, 2 * look::kGrid);
+  QSizePolicy policy = bar->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  bar->setSizePolicy(policy);
+  bar->hide();
+  return bar;
+}
+
 }  // namespace
 
 frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(menuBar(), this)) {
@@ -72,6 +88,7 @@ frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(me
   connect(menu_, &MainMenu::Commanded, this, &frmMain::Do);
   connect(Picture1, &LinksPanel::Chosen, this, &frmMain::Go);
   connect(Picture2, &LinksStrip::Chosen, this, &frmMain::Go);
+  context_.show_progress = [this](double part) { ShowProgress(part); };
   bases_ = new Bases(context_, *this, this);
   HideDatabaseMenus();
   DisableDatabaseCommands();
@@ -79,6 +96,7 @@ frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(me
 }
 
 frmMain::~frmMain() {
+  context_.show_progress = [](double) {};
   if (child_) child_->disconnect(this);
 }
 
@@ -104,10 +122,13 @@ void frmMain::BuildLayout() {
   role_->setObjectName(u"role"_s);
   today_ = new QLabel(foot_);
   today_->setObjectName(u"today"_s);
+  ProgressBar1 = NewProgressBar(foot_);
   auto* foot = new QHBoxLayout(foot_);
   foot->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
   foot->addWidget(role_);
   foot->addStretch();
+  foot->addWidget(ProgressBar1);
+  foot->addSpacing(look::kMargin);
   foot->addWidget(today_);
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
@@ -269,6 +290,13 @@ void frmMain::Go(Place place) {
     }
   });
   if (!child_) ShowHome();
+}
+
+// Drawn at once: the work that tells of itself leaves no time for events.
+void frmMain::ShowProgress(double part) {
+  ProgressBar1->setValue(static_cast<int>(part * ProgressBar1->maximum()));
+  ProgressBar1->setVisible(part < 1);
+  if (ProgressBar1->isVisible()) ProgressBar1->repaint();
 }
 
 // From a dialog that left the child screen where it was.

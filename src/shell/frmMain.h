@@ -11,6 +11,7 @@
 #include "store/screens/CatalogueHost.h"
 
 class QLabel;
+class QProgressBar;
 class QVBoxLayout;
 
 namespace kladez {
@@ -57,6 +58,7 @@ class frmMain : public QMainWindow, public CatalogueHost {
   void ShowLanding();
   void Return();
   void ShowFoot();
+  void ShowProgress(double part);
 
   AppContext& context_;
   MainMenu* menu_;
@@ -67,6 +69,7 @@ class frmMain : public QMainWindow, public CatalogueHost {
   QWidget* foot_;
   QLabel* role_;
   QLabel* today_;
+  QProgressBar* ProgressBar1;  // how far a price list is loaded
   Bases* bases_ = nullptr;
   QPointer<QWidget> child_;
 };

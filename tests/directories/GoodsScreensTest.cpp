@@ -138,6 +138,19 @@ TEST_F(sprTovarTest, GoodsOnHandAreNotDeleted) {
   EXPECT_EQ(list_->model()->rowCount(), 4);
 }
 
+TEST_F(sprTovarTest, DeletingAsksFirstOverAnEmptyListToo) {
+  world_.PutLines(u"spr\\товар.spr"_s, {});
+  world_.Remember();
+  Open();
+  ModalAnswers answers({[](QWidget* dialog) {
+    EXPECT_EQ(dialog->windowTitle(), u"Удаление"_s);
+    Press(QMessageBox::Yes, u"Вы уверены?"_s)(dialog);
+  }});
+  Click(screen_.get(), "remove");
+  EXPECT_EQ(screen_->focusWidget(), list_);
+  world_.ExpectUnchanged();
+}
+
 TEST_F(sprTovarTest, AThousandAndOneRowsAreFull) {
   QStringList lines = kTea;
   for (int i = 2; i < 1001; ++i) lines += kTea;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "TempData.h"
 #include "prices/PriceList.h"
 
@@ -101,6 +103,18 @@ const Case kCases[] = {
 };
 INSTANTIATE_TEST_SUITE_P(PriceList, Loading, testing::ValuesIn(kCases),
                          [](const auto& test) { return test.param.name; });
+
+TEST(PriceListFiles, LoadingTellsHowMuchOfTheListIsRead) {
+  QStringList prices;
+  for (int i = 0; i < 1000; ++i) prices += {u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s};
+  std::vector<double> told;
+  const PriceList list(EncodeLines(kGoods), EncodeLines(prices), {}, GoodsView::kGroups,
+                       [&](double part) { told.push_back(part); });
+  EXPECT_GE(told.size(), 90u);
+  EXPECT_LE(told.size(), 101u);
+  EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+  EXPECT_LT(told.back(), 1.0);
+}
 
 TEST(PriceListFiles, GroupsAreOneLineAndGoodsFour) {
   PriceList list = Load(kGoods, {u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s}, {});

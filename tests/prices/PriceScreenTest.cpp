@@ -167,6 +167,18 @@ TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain
   EXPECT_EQ(Names(&screen), (QStringList{u" Чай"_s, u"Улун"_s, u"Ассам"_s}));
 }
 
+TEST_F(PriceScreens, APickerLeftOpenClosesWithTheScreenAndKeepsItsView) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  Click(&screen, "GoldButton1");
+  auto* picker = screen.findChild<QWidget*>(u"sprTovar"_s);
+  ASSERT_NE(picker, nullptr);
+  Find<QRadioButton>(picker, "op2")->click();
+  Click(&screen, "Command3");
+  EXPECT_FALSE(picker->isVisible());
+  EXPECT_EQ(world_.Settings().Read(settings::kGoodsGoodsOnly), u"True"_s);
+}
+
 TEST_F(PriceScreens, RemovedRowsLeaveTheFileWithTheNextSave) {
   Price screen(world_.Context());
   ShowActive(&screen);

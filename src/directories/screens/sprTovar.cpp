@@ -124,10 +124,11 @@ void sprTovar::Change() {
 }
 
 void sprTovar::Remove() {
+  browser_->List()->setFocus();
+  // Asked over an empty list too: that is the order in which it has always gone.
+  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
   const GoodsRecord* record = browser_->Selected();
   if (record == nullptr) return;
-  browser_->List()->setFocus();
-  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
   Guarded(this, [&] {
     if (!record->IsGroup() && IsOnHand(context_.data, context_.session, record->name)) {
       ShowMessage(this, u"На одном из складов присутствует данный товар.\nУдаление невозможно"_s);

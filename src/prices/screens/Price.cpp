@@ -19,7 +19,6 @@ Price::Price(AppContext& context, QWidget* parent)
   layout->addWidget(browser_);
   setFocusProxy(browser_);
   connect(browser_, &PriceBrowser::CloseAsked, this, &QWidget::close);
-  connect(browser_, &PriceBrowser::Loading, this, &Price::Loading);
   browser_->ChooseWarehouse(context.session.SkladNames.value(0));
 }
 

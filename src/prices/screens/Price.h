@@ -15,10 +15,6 @@ class Price : public QWidget {
  public:
   explicit Price(AppContext& context, QWidget* parent = nullptr);
 
- signals:
-  // How much of a list is loaded, for the main window's progress bar.
-  void Loading(int percent);
-
  protected:
   void closeEvent(QCloseEvent* event) override;
 

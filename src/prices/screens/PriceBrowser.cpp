@@ -198,11 +198,12 @@ void PriceBrowser::Load() {
   PriceList list;
   loaded_ = false;
   if (Combo1->currentIndex() >= 0 && Combo2->currentIndex() >= 0) {
-    emit Loading(0);
+    context_.show_progress(0);
     loaded_ = Guarded(this, [&] {
-      list = store_.Load(Combo1->currentText(), Combo2->currentIndex(), filter_->View());
+      list = store_.Load(Combo1->currentText(), Combo2->currentIndex(), filter_->View(),
+                         context_.show_progress);
     });
-    emit Loading(100);
+    context_.show_progress(1);
   }
   list_ = std::move(list);
   ShowRows(selected);
@@ -217,6 +218,8 @@ void PriceBrowser::SwitchView(GoodsView view) {
 }
 
 void PriceBrowser::Leave() {
+  // Destroyed with this screen it would not keep its view.
+  if (goods_) goods_->close();
   if (loaded_) Guarded(this, [this] { store_.SaveTicks(list_); });
   filter_->Remember();
 }

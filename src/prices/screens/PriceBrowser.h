@@ -51,7 +51,6 @@ class PriceBrowser : public QWidget {
  signals:
   void Picked(const GoodsPick& pick);
   void CloseAsked();
-  void Loading(int percent);
 
  private:
   enum class Place { kLeft, kRight, kPanel };
@@ -67,7 +66,6 @@ class PriceBrowser : public QWidget {
   void ShowRows(const QString& selected_name);
   QString SelectedName() const;
   void SwitchView(GoodsView view);
-  void Tick(int row, bool on);
 
   void Add();
   void InsertPicked(const GoodsPick& pick);
