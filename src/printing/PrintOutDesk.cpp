@@ -37,12 +37,12 @@ void PrintOutDesk::Show(const QString& name, const QByteArray& bytes) const {
   OpenPrintOut(name);
 }
 
-bool StartReportViewer(const DataDir& data) {
+bool StartReportViewer(const DataDir& data, const QStringList& arguments) {
   const QString beside = QCoreApplication::applicationDirPath() + u"/kladez-report"_s;
   const QString program = QFileInfo(beside).isExecutable()
                               ? beside
                               : QStandardPaths::findExecutable(u"kladez-report"_s);
-  return !program.isEmpty() && QProcess::startDetached(program, {}, data.Root());
+  return !program.isEmpty() && QProcess::startDetached(program, arguments, data.Root());
 }
 
 }  // namespace kladez

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 #include "store/DataDir.h"
@@ -34,7 +35,7 @@ class PrintOutDesk {
 };
 
 // Starts kladez-report, from beside this program or from the path, without waiting for it. False
-// when there is none.
-bool StartReportViewer(const DataDir& data);
+// when there is none. With an argument, it shows that page of the user guide.
+bool StartReportViewer(const DataDir& data, const QStringList& arguments = {});
 
 }  // namespace kladez

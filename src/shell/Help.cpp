@@ -1,12 +1,14 @@
 #include "shell/Help.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QUrl>
 
+#include "printing/PrintOutDesk.h"
+#include "shell/Desktop.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Messages.h"
 
@@ -15,9 +17,16 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-std::function<bool(const QUrl&)>& Opener() {
-  static std::function<bool(const QUrl&)> opener = &QDesktopServices::openUrl;
+AddressOpener& Opener() {
+  static AddressOpener opener = &OpenOnDesktop;
   return opener;
+}
+
+GuideViewer& Viewer() {
+  static GuideViewer viewer = [](const DataDir& data, const QString& page) {
+    return StartReportViewer(data, {page});
+  };
+  return viewer;
 }
 
 // The guide of the user's own beside the Databases goes before the one that came with the program,
@@ -37,8 +46,11 @@ void OpenFile(QWidget* parent, const DataDir& data, const QString& file, const Q
         parent, u"Нет файла справки «"_s + name + u"».\nПоложите его в каталог "_s + data.Root());
     return;
   }
-  if (Opener()(QUrl::fromLocalFile(file))) return;
-  ShowInformation(parent, u"Не найдена программа, которая показала бы файл\n"_s + file);
+  Opener()(QUrl::fromLocalFile(file), [parent = QPointer(parent), &data, file] {
+    const bool page = file.endsWith(".htm"_L1, Qt::CaseInsensitive);
+    if (page && Viewer()(data, file)) return;
+    ShowInformation(parent, u"Не найдена программа, которая показала бы файл\n"_s + file);
+  });
 }
 
 // Takes the help key before the menu of the main window does, which a shortcut of the screen's own
@@ -86,12 +98,13 @@ void OpenHelpFile(QWidget* parent, const DataDir& data) {
 }
 
 void OpenAddress(QWidget* parent, QStringView address) {
-  if (Opener()(QUrl(address.toString()))) return;
-  ShowInformation(parent, u"Не найдена программа, которая открыла бы адрес\n"_s + address);
+  Opener()(QUrl(address.toString()), [parent = QPointer(parent), name = address.toString()] {
+    ShowInformation(parent, u"Не найдена программа, которая открыла бы адрес\n"_s + name);
+  });
 }
 
-void SetAddressOpener(std::function<bool(const QUrl& address)> opener) {
-  Opener() = std::move(opener);
-}
+void SetAddressOpener(AddressOpener opener) { Opener() = std::move(opener); }
+
+void SetGuideViewer(GuideViewer viewer) { Viewer() = std::move(viewer); }
 
 }  // namespace kladez

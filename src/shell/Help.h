@@ -1,5 +1,6 @@
 // The user guide (the folder help/), its topic pages and the product's pages, shown by the
-// desktop's own browser. Where one is missing, a message says so.
+// desktop's own browser; where it has none, the viewer of print-outs shows the guide. Where nothing
+// does, a message says so.
 #pragma once
 
 #include <QString>
@@ -30,7 +31,13 @@ QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView pa
 void OpenHelpFile(QWidget* parent, const DataDir& data);
 void OpenAddress(QWidget* parent, QStringView address);
 
-// Hands an address to the desktop; a test puts its own in its place.
-void SetAddressOpener(std::function<bool(const QUrl& address)> opener);
+// Hands an address to the desktop, and runs `otherwise` when that can't show it; a test puts its
+// own in its place.
+using AddressOpener =
+    std::function<void(const QUrl& address, const std::function<void()>& otherwise)>;
+void SetAddressOpener(AddressOpener opener);
+// The same for the viewer, which gives false when it is not there.
+using GuideViewer = std::function<bool(const DataDir& data, const QString& page)>;
+void SetGuideViewer(GuideViewer viewer);
 
 }  // namespace kladez

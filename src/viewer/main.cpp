@@ -1,14 +1,31 @@
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <memory>
 
 #include "viewer/window/ViewerWindow.h"
 
-// kladez-report: shows out.htm of the directory that it is started in. It takes no arguments.
+namespace {
+
+using namespace Qt::StringLiterals;
+using kladez::viewer::PageKind;
+using kladez::viewer::ViewerWindow;
+
+std::unique_ptr<ViewerWindow> WindowFor(const QStringList& arguments) {
+  if (arguments.size() < 2) return std::make_unique<ViewerWindow>(QDir::current(), u"out.htm"_s);
+  QFileInfo page(arguments.at(1));
+  if (page.exists()) page.setFile(page.canonicalFilePath());  // its folder is that of the guide
+  return std::make_unique<ViewerWindow>(page.absoluteDir(), page.fileName(), PageKind::kGuide);
+}
+
+}  // namespace
+
+// kladez-report: shows out.htm of the directory that it is started in; with an argument, that page
+// of the user guide.
 int main(int argc, char** argv) {
-  using namespace Qt::StringLiterals;
   QApplication application(argc, argv);
   QApplication::setApplicationName(u"kladez-report"_s);
   QApplication::setApplicationDisplayName(QString());
@@ -17,10 +34,10 @@ int main(int argc, char** argv) {
   if (toolkit.load(u"qtbase_ru"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&toolkit);
   }
-  kladez::viewer::ViewerWindow window(QDir::current(), u"out.htm"_s);
-  if (!window.Load()) {
+  const std::unique_ptr<ViewerWindow> window = WindowFor(QApplication::arguments());
+  if (!window->Load()) {
     return 1;
   }
-  window.show();
+  window->show();
   return QApplication::exec();
 }

@@ -3,11 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QMessageBox>
 #include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 #include <set>
 
 #include "ScreenDriver.h"
+#include "shell/Desktop.h"
 #include "shell/Help.h"
 
 namespace kladez {
@@ -55,13 +59,69 @@ TEST(HelpPages, APageBesideTheDatabasesIsShown) {
   ScreenWorld world;
   world.Temp().Put(u"help\\ost.htm"_s, "x");
   QUrl opened;
-  SetAddressOpener([&](const QUrl& address) {
-    opened = address;
-    return true;
+  SetAddressOpener([&](const QUrl& address, const auto&) { opened = address; });
+  OpenHelpPage(nullptr, world.Temp().Data(), u"ost.htm");
+  SetAddressOpener([](const QUrl&, const auto&) {});
+  EXPECT_EQ(opened.toLocalFile(), world.Temp().Data().Resolve(u"help\\ost.htm"_s));
+}
+
+TEST(HelpPages, TheViewerShowsAPageThatTheDesktopCannot) {
+  ScreenWorld world;
+  world.Temp().Put(u"help\\ost.htm"_s, "x");
+  SetAddressOpener([](const QUrl&, const auto& otherwise) { otherwise(); });
+  QString viewed;
+  bool there = true;
+  SetGuideViewer([&](const DataDir&, const QString& page) {
+    viewed = page;
+    return there;
   });
   OpenHelpPage(nullptr, world.Temp().Data(), u"ost.htm");
-  SetAddressOpener([](const QUrl&) { return true; });
-  EXPECT_EQ(opened.toLocalFile(), world.Temp().Data().Resolve(u"help\\ost.htm"_s));
+  EXPECT_EQ(viewed, world.Temp().Data().Resolve(u"help\\ost.htm"_s));
+
+  there = false;
+  QString told;
+  ModalAnswers answers{[&](QWidget* dialog) {
+    told = qobject_cast<QMessageBox*>(dialog)->text();
+    dialog->close();
+  }};
+  OpenHelpPage(nullptr, world.Temp().Data(), u"ost.htm");
+  EXPECT_EQ(told, u"Не найдена программа, которая показала бы файл\n"_s + viewed);
+  SetAddressOpener([](const QUrl&, const auto&) {});
+  SetGuideViewer([](const DataDir&, const QString&) { return true; });
+}
+
+// A launcher of the desktop's, first in the path, that leaves a mark and ends as it is told.
+class Launcher {
+ public:
+  explicit Launcher(int code) : path_(qgetenv("PATH")) {
+    QFile script(folder_.filePath(u"xdg-open"_s));
+    EXPECT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\necho \"$1\" > " + Mark().toUtf8() + "\nexit " +
+                 QByteArray::number(code) + "\n");
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    qputenv("PATH", folder_.path().toUtf8() + ':' + path_);
+  }
+  ~Launcher() { qputenv("PATH", path_); }
+  QString Mark() const { return folder_.filePath(u"mark"_s); }
+  bool Ran() const { return QFileInfo(Mark()).size() > 0; }
+
+ private:
+  QTemporaryDir folder_;
+  QByteArray path_;
+};
+
+TEST(Desktop, ALauncherThatFindsNothingIsNotTakenForABrowser) {
+  for (const int code : {0, 3, 4}) {
+    const Launcher launcher(code);
+    bool otherwise = false;
+    OpenOnDesktop(QUrl::fromLocalFile(u"/tmp/имя.htm"_s), [&] { otherwise = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return launcher.Ran() && (otherwise || code == 0); }));
+    QTest::qWait(200);
+    EXPECT_EQ(otherwise, code != 0) << code;
+    QFile mark(launcher.Mark());
+    EXPECT_TRUE(mark.open(QIODevice::ReadOnly));
+    EXPECT_EQ(mark.readAll(), "file:///tmp/%D0%B8%D0%BC%D1%8F.htm\n");
+  }
 }
 
 }  // namespace

@@ -362,10 +362,7 @@ TEST_F(MainWindow, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
   }
   StartOpen();
   QStringList opened;
-  SetAddressOpener([&](const QUrl& address) {
-    opened.append(address.fileName());
-    return true;
-  });
+  SetAddressOpener([&](const QUrl& address, const auto&) { opened.append(address.fileName()); });
   const auto press = [](QWidget* screen) { QTest::keyClick(screen->focusWidget(), Qt::Key_F1); };
   press(&window_);
   ClickPanel("go4");
@@ -377,7 +374,7 @@ TEST_F(MainWindow, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
     }};
     Entry(entry)->trigger();
   }
-  SetAddressOpener([](const QUrl&) { return true; });
+  SetAddressOpener([](const QUrl&, const auto&) {});
   EXPECT_EQ(opened, QStringList({u"index.htm"_s, u"price.htm"_s, u"ost.htm"_s, u"workdb.htm"_s}));
 }
 

@@ -29,6 +29,7 @@ Run& Flow::RunFor(const Look& look) {
   if (paragraph_.runs.empty()) {
     paragraph_.align = look.align;
     paragraph_.keep_lines = look.preformatted;
+    paragraph_.listed = look.listed;
   }
   const int style = StyleIndex(page_, look.style);
   if (paragraph_.runs.empty() || paragraph_.runs.back().style != style ||

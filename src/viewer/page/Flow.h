@@ -15,6 +15,7 @@ class Flow {
     TextStyle style;
     Qt::Alignment align = Qt::AlignLeft;
     bool preformatted = false;
+    bool listed = false;
   };
 
   // `is_cell`: the outer margins of the content fall away, as they do in a cell.

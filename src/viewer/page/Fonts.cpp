@@ -14,6 +14,12 @@ QTextCharFormat FormatOf(const TextStyle& style) {
   format.setFontUnderline(style.underline);
   const QColor color(style.color);
   format.setForeground(color.isValid() ? color : QColor(Qt::black));
+  if (!style.link.isEmpty()) {
+    format.setAnchor(true);
+    format.setAnchorHref(style.link);
+    format.setFontUnderline(true);
+    format.setForeground(Qt::blue);
+  }
   return format;
 }
 

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <array>
 
+#include "viewer/page/PagePaths.h"
+
 namespace kladez::viewer {
 using namespace Qt::StringLiterals;
 
@@ -59,6 +61,11 @@ void ApplyFont(const GumboNode& node, TextStyle& style) {
   if (!color.isEmpty()) {
     style.color = color;
   }
+}
+
+void ApplyHeading(double points, TextStyle& style) {
+  style.points = points;
+  style.bold = true;
 }
 
 }  // namespace
@@ -126,6 +133,17 @@ TextStyle StyleInside(const GumboNode& node, TextStyle style) {
       break;
     case GUMBO_TAG_U:
       style.underline = true;
+      break;
+    case GUMBO_TAG_H1:
+      ApplyHeading(18, style);
+      break;
+    case GUMBO_TAG_H2:
+      ApplyHeading(13.5, style);
+      break;
+    case GUMBO_TAG_A:
+      if (const QString target = Attribute(node, "href"); NamesPage(target)) {
+        style.link = target;
+      }
       break;
     case GUMBO_TAG_PRE:
       style.points *= style.family == QStringView(kMonospace) ? 1 : kMonospaceRatio;

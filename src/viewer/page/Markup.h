@@ -11,6 +11,7 @@
 namespace kladez::viewer {
 
 inline constexpr char16_t kSerif[] = u"Times New Roman";
+inline constexpr char16_t kSans[] = u"Arial";
 inline constexpr char16_t kMonospace[] = u"Courier New";
 
 // The value of an attribute without blanks around it; "" when it is missing.
@@ -28,7 +29,8 @@ Width ParseWidth(const QString& text);
 std::optional<Qt::Alignment> AlignmentOf(const GumboNode& node);
 std::optional<Qt::Alignment> VerticalOf(const GumboNode& node);
 
-// The style inside <FONT>, <B>, <I>, <U>, <PRE>, or inside any tag with a font size in its STYLE.
+// The style inside <FONT>, <B>, <I>, <U>, <PRE>, a heading or a link, or inside any tag with a font
+// size in its STYLE.
 TextStyle StyleInside(const GumboNode& node, TextStyle style);
 
 }  // namespace kladez::viewer

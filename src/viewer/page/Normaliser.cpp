@@ -11,6 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Pixels: a picture of a whole window fits a sheet in portrait.
+constexpr double kWidestGuidePicture = 680;
+
 struct OutputDeleter {
   void operator()(GumboOutput* output) const {
     gumbo_destroy_output(&kGumboDefaultOptions, output);
@@ -78,6 +81,10 @@ void Normaliser::ReadElement(const GumboNode& node, Flow& flow, const Flow::Look
     case GUMBO_TAG_DIV:
     case GUMBO_TAG_CENTER:
     case GUMBO_TAG_PRE:
+    case GUMBO_TAG_H1:
+    case GUMBO_TAG_H2:
+    case GUMBO_TAG_UL:
+    case GUMBO_TAG_LI:
       ReadBlock(node, flow, look);
       break;
     default: {
@@ -95,9 +102,13 @@ void Normaliser::ReadBlock(const GumboNode& node, Flow& flow, const Flow::Look& 
   inside.align =
       AlignmentOf(node).value_or(tag == GUMBO_TAG_CENTER ? Qt::AlignHCenter : look.align);
   inside.preformatted = look.preformatted || tag == GUMBO_TAG_PRE;
-  const bool has_margin = tag == GUMBO_TAG_P || tag == GUMBO_TAG_PRE;
+  inside.listed = look.listed || tag == GUMBO_TAG_LI;
+  const bool has_margin = tag != GUMBO_TAG_DIV && tag != GUMBO_TAG_CENTER && tag != GUMBO_TAG_LI;
   const double margin = has_margin ? inside.style.points * kPixelsPerPoint : 0;
   flow.EndParagraph(margin);
+  if (tag == GUMBO_TAG_LI) {
+    flow.AddText(u"\u2022 "_s, inside);
+  }
   ReadChildren(node, flow, inside);
   flow.EndParagraph(margin);
 }
@@ -117,30 +128,33 @@ void Normaliser::ReadPicture(const GumboNode& node, Flow& flow, const Flow::Look
   }
 }
 
-Page Normaliser::Read(const GumboNode& root) {
+Page Normaliser::Read(const GumboNode& root, const QString& family) {
   Flow::Look look;
-  look.style.family = QString::fromUtf16(kSerif);
+  look.style.family = family;
   Flow flow(page_, false);
   ReadNode(root, flow, look);
   page_.blocks = flow.Take(look);
   return std::move(page_);
 }
 
-Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress) {
+Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress,
+              PageKind kind) {
   // The parser itself can't be asked how far it is: half of the bar is for what goes before.
   const auto half = [&progress](int begin) -> Progress {
     return [&progress, begin](int done, int total) {
       return !progress || progress(total * begin + done, 2 * total);
     };
   };
-  const QByteArray markup = EscapeTypedText(text, half(0)).toUtf8();
+  const bool guide = kind == PageKind::kGuide;
+  const QByteArray markup = (guide ? text : EscapeTypedText(text, half(0))).toUtf8();
   GumboOptions options = kGumboDefaultOptions;
   options.max_errors = 0;
   const std::unique_ptr<GumboOutput, OutputDeleter> output(
       gumbo_parse_with_options(&options, markup.constData(), static_cast<size_t>(markup.size())));
-  Page page =
-      Normaliser(load_picture, half(1), static_cast<int>(markup.size())).Read(*output->root);
+  Page page = Normaliser(load_picture, half(1), static_cast<int>(markup.size()))
+                  .Read(*output->root, QString::fromUtf16(guide ? kSans : kSerif));
   page.title = TitleOf(*output->root).simplified();
+  page.widest_picture = guide ? kWidestGuidePicture : 0;
   MarkPrintParts(page);
   return page;
 }

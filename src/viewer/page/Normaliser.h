@@ -16,7 +16,8 @@ class Normaliser {
   Normaliser(PictureLoader load_picture, const Progress& progress, int length)
       : load_picture_(std::move(load_picture)), steps_(progress, length) {}
 
-  Page Read(const GumboNode& root);
+  // `family` is the face of the letters that no tag gives another.
+  Page Read(const GumboNode& root, const QString& family);
 
  private:
   void ReadNode(const GumboNode& node, Flow& flow, const Flow::Look& look);

@@ -26,6 +26,12 @@ QString Cell::Text() const {
   return text;
 }
 
+QSizeF Page::PictureSize(const QString& name) const {
+  const QSizeF size = pictures.at(name).size();
+  const bool fits = widest_picture == 0 || size.width() <= widest_picture;
+  return fits ? size : size * (widest_picture / size.width());
+}
+
 int Page::RowCount() const {
   int count = 0;
   for (const Block& block : blocks) {

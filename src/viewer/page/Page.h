@@ -19,6 +19,7 @@ struct TextStyle {
   bool italic = false;
   bool underline = false;
   QString color;  // as written, "" is black
+  QString link;   // the page beside this one that a click opens, "" for none
 
   bool operator==(const TextStyle&) const = default;
 };
@@ -35,6 +36,7 @@ struct Paragraph {
   Qt::Alignment align = Qt::AlignLeft;
   double space_before = 0;
   bool keep_lines = false;  // preformatted: lines are never wrapped
+  bool listed = false;      // an item of a list, with its bullet before the other lines
   int empty_style = -1;     // the style in force where a paragraph without runs stands
   std::vector<Run> runs;
 
@@ -92,7 +94,11 @@ struct Page {
   size_t closing = 0;
   size_t signature = 0;
   size_t signature_end = 0;
-  std::map<QString, QImage> pictures;  // by the plain file name the page gives
+  std::map<QString, QImage> pictures;  // by the name that the page gives
+  double widest_picture = 0;           // a wider one is drawn smaller; 0 sets no limit
+
+  // How large a picture is drawn.
+  QSizeF PictureSize(const QString& name) const;
 
   // The rows of all tables that stand directly on the page.
   int RowCount() const;

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "viewer/page/PagePaths.h"
 #include "viewer/page/PageReader.h"
 #include "viewer/page/PageText.h"
 
@@ -11,10 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A picture of a print-out lies beside it. Whatever leads elsewhere is none.
-QImage LoadPicture(const QDir& directory, const QString& name) {
-  if (name.isEmpty() || name.startsWith(u'.') || name.contains(u'/') || name.contains(u'\\') ||
-      name.contains(u':')) {
+// A picture of a print-out lies beside it, whatever the case of its letters.
+QString BesidePrintOut(const QDir& directory, const QString& name) {
+  if (name.contains(u'/')) {
     return {};
   }
   QString found = name;
@@ -25,12 +25,22 @@ QImage LoadPicture(const QDir& directory, const QString& name) {
       }
     }
   }
-  return QImageReader(directory.filePath(found)).read();
+  return found;
+}
+
+QImage LoadPicture(const QDir& directory, const QString& name, PageKind kind) {
+  const QString reference = kind == PageKind::kGuide ? name : BesidePrintOut(directory, name);
+  const QString path = PathWithin(directory, reference);
+  return path.isEmpty() ? QImage() : QImageReader(path).read();
 }
 
 }  // namespace
 
-Page ReadPageFile(const QDir& directory, const QString& name, const Progress& progress) {
+Page ReadPageFile(const QDir& directory, const QString& name, const Progress& progress,
+                  PageKind kind) {
+  if (kind == PageKind::kGuide && PathWithin(directory, name).isEmpty()) {
+    throw std::system_error(ENOENT, std::generic_category(), name.toStdString());
+  }
   QFile file(directory.filePath(name));
   errno = 0;
   if (!file.open(QIODevice::ReadOnly)) {
@@ -42,10 +52,10 @@ Page ReadPageFile(const QDir& directory, const QString& name, const Progress& pr
     throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(),
                             file.fileName().toStdString());
   }
-  const auto load = [&directory](const QString& picture) {
-    return LoadPicture(directory, picture);
+  const auto load = [&directory, kind](const QString& picture) {
+    return LoadPicture(directory, picture, kind);
   };
-  return ReadPage(DecodePage(bytes), load, progress);
+  return ReadPage(DecodePage(bytes), load, progress, kind);
 }
 
 }  // namespace kladez::viewer

@@ -1,4 +1,5 @@
-// From the file of a print-out to a Page: reads, decodes, parses and tidies the markup.
+// From the file of a print-out, or of a page of the user guide, to a Page: reads, decodes, parses
+// and tidies the markup.
 #pragma once
 
 #include <QDir>
@@ -9,18 +10,23 @@
 
 namespace kladez::viewer {
 
-// Gives the picture of a plain file name, or a null image.
+// A print-out holds what people typed, names pictures beside it and has no links. A page of the
+// guide is sound markup; it links to the pages beside it and shows pictures from below its folder.
+enum class PageKind { kPrintOut, kGuide };
+
+// Gives the picture that a page names, or a null image.
 using PictureLoader = std::function<QImage(const QString& name)>;
 
 // Reads the text of a page as the browsers did for which our print-outs are written. Scripts,
 // links and styles of other programs have no effect; no text is lost. Reading does not stop at what
 // `progress` answers.
-Page ReadPage(const QString& text, const PictureLoader& load_picture,
-              const Progress& progress = {});
+Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress = {},
+              PageKind kind = PageKind::kPrintOut);
 
-// Reads `name` in `directory`; its pictures come from the same directory, by plain file name.
+// Reads `name` in `directory`. Nothing outside that directory is read, whatever the page names.
 // Throws std::system_error with the system's reason when the file can't be read.
-Page ReadPageFile(const QDir& directory, const QString& name, const Progress& progress = {});
+Page ReadPageFile(const QDir& directory, const QString& name, const Progress& progress = {},
+                  PageKind kind = PageKind::kPrintOut);
 
 // Finds the rows that repeat on each sheet, the rows that head a group, and the signature block.
 // ReadPage does it.

@@ -44,7 +44,7 @@ class WordMeasure {
     double line = 0;
     for (const Run& run : paragraph.runs) {
       if (!run.picture.isEmpty()) {
-        known = std::max<double>(known, page_.pictures.at(run.picture).width());
+        known = std::max<double>(known, page_.PictureSize(run.picture).width());
       } else if (!paragraph.keep_lines) {
         known = WidestWord(run, known);
       } else {

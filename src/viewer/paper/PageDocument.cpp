@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include "viewer/page/Fonts.h"
+#include "viewer/paper/PictureObject.h"
 
 namespace kladez::viewer {
 using namespace Qt::StringLiterals;
@@ -15,6 +16,9 @@ namespace {
 // time for a row the more of them there are.
 constexpr size_t kRowsOfPart = 200;
 constexpr double kEmptyCellPoints = 1;
+// Pixels: where the lines of a list item begin, and how far its bullet stands before them.
+constexpr double kListIndent = 28;
+constexpr double kBulletRoom = 12;
 
 QUrl PictureUrl(const QString& name) { return QUrl(u"picture:"_s + name); }
 
@@ -119,6 +123,8 @@ PageDocument::PageDocument(std::shared_ptr<const Page> page, const Progress& pro
   for (const auto& [name, picture] : page_->pictures) {
     document_.addResource(QTextDocument::ImageResource, PictureUrl(name), picture);
   }
+  document_.documentLayout()->registerHandler(QTextFormat::ImageObject,
+                                              new PictureObject(&document_));
   MakeFormats();
   QTextCursor cursor(&document_);
   cursor.beginEditBlock();
@@ -188,6 +194,10 @@ void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph)
   format.setAlignment(paragraph.align);
   format.setTopMargin(paragraph.space_before);
   format.setNonBreakableLines(paragraph.keep_lines);
+  if (paragraph.listed) {
+    format.setLeftMargin(kListIndent);
+    format.setTextIndent(-kBulletRoom);
+  }
   cursor.setBlockFormat(format);
   // The first block of a cell holds the format of the cell, which has to stay.
   if (paragraph.runs.empty()) {
@@ -202,11 +212,11 @@ void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph)
       cursor.insertText(run.text, formats_[static_cast<size_t>(run.style)]);
       continue;
     }
-    const QImage& picture = page_->pictures.at(run.picture);
+    const QSizeF size = page_->PictureSize(run.picture);
     QTextImageFormat image;
     image.setName(PictureUrl(run.picture).toString());
-    image.setWidth(picture.width());
-    image.setHeight(picture.height());
+    image.setWidth(size.width());
+    image.setHeight(size.height());
     cursor.insertImage(image);
   }
 }

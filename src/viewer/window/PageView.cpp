@@ -25,9 +25,9 @@ constexpr int kPrepareMilliseconds = 30;
 
 }  // namespace
 
-PageView::PageView(QWidget* parent) : QTextEdit(parent) {
+PageView::PageView(QWidget* parent) : QTextBrowser(parent) {
   setObjectName(u"PageView"_s);
-  setReadOnly(true);
+  setOpenLinks(false);
   setFrameShape(QFrame::NoFrame);
   setWordWrapMode(QTextOption::WordWrap);
   setLineWrapMode(QTextEdit::FixedPixelWidth);
@@ -106,7 +106,7 @@ void PageView::CentrePage() {
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {
-  QTextEdit::resizeEvent(event);
+  QTextBrowser::resizeEvent(event);
   CentrePage();
 }
 
@@ -155,6 +155,8 @@ bool PageView::FindText(const QString& text, bool backward) {
   ensureCursorVisible();
   return true;
 }
+
+QVariant PageView::loadResource(int /*type*/, const QUrl& /*name*/) { return {}; }
 
 QMimeData* PageView::createMimeDataFromSelection() const {
   auto* copied = new QMimeData;

@@ -1,7 +1,7 @@
 // The page on the screen: a strip of paper as wide as the sheets it will be printed on.
 #pragma once
 
-#include <QTextEdit>
+#include <QTextBrowser>
 #include <QTimer>
 #include <memory>
 
@@ -9,7 +9,9 @@
 
 namespace kladez::viewer {
 
-class PageView : public QTextEdit {
+// A click on a link, or Enter on the one that Tab has reached, gives anchorClicked and opens
+// nothing.
+class PageView : public QTextBrowser {
   Q_OBJECT
 
  public:
@@ -41,6 +43,8 @@ class PageView : public QTextEdit {
   void wheelEvent(QWheelEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
+  // What the document does not hold is nowhere else looked for.
+  QVariant loadResource(int type, const QUrl& name) override;
 
  private:
   void LayOut();

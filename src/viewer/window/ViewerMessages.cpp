@@ -23,9 +23,16 @@ QString ReasonOf(const std::error_code& code) {
   return QString::fromStdString(code.message());
 }
 
-QString ReadErrorText(const QDir& directory, const QString& name, const std::error_code& code) {
+QString ReadErrorText(const QDir& directory, const QString& name, PageKind kind,
+                      const std::error_code& code) {
   const QString path = QDir::toNativeSeparators(directory.absoluteFilePath(name));
-  if (code == std::errc::no_such_file_or_directory) {
+  const bool missing = code == std::errc::no_such_file_or_directory;
+  if (kind == PageKind::kGuide) {
+    return missing ? u"Нет страницы справки: файл\n%1\nне найден."_s.arg(path)
+                   : u"Страницу справки прочитать не удалось: файл\n%1\n(%2)."_s.arg(
+                         path, ReasonOf(code));
+  }
+  if (missing) {
     return u"Нет печатной формы: файл\n%1\nне найден.\n\nВыведите документ на печать из программы "
            "еще раз."_s.arg(path);
   }

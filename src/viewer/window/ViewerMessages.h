@@ -5,6 +5,8 @@
 #include <QString>
 #include <system_error>
 
+#include "viewer/page/PageReader.h"
+
 class QWidget;
 
 namespace kladez::viewer {
@@ -13,7 +15,8 @@ namespace kladez::viewer {
 QString ReasonOf(const std::error_code& code);
 
 // The text for a page `name` of `directory` that can't be shown, and what can be done.
-QString ReadErrorText(const QDir& directory, const QString& name, const std::error_code& code);
+QString ReadErrorText(const QDir& directory, const QString& name, PageKind kind,
+                      const std::error_code& code);
 
 // A message box titled "Внимание!".
 void ShowError(QWidget* parent, const QString& text);

@@ -4,13 +4,15 @@
 #include <QElapsedTimer>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
-#include "viewer/page/PageReader.h"
 #include "viewer/window/PreviewDialog.h"
 #include "viewer/window/Printing.h"
 #include "viewer/window/ViewerLook.h"
@@ -26,10 +28,19 @@ constexpr int kPatience = 300;
 constexpr int kLeastWidth = 640;
 constexpr int kMostHeight = 1000;
 
+QString Untitled(PageKind kind) {
+  return kind == PageKind::kGuide ? u"Справка"_s : u"Печатная форма"_s;
+}
+
 }  // namespace
 
-ViewerWindow::ViewerWindow(const QDir& directory, const QString& name, QWidget* parent)
-    : QMainWindow(parent), directory_(directory), name_(name), view_(new PageView(this)) {
+ViewerWindow::ViewerWindow(const QDir& directory, const QString& name, PageKind kind,
+                           QWidget* parent)
+    : QMainWindow(parent),
+      directory_(directory),
+      name_(name),
+      kind_(kind),
+      view_(new PageView(this)) {
   setObjectName(u"ViewerWindow"_s);
   auto* central = new QWidget(this);
   auto* column = new QVBoxLayout(central);
@@ -92,6 +103,9 @@ void ViewerWindow::MakeActions() {
   bar->addActions({print, pdf, find, reload});
   bar->addSeparator();
   AddZoomActions(menuBar()->addMenu(u"&Вид"_s));
+  if (kind_ == PageKind::kGuide) {
+    AddGuideActions(menuBar()->addMenu(u"П&ереход"_s));
+  }
   view_->addActions({copy, all, find, print, pdf});
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -111,6 +125,53 @@ void ViewerWindow::AddZoomActions(QMenu* menu) {
           [this](int percent) { zoom_label_->setIconText(u"%1%"_s.arg(percent)); });
 }
 
+void ViewerWindow::AddGuideActions(QMenu* menu) {
+  go_back_ = menu->addAction(u"&Назад"_s, this, [this] { Return(back_, forward_); });
+  go_back_->setObjectName(u"GoBack"_s);
+  go_back_->setShortcut(QKeySequence(u"Alt+Left"_s));
+  go_forward_ = menu->addAction(u"&Вперёд"_s, this, [this] { Return(forward_, back_); });
+  go_forward_->setObjectName(u"GoForward"_s);
+  go_forward_->setShortcut(QKeySequence(u"Alt+Right"_s));
+  auto* bar = findChild<QToolBar*>(u"ToolBar"_s);
+  bar->insertActions(bar->actions().constFirst(), {go_back_, go_forward_});
+  EnableGuideActions();
+  connect(view_, &QTextBrowser::anchorClicked, this, &ViewerWindow::Follow);
+}
+
+void ViewerWindow::EnableGuideActions() {
+  go_back_->setEnabled(!back_.empty());
+  go_forward_->setEnabled(!forward_.empty());
+}
+
+bool ViewerWindow::LoadInstead(const QString& name) {
+  const QString before = std::exchange(name_, name);
+  if (Load()) {
+    return true;
+  }
+  name_ = before;
+  return false;
+}
+
+void ViewerWindow::Follow(const QUrl& link) {
+  const Visit here{name_, view_->verticalScrollBar()->value()};
+  if (LoadInstead(link.path())) {
+    back_.push_back(here);
+    forward_.clear();
+    EnableGuideActions();
+  }
+}
+
+void ViewerWindow::Return(std::vector<Visit>& from, std::vector<Visit>& to) {
+  const Visit here{name_, view_->verticalScrollBar()->value()};
+  const Visit there = from.back();
+  if (LoadInstead(there.name)) {
+    from.pop_back();
+    to.push_back(here);
+    view_->verticalScrollBar()->setValue(there.top);
+    EnableGuideActions();
+  }
+}
+
 bool ViewerWindow::Load() {
   QElapsedTimer since_begin;
   since_begin.start();
@@ -125,11 +186,12 @@ bool ViewerWindow::Load() {
     };
   };
   try {
-    auto page = std::make_shared<Page>(ReadPageFile(directory_, name_, report(u"Чтение: %p%"_s)));
+    auto page =
+        std::make_shared<Page>(ReadPageFile(directory_, name_, report(u"Чтение: %p%"_s), kind_));
     ShowPage(std::move(page), report(u"Разметка: %p%"_s));
     return true;
   } catch (const std::system_error& error) {
-    ShowError(isVisible() ? this : nullptr, ReadErrorText(directory_, name_, error.code()));
+    ShowError(isVisible() ? this : nullptr, ReadErrorText(directory_, name_, kind_, error.code()));
     return false;
   }
 }
@@ -137,7 +199,7 @@ bool ViewerWindow::Load() {
 void ViewerWindow::ShowPage(std::shared_ptr<const Page> page, const Progress& progress) {
   const bool is_first = page_ == nullptr;
   page_ = std::move(page);
-  setWindowTitle(page_->title.isEmpty() ? u"Печатная форма"_s : page_->title);
+  setWindowTitle(page_->title.isEmpty() ? Untitled(kind_) : page_->title);
   auto document = std::make_unique<PageDocument>(page_, progress);
   const double width = BodyWidth(Propose(PaperFormat(), document->ReadableWidth()));
   view_->ShowDocument(std::move(document), width);
