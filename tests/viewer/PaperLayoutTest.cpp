@@ -229,5 +229,26 @@ TEST(OutputTest, PdfNameIsTakenByEveryFileSystem) {
   EXPECT_EQ(PdfName(u"..."_s), u"Печатная форма.pdf"_s);
 }
 
+TEST(PageDocumentTest, ALineLeftBlankUnderATableStaysBlank) {
+  const auto gap = [](const QString& between) {
+    PageDocument document(std::make_shared<Page>(
+        ReadPage(u"<table border=1><tr><td>x</td></tr></table>"_s + between + u"под"_s,
+                 [](const QString&) { return QImage(); })));
+    document.SetResolution(96);
+    document.document()->setTextWidth(600);
+    const auto* layout = document.document()->documentLayout();
+    const QTextBlock cell = document.document()->begin().next();
+    const QTextBlock below = document.document()->lastBlock();
+    const QTextLine line = below.layout()->lineAt(below.layout()->lineCount() - 1);
+    return layout->blockBoundingRect(below).bottom() - line.height() -
+           layout->blockBoundingRect(cell).bottom();
+  };
+  const double none = gap({});
+  EXPECT_LT(none, 6) << "text right under a table";
+  EXPECT_NEAR(gap(u"<p>"_s) - none, 16, 1) << "the margin of a paragraph";
+  EXPECT_NEAR(gap(u"<br>"_s) - none, 18, 2) << "an empty line";
+  EXPECT_NEAR(gap(u"<p></p><br>"_s) - none, 34, 3) << "both, as under the lines of a waybill";
+}
+
 }  // namespace
 }  // namespace kladez::viewer

@@ -1,6 +1,7 @@
 #include "viewer/paper/PageDocument.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
 #include <QTextCursor>
 #include <QUrl>
 
@@ -173,7 +174,13 @@ void PageDocument::Fill(QTextCursor& cursor, const std::vector<Block>& blocks, b
       in_signature_ = i >= page_->signature && i < page_->signature_end;
     }
     if (const auto* table = std::get_if<std::unique_ptr<Table>>(&blocks[i])) {
-      AddTable(cursor, **table, on_page);
+      QTextTable* made = AddTable(cursor, **table, on_page);
+      const bool last = i + 1 == blocks.size();
+      if (const auto* below = last ? nullptr : std::get_if<Paragraph>(&blocks[i + 1])) {
+        QTextTableFormat format = made->format();
+        format.setBottomMargin(LostBelowTable(*below));
+        made->setFormat(format);
+      }
       is_fresh = true;
       continue;
     }
@@ -221,8 +228,20 @@ void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph)
   }
 }
 
-void PageDocument::AddTable(QTextCursor& cursor, const Table& table, bool on_page) {
+// Under a table the toolkit leaves out what a paragraph keeps from what is above it, and the empty
+// line with which one begins.
+double PageDocument::LostBelowTable(const Paragraph& paragraph) const {
+  double lost = paragraph.space_before;
+  if (!paragraph.runs.empty() && paragraph.runs.front().text.startsWith(QChar::LineSeparator)) {
+    const TextStyle& style = page_->styles[static_cast<size_t>(paragraph.runs.front().style)];
+    lost += QFontMetricsF(ScreenFont(style)).height();
+  }
+  return lost;
+}
+
+QTextTable* PageDocument::AddTable(QTextCursor& cursor, const Table& table, bool on_page) {
   const size_t count = table.rows.size();
+  QTextTable* made = nullptr;
   if (on_page && !table.follows_table) {
     stacks_.emplace_back();
   }
@@ -231,7 +250,7 @@ void PageDocument::AddTable(QTextCursor& cursor, const Table& table, bool on_pag
     while (end < count && ReachesPast(table, begin, end)) {
       ++end;
     }
-    QTextTable* made = AddRows(cursor, table, begin, end);
+    made = AddRows(cursor, table, begin, end);
     if (on_page) {
       stacks_.back().Add(*page_, table, made);
       NoteRows(table, begin, end, made);
@@ -240,6 +259,7 @@ void PageDocument::AddTable(QTextCursor& cursor, const Table& table, bool on_pag
     }
     begin = end;
   }
+  return made;
 }
 
 QTextTable* PageDocument::AddRows(QTextCursor& cursor, const Table& table, size_t begin,

@@ -73,7 +73,8 @@ class PageDocument {
  private:
   void Fill(QTextCursor& cursor, const std::vector<Block>& blocks, bool on_page);
   void AddParagraph(QTextCursor& cursor, const Paragraph& paragraph);
-  void AddTable(QTextCursor& cursor, const Table& table, bool on_page);
+  QTextTable* AddTable(QTextCursor& cursor, const Table& table, bool on_page);
+  double LostBelowTable(const Paragraph& paragraph) const;
   QTextTable* AddRows(QTextCursor& cursor, const Table& table, size_t begin, size_t end);
   void NoteParagraph(const QTextCursor& cursor, const Paragraph& paragraph);
   void NoteRows(const Table& table, size_t begin, size_t end, QTextTable* made);
