@@ -78,7 +78,13 @@ void InvoiceScreen::Load() {
   SetEntries(buyer.name, session.Klient);
   buyer.name->setEditText(source.party);
   LoadParty(PartyKind::kClient);
+  LoadTotals();
+}
 
+void InvoiceScreen::LoadTotals() {
+  rows_ready_ = false;
+  const PrintSource& source = Source();
+  const Session& session = Context().session;
   TotalTexts totals = Totals();
   // A failure on the way leaves what was worked out on the screen.
   const auto show = qScopeGuard([&] { ShowTotals(totals); });

@@ -57,6 +57,7 @@ class InvoiceScreen : public TotalsScreen {
                 InvoiceKind kind, QWidget* parent);
 
   void Load() override;
+  void LoadTotals() override;
 
  private:
   void Build();

@@ -63,6 +63,11 @@ QGroupBox* PrihPrint::NewParametersFrame() {
   Text45 = NewFigure(this, u"Text45"_s, start.percent);
   Text44 = NewFigure(this, u"Text44"_s, start.vat);
   Text43 = NewFigure(this, u"Text43"_s, start.sales_tax);
+  WhenLeft(Text45, [this] {
+    if (!Text45->isModified()) return;
+    Text45->setModified(false);
+    Reload();
+  });
   ReloadWhenLeft(Text44);
   ReloadWhenLeft(Text43);
   auto* grid = new QGridLayout;

@@ -2,7 +2,6 @@
 
 #include <QFocusEvent>
 #include <QTimer>
-#include <algorithm>
 
 #include "formats/TextLines.h"
 #include "printing/InputError.h"
@@ -25,8 +24,12 @@ PrintScreen::PrintScreen(AppContext& context, const PrintSource& source, const Q
 }
 
 void PrintScreen::Reload() {
+  Attempt([this] { Load(); });
+}
+
+void PrintScreen::Attempt(const std::function<void()>& load) {
   try {
-    Load();
+    load();
   } catch (const InputError&) {
     TellLater(u"Ошибка ввода"_s);
   } catch (const std::exception& error) {
@@ -44,8 +47,15 @@ void PrintScreen::TellLater(const QString& text) {
 }
 
 void PrintScreen::ReloadWhenLeft(QLineEdit* rate) {
-  rates_.push_back(rate);
-  rate->installEventFilter(this);
+  WhenLeft(rate, [this] {
+    SaveRates();
+    Reload();
+  });
+}
+
+void PrintScreen::WhenLeft(QLineEdit* field, const std::function<void()>& follow) {
+  when_left_[field] = follow;
+  field->installEventFilter(this);
 }
 
 bool PrintScreen::eventFilter(QObject* watched, QEvent* event) {
@@ -53,17 +63,15 @@ bool PrintScreen::eventFilter(QObject* watched, QEvent* event) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
     // Another window or a context menu does not leave the field.
     const bool left = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
-    if (left && std::find(rates_.begin(), rates_.end(), watched) != rates_.end()) {
-      SaveRates();
-      Reload();
-    }
+    const auto follow = when_left_.find(watched);
+    if (left && follow != when_left_.end()) follow->second();
   }
   return QDialog::eventFilter(watched, event);
 }
 
 bool PrintScreen::LeaveRates() {
   QWidget* focus = focusWidget();
-  if (std::find(rates_.begin(), rates_.end(), focus) != rates_.end()) focus->clearFocus();
+  if (when_left_.contains(focus)) focus->clearFocus();
   return !untold_failure_;
 }
 

@@ -4,7 +4,7 @@
 
 #include <QDialog>
 #include <functional>
-#include <vector>
+#include <map>
 
 #include "formats/CurrencyFile.h"
 #include "shell/AppContext.h"
@@ -32,17 +32,19 @@ class PrintScreen : public QDialog {
   // Remembers the rates in the settings.
   virtual void SaveRates() = 0;
 
-  // Runs Load. A failure is told as soon as the event at hand is over, so that the click that left
-  // a field is not swallowed half-way.
+  // Runs Load, or a part of it. A failure is told as soon as the event at hand is over, so that the
+  // click that left a field is not swallowed half-way.
   void Reload();
+  void Attempt(const std::function<void()>& load);
   // Leaving the field saves the rates and runs the load again.
   void ReloadWhenLeft(QLineEdit* rate);
+  void WhenLeft(QLineEdit* field, const std::function<void()>& follow);
 
   // Makes the page, writes the work file, closes the screen and opens the print-out, in this order.
   // An error is told and leaves the screen open, with no page written.
   void PrintPage(const QString& file, const std::function<QByteArray()>& page);
-  // A rate that was just typed is left first, so that it is in what is printed; false while the
-  // failure of its load is still to be told.
+  // A rate or another parameter that was just typed is left first, so that it is in what is
+  // printed; false while the failure of its load is still to be told.
   bool LeaveRates();
 
   AppContext& Context() const { return context_; }
@@ -58,7 +60,7 @@ class PrintScreen : public QDialog {
 
   AppContext& context_;
   const PrintSource source_;
-  std::vector<QObject*> rates_;
+  std::map<QObject*, std::function<void()>> when_left_;
   bool untold_failure_ = false;
 };
 

@@ -20,6 +20,7 @@ TotalsScreen::TotalsScreen(AppContext& context, const PrintSource& source, const
   Text18 = NewFigure(this, u"Text18"_s, start.percent);
   Text6 = NewFigure(this, u"Text6"_s);
   Text20 = NewText(this, u"Text20"_s, kFree.toString());
+  FollowWhenLeft(Text18);
   if (taxes == Taxes::kNone) return;
   Text19 = NewFigure(this, u"Text19"_s, discount);
   Text7 = NewFigure(this, u"Text7"_s, start.vat);
@@ -28,6 +29,7 @@ TotalsScreen::TotalsScreen(AppContext& context, const PrintSource& source, const
   Text10 = NewFigure(this, u"Text10"_s, kFree.toString());
   Check5 = NewTick(this, u"Check5"_s, u"Включа&я НДС:"_s, true);
   Check6 = NewTick(this, u"Check6"_s, u"Нало&г с продаж:"_s, false);
+  FollowWhenLeft(Text19);
   ReloadWhenLeft(Text7);
   ReloadWhenLeft(Text8);
 }
@@ -67,6 +69,14 @@ QGridLayout* TotalsScreen::NewParametersBlock(int groups_a_row) {
     fields.Add(NewCaption(this, u"Н&СП:"_s, Text8), Text8, NewHint(u"НСП", {Text8}));
   }
   return grid;
+}
+
+void TotalsScreen::FollowWhenLeft(TextLine* percentage) {
+  WhenLeft(percentage, [this, percentage] {
+    if (!percentage->isModified()) return;
+    percentage->setModified(false);
+    Attempt([this] { LoadTotals(); });
+  });
 }
 
 void TotalsScreen::SaveRates() {

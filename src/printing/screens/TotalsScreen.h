@@ -41,6 +41,8 @@ class TotalsScreen : public PrintScreen {
   QGridLayout* NewWordsBlock();
   QGridLayout* NewParametersBlock(int groups_a_row);
 
+  // The part of the load that works the totals out; the head of the form stays as it stands.
+  virtual void LoadTotals() = 0;
   void SaveRates() override;
   // What a load begins with: the rate of the settings, and the document's discount in the place of
   // "free", so that a discount the user typed survives.
@@ -48,6 +50,10 @@ class TotalsScreen : public PrintScreen {
   PrintParameters Parameters() const;
   TotalTexts Totals() const;
   void ShowTotals(const TotalTexts& totals);
+
+ private:
+  // A new percentage of the prices or discount is in the totals as soon as its field is left.
+  void FollowWhenLeft(TextLine* percentage);
 };
 
 }  // namespace kladez

@@ -110,11 +110,14 @@ void WaybillScreen::Load() {
   Text4->clear();
   if (Text5 != nullptr) Text5->setText(source.warehouse);
   LoadParties();
+  LoadTotals();
+}
 
+void WaybillScreen::LoadTotals() {
   TotalTexts totals = Totals();
   // A failure on the way leaves what was worked out on the screen.
   const auto show = qScopeGuard([&] { ShowTotals(totals); });
-  totals.before = TotalBefore(source.total, Parameters());
+  totals.before = TotalBefore(Source().total, Parameters());
   if (kind_ == DocumentKind::kTransfer) {
     totals.words = AmountInWords(totals.before, TheCurrency());
   } else {

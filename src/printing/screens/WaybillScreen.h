@@ -36,6 +36,7 @@ class WaybillScreen : public TotalsScreen {
                 DocumentKind kind, QWidget* parent);
 
   void Load() override;
+  void LoadTotals() override;
 
  private:
   void Build();

@@ -83,6 +83,17 @@ TEST(CashOrderScreen, ATypedTextStaysUntilAParameterIsLeft) {
   EXPECT_EQ(world->Settings().Read(settings::kSalesTax), u"5"_s);
 }
 
+TEST(CashOrderScreen, ThePercentageIsInTheSumAsSoonAsItIsLeft) {
+  PrintWorld world;
+  PrihPrint screen(world.Context(), world.source);
+  ShowActive(&screen);
+  Enter(&screen, "Text45", u"50"_s);
+  QTest::keyClick(Find<QLineEdit>(&screen, "Text45"), Qt::Key_Tab);
+  EXPECT_EQ(screen.Texts().value(u"Text12"_s), u"590.00"_s);
+  EXPECT_EQ(screen.Texts().value(u"Words"_s), u"Пятьсот девяносто рублей 00 копеек"_s);
+  EXPECT_EQ(screen.Texts().value(u"Included"_s), u"НДС: 90.00 руб. НСП: 0.00 руб."_s);
+}
+
 TEST(CashOrderScreen, AParameterThatIsNoNumberIsTold) {
   PrintWorld world;
   PrihPrint screen(world.Context(), world.source);

@@ -73,6 +73,22 @@ TEST(InvoiceScreens, ThePickOfAPartyFillsItsFieldsAndALoadPutsTheFirstBack) {
   EXPECT_EQ(TextOf(&screen, "Text4"), u"Первая10"_s);
 }
 
+TEST(InvoiceScreens, PercentagesAreInTheRowsAndThePickedPartyStays) {
+  PrintWorld world;
+  chFactPrint screen(world.Context(), world.source);
+  ShowActive(&screen);
+  auto* seller = Find<QComboBox>(&screen, "Text2");
+  seller->setFocus();
+  QTest::keyClick(seller, Qt::Key_Down);
+  Enter(&screen, "Text19", u"0"_s);
+  Enter(&screen, "Text18", u"50"_s);
+  Click(&screen, "Command1");
+  const QString page = DecodeText(world.PageShown());
+  EXPECT_TRUE(page.contains(u"Продавец: Вторая <&><br>"));
+  EXPECT_TRUE(page.contains(u">50.00&nbsp;<")) << "the net price";
+  EXPECT_TRUE(page.contains(u">590.00&nbsp;<")) << "the sum with the tax";
+}
+
 TEST(InvoiceScreens, DollarsTakeTheDiscountOutOfTheRows) {
   PrintWorld world;
   world->Settings().Write(settings::kRate, u"2"_s);

@@ -142,6 +142,43 @@ TEST(WaybillScreens, LeavingARateSavesItAndLoadsAnewButKeepsTheTypedDiscount) {
   EXPECT_EQ(TextOf(&next, "Text7"), u"18"_s);
 }
 
+TEST(WaybillScreens, PercentagesAreInAllOfThePaperAndTheTypedHeadStays) {
+  PrintWorld world;
+  PrihNakl screen(world.Context(), world.source);
+  ShowActive(&screen);
+  Click(&screen, "GoldButton1");
+  Enter(&screen, "Text1", u"Другой заголовок"_s);
+  Enter(&screen, "Text18", u"50"_s);
+  Enter(&screen, "Text19", u"20"_s);
+  EXPECT_EQ(TextOf(&screen, "Text6"), u"590.00"_s);
+  Click(&screen, "Command1");
+  const QStringList lines = DecodeLines(world.PageShown());
+  EXPECT_TRUE(lines.value(1).contains(u">Другой заголовок<"));
+  EXPECT_EQ(lines.filter(u">59.00&nbsp;<"_s).filter(u">590.00&nbsp;<"_s).size(), 1);
+  EXPECT_TRUE(lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Всего: 590.00 руб.</FONT></i>"_s));
+  EXPECT_TRUE(
+      lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Итого к оплате: 472.00 руб.,</FONT></i>"_s));
+  EXPECT_TRUE(
+      lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>включая НДС: 72.00 руб.</FONT></i>"_s));
+  EXPECT_TRUE(
+      lines.contains(u"<br><FONT FACE=Arial SIZE=2><b>Сумма: Четыреста семьдесят два рубля "
+                     u"00 копеек</FONT></b><BR>"_s));
+}
+
+// A field that was only passed through changes nothing.
+TEST(WaybillScreens, ATypedTotalStaysWhenNoPercentageWasTyped) {
+  PrintWorld world;
+  PrihNakl screen(world.Context(), world.source);
+  ShowActive(&screen);
+  Click(&screen, "GoldButton1");
+  Enter(&screen, "Text20", u"Тысяча рублей"_s);
+  for (const char* name : {"Text18", "Text19"}) {
+    Find<QLineEdit>(&screen, name)->setFocus();
+    QTest::keyClick(Find<QLineEdit>(&screen, name), Qt::Key_Tab);
+  }
+  EXPECT_EQ(TextOf(&screen, "Text20"), u"Тысяча рублей"_s);
+}
+
 TEST(WaybillScreens, ARateStillBeingTypedIsOnThePaperWhenEnterPrints) {
   PrintWorld world;
   PrihNakl screen(world.Context(), world.source);
