@@ -4,9 +4,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QProgressBar>
 #include <QUrl>
-#include <algorithm>
 
 #include "ScreenDriver.h"
 #include "shell/Help.h"
@@ -182,42 +180,6 @@ TEST_F(MainWindow, ModalScreensLeaveTheChildAndAScreenThatClosesGivesWayToTheHom
   EXPECT_EQ(window_.Child(), goods);
   goods->close();
   EXPECT_TRUE(QTest::qWaitFor([&] { return ChildName() == u"Main"_s; }));
-}
-
-// Notes each value that the bar shows while it is there.
-class BarWatch : public QObject {
- public:
-  explicit BarWatch(QProgressBar* bar) : bar_(bar) { bar->installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) shown_.push_back(bar_->value());
-    return false;
-  }
-  const std::vector<int>& Shown() const { return shown_; }
-
- private:
-  QProgressBar* bar_;
-  std::vector<int> shown_;
-};
-
-TEST_F(MainWindow, TheBarShowsHowFarAPriceListIsLoadedAndGoesAway) {
-  StartOpen();
-  QStringList goods;
-  QStringList prices;
-  for (int i = 0; i < 500; ++i) {
-    const QString name = u"Чай %1"_s.arg(i);
-    goods += {name, u"-"_s, u"-"_s, u"пач."_s, u"1.00"_s};
-    prices += {name, u"пач."_s, u"1.00"_s, u"2.00"_s};
-  }
-  world_.Temp().PutLines(u"0001\\spr\\товар.spr"_s, goods);
-  world_.Temp().PutLines(u"0001\\Главный склад\\PRICE\\0001.prc"_s, prices);
-  auto* bar = Find<QProgressBar>(&window_, "ProgressBar1");
-  EXPECT_FALSE(bar->isVisible());
-  const BarWatch watch(bar);
-  ClickPanel("go4");
-  EXPECT_EQ(ChildName(), u"Price"_s);
-  EXPECT_GT(watch.Shown().size(), 50u);
-  EXPECT_TRUE(std::is_sorted(watch.Shown().begin(), watch.Shown().end()));
-  EXPECT_FALSE(bar->isVisible());
 }
 
 TEST_F(MainWindow, EveryMenuEntryBearsItsCaption) {
