@@ -15,13 +15,16 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr QStringView kExtension = u".us";
+// Two lines are never as long; a file that is was damaged, and no screen could show its name.
+constexpr qsizetype kLargestDescriptor = 1 << 16;
 
 }  // namespace
 
 std::vector<CatalogueEntry> ListDatabases(const DataDir& data) {
   std::vector<CatalogueEntry> entries;
   data.ForEachFile({}, kExtension, [&](const DataDir::ListedFile& file) {
-    entries.push_back({file.name, file.bytes ? ReadDescriptor(*file.bytes) : DatabaseDescriptor{}});
+    const bool good = file.bytes && file.bytes->size() <= kLargestDescriptor;
+    entries.push_back({file.name, good ? ReadDescriptor(*file.bytes) : DatabaseDescriptor{}});
     return true;
   });
   return entries;

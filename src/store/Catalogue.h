@@ -17,8 +17,9 @@ struct CatalogueEntry {
   DatabaseDescriptor descriptor;
 };
 
-// All descriptors in the order of their file names; one that can't be read is an entry with empty
-// texts. Throws filesystem_error when the directory itself can't be listed.
+// All descriptors in the order of their file names; one that can't be read, or is far too long
+// for one, is an entry with empty texts. Throws filesystem_error when the directory itself can't be
+// listed.
 std::vector<CatalogueEntry> ListDatabases(const DataDir& data);
 
 // A number as files are named by it: "0###", "0012".

@@ -270,6 +270,32 @@ TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNor
   EXPECT_TRUE(screen.isVisible());
 }
 
+TEST_F(CatalogueScreens, BoxesKeepTheirSizeWhateverTheDescriptorHolds) {
+  const QString name(20000, u'ш');
+  const QString path(20000, u'п');
+  world_.Temp().PutLines(u"0001.us"_s, {path, name});
+  const auto fits = [](QWidget* dialog) {
+    EXPECT_LT(dialog->width(), 1000) << dialog->windowTitle().toStdString();
+    EXPECT_LT(dialog->height(), 600) << dialog->windowTitle().toStdString();
+  };
+  ModalAnswers answers{On([](Bases* bases) {
+                         Click(bases, "Command1");
+                         Click(bases, "GoldButton1");
+                         bases->close();
+                       }),
+                       [&](QWidget* dialog) {
+                         fits(dialog);
+                         dialog->close();
+                       },
+                       [&](QWidget* dialog) {
+                         fits(dialog);
+                         // What is proposed is the whole name all the same.
+                         EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), name);
+                         dialog->close();
+                       }};
+  bases_.Run(Bases::Mode::kCatalogue);
+}
+
 TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
   for (const auto mode : {Bases::Mode::kCatalogue, Bases::Mode::kOpen}) {
     ModalAnswers answers{On([](Bases* bases) {

@@ -131,9 +131,11 @@ TEST(Catalogue, UnreadableDescriptorIsARowWithoutName) {
   temp.PutLines(u"0001.us"_s, {u"0001\\"_s, u"Первая"_s});
   temp.Put(u"0002.us"_s, {});
   temp.PutLines(u"0003.us"_s, {u"0003\\"_s, u"Третья"_s});
+  temp.Put(u"0004.us"_s, "0004\\\r\n" + QByteArray(100000, 'x'));
   const auto entries = ListDatabases(temp.Data());
-  ASSERT_EQ(entries.size(), 3u);
+  ASSERT_EQ(entries.size(), 4u);
   EXPECT_EQ(entries[1].descriptor, DatabaseDescriptor{});
+  EXPECT_EQ(entries[3].descriptor, DatabaseDescriptor{});
   EXPECT_EQ(entries[2].descriptor.name, u"Третья"_s);
 }
 

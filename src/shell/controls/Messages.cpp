@@ -15,10 +15,19 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// A damaged file may hold a name of many megabytes, which no box can lay out.
+QString Shown(const QString& text) {
+  QStringList lines = text.split(u'\n');
+  for (QString& line : lines) {
+    if (line.size() > look::kLongestText) line = line.left(look::kLongestText) + u'…';
+  }
+  return lines.join(u'\n');
+}
+
 QMessageBox::StandardButton Run(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                 const QString& title, QMessageBox::StandardButtons buttons,
                                 QMessageBox::StandardButton otherwise) {
-  QMessageBox box(icon, title, text, buttons, parent);
+  QMessageBox box(icon, title, Shown(text), buttons, parent);
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(otherwise);
   // Without a Cancel button Escape and the frame answer No.
@@ -71,8 +80,11 @@ std::optional<QString> AskText(QWidget* parent, const QString& title, const QStr
   look::SetDialogMargins(layout);
   auto* label = new QLabel(&box);
   label->setTextFormat(Qt::PlainText);
-  label->setText(prompt);
+  label->setText(Shown(prompt));
   label->setWordWrap(true);
+  // A name without a blank is one word, and would make the box as wide as itself.
+  label->setMinimumWidth(1);
+  label->setMaximumWidth(100 * look::kGrid);
   auto* field = new TextLine(&box);
   field->setObjectName(u"Text1"_s);
   field->setText(value);
