@@ -22,6 +22,12 @@ QString PathOf(const Session& session, const QString& name) {
   return session.Path(name);
 }
 
+void RefuseAllWarehouses(const QString& name) {
+  if (name != kAllWarehouses) return;
+  ThrowFileError(u"Эти слова означают все склады вместе, назвать так один склад нельзя"_s, name,
+                 EINVAL);
+}
+
 void WriteList(SaveSet& save, const Session& session, const QStringList& names) {
   save.Write(session.Path(u"склад.usd"), EncodeLines(names));
 }
@@ -37,6 +43,7 @@ WarehouseDirectory::WarehouseDirectory(const DataDir& data, Session& session)
     : data_(data), session_(session), names_(session.SkladNames) {}
 
 void WarehouseDirectory::Create(const QString& name) {
+  RefuseAllWarehouses(name);
   const QString path = PathOf(session_, name);
   // A directory that is there already, be it the Database's own, must not become a warehouse.
   if (data_.DirectoryExists(path)) {
@@ -53,6 +60,7 @@ void WarehouseDirectory::Create(const QString& name) {
 
 void WarehouseDirectory::Rename(int row, const QString& name) {
   if (name == names_[row]) return;
+  RefuseAllWarehouses(name);
   SaveSet save(data_);
   save.RenameDirectory(PathOf(session_, names_[row]), PathOf(session_, name));
   save.Commit();

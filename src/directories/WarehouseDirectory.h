@@ -17,7 +17,8 @@ bool HoldsForbiddenCharacter(QStringView name);
 
 // The list of the warehouses as a screen shows it, filled from the session. Every command throws
 // filesystem_error, and nothing has changed then, neither the list nor the disk. A name that is not
-// one plain directory name ("..", empty) is refused before anything is touched.
+// one plain directory name ("..", empty), or means all warehouses, is refused before anything is
+// touched.
 class WarehouseDirectory {
  public:
   WarehouseDirectory(const DataDir& data, Session& session);

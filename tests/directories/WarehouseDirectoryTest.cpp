@@ -37,10 +37,17 @@ TEST_F(WarehouseDirectoryTest, NewWarehouseIsMadeWithAllThatItHolds) {
 
 TEST_F(WarehouseDirectoryTest, RefusedNamesChangeNeitherListNorDisk) {
   // A directory of the tree itself, names that lead out, a name that differs in letter case only,
-  // a file's name, a name too long for a directory.
-  const QStringList names = {u"SPR"_s,     u"внпер"_s,         u".."_s,        u"."_s,
-                             {},           u"главный СКЛАД"_s, u"склад.usd"_s, QString(300, u'я'),
-                             u"..\\0002"_s};
+  // a file's name, a name too long for a directory, the selectors' name for all warehouses.
+  const QStringList names = {u"SPR"_s,
+                             u"внпер"_s,
+                             u".."_s,
+                             u"."_s,
+                             {},
+                             u"главный СКЛАД"_s,
+                             u"склад.usd"_s,
+                             QString(300, u'я'),
+                             u"..\\0002"_s,
+                             kAllWarehouses.toString()};
   world_.Remember();
   WarehouseDirectory warehouses = Open();
   for (const QString& name : names) {
