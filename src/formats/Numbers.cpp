@@ -98,6 +98,28 @@ int TakeDigits(Cursor<Char>& in, Digits& out, bool grouped) {
   return count;
 }
 
+template <typename Char>
+bool TakeMinus(Cursor<Char>& in) {
+  const bool minus = in.Take(u'-', u'-');
+  if (!minus) in.Take(u'+', u'+');
+  return minus;
+}
+
+// Digits with a point or without, as a conversion takes them: with a digit on both sides of the
+// point. Gives the number of digits that stand there.
+template <typename Char>
+int TakeMantissa(Cursor<Char>& in, Digits& out, bool grouped) {
+  int count = TakeDigits(in, out, grouped);
+  if (in.Take(u'.', u'.')) {
+    if (count == 0) out.Add(u'0');
+    out.Add(u'.');
+    const int decimals = TakeDigits(in, out, false);
+    if (decimals == 0) out.Add(u'0');
+    count += decimals;
+  }
+  return count;
+}
+
 // Digits with at most one point, as nearly all numbers of files are: up to 15 digits and a power of
 // ten are exact, so one division rounds as the conversion of the text does.
 template <typename Char>
@@ -126,27 +148,12 @@ std::optional<double> ParseStrictly(Cursor<Char> in) {
   if (const auto plain = ParsePlain(in)) return plain;
   Digits digits;
   in.SkipBlanks();
-  bool negative = false;
-  if (!in.AtEnd() && (in.Now() == u'-' || in.Now() == u'+')) {
-    negative = in.Now() == u'-';
-    in.Step();
-    in.SkipBlanks();
-  }
-  int count = TakeDigits(in, digits, true);
-  if (in.Take(u'.', u'.')) {
-    if (count == 0) digits.Add(u'0');
-    digits.Add(u'.');
-    const int decimals = TakeDigits(in, digits, false);
-    if (decimals == 0) digits.Add(u'0');
-    count += decimals;
-  }
-  if (count == 0) return std::nullopt;
+  const bool negative = TakeMinus(in);
+  in.SkipBlanks();
+  if (TakeMantissa(in, digits, true) == 0) return std::nullopt;
   if (in.Take(u'e', u'E')) {
     digits.Add(u'e');
-    if (!in.AtEnd() && (in.Now() == u'-' || in.Now() == u'+')) {
-      if (in.Now() == u'-') digits.Add(u'-');
-      in.Step();
-    }
+    if (TakeMinus(in)) digits.Add(u'-');
     if (TakeDigits(in, digits, false) == 0) return std::nullopt;
   }
   in.SkipBlanks();
@@ -251,23 +258,10 @@ double ParseLenient(QStringView text) {
   const QString packed = text.toString().remove(u' ');
   Cursor<QChar> in(packed.cbegin(), packed.cend());
   Digits digits;
-  bool negative = false;
-  if (!in.AtEnd() && (in.Now() == u'-' || in.Now() == u'+')) {
-    negative = in.Now() == u'-';
-    in.Step();
-  }
-  int count = TakeDigits(in, digits, false);
-  if (in.Take(u'.', u'.')) {
-    if (count == 0) digits.Add(u'0');
-    digits.Add(u'.');
-    const int decimals = TakeDigits(in, digits, false);
-    if (decimals == 0) digits.Add(u'0');
-    count += decimals;
-  }
-  if (count == 0) return 0;
+  const bool negative = TakeMinus(in);
+  if (TakeMantissa(in, digits, false) == 0) return 0;
   if (in.Take(u'e', u'E')) {
-    const bool minus = in.Take(u'-', u'-');
-    if (!minus) in.Take(u'+', u'+');
+    const bool minus = TakeMinus(in);
     if (!in.AtEnd() && IsDigit(in.Now())) {
       digits.Add(u'e');
       if (minus) digits.Add(u'-');
