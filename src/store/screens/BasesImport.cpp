@@ -1,8 +1,6 @@
 #include "store/screens/BasesImport.h"
 
 #include <QCloseEvent>
-#include <QFormLayout>
-#include <QVBoxLayout>
 
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
@@ -27,16 +25,7 @@ BasesImport::BasesImport(AppContext& context, CatalogueHost& host, QWidget* pare
   Text3->setObjectName(u"Text3"_s);
   Text3->setReadOnly(true);
   ListView1->SetEmptyText(u"Нет ни одной базы данных."_s);
-  auto* fields = new QFormLayout;
-  fields->addRow(u"И&мя базы данных:"_s, Text3);
-  auto* layout = new QVBoxLayout(this);
-  look::SetDialogMargins(layout);
-  layout->addWidget(ListView1, 1);
-  layout->addLayout(fields);
-  layout->addSpacing(look::kGrid);
-  layout->addLayout(NewEndingRow(Command1, Command2));
-  resize(50 * look::kGrid, 40 * look::kGrid);
-
+  ListView1->LayOut(this, u"И&мя базы данных:"_s, Text3, Command1, Command2);
   ListView1->ShowNameIn(Text3);
   connect(ListView1, &RecordList::DoubleClicked, this, &BasesImport::Choose);
   connect(ListView1, &RecordList::EnterPressed, this, &BasesImport::Choose);

@@ -1,8 +1,6 @@
 #include "store/screens/BasesNew.h"
 
 #include <QCloseEvent>
-#include <QFormLayout>
-#include <QVBoxLayout>
 
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
@@ -25,16 +23,7 @@ BasesNew::BasesNew(AppContext& context, CatalogueHost& host, QWidget* parent)
   setWindowTitle(u"Создать"_s);
   Text3->setObjectName(u"Text3"_s);
   ListView1->SetEmptyText(u"Баз данных ещё нет. Введите имя первой."_s);
-  auto* fields = new QFormLayout;
-  fields->addRow(u"&Имя базы данных:"_s, Text3);
-  auto* layout = new QVBoxLayout(this);
-  look::SetDialogMargins(layout);
-  layout->addWidget(ListView1, 1);
-  layout->addLayout(fields);
-  layout->addSpacing(look::kGrid);
-  layout->addLayout(NewEndingRow(Command1, Command2));
-  resize(50 * look::kGrid, 40 * look::kGrid);
-
+  ListView1->LayOut(this, u"&Имя базы данных:"_s, Text3, Command1, Command2);
   ListView1->ShowNameIn(Text3);
   connect(Command1, &QPushButton::clicked, this, &BasesNew::Create);
   connect(Command2, &QPushButton::clicked, this, &BasesNew::reject);

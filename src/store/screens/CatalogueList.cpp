@@ -1,5 +1,10 @@
 #include "store/screens/CatalogueList.h"
 
+#include <QDialog>
+#include <QFormLayout>
+#include <QVBoxLayout>
+
+#include "shell/controls/Commands.h"
 #include "shell/controls/Fields.h"
 
 namespace kladez {
@@ -42,6 +47,19 @@ void CatalogueList::ShowNameIn(TextLine* field) {
   connect(this, &RecordList::CurrentRowChanged, field, [this, field](int row) {
     field->setText(row < 0 ? QString() : entries_[static_cast<size_t>(row)].descriptor.name);
   });
+}
+
+void CatalogueList::LayOut(QDialog* dialog, const QString& caption, TextLine* field,
+                           QPushButton* command, QPushButton* cancel) {
+  auto* fields = new QFormLayout;
+  fields->addRow(caption, field);
+  auto* layout = new QVBoxLayout(dialog);
+  look::SetDialogMargins(layout);
+  layout->addWidget(this, 1);
+  layout->addLayout(fields);
+  layout->addSpacing(look::kGrid);
+  layout->addLayout(NewEndingRow(command, cancel));
+  dialog->resize(50 * look::kGrid, 40 * look::kGrid);
 }
 
 CatalogueEntry CatalogueList::Selected() const {

@@ -8,6 +8,9 @@
 #include "shell/controls/RecordList.h"
 #include "store/Catalogue.h"
 
+class QDialog;
+class QPushButton;
+
 namespace kladez {
 
 class CatalogueList : public RecordList {
@@ -22,6 +25,9 @@ class CatalogueList : public RecordList {
 
   // The field "Имя базы данных:" follows the selected row.
   void ShowNameIn(TextLine* field);
+  // Lays a dialog out: the list, the field under the caption, the two commands.
+  void LayOut(QDialog* dialog, const QString& caption, TextLine* field, QPushButton* command,
+              QPushButton* cancel);
 
   int Count() const { return static_cast<int>(entries_.size()); }
   bool HasSelection() const { return CurrentRow() >= 0; }
