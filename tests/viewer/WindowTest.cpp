@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -10,6 +11,7 @@
 #include <QTest>
 #include <QTextTable>
 #include <QTimer>
+#include <QTreeView>
 #include <QWheelEvent>
 
 #include "viewer/SamplePages.h"
@@ -259,6 +261,39 @@ TEST(PrintingTest, SheetsThatAPersonAsksFor) {
   for (const QString& refused : {u"0"_s, u"4"_s, u"2-1"_s, u"1-"_s, u"все"_s, u"1,,2"_s}) {
     EXPECT_EQ(ParseSheets(refused, 3), std::nullopt) << refused.toStdString();
   }
+}
+
+TEST(PrintingTest, FileDialogTellsKindAndDayInRussian) {
+  const QTemporaryDir folder;
+  ASSERT_TRUE(QDir(folder.path()).mkdir(u"Бумаги"_s));
+  QFile page(folder.filePath(u"накладная.pdf"_s));
+  ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+  ASSERT_TRUE(page.setFileTime(QDateTime({2026, 3, 5}, {10, 20}), QFile::FileModificationTime));
+  page.close();
+  const QLocale before;
+  QLocale::setDefault(QLocale(QLocale::Russian, QLocale::Russia));
+  QStringList told;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->setDirectory(folder.path());
+    auto* list = dialog->findChild<QTreeView*>(u"treeView"_s);
+    const auto row = [&](int at, int column) {
+      return list->model()->index(at, column, list->rootIndex()).data().toString();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
+    for (int at = 0; at < 2; ++at) told << row(at, 0) + u": "_s + row(at, 2);
+    told.sort();
+    told << row(0, 3) << row(1, 3);
+    dialog->reject();
+  });
+  EXPECT_EQ(AskPdfPath(u"Накладная"_s, nullptr), QString());
+  QLocale::setDefault(before);
+
+  ASSERT_EQ(told.size(), 4);
+  EXPECT_EQ(told[0], u"Бумаги: Папка"_s);
+  EXPECT_EQ(told[1], u"накладная.pdf: Файл PDF"_s);
+  EXPECT_TRUE(told.contains(u"05.03.2026 10:20"_s)) << told.join(u'\n').toStdString();
 }
 
 TEST(ViewerSpeedTest, LongPageAnswersBeforeAllOfItIsLaidOut) {

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "viewer/paper/Output.h"
+#include "viewer/window/FileColumns.h"
 #include "viewer/window/ViewerMessages.h"
 
 namespace kladez::viewer {
@@ -51,6 +52,7 @@ QString AskPdfPath(const QString& title, QWidget* parent) {
   QFileDialog dialog(parent, u"Сохранить в PDF"_s,
                      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                      u"Файлы PDF (*.pdf)"_s);
+  dialog.setProxyModel(new FileColumns(&dialog));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(u"pdf"_s);
   dialog.selectFile(PdfName(title));
