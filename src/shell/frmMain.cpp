@@ -89,6 +89,10 @@ frmMain::frmMain(AppContext& context) : context_(context), menu_(new MainMenu(me
   connect(Picture1, &LinksPanel::Chosen, this, &frmMain::Go);
   connect(Picture2, &LinksStrip::Chosen, this, &frmMain::Go);
   context_.show_progress = [this](double part) { ShowProgress(part); };
+  way_home_.setSingleShot(true);
+  connect(&way_home_, &QTimer::timeout, this, [this] {
+    if (!child_) ShowHome();
+  });
   bases_ = new Bases(context_, *this, this);
   HideDatabaseMenus();
   DisableDatabaseCommands();
@@ -227,6 +231,8 @@ void frmMain::CloseChildScreens() {
     }
   }
   child_ = nullptr;
+  // Whoever closed them has another screen to show.
+  way_home_.stop();
 }
 
 // The screens before it are closed by now: one made already would be closed with them.
@@ -235,12 +241,7 @@ void frmMain::ShowChild(QWidget* child) {
   child->setAttribute(Qt::WA_DeleteOnClose);
   host_layout_->addWidget(child);
   // One that closes itself gives way to the home screen, once it is gone for good.
-  connect(
-      child, &QObject::destroyed, this,
-      [this] {
-        if (!child_) ShowHome();
-      },
-      Qt::QueuedConnection);
+  connect(child, &QObject::destroyed, this, [this] { way_home_.start(); });
   child->show();
   (child->focusWidget() != nullptr ? child->focusWidget() : child)->setFocus();
 }

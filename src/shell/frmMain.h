@@ -4,10 +4,12 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 
 #include "shell/AppContext.h"
 #include "shell/MainMenu.h"
 #include "shell/Places.h"
+#include "shell/controls/DialogsFirst.h"
 #include "store/screens/CatalogueHost.h"
 
 class QLabel;
@@ -72,6 +74,8 @@ class frmMain : public QMainWindow, public CatalogueHost {
   QProgressBar* ProgressBar1;  // how far a price list is loaded
   Bases* bases_ = nullptr;
   QPointer<QWidget> child_;
+  QTimer way_home_;  // from a child screen that closed itself
+  DialogsFirst dialogs_first_;
 };
 
 }  // namespace kladez

@@ -182,6 +182,23 @@ TEST_F(MainWindow, ModalScreensLeaveTheChildAndAScreenThatClosesGivesWayToTheHom
   EXPECT_TRUE(QTest::qWaitFor([&] { return ChildName() == u"Main"_s; }));
 }
 
+TEST_F(MainWindow, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
+  StartOpen();
+  Entry(u"mnu_Sprav_T"_s)->trigger();
+  // It closes itself, and before the home screen is there, another one is asked for. That one has
+  // something to tell while it is made.
+  ASSERT_TRUE(QFile::remove(Data().Resolve(u"0001\\spr\\товар.spr"_s)));
+  ASSERT_EQ(ChildName(), u"sprTovar"_s);
+  delete window_.Child();
+  ModalAnswers answers({[](QWidget* message) {
+    QTest::qWait(50);
+    message->close();
+  }});
+  Entry(u"mnu_Sklad_NT"_s)->trigger();
+  EXPECT_EQ(ChildName(), u"Sklad"_s);
+  EXPECT_EQ(Children(), 1);
+}
+
 TEST_F(MainWindow, EveryMenuEntryBearsItsCaption) {
   const std::vector<std::pair<QString, QString>> captions = {
       {u"mnuFileCreate"_s, u"Создать..."_s},
