@@ -13,6 +13,7 @@
 #include "reports/screens/ChartWidget.h"
 #include "shell/Hints.h"
 #include "shell/Link.h"
+#include "shell/controls/Columns.h"
 #include "shell/controls/LongWork.h"
 #include "shell/controls/WrapRow.h"
 
@@ -49,11 +50,10 @@ QFrame* NewCard(QWidget* parent) {
 Main::Main(AppContext& context, QWidget* parent) : QWidget(parent), context_(context) {
   setObjectName(u"Main"_s);
   setWindowTitle(u"Главная"_s);
-  auto* cards = new QHBoxLayout;
-  cards->setSpacing(look::kGrid);
+  auto* cards = new Columns(look::kGrid);
   for (const PlaceGroup group :
        {PlaceGroup::kStore, PlaceGroup::kReports, PlaceGroup::kDirectories}) {
-    cards->addWidget(NewLinks(group), 1);
+    cards->Add(NewLinks(group));
   }
   figures_ = NewFigures();
   auto* layout = new QVBoxLayout(this);
@@ -119,11 +119,11 @@ QWidget* Main::NewFigures() {
   auto* chart = new QVBoxLayout;
   chart->addLayout(chart_head);
   chart->addWidget(MSChart1, 1);
-  auto* layout = new QHBoxLayout(card);
+  auto* layout = new Columns(look::kGap);
   layout->setContentsMargins(look::kMargin, look::kMargin, look::kGrid, look::kMargin);
-  layout->setSpacing(look::kGap);
-  layout->addLayout(sums, 1);
-  layout->addLayout(chart, 3);
+  layout->Add(sums, 1);
+  layout->Add(chart, 3);
+  card->setLayout(layout);
   return card;
 }
 

@@ -12,6 +12,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// Of a bank account, the longest number of the form.
+constexpr int kAccountFigures = 20;
+
 // Fields that fill a whole line of the form; the others stand two in a line.
 bool IsWide(PartyField field) {
   using enum PartyField;
@@ -39,7 +42,8 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
     }
     auto* edit = new TextLine(this);
     edit->setObjectName(u"field%1"_s.arg(fields_.size() + 1));
-    edit->setText(party.value(static_cast<qsizetype>(fields_.size())));
+    ShowText(edit, party.value(static_cast<qsizetype>(fields_.size())));
+    if (!wide) KeepRoomFor(edit, kAccountFigures);
     fields_.push_back(edit);
     auto* label = new QLabel(CaptionOf(field).caption, this);
     label->setBuddy(edit);
@@ -55,7 +59,7 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
   layout->addLayout(grid);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
-  setMinimumWidth(85 * look::kGrid);
+  resize(sizeHint().expandedTo(QSize(85 * look::kGrid, 0)));
   fields_.front()->setFocus();
   connect(ok, &QPushButton::clicked, this, &PartyForm::Ok);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

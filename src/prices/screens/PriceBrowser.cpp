@@ -12,6 +12,7 @@
 #include "shell/Help.h"
 #include "shell/Hints.h"
 #include "shell/controls/Choice.h"
+#include "shell/controls/Columns.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Guard.h"
 #include "shell/controls/WrapRow.h"
@@ -109,13 +110,19 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
   Combo1->setCurrentIndex(-1);
   Combo2 = new QComboBox(this);
   Combo2->setObjectName(u"Combo2"_s);
-  auto* choices = new QHBoxLayout;
-  AddChoice(choices, u"Ск&лад:"_s, Combo1, HintFor(screen, u"Склад"));
-  choices->addSpacing(look::kMargin);
-  AddChoice(choices, u"Пра&йс:"_s, Combo2, HintFor(screen, u"Прайс"));
-  choices->addSpacing(look::kMargin);
-  AddCommands(choices, Place::kPanel);
-  choices->addWidget(NewHelpCommand(this, context_.data, u"price.htm"));
+  auto* choices = new Columns(look::kMargin);
+  const auto add_choice = [&](const QString& caption, QComboBox* field, QStringView place) {
+    auto* choice = new QHBoxLayout;
+    AddChoice(choice, caption, field, HintFor(screen, place));
+    choices->Add(choice);
+  };
+  add_choice(u"Ск&лад:"_s, Combo1, u"Склад");
+  add_choice(u"Пра&йс:"_s, Combo2, u"Прайс");
+  auto* commands = new QHBoxLayout;
+  commands->setSpacing(look::kTight);
+  AddCommands(commands, Place::kPanel);
+  commands->addWidget(NewHelpCommand(this, context_.data, u"price.htm"));
+  choices->Add(commands, 0);
   filter_ = new GoodsFilter(context_.settings, {settings::kPriceGroups, settings::kPriceGoodsOnly},
                             screen, this);
   layout->addLayout(choices);

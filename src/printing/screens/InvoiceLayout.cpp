@@ -12,6 +12,7 @@
 #include "printing/screens/InvoiceScreen.h"
 #include "printing/screens/PrintFields.h"
 #include "shell/Help.h"
+#include "shell/controls/Columns.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Fields.h"
 #include "shell/controls/Guard.h"
@@ -170,19 +171,21 @@ QWidget* InvoiceScreen::NewSignatureBlock() {
 }
 
 void InvoiceScreen::BuildSheet(QWidget* sheet) {
-  auto* grid = new QGridLayout(sheet);
-  look::SetDialogMargins(grid);
-  grid->addWidget(NewHeadBlock(), 0, 0, 1, 2);
-  grid->addWidget(NewPartyBlock(PartyKind::kFirm), 1, 0);
-  grid->addWidget(NewPartyBlock(PartyKind::kClient), 1, 1);
-  grid->addWidget(NewPaymentBlock(), 2, 0, 1, 2);
-  grid->addWidget(NewBox(u"Параметры"_s, NewParametersBlock(2)), 3, 0);
-  grid->addWidget(NewBox(u"Итоги"_s, NewTotalsBlock()), 3, 1);
-  grid->addLayout(NewWordsBlock(), 4, 0, 1, 2);
-  grid->addWidget(NewSignatureBlock(), 5, 0, 1, 2);
-  grid->setRowStretch(6, 1);
-  grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(1, 1);
+  auto* parties = new Columns(look::kGrid);
+  parties->Add(NewPartyBlock(PartyKind::kFirm));
+  parties->Add(NewPartyBlock(PartyKind::kClient));
+  auto* blocks = new QVBoxLayout(sheet);
+  look::SetDialogMargins(blocks);
+  blocks->addWidget(NewHeadBlock());
+  blocks->addLayout(parties);
+  blocks->addWidget(NewPaymentBlock());
+  auto* sums = new Columns(look::kGrid);
+  sums->Add(NewBox(u"Параметры"_s, NewParametersBlock(2)));
+  sums->Add(NewBox(u"Итоги"_s, NewTotalsBlock()));
+  blocks->addLayout(sums);
+  blocks->addLayout(NewWordsBlock());
+  blocks->addWidget(NewSignatureBlock());
+  blocks->addStretch(1);
 }
 
 void InvoiceScreen::Build() {

@@ -31,16 +31,6 @@ QCheckBox* NewTick(QWidget* parent, const QString& name, const QString& caption,
   return tick;
 }
 
-void ShowText(TextLine* field, const QString& text) {
-  field->setText(text);
-  field->setCursorPosition(0);
-}
-
-void KeepRoomFor(TextLine* field, int figures) {
-  const int text = field->fontMetrics().horizontalAdvance(u'0') * figures;
-  field->setMinimumWidth(text + look::kMargin);
-}
-
 QComboBox* NewTextCombo(QWidget* parent, const QString& name) {
   auto* combo = new QComboBox(parent);
   combo->setObjectName(name);

@@ -20,10 +20,6 @@ TextLine* NewText(QWidget* parent, const QString& name, const QString& text = {}
 // A text of figures: right-aligned, a few characters wide.
 TextLine* NewFigure(QWidget* parent, const QString& name, const QString& text = {});
 QCheckBox* NewTick(QWidget* parent, const QString& name, const QString& caption, bool on);
-// Fills a field so that its beginning is in sight.
-void ShowText(TextLine* field, const QString& text);
-// Keeps room for so many figures.
-void KeepRoomFor(TextLine* field, int figures);
 // A list to pick from in which any text may be typed; its line is a TextLine.
 QComboBox* NewTextCombo(QWidget* parent, const QString& name);
 // The same with new entries; the text stays.

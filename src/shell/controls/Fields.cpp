@@ -166,4 +166,14 @@ bool TextLineDecimal::Takes(QChar key) const {
   return !two_decimals || InsertionPoint() < size - 2;
 }
 
+void ShowText(TextLine* field, const QString& text) {
+  field->setText(text);
+  field->setCursorPosition(0);
+}
+
+void KeepRoomFor(TextLine* field, int figures) {
+  const int text = field->fontMetrics().horizontalAdvance(u'0') * figures;
+  field->setMinimumWidth(text + look::kMargin);
+}
+
 }  // namespace kladez

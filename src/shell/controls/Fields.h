@@ -66,4 +66,9 @@ class TextLineDecimal : public TextLineNumber {
   bool Takes(QChar key) const override;
 };
 
+// Fills a field so that its beginning is in sight.
+void ShowText(TextLine* field, const QString& text);
+// Keeps room for so many figures.
+void KeepRoomFor(TextLine* field, int figures);
+
 }  // namespace kladez

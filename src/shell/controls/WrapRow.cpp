@@ -10,7 +10,10 @@ WrapRow::WrapRow(int gap, int line_gap) : gap_(gap), line_gap_(line_gap) {
   setContentsMargins(0, 0, 0, 0);
 }
 
-WrapRow::~WrapRow() { qDeleteAll(items_); }
+// A layout takes itself out of the one around it when it goes.
+WrapRow::~WrapRow() {
+  while (!items_.isEmpty()) delete items_.takeLast();
+}
 
 void WrapRow::AddGroup(std::initializer_list<QWidget*> widgets, int gap) {
   auto* group = new QHBoxLayout;
