@@ -8,6 +8,7 @@
 
 #include "formats/Dates.h"
 #include "shell/Hints.h"
+#include "shell/controls/Columns.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Fields.h"
 #include "shell/controls/Forms.h"
@@ -63,8 +64,14 @@ void DocumentEditor::AddField(QHBoxLayout* row, const QString& caption, QWidget*
 }
 
 QLayout* DocumentEditor::NewHead() {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(look::kGrid);
+  auto* head = new Columns(look::kGrid);
+  const auto new_part = [head](int weight) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(look::kGrid);
+    head->Add(row, weight);
+    return row;
+  };
+  QHBoxLayout* row = new_part(0);
   number_ = new TextLine(this);
   number_->setText(draft_.Head().number);
   number_->setFixedWidth(12 * look::kGrid);
@@ -76,20 +83,20 @@ QLayout* DocumentEditor::NewHead() {
     const Session& session = context_.session;
     party_ = new TextChoice(QStringList{u"-"_s} + (receipt ? session.Post : session.Klient), this);
     party_->Choose(draft_.Head().party);
-    AddField(row, screens_.party_caption, party_, u"party"_s, screens_.party_hint);
+    AddField(new_part(1), screens_.party_caption, party_, u"party"_s, screens_.party_hint);
   } else {
     party_ = NewWarehouse(&H::party);
-    AddField(row, screens_.party_caption, party_, u"party"_s, screens_.party_hint);
+    AddField(new_part(1), screens_.party_caption, party_, u"party"_s, screens_.party_hint);
     destination_ = NewWarehouse(&H::destination);
-    AddField(row, u"&Куда:"_s, destination_, u"destination"_s, u"Куда"_s);
+    AddField(new_part(1), u"&Куда:"_s, destination_, u"destination"_s, u"Куда"_s);
   }
-  return row;
+  return head;
 }
 
 TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
   auto* choice = new TextChoice(context_.session.SkladNames, this);
   choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  choice->setMinimumContentsLength(8);
+  choice->setMinimumContentsLength(14);
   choice->Choose(draft_.Head().*side);
   connect(choice, &QComboBox::currentIndexChanged, this, [=, this] {
     // A warehouse whose ledger can't be read is not chosen.
