@@ -199,6 +199,18 @@ TEST_F(MainWindow, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
   EXPECT_EQ(Children(), 1);
 }
 
+TEST_F(MainWindow, ALongWarehouseNameWidensNoScreen) {
+  StartOpen();
+  const QString name = u"Склад "_s.repeated(40);
+  TheSession().SkladNames.append(name);
+  for (const char* link : {"go0", "go1", "go2", "go3", "go4"}) {
+    ClickPanel(link);
+    ASSERT_NE(window_.Child(), nullptr);
+    EXPECT_LT(window_.Child()->minimumSizeHint().width(), 800) << link;
+    EXPECT_LT(window_.Child()->sizeHint().width(), 1600) << link;
+  }
+}
+
 TEST_F(MainWindow, EveryMenuEntryBearsItsCaption) {
   const std::vector<std::pair<QString, QString>> captions = {
       {u"mnuFileCreate"_s, u"Создать..."_s},

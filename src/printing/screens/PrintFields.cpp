@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "shell/controls/Choice.h"
 #include "shell/controls/Fields.h"
 #include "shell/controls/Look.h"
 
@@ -37,8 +38,7 @@ QComboBox* NewTextCombo(QWidget* parent, const QString& name) {
   combo->setEditable(true);
   combo->setLineEdit(new TextLine(combo));
   combo->setInsertPolicy(QComboBox::NoInsert);
-  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  combo->setMinimumContentsLength(16);
+  BoundByLetters(combo, 16);
   return combo;
 }
 

@@ -7,6 +7,7 @@
 #include "reports/ReportScope.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
+#include "shell/controls/Choice.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Forms.h"
 
@@ -21,7 +22,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   Combo1 =
       new TextChoice(context.session.SkladNames + QStringList{kAllWarehouses.toString()}, this);
   Combo1->setObjectName(u"Combo1"_s);
-  Combo1->setMinimumContentsLength(28);
+  BoundByLetters(Combo1, 28);
   Combo1->setCurrentIndex(Combo1->count() - 1);
   auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), {Combo1}, this);
   hint->setObjectName(u"Picture5"_s);

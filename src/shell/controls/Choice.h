@@ -10,6 +10,9 @@ class QHBoxLayout;
 
 namespace kladez {
 
+// The field asks for room for so many letters, however long the names in its list are.
+void BoundByLetters(QComboBox* field, int letters);
+
 // `caption` carries the mark of its letter ("С&клад:"). The field takes the room that is left.
 void AddChoice(QHBoxLayout* row, const QString& caption, QComboBox* field, const Hint& hint);
 

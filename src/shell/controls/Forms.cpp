@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 
+#include "shell/controls/Choice.h"
 #include "shell/controls/Look.h"
 
 namespace kladez {
@@ -36,8 +37,7 @@ void MakeReadOnly(QLineEdit* field) {
 
 TextChoice::TextChoice(const QStringList& texts, QWidget* parent) : QComboBox(parent) {
   // Long names scroll in the open list and do not make the form wider.
-  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-  setMinimumContentsLength(12);
+  BoundByLetters(this, 12);
   for (const QString& text : texts) addItem(text.left(look::kLongestText), text);
 }
 

@@ -8,6 +8,7 @@
 
 #include "formats/Dates.h"
 #include "shell/Hints.h"
+#include "shell/controls/Choice.h"
 #include "shell/controls/Columns.h"
 #include "shell/controls/Commands.h"
 #include "shell/controls/Fields.h"
@@ -95,8 +96,7 @@ QLayout* DocumentEditor::NewHead() {
 
 TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
   auto* choice = new TextChoice(context_.session.SkladNames, this);
-  choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  choice->setMinimumContentsLength(14);
+  BoundByLetters(choice, 14);
   choice->Choose(draft_.Head().*side);
   connect(choice, &QComboBox::currentIndexChanged, this, [=, this] {
     // A warehouse whose ledger can't be read is not chosen.

@@ -7,6 +7,7 @@
 
 #include "formats/Dates.h"
 #include "shell/Hints.h"
+#include "shell/controls/Choice.h"
 #include "shell/controls/FoldButton.h"
 #include "shell/controls/Forms.h"
 #include "shell/controls/Look.h"
@@ -34,7 +35,7 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
   if (BookOf(screens.kind).in_warehouse) {
     warehouse_ = new TextChoice(context.session.SkladNames, this);
     warehouse_->setObjectName(u"warehouse"_s);
-    warehouse_->setMinimumContentsLength(14);
+    BoundByLetters(warehouse_, 14);
     head->addWidget(NewLabel(u"С&клад:"_s, warehouse_, this));
     head->addWidget(warehouse_);
     if (QWidget* hint = NewHint(u"Склад", {warehouse_})) head->addWidget(hint);
