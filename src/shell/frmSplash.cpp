@@ -44,7 +44,7 @@ void frmSplash::paintEvent(QPaintEvent*) {
                    kProgramTitle.toString());
   painter.setFont(font());
   painter.setPen(look::kLink);
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom,
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap,
                    u"Склад, документы и прайс-листы небольшого магазина"_s);
 }
 

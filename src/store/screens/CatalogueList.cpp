@@ -45,7 +45,7 @@ void CatalogueList::Fill(const DataDir& directory) {
 
 void CatalogueList::ShowNameIn(TextLine* field) {
   connect(this, &RecordList::CurrentRowChanged, field, [this, field](int row) {
-    field->setText(row < 0 ? QString() : entries_[static_cast<size_t>(row)].descriptor.name);
+    ShowText(field, row < 0 ? QString() : entries_[static_cast<size_t>(row)].descriptor.name);
   });
 }
 
