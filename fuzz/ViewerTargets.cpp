@@ -39,16 +39,18 @@ void RequireSound(const viewer::Page& page, const std::vector<viewer::Block>& bl
   }
 }
 
+template <viewer::PageKind kind>
 void Pages(QByteArrayView bytes) {
-  const viewer::Page page = viewer::ReadPage(viewer::DecodePage(bytes.toByteArray()),
-                                             [](const QString&) { return QImage(); });
+  const viewer::Page page = viewer::ReadPage(
+      viewer::DecodePage(bytes.toByteArray()), [](const QString&) { return QImage(); }, {}, kind);
   Require(page.closing <= page.signature && page.signature <= page.signature_end &&
               page.signature_end <= page.blocks.size(),
           "the signature block lies in the page");
   RequireSound(page, page.blocks);
 }
 
-constexpr FuzzTarget kTargets[] = {{"pages", Pages, false}};
+constexpr FuzzTarget kTargets[] = {{"pages", Pages<viewer::PageKind::kPrintOut>, false},
+                                   {"guide", Pages<viewer::PageKind::kGuide>, false}};
 
 }  // namespace
 
