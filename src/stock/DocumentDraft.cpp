@@ -102,12 +102,13 @@ bool DocumentDraft::AddLine(const GoodsPick& pick) {
   return true;
 }
 
-void DocumentDraft::ChangeLine(size_t row, const QString& quantity, const QString& price) {
+void DocumentDraft::ChangeLine(size_t row, const QString& quantity, const QString& price,
+                               const QString& amount) {
   DraftLine& changed = lines_[row];
   const double without = NumberOr(head_.sum) - NumberOr(changed.amount);
   changed.line.quantity = quantity;
   changed.line.price = FormatMoney(NumberOr(price));
-  changed.amount = LineAmount(quantity, price).value_or(changed.amount);
+  changed.amount = amount;
   SetSum(FormatMoney(without + NumberOr(changed.amount)));
 }
 

@@ -59,8 +59,8 @@ class DocumentDraft {
   // Adds a picked line at the end; the same goods twice are two lines. A pick without a name,
   // quantity or price, as that of a group, adds nothing: false.
   bool AddLine(const GoodsPick& pick);
-  // A product that overflows leaves the amount as it was.
-  void ChangeLine(size_t row, const QString& quantity, const QString& price);
+  // `amount` is what the line comes to, as the dialog shows it.
+  void ChangeLine(size_t row, const QString& quantity, const QString& price, const QString& amount);
   void RemoveLine(size_t row);
 
   enum class Outcome {

@@ -101,6 +101,22 @@ TEST_F(Editors, TheDivideKeyChangesALineAndTheSumFollows) {
   EXPECT_EQ(TextOf(&editor, "Text2"), u"3.33");
 }
 
+TEST_F(Editors, AProductThatOverflowsLeavesTheAmountAsItIsShown) {
+  world_.Put(DocumentKind::kReceipt);
+  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  ShowActive(&editor);
+  ModalAnswers answers({[](QWidget* dialog) {
+    Enter(dialog, "Text4", u"70"_s);
+    EXPECT_EQ(TextOf(dialog, "Text5"), u"210.00");
+    Find<QLineEdit>(dialog, "Text2")->setText(QString(308, u'9'));
+    EXPECT_EQ(TextOf(dialog, "Text5"), u"210.00");
+    Click(dialog, "Command1");
+  }});
+  QTest::keyClick(ListOf(&editor), Qt::Key_Slash, Qt::KeypadModifier);
+  EXPECT_EQ(RowTexts(&editor, 0).last(), u"210.00");
+  EXPECT_EQ(TextOf(&editor, "Text2"), u"210.00");
+}
+
 TEST_F(Editors, ARemovedLineIsAskedForAndLowersTheSum) {
   world_.Put(DocumentKind::kShipment);
   UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));

@@ -100,6 +100,7 @@ TEST_F(OnHandScreen, OverAllWarehousesOnlyEnterChangesAndOnlyTheShownRow) {
   ModalAnswers answers({AnswerText(u"7"_s)});
   QTest::keyClick(List(&screen_), Qt::Key_Return);
   EXPECT_EQ(Rows(&screen_).last(), u"Ассам=7"_s);
+  EXPECT_EQ(Status(&screen_), u"Итого наименований: 2     на сумму: 360.00"_s);
   EXPECT_EQ(Temp().Tree(), before);
 }
 

@@ -197,9 +197,18 @@ TEST_F(RegisterScreens, TheSelectionStaysInItsPlace) {
   list->SelectRow(2);
   remove();
   EXPECT_EQ(list->CurrentRow(), 1);  // the last of those left
-  ModalAnswers answers({Escape()});
+  {
+    ModalAnswers answers({Escape()});
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(list->CurrentRow(), 1);
+  }
+  // Where that place is no more, the last row is the nearest.
+  ModalAnswers answers({[&](QWidget* editor) {
+    EXPECT_TRUE(QFile::remove(world_.Temp().Data().Resolve(u"0001\\Склад\\PRH\\0003.prh"_s)));
+    Escape()(editor);
+  }});
   QTest::keyClick(list, Qt::Key_Return);
-  EXPECT_EQ(list->CurrentRow(), 1);
+  EXPECT_EQ(list->CurrentRow(), 0);
 }
 
 TEST_F(RegisterScreens, CommandsOnAnEmptyListDoNothing) {
@@ -242,6 +251,15 @@ TEST_F(RegisterScreens, WithoutWarehousesTheyOpenEmpty) {
   TovPrih screen(world_.Context());
   ShowActive(&screen);
   EXPECT_EQ(Files(&screen), QStringList());
+}
+
+TEST_F(RegisterScreens, TransfersAreThereWithoutWarehousesToo) {
+  world_.Put(DocumentKind::kTransfer);
+  world_.TheSession().SkladNames.clear();
+  ModalAnswers none({});
+  vnutr screen(world_.Context());
+  ShowActive(&screen);
+  EXPECT_EQ(Files(&screen), QStringList(u"0001.vpr"_s));
 }
 
 // Empty, cut, random and huge files: shown where they have a date, opened with what they hold.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
@@ -220,7 +221,8 @@ void RecordList::keyPressEvent(QKeyEvent* event) {
       }
       break;
     case Qt::Key_Slash:
-      if (event->modifiers() & Qt::KeypadModifier) {
+      if ((event->modifiers() & Qt::KeypadModifier) &&
+          isSignalConnected(QMetaMethod::fromSignal(&RecordList::DividePressed))) {
         emit DividePressed();
         return;
       }

@@ -135,7 +135,8 @@ void Sklad::Change() {
   }
   on_hand_ = std::move(changed);
   model_->Update(row);
-  StatusBar1->setText(on_hand_.StatusText());
+  // Over all warehouses the new quantity is in no ledger, and does not count.
+  if (!AllChosen()) StatusBar1->setText(on_hand_.StatusText());
 }
 
 void Sklad::Zero() {

@@ -65,6 +65,8 @@ QString change::Quantity() const { return Text2->text(); }
 
 QString change::Price() const { return Text4->text(); }
 
+QString change::Amount() const { return Text5->text(); }
+
 void change::Recompute() {
   // A product that overflows leaves the field as it stands.
   if (const auto amount = LineAmount(Quantity(), Price())) Text5->setText(*amount);

@@ -21,6 +21,7 @@ class change : public QDialog {
 
   QString Quantity() const;
   QString Price() const;
+  QString Amount() const;
 
  private:
   void Recompute();

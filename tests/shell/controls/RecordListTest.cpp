@@ -95,6 +95,13 @@ TEST_F(RecordListTest, KeysOfTheListAreCommandsAndNeverSearchText) {
   EXPECT_EQ(typed.count(), 0);
 }
 
+TEST_F(RecordListTest, ADivideKeyThatIsNoCommandIsSearchText) {
+  QSignalSpy typed(&list, &RecordList::CharacterTyped);
+  QTest::keyClick(&list, Qt::Key_Slash, Qt::KeypadModifier);
+  ASSERT_EQ(typed.count(), 1);
+  EXPECT_EQ(typed[0][0].toString(), u"/"_s);
+}
+
 TEST_F(RecordListTest, TheSpaceKeyTicksTheRowOfTheWorkingCopy) {
   list.SelectRow(1);
   list.setFocus();

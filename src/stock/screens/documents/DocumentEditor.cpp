@@ -243,7 +243,7 @@ void DocumentEditor::Change() {
   if (row < 0) return;
   class change dialog(draft_.Lines()[row], this);
   if (dialog.exec() == QDialog::Accepted) {
-    draft_.ChangeLine(row, dialog.Quantity(), dialog.Price());
+    draft_.ChangeLine(row, dialog.Quantity(), dialog.Price(), dialog.Amount());
     ListView1->Records()->Update(row);
     ShowSums();
   }

@@ -92,7 +92,9 @@ QLayout* DocumentRegisterScreen::NewCommands() {
 bool DocumentRegisterScreen::HasWarehouse() const { return !context_.session.SkladNames.isEmpty(); }
 
 void DocumentRegisterScreen::Rebuild() {
-  const bool good = HasWarehouse() && Guarded(this, [&] {
+  // Transfers lie beside the warehouses, whether there are any or not.
+  const bool any = HasWarehouse() || !BookOf(screens_.kind).in_warehouse;
+  const bool good = any && Guarded(this, [&] {
                       rows_.Load(filter_->Warehouse(), filter_->Filter(), context_.clock.Today(),
                                  filter_->Descending());
                     });
@@ -115,7 +117,10 @@ void DocumentRegisterScreen::Edit(DocumentDraft draft, int row) {
   editor->deleteLater();
   Rebuild();
   if (is_new && saved) row = rows_.RowOf(file);
-  if (row >= 0) ListView1->SelectRow(row);
+  // A document that was last may have left the filter with its new date.
+  if (row >= 0) {
+    ListView1->SelectRow(std::min(row, static_cast<int>(rows_.Rows().size()) - 1));
+  }
   ListView1->setFocus();
 }
 
