@@ -10,6 +10,9 @@
 
 #include "shell/controls/GuardedApplication.h"
 
+// Of the leak checker: an error that goes through the toolkit leaves objects of its own behind.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libQt6"; }
+
 namespace kladez {
 namespace {
 
