@@ -7,9 +7,9 @@
 #include <stdexcept>
 
 #include "RatioReporter.h"
-#include "reports/ChartTestGrids.h"
-#include "reports/GifWriter.h"
-#include "reports/screens/ChartImage.h"
+#include "books/reports/ChartTestGrids.h"
+#include "books/reports/GifWriter.h"
+#include "screens/reports/ChartImage.h"
 
 namespace kladez {
 namespace {

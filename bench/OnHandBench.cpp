@@ -5,9 +5,9 @@
 #include <string>
 
 #include "RatioReporter.h"
+#include "books/stock/OnHand.h"
+#include "books/store/SaveSet.h"
 #include "formats/TextLines.h"
-#include "stock/OnHand.h"
-#include "store/SaveSet.h"
 
 namespace kladez {
 namespace {

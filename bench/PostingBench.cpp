@@ -10,8 +10,8 @@
 #include <random>
 
 #include "RatioReporter.h"
+#include "books/stock/DocumentDraft.h"
 #include "formats/TextLines.h"
-#include "stock/DocumentDraft.h"
 
 namespace kladez {
 namespace {

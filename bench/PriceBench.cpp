@@ -1,7 +1,7 @@
 // Loading a price list of 20,000 goods, against splitting the same files into decoded lines.
 #include "RatioReporter.h"
+#include "books/prices/PriceList.h"
 #include "formats/TextLines.h"
-#include "prices/PriceList.h"
 
 namespace kladez {
 namespace {

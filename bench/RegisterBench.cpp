@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "RatioReporter.h"
+#include "books/stock/DocumentRegister.h"
+#include "books/stock/DocumentScan.h"
+#include "books/store/Catalogue.h"
 #include "formats/Numbers.h"
-#include "shell/controls/RecordModel.h"
-#include "stock/DocumentRegister.h"
-#include "stock/DocumentScan.h"
-#include "store/Catalogue.h"
+#include "ui/controls/RecordModel.h"
 
 namespace kladez {
 namespace {

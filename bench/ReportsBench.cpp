@@ -13,12 +13,12 @@
 #include <stdexcept>
 
 #include "RatioReporter.h"
+#include "books/reports/ChartSeries.h"
+#include "books/reports/SalesFigures.h"
+#include "books/reports/SalesReport.h"
+#include "books/reports/SpeedReport.h"
 #include "formats/Dates.h"
 #include "formats/Numbers.h"
-#include "reports/ChartSeries.h"
-#include "reports/SalesFigures.h"
-#include "reports/SalesReport.h"
-#include "reports/SpeedReport.h"
 
 namespace kladez {
 namespace {

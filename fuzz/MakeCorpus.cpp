@@ -4,6 +4,7 @@
 #include <QFile>
 #include <cstdio>
 
+#include "books/store/SaveManifest.h"
 #include "formats/CurrencyFile.h"
 #include "formats/DescriptorFile.h"
 #include "formats/DocumentFile.h"
@@ -12,7 +13,6 @@
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
 #include "formats/TextLines.h"
-#include "store/SaveManifest.h"
 
 using namespace kladez;
 using namespace Qt::StringLiterals;

@@ -4,6 +4,11 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "books/printing/AmountInWords.h"
+#include "books/stock/DocumentScan.h"
+#include "books/stock/StockLedger.h"
+#include "books/store/Errors.h"
+#include "books/store/SaveManifest.h"
 #include "formats/CurrencyFile.h"
 #include "formats/Dates.h"
 #include "formats/DescriptorFile.h"
@@ -14,11 +19,6 @@
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
 #include "formats/TextLines.h"
-#include "printing/AmountInWords.h"
-#include "stock/DocumentScan.h"
-#include "stock/StockLedger.h"
-#include "store/Errors.h"
-#include "store/SaveManifest.h"
 
 namespace kladez {
 namespace {

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-#include "store/SystemCalls.h"
+#include "books/store/SystemCalls.h"
 
 namespace kladez {
 

@@ -15,7 +15,7 @@
 #include <functional>
 
 #include "TempData.h"
-#include "shell/AppContext.h"
+#include "ui/AppContext.h"
 
 namespace kladez {
 

@@ -10,8 +10,8 @@
 #include <map>
 #include <string>
 
+#include "books/store/DataDir.h"
 #include "formats/TextLines.h"
-#include "store/DataDir.h"
 
 namespace kladez {
 

@@ -4,13 +4,13 @@
 #include <QStandardPaths>
 #include <cerrno>
 
+#include "books/store/Backup.h"
+#include "books/store/SaveSet.h"
 #include "demo/DemoBooks.h"
-#include "shell/controls/Guard.h"
-#include "shell/controls/GuardedApplication.h"
-#include "shell/controls/Toolkit.h"
 #include "shell/frmMain.h"
-#include "store/Backup.h"
-#include "store/SaveSet.h"
+#include "ui/base/Toolkit.h"
+#include "ui/controls/Guard.h"
+#include "ui/controls/GuardedApplication.h"
 
 namespace {
 

@@ -4,14 +4,14 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "books/directories/WarehouseDirectory.h"
+#include "books/store/Catalogue.h"
+#include "books/store/SaveSet.h"
 #include "demo/DemoGoods.h"
 #include "demo/DemoTrade.h"
-#include "directories/WarehouseDirectory.h"
 #include "formats/GoodsFile.h"
 #include "formats/Numbers.h"
 #include "formats/PriceFile.h"
-#include "store/Catalogue.h"
-#include "store/SaveSet.h"
 
 namespace kladez {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <QDate>
 
-#include "store/DataDir.h"
+#include "books/store/DataDir.h"
 
 namespace kladez {
 

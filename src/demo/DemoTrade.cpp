@@ -6,9 +6,9 @@
 #include <random>
 #include <vector>
 
+#include "books/stock/DocumentDraft.h"
 #include "demo/DemoGoods.h"
 #include "formats/Numbers.h"
-#include "stock/DocumentDraft.h"
 
 namespace kladez::demo {
 namespace {

@@ -5,8 +5,8 @@
 #include <QDate>
 #include <array>
 
-#include "store/DataDir.h"
-#include "store/Session.h"
+#include "books/store/DataDir.h"
+#include "books/store/Session.h"
 
 namespace kladez::demo {
 

@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <exception>
 
+#include "books/store/Clock.h"
+#include "books/store/Errors.h"
+#include "books/store/SaveSet.h"
 #include "demo/DemoBooks.h"
-#include "store/Clock.h"
-#include "store/Errors.h"
-#include "store/SaveSet.h"
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);

@@ -4,8 +4,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "shell/Link.h"
-#include "shell/controls/WrapRow.h"
+#include "ui/Link.h"
+#include "ui/controls/WrapRow.h"
 
 namespace kladez {
 namespace {

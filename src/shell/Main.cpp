@@ -8,14 +8,14 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 
+#include "books/reports/SalesFigures.h"
 #include "formats/Numbers.h"
-#include "reports/SalesFigures.h"
-#include "reports/screens/ChartWidget.h"
-#include "shell/Hints.h"
-#include "shell/Link.h"
-#include "shell/controls/Columns.h"
-#include "shell/controls/LongWork.h"
-#include "shell/controls/WrapRow.h"
+#include "screens/reports/ChartWidget.h"
+#include "ui/Hints.h"
+#include "ui/Link.h"
+#include "ui/controls/Columns.h"
+#include "ui/controls/LongWork.h"
+#include "ui/controls/WrapRow.h"
 
 namespace kladez {
 namespace {
@@ -27,7 +27,7 @@ int LinkNumber(Place place) {
   return place == Place::kCurrency ? static_cast<int>(Place::kHome) : static_cast<int>(place);
 }
 
-QLabel* NewHeading(QStringView text, QWidget* parent) {
+QLabel* NewColumnHeading(QStringView text, QWidget* parent) {
   auto* heading = new QLabel(text.toString(), parent);
   heading->setFont(look::HeadingFont(heading->font()));
   QPalette palette = heading->palette();
@@ -71,7 +71,7 @@ QWidget* Main::NewLinks(PlaceGroup group) {
   grid->setContentsMargins(look::kMargin, look::kMargin, look::kGrid, look::kMargin);
   grid->setVerticalSpacing(look::kTight);
   grid->setColumnStretch(0, 1);
-  grid->addWidget(NewHeading(GroupHeading(group), card), 0, 0, 1, 2);
+  grid->addWidget(NewColumnHeading(GroupHeading(group), card), 0, 0, 1, 2);
   int line = 1;
   for (const PlaceRow& row : Places()) {
     if (row.group != group) continue;
@@ -89,7 +89,7 @@ QWidget* Main::NewFigures() {
   QFrame* card = NewCard(this);
   auto* sums = new QGridLayout;
   sums->setVerticalSpacing(look::kGrid);
-  sums->addWidget(NewHeading(u"Реализация", card), 0, 0);
+  sums->addWidget(NewColumnHeading(u"Реализация", card), 0, 0);
   sums->addWidget(AddHint(u"Picture5", {}, card), 0, 1, Qt::AlignRight);
   int line = 1;
   const auto add = [&](const QString& name, const QString& caption) {
@@ -105,7 +105,7 @@ QWidget* Main::NewFigures() {
   Label15 = add(u"Label15"_s, u"За год:"_s);
   sums->setRowStretch(line, 1);
   auto* chart_head = new QHBoxLayout;
-  chart_head->addWidget(NewHeading(u"График продаж за месяц по дням", card), 1);
+  chart_head->addWidget(NewColumnHeading(u"График продаж за месяц по дням", card), 1);
   MSChart1 = new ChartWidget(card);
   MSChart1->setObjectName(u"MSChart1"_s);
   chart_head->addWidget(AddHint(u"Picture4", {MSChart1}, card));

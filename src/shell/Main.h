@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <vector>
 
-#include "shell/AppContext.h"
 #include "shell/Places.h"
+#include "ui/AppContext.h"
 
 class QLayout;
 class QCheckBox;

@@ -5,7 +5,7 @@
 #include <QStringView>
 #include <span>
 
-#include "shell/controls/Look.h"
+#include "ui/controls/Look.h"
 
 namespace kladez {
 

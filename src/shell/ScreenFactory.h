@@ -1,8 +1,8 @@
 // Makes the screen of a place. The main window knows no screen by its header but through this.
 #pragma once
 
-#include "shell/AppContext.h"
 #include "shell/Places.h"
+#include "ui/AppContext.h"
 
 class QWidget;
 

@@ -3,7 +3,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-#include "shell/controls/Look.h"
+#include "ui/controls/Look.h"
 
 namespace kladez {
 

@@ -4,10 +4,10 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "shell/Help.h"
-#include "shell/Link.h"
 #include "shell/TitlePainting.h"
-#include "shell/controls/Commands.h"
+#include "ui/Help.h"
+#include "ui/Link.h"
+#include "ui/controls/Commands.h"
 
 namespace kladez {
 namespace {

@@ -11,23 +11,23 @@
 #include <algorithm>
 #include <memory>
 
+#include "books/store/SaveSet.h"
 #include "formats/Dates.h"
-#include "shell/Help.h"
+#include "screens/store/Bases.h"
+#include "screens/store/BasesImport.h"
+#include "screens/store/BasesNew.h"
+#include "screens/store/rescopy.h"
+#include "screens/store/resrep.h"
 #include "shell/LinkPanels.h"
 #include "shell/Main.h"
 #include "shell/ScreenFactory.h"
 #include "shell/about.h"
-#include "shell/controls/Guard.h"
-#include "shell/controls/HintPicture.h"
 #include "shell/frmSplash.h"
-#include "shell/helper.h"
 #include "shell/main2.h"
-#include "store/SaveSet.h"
-#include "store/screens/Bases.h"
-#include "store/screens/BasesImport.h"
-#include "store/screens/BasesNew.h"
-#include "store/screens/rescopy.h"
-#include "store/screens/resrep.h"
+#include "ui/Help.h"
+#include "ui/controls/Guard.h"
+#include "ui/controls/HintPicture.h"
+#include "ui/helper.h"
 
 namespace kladez {
 namespace {

@@ -6,11 +6,11 @@
 #include <QPointer>
 #include <QTimer>
 
-#include "shell/AppContext.h"
+#include "screens/store/CatalogueHost.h"
 #include "shell/MainMenu.h"
 #include "shell/Places.h"
-#include "shell/controls/DialogsFirst.h"
-#include "store/screens/CatalogueHost.h"
+#include "ui/AppContext.h"
+#include "ui/controls/DialogsFirst.h"
 
 class QLabel;
 class QProgressBar;

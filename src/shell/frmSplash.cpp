@@ -7,7 +7,7 @@
 #include <QTimer>
 
 #include "shell/TitlePainting.h"
-#include "shell/controls/Look.h"
+#include "ui/controls/Look.h"
 
 namespace kladez {
 

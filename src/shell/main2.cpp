@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "shell/Link.h"
 #include "shell/TitlePainting.h"
+#include "ui/Link.h"
 
 namespace kladez {
 namespace {

@@ -21,8 +21,8 @@
 #include <memory>
 #include <thread>
 
-#include "shell/controls/HintPicture.h"
 #include "tour/Eyes.h"
+#include "ui/controls/HintPicture.h"
 
 namespace kladez {
 

@@ -7,13 +7,13 @@
 #include <QTemporaryDir>
 #include <cstdio>
 
+#include "books/store/Errors.h"
 #include "demo/DemoBooks.h"
-#include "shell/controls/Toolkit.h"
-#include "store/Errors.h"
 #include "tour/OffscreenDisplay.h"
 #include "tour/Road.h"
 #include "tour/Stage.h"
 #include "tour/Visits.h"
+#include "ui/base/Toolkit.h"
 #include "viewer/page/PageReader.h"
 #include "viewer/paper/Output.h"
 #include "viewer/window/ViewerWindow.h"

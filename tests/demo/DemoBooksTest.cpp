@@ -5,6 +5,7 @@
 #include <set>
 
 #include "TempData.h"
+#include "books/store/Session.h"
 #include "demo/DemoBooks.h"
 #include "formats/Dates.h"
 #include "formats/DocumentFile.h"
@@ -13,7 +14,6 @@
 #include "formats/Numbers.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
-#include "store/Session.h"
 
 namespace kladez {
 namespace {

@@ -10,7 +10,7 @@
 
 #include "DiesAtStep.h"
 #include "WritingCommands.h"
-#include "store/Errors.h"
+#include "books/store/Errors.h"
 
 namespace kladez {
 namespace {
@@ -143,7 +143,7 @@ TEST(CommandFaults, AReadOnlyPlaceIsToldAndNothingChanges) {
       const Tree tree = books.Tree();
       if (told) {
         EXPECT_EQ(tree, states.before) << command.name << ", " << path;
-      } else if (!command.silent && command.source != "store/Import.cpp") {
+      } else if (!command.silent && command.source != "books/store/Import.cpp") {
         EXPECT_EQ(tree, states.after) << command.name << ", " << path;
       }
     }

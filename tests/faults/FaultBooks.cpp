@@ -4,12 +4,12 @@
 #include <fstream>
 #include <sstream>
 
-#include "directories/GoodsDirectory.h"
-#include "directories/WarehouseDirectory.h"
-#include "stock/DocumentDraft.h"
-#include "store/Backup.h"
-#include "store/Catalogue.h"
-#include "store/SaveSet.h"
+#include "books/directories/GoodsDirectory.h"
+#include "books/directories/WarehouseDirectory.h"
+#include "books/stock/DocumentDraft.h"
+#include "books/store/Backup.h"
+#include "books/store/Catalogue.h"
+#include "books/store/SaveSet.h"
 
 namespace kladez {
 namespace {

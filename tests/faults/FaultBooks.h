@@ -7,8 +7,8 @@
 #include <map>
 #include <string>
 
-#include "store/DataDir.h"
-#include "store/Session.h"
+#include "books/store/DataDir.h"
+#include "books/store/Session.h"
 
 namespace kladez {
 

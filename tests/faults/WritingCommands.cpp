@@ -3,21 +3,21 @@
 #include <QFile>
 #include <memory>
 
-#include "directories/GoodsDirectory.h"
-#include "directories/GoodsMarks.h"
-#include "directories/MainCurrency.h"
-#include "directories/PartyDirectory.h"
-#include "directories/WarehouseDirectory.h"
-#include "prices/PriceStore.h"
-#include "printing/PrintOutDesk.h"
-#include "stock/DocumentDraft.h"
-#include "stock/DocumentRegister.h"
-#include "stock/OnHand.h"
-#include "stock/OpeningBalances.h"
-#include "store/Backup.h"
-#include "store/Catalogue.h"
-#include "store/Import.h"
-#include "store/SaveSet.h"
+#include "books/directories/GoodsDirectory.h"
+#include "books/directories/GoodsMarks.h"
+#include "books/directories/MainCurrency.h"
+#include "books/directories/PartyDirectory.h"
+#include "books/directories/WarehouseDirectory.h"
+#include "books/prices/PriceStore.h"
+#include "books/printing/PrintOutDesk.h"
+#include "books/stock/DocumentDraft.h"
+#include "books/stock/DocumentRegister.h"
+#include "books/stock/OnHand.h"
+#include "books/stock/OpeningBalances.h"
+#include "books/store/Backup.h"
+#include "books/store/Catalogue.h"
+#include "books/store/Import.h"
+#include "books/store/SaveSet.h"
 
 namespace kladez {
 namespace {
@@ -43,14 +43,14 @@ RegisterRow FirstDocument(FaultBooks& books, DocumentKind kind) {
 }
 
 WritingCommand NewDocument(const std::string& name, DocumentKind kind, bool closed) {
-  return {name, "stock/DocumentDraft.cpp", [=](FaultBooks& books) {
+  return {name, "books/stock/DocumentDraft.cpp", [=](FaultBooks& books) {
             auto draft = std::make_shared<DocumentDraft>(NewDraft(books, kind, closed));
             return [=] { draft->Save(); };
           }};
 }
 
 WritingCommand SavedAgain(const std::string& name, DocumentKind kind, bool close) {
-  return {name, "stock/DocumentDraft.cpp", [=](FaultBooks& books) {
+  return {name, "books/stock/DocumentDraft.cpp", [=](FaultBooks& books) {
             auto draft = std::make_shared<DocumentDraft>(
                 DocumentDraft::Open(In(books, kind), FirstDocument(books, kind)));
             draft->SetNumber(u"77"_s);
@@ -60,7 +60,7 @@ WritingCommand SavedAgain(const std::string& name, DocumentKind kind, bool close
 }
 
 WritingCommand DeletedDocument(const std::string& name, DocumentKind kind, bool reverse) {
-  return {name, "stock/DocumentRegister.cpp", [=](FaultBooks& books) {
+  return {name, "books/stock/DocumentRegister.cpp", [=](FaultBooks& books) {
             const QString file = FirstDocument(books, kind).file;
             return [=, &books] {
               DeleteDocument(books.Data(), books.Opened(), kind, kMainWarehouse, file, reverse);
@@ -70,7 +70,7 @@ WritingCommand DeletedDocument(const std::string& name, DocumentKind kind, bool 
 
 template <typename Change>
 WritingCommand OfGoods(const std::string& name, GoodsView view, Change change) {
-  return {name, "directories/GoodsDirectory.cpp", [=](FaultBooks& books) {
+  return {name, "books/directories/GoodsDirectory.cpp", [=](FaultBooks& books) {
             auto goods =
                 std::make_shared<GoodsDirectory>(books.Data(), books.Opened(), GoodsView::kGroups);
             if (view == GoodsView::kGoodsOnly) goods->ShowGoodsOnly();
@@ -80,14 +80,14 @@ WritingCommand OfGoods(const std::string& name, GoodsView view, Change change) {
 
 template <typename Change>
 WritingCommand OfWarehouses(const std::string& name, Change change) {
-  return {name, "directories/WarehouseDirectory.cpp", [=](FaultBooks& books) {
+  return {name, "books/directories/WarehouseDirectory.cpp", [=](FaultBooks& books) {
             auto list = std::make_shared<WarehouseDirectory>(books.Data(), books.Opened());
             return [=] { change(*list); };
           }};
 }
 
 WritingCommand OfParties(const std::string& name, PartyKind kind) {
-  return {name, "directories/PartyDirectory.cpp", [=](FaultBooks& books) {
+  return {name, "books/directories/PartyDirectory.cpp", [=](FaultBooks& books) {
             auto list = std::make_shared<PartyDirectory>(books.Data(), books.Opened(), kind);
             Party party = list->Rows().empty() ? Party{} : list->Rows().front();
             party.resize(kind == PartyKind::kFirm ? 15 : 14);
@@ -99,7 +99,7 @@ WritingCommand OfParties(const std::string& name, PartyKind kind) {
 
 template <typename Change>
 WritingCommand OfPrices(const std::string& name, Change change) {
-  return {name, "prices/PriceStore.cpp", [=](FaultBooks& books) {
+  return {name, "books/prices/PriceStore.cpp", [=](FaultBooks& books) {
             auto store = std::make_shared<PriceStore>(books.Data(), books.Opened());
             auto list =
                 std::make_shared<PriceList>(store->Load(kMainWarehouse, 1, GoodsView::kGroups));
@@ -113,7 +113,7 @@ WritingCommand OfPrices(const std::string& name, Change change) {
 
 template <typename Change>
 WritingCommand OfCatalogue(const std::string& name, Change change) {
-  return {name, "store/Catalogue.cpp",
+  return {name, "books/store/Catalogue.cpp",
           [=](FaultBooks& books) {
             return [=, &books] { change(books.Data(), ListDatabases(books.Data())); };
           },
@@ -164,13 +164,13 @@ std::vector<WritingCommand> DirectoryCommands() {
       OfWarehouses("склад, создание", [](auto& list) { list.Create(u"Лавка"_s); }),
       OfWarehouses("склад, переименование", [](auto& list) { list.Rename(1, u"Ларёк"_s); }),
       OfWarehouses("склад, удаление", [](auto& list) { list.Delete(1); }),
-      {"склады, OK после переименования", "directories/WarehouseDirectory.cpp",
+      {"склады, OK после переименования", "books/directories/WarehouseDirectory.cpp",
        [](FaultBooks& books) {
          auto list = std::make_shared<WarehouseDirectory>(books.Data(), books.Opened());
          list->Rename(1, u"Ларёк"_s);
          return [=] { list->Save(); };
        }},
-      {"основная валюта", "directories/MainCurrency.cpp",
+      {"основная валюта", "books/directories/MainCurrency.cpp",
        [](FaultBooks& books) {
          Currency currency = LoadMainCurrency(books.Data(), books.Opened());
          currency.forms[0] = u"р."_s;
@@ -181,20 +181,20 @@ std::vector<WritingCommand> DirectoryCommands() {
 
 std::vector<WritingCommand> StockCommands() {
   return {
-      {"занесение остатков", "stock/OpeningBalances.cpp",
+      {"занесение остатков", "books/stock/OpeningBalances.cpp",
        [](FaultBooks& books) {
          auto balances = std::make_shared<OpeningBalances>();
          balances->Add({u"Соль"_s, u"7"_s, u"кг"_s, {}, {}});
          return [=, &books] { balances->Book(books.Data(), books.Opened(), kMainWarehouse); };
        }},
-      {"наличие, изменение", "stock/OnHand.cpp",
+      {"наличие, изменение", "books/stock/OnHand.cpp",
        [](FaultBooks& books) {
          auto list = std::make_shared<OnHandList>(
              LoadOnHand(books.Data(), books.Opened(), {kMainWarehouse}, GoodsView::kGroups));
          list->ChangeQuantity(2, u"5"_s);
          return [=, &books] { SaveOnHand(*list, books.Data(), books.Opened(), kMainWarehouse); };
        }},
-      {"наличие, обнуление", "stock/OnHand.cpp",
+      {"наличие, обнуление", "books/stock/OnHand.cpp",
        [](FaultBooks& books) {
          auto list = std::make_shared<OnHandList>(
              LoadOnHand(books.Data(), books.Opened(), {kMainWarehouse}, GoodsView::kGroups));
@@ -206,7 +206,7 @@ std::vector<WritingCommand> StockCommands() {
       OfPrices("прайс, копирование", [](PriceStore& store, PriceList& list) { store.Copy(list); }),
       OfPrices("прайс, вставка",
                [](PriceStore& store, PriceList& list) { store.Paste(list, kMainWarehouse, 2); }),
-      {"печатная форма", "printing/PrintOutDesk.cpp",
+      {"печатная форма", "books/printing/PrintOutDesk.cpp",
        [](FaultBooks& books) {
          return [&books] { PrintOutDesk(books.Data(), {}).Write(u"nakl.htm"_s, "<HTML>\r\n"); };
        }},
@@ -220,7 +220,7 @@ std::vector<WritingCommand> StoreCommands() {
                   [](auto& data, auto&& list) { RenameDatabase(data, list.at(1), u"Иная"_s); }),
       OfCatalogue("база, удаление",
                   [](auto& data, auto&& list) { DeleteDatabase(data, list.at(1)); }),
-      {"база, открытие без валюты", "store/Session.cpp",
+      {"база, открытие без валюты", "books/store/Session.cpp",
        [](FaultBooks& books) {
          QFile::remove(books.Data().Resolve(u"0001\\currency.usd"_s));
          return [&books] {
@@ -230,7 +230,7 @@ std::vector<WritingCommand> StoreCommands() {
          };
        },
        Beside::kNothing, true},
-      {"импорт, все области", "store/Import.cpp",
+      {"импорт, все области", "books/store/Import.cpp",
        [](FaultBooks& books) {
          return [&books] {
            ImportChoice choice;
@@ -241,7 +241,7 @@ std::vector<WritingCommand> StoreCommands() {
          };
        },
        Beside::kSecondDatabaseAndBackup},
-      {"резервное копирование", "store/Backup.cpp",
+      {"резервное копирование", "books/store/Backup.cpp",
        [](FaultBooks& books) {
          return [&books] {
            MakeBackup(books.Data(), ListDatabases(books.Data()), books.Backups(),
@@ -249,7 +249,7 @@ std::vector<WritingCommand> StoreCommands() {
          };
        },
        Beside::kSecondDatabaseAndBackup},
-      {"восстановление", "store/Backup.cpp",
+      {"восстановление", "books/store/Backup.cpp",
        [](FaultBooks& books) {
          return [&books] {
            const DataDir backup(BackupTarget(books.Backups(), kBooksDay));

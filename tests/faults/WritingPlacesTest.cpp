@@ -37,8 +37,8 @@ TEST(WritingPlaces, EachHasItsCommandInTheTableOfFaults) {
   for (const WritingCommand& command : WritingCommands()) places.erase(command.source);
   // One file each, whose loss loses nothing: the ticks of the picker (as of the price list above),
   // the scratch price list at the end of a run, yesterday's chart.
-  for (const char* scratch : {"directories/screens/sprtovar2.cpp", "shell/frmMain.cpp",
-                              "reports/screens/waitplease.cpp"}) {
+  for (const char* scratch : {"screens/directories/sprtovar2.cpp", "shell/frmMain.cpp",
+                              "screens/reports/waitplease.cpp"}) {
     EXPECT_EQ(places.erase(scratch), 1u) << scratch;
   }
   EXPECT_EQ(places.erase("demo/DemoBooks.cpp"), 1u);  // into an empty directory
@@ -49,8 +49,8 @@ TEST(WritingPlaces, NothingElseWritesToTheDisk) {
   const std::set<std::string> writers = SourcesWith(
       {u"WriteOnly"_s, u"ReadWrite"_s, u"ofstream"_s, u"QSaveFile"_s, u"O_WRONLY"_s, u"fopen"_s});
   const std::set<std::string> known = {
-      "store/SystemCalls.cpp",     // what SaveSet and the copies are made of
-      "viewer/paper/Output.cpp"};  // a PDF file where the user wants it
+      "books/store/SystemCalls.cpp",  // what SaveSet and the copies are made of
+      "viewer/paper/Output.cpp"};     // a PDF file where the user wants it
   EXPECT_EQ(writers, known);
 }
 

@@ -2,8 +2,8 @@
 
 #include <system_error>
 
+#include "books/store/Errors.h"
 #include "formats/TextLines.h"
-#include "store/Errors.h"
 
 namespace kladez {
 namespace {

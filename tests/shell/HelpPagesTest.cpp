@@ -11,8 +11,8 @@
 #include <set>
 
 #include "ScreenDriver.h"
-#include "shell/Desktop.h"
-#include "shell/Help.h"
+#include "ui/Desktop.h"
+#include "ui/Help.h"
 
 namespace kladez {
 namespace {

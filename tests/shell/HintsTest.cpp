@@ -9,9 +9,9 @@
 #include <set>
 
 #include "ScreenDriver.h"
-#include "shell/Hints.h"
-#include "shell/controls/Fields.h"
-#include "shell/helper.h"
+#include "ui/Hints.h"
+#include "ui/controls/Fields.h"
+#include "ui/helper.h"
 
 namespace kladez {
 namespace {

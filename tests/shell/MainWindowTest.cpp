@@ -7,11 +7,11 @@
 #include <QUrl>
 
 #include "ScreenDriver.h"
-#include "shell/Help.h"
+#include "books/store/Catalogue.h"
+#include "screens/store/Bases.h"
 #include "shell/Main.h"
 #include "shell/frmMain.h"
-#include "store/Catalogue.h"
-#include "store/screens/Bases.h"
+#include "ui/Help.h"
 
 namespace kladez {
 namespace {

@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "ScreenDriver.h"
+#include "books/store/Catalogue.h"
 #include "shell/frmMain.h"
-#include "store/Catalogue.h"
 
 namespace kladez {
 namespace {

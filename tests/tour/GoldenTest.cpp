@@ -9,11 +9,11 @@
 
 #include "GoldenCases.h"
 #include "Screens.h"
+#include "books/store/SystemCalls.h"
 #include "formats/TextLines.h"
-#include "shell/controls/Messages.h"
-#include "store/SystemCalls.h"
 #include "tour/Eyes.h"
 #include "tour/Stage.h"
+#include "ui/controls/Messages.h"
 
 namespace kladez {
 namespace {

@@ -20,9 +20,9 @@
 
 #include "TempData.h"
 #include "demo/DemoBooks.h"
-#include "shell/Help.h"
 #include "tour/Eyes.h"
 #include "tour/Stage.h"
+#include "ui/Help.h"
 
 // Of the leak checker: a walk that ends by "Выход" with a menu open leaves the toolkit's own
 // objects behind.

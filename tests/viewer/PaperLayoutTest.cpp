@@ -17,14 +17,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-std::shared_ptr<const Page> Read(const QString& text) {
+std::shared_ptr<const Page> ReadWithPicture(const QString& text) {
   QImage picture(400, 200, QImage::Format_RGB32);
   picture.fill(Qt::red);
   return std::make_shared<Page>(ReadPage(text, [&](const QString&) { return picture; }));
 }
 
 std::unique_ptr<PaperLayout> LaidOut(const QString& text, PaperFormat format = {}) {
-  auto layout = std::make_unique<PaperLayout>(Read(text));
+  auto layout = std::make_unique<PaperLayout>(ReadWithPicture(text));
   EXPECT_TRUE(layout->LayOut(layout->Propose(format), {}));
   return layout;
 }
@@ -101,7 +101,7 @@ TEST(PaperLayoutTest, AHeadingIsNotBrokenAtAHyphenBeforeAShortEnd) {
   QString page = WaybillPage(3, u"К"_s);
   page.replace(u"125.50&nbsp;"_s, u"118518516.00&nbsp;"_s);
   page.replace(u"12550.00&nbsp;"_s, u"1185185160000.00&nbsp;"_s);
-  PageDocument document(Read(page), {});
+  PageDocument document(ReadWithPicture(page), {});
   document.document()->setTextWidth(718);
   document.FitColumns(718);
   const QTextCursor heading = document.document()->find(u"Кол-во"_s);
@@ -120,7 +120,7 @@ TEST(PaperLayoutTest, WidePageProposesLandscapeAndANarrowOneDoesNot) {
 }
 
 TEST(PaperLayoutTest, WithoutFitToWidthAWidePageGoesOnToTheRight) {
-  PaperLayout layout(Read(InvoicePage(3)));
+  PaperLayout layout(ReadWithPicture(InvoicePage(3)));
   PaperFormat format;
   ASSERT_TRUE(layout.LayOut(format, {}));
   EXPECT_LT(layout.Scale(), 1);
@@ -141,7 +141,7 @@ TEST(PaperLayoutTest, PictureIsOnPaper) {
 }
 
 TEST(PaperLayoutTest, LayingOutStopsWhenAsked) {
-  PaperLayout layout(Read(ReportPage(600)));
+  PaperLayout layout(ReadWithPicture(ReportPage(600)));
   int calls = 0;
   EXPECT_FALSE(layout.LayOut({}, [&calls](int, int) { return ++calls < 3; }));
   EXPECT_EQ(calls, 3);
@@ -162,7 +162,7 @@ TEST(OutputTest, StoppedPdfLeavesTheOldFile) {
 
 TEST(OutputTest, PdfThatCannotBeWrittenTellsTheReason) {
   try {
-    ExportPdf(Read(WaybillPage(1, u"К"_s)), u"/none/such/форма.pdf"_s);
+    ExportPdf(ReadWithPicture(WaybillPage(1, u"К"_s)), u"/none/such/форма.pdf"_s);
     FAIL() << "a file in no directory was written";
   } catch (const std::system_error& error) {
     EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
@@ -171,8 +171,8 @@ TEST(OutputTest, PdfThatCannotBeWrittenTellsTheReason) {
 
 TEST(OutputTest, SheetPicturesHaveLinesAndLettersInsideTheMargins) {
   const QTemporaryDir directory;
-  const QStringList paths =
-      ExportSheetPictures(Read(WaybillPage(60, u"К"_s)), directory.path(), u"лист"_s, 96);
+  const QStringList paths = ExportSheetPictures(ReadWithPicture(WaybillPage(60, u"К"_s)),
+                                                directory.path(), u"лист"_s, 96);
   ASSERT_EQ(paths.size(), 2);
   const QImage picture(paths.front());
   EXPECT_NEAR(picture.width(), 210 / 25.4 * 96, 1);

@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kMillimetresPerInch = 25.4;
 constexpr double kNumberPoints = 8;
 constexpr double kEdge = 4;
 

@@ -8,7 +8,6 @@ namespace kladez::viewer {
 
 namespace {
 
-constexpr double kMillimetresPerInch = 25.4;
 constexpr double kLeastPortraitScale = 0.85;
 
 }  // namespace

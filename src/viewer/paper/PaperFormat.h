@@ -6,6 +6,8 @@
 
 namespace kladez::viewer {
 
+inline constexpr double kMillimetresPerInch = 25.4;
+
 // The bottom margin, in millimetres, that the number of a sheet needs at least.
 inline constexpr double kNumberRoom = 8;
 

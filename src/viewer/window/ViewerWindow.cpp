@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Milliseconds for which nobody needs to be told that the work goes on.
-constexpr int kPatience = 300;
+constexpr int kRedrawPatience = 300;
 constexpr int kLeastWidth = 640;
 constexpr int kMostHeight = 1000;
 
@@ -177,7 +177,7 @@ bool ViewerWindow::Load() {
   since_begin.start();
   const auto report = [this, &since_begin](const QString& text) -> Progress {
     return [this, &since_begin, text](int done, int total) {
-      if (since_begin.elapsed() > kPatience) {
+      if (since_begin.elapsed() > kRedrawPatience) {
         show();
         ShowProgress(text, done, total);
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

@@ -1,0 +1,132 @@
+#include "books/directories/GoodsDirectory.h"
+
+#include <algorithm>
+
+#include "books/directories/GoodsOrder.h"
+#include "books/store/SaveSet.h"
+#include "formats/Numbers.h"
+#include "formats/TextLines.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr size_t kMostRows = 1000;
+
+bool LedgerHolds(QByteArrayView bytes, QByteArrayView name) {
+  for (LineReader reader(bytes); !reader.AtEnd();) {
+    if (reader.Peek() == ' ') {
+      reader.NextRaw();
+      continue;
+    }
+    const bool same = reader.NextRaw() == name;
+    const QByteArrayView quantity = reader.NextRaw();
+    reader.NextRaw();  // unit
+    if (same && NumberOr(quantity) != 0) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+GoodsDirectory::GoodsDirectory(const DataDir& data, const Session& session, GoodsView view)
+    : data_(data), path_(session.Path(u"spr\\товар.spr")) {
+  Reload(view);
+}
+
+bool GoodsDirectory::IsFull() const { return rows_.size() > kMostRows; }
+
+void GoodsDirectory::Reload(GoodsView view) {
+  const QByteArray bytes = data_.Read(path_);
+  Load(bytes, view);
+  copy_ = view == GoodsView::kGoodsOnly ? ReadGoods(bytes) : std::vector<GoodsRecord>();
+}
+
+void GoodsDirectory::Load(QByteArrayView bytes, GoodsView view) {
+  rows_ = ReadGoods(bytes);
+  view_ = view;
+  if (view == GoodsView::kGroups) return;
+  std::erase_if(rows_, [](const GoodsRecord& record) { return record.IsGroup(); });
+  rows_ = SortedByName(std::move(rows_));
+}
+
+void GoodsDirectory::ShowGoodsOnly() {
+  std::vector<GoodsRecord> copy = ReadGoods(data_.Read(path_));
+  Write(rows_);
+  Load(WriteGoods(rows_), GoodsView::kGoodsOnly);
+  copy_ = std::move(copy);
+}
+
+int GoodsDirectory::Insert(int below, const GoodsRecord& record) {
+  const int row = below < 0 ? static_cast<int>(rows_.size()) : below + 1;
+  rows_.insert(rows_.begin() + row, record);
+  return row;
+}
+
+int GoodsDirectory::Change(int row, const GoodsRecord& record) {
+  rows_[row] = record;
+  if (view_ == GoodsView::kGroups) return row;
+  // The goods alone keep themselves in order.
+  rows_.erase(rows_.begin() + row);
+  const QString key = OrderKey(record.name);
+  const auto place = std::find_if(rows_.begin(), rows_.end(), [&](const GoodsRecord& other) {
+    return key < OrderKey(other.name);
+  });
+  return static_cast<int>(rows_.insert(place, record) - rows_.begin());
+}
+
+int GoodsDirectory::MoveUp(int row) {
+  if (view_ == GoodsView::kGoodsOnly || row < 1) return row;
+  if (row == 1 && !rows_[row].IsGroup()) return row;
+  std::swap(rows_[row], rows_[row - 1]);
+  return row - 1;
+}
+
+int GoodsDirectory::MoveDown(int row) {
+  if (view_ == GoodsView::kGoodsOnly || row < 0 || row + 1 >= static_cast<int>(rows_.size())) {
+    return row;
+  }
+  std::swap(rows_[row], rows_[row + 1]);
+  return row + 1;
+}
+
+void GoodsDirectory::Remove(int row) { rows_.erase(rows_.begin() + row); }
+
+void GoodsDirectory::Sort() { rows_ = SortedInGroups(rows_); }
+
+void GoodsDirectory::SaveChange(int row) {
+  if (view_ == GoodsView::kGroups) return;
+  const GoodsRecord& changed = rows_[row];
+  // An empty name begins every text and would fall on the first group.
+  if (changed.name.isEmpty()) return;
+  // The first beginning counts, even of a longer name: that is how changes have always been joined.
+  const auto same = std::find_if(copy_.begin(), copy_.end(), [&](const GoodsRecord& record) {
+    return record.name.startsWith(changed.name);
+  });
+  if (same == copy_.end()) return;
+  *same = changed;
+  Write(copy_);
+}
+
+void GoodsDirectory::Save() { Write(view_ == GoodsView::kGroups ? rows_ : copy_); }
+
+void GoodsDirectory::SaveBeforePick() {
+  if (view_ == GoodsView::kGroups) Write(rows_);
+}
+
+void GoodsDirectory::Write(const std::vector<GoodsRecord>& records) {
+  SaveSet save(data_);
+  save.Write(path_, WriteGoods(records));
+  save.Commit();
+}
+
+bool IsOnHand(const DataDir& data, const Session& session, const QString& name) {
+  const QByteArray encoded = EncodeText(name);
+  return std::any_of(
+      session.SkladNames.begin(), session.SkladNames.end(), [&](const QString& warehouse) {
+        return LedgerHolds(data.Read(session.Path(warehouse, u"товар.usl")), encoded);
+      });
+}
+
+}  // namespace kladez

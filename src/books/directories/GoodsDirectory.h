@@ -1,0 +1,65 @@
+// The working copy of the goods directory, spr\товар.spr: the rows that a screen shows, either the
+// groups and their goods in the user's order or the goods alone by name, and what a person does to
+// them. Nothing is in the file before one of the saves.
+#pragma once
+
+#include <vector>
+
+#include "books/directories/GoodsView.h"
+#include "books/store/DataDir.h"
+#include "books/store/Session.h"
+#include "formats/GoodsFile.h"
+
+namespace kladez {
+
+class GoodsDirectory {
+ public:
+  // Reads the file. Throws filesystem_error.
+  GoodsDirectory(const DataDir& data, const Session& session, GoodsView view);
+
+  const std::vector<GoodsRecord>& Rows() const { return rows_; }
+  GoodsView View() const { return view_; }
+  // No further row may be added: more than 1000 of them are shown.
+  bool IsFull() const;
+
+  // Reads the file again, and loses what was not saved.
+  void Reload(GoodsView view);
+  // Switches to the goods alone: keeps a copy of the file as it lies on the disk, then saves the
+  // rows, then shows them without groups. Whatever the rows held that the file did not is in the
+  // file from then on but not in the copy, and the next save writes the copy: this is meant.
+  void ShowGoodsOnly();
+
+  // Each gives the row where the record, or the moved one, is afterwards. `below` -1 adds at the
+  // end.
+  int Insert(int below, const GoodsRecord& record);
+  int Change(int row, const GoodsRecord& record);
+  int MoveUp(int row);  // goods never from the second row to the first, the place of a group
+  int MoveDown(int row);
+  void Remove(int row);
+  void Sort();  // by group and name, see SortedInGroups
+
+  // With the goods alone shown, a changed row reaches the file at once: the first row of the copy
+  // whose text begins with its name becomes it. Nothing is saved when none does. With groups shown
+  // there is nothing to do.
+  void SaveChange(int row);
+  // Writes the file: the rows, or the copy while the goods alone are shown.
+  void Save();
+  // Writes the file only while the groups are shown, as a pick does.
+  void SaveBeforePick();
+
+ private:
+  void Load(QByteArrayView bytes, GoodsView view);
+  void Write(const std::vector<GoodsRecord>& records);
+
+  const DataDir& data_;
+  QString path_;
+  GoodsView view_ = GoodsView::kGroups;
+  std::vector<GoodsRecord> rows_;
+  std::vector<GoodsRecord> copy_;
+};
+
+// Whether any warehouse has a quantity other than 0 of the goods in some record of its ledger.
+// Throws filesystem_error when a ledger can't be read.
+bool IsOnHand(const DataDir& data, const Session& session, const QString& name);
+
+}  // namespace kladez

@@ -1,0 +1,35 @@
+// The working copy of a directory of parties: own firms, clients or suppliers, in the order of the
+// file. Adds, changes and removals are lost unless it is saved.
+#pragma once
+
+#include <vector>
+
+#include "books/store/DataDir.h"
+#include "books/store/Session.h"
+#include "formats/PartyFile.h"
+
+namespace kladez {
+
+class PartyDirectory {
+ public:
+  // Reads the kind's file; a missing one is an empty list. Throws filesystem_error.
+  PartyDirectory(const DataDir& data, Session& session, PartyKind kind);
+
+  PartyKind Kind() const { return kind_; }
+  const std::vector<Party>& Rows() const { return rows_; }
+
+  void Add(const Party& party) { rows_.push_back(party); }
+  void Change(int row, const Party& party) { rows_[row] = party; }
+  void Remove(int row) { rows_.erase(rows_.begin() + row); }
+
+  // Writes the file whole, and gives the session the names of the kind. Throws filesystem_error.
+  void Save();
+
+ private:
+  const DataDir& data_;
+  Session& session_;
+  PartyKind kind_;
+  std::vector<Party> rows_;
+};
+
+}  // namespace kladez

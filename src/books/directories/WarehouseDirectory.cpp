@@ -1,0 +1,95 @@
+#include "books/directories/WarehouseDirectory.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "books/store/Catalogue.h"
+#include "books/store/Errors.h"
+#include "books/store/SaveSet.h"
+#include "formats/TextLines.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// The path of an empty name would be the Database itself, and that of ".." the catalogue.
+QString PathOf(const Session& session, const QString& name) {
+  if (!IsPlainTreePath(name + u'\\')) {
+    ThrowFileError(u"Имя склада служит именем его каталога, а такое имя каталогу дать нельзя"_s,
+                   name, EINVAL);
+  }
+  return session.Path(name);
+}
+
+void RefuseAllWarehouses(const QString& name) {
+  if (name != kAllWarehouses) return;
+  ThrowFileError(u"Эти слова означают все склады вместе, назвать так один склад нельзя"_s, name,
+                 EINVAL);
+}
+
+void WriteList(SaveSet& save, const Session& session, const QStringList& names) {
+  save.Write(session.Path(u"склад.usd"), EncodeLines(names));
+}
+
+}  // namespace
+
+bool HoldsForbiddenCharacter(QStringView name) {
+  constexpr QStringView kForbidden = u"\\/:*?\"<>|";
+  return std::any_of(name.begin(), name.end(), [&](QChar c) { return kForbidden.contains(c); });
+}
+
+WarehouseDirectory::WarehouseDirectory(const DataDir& data, Session& session)
+    : data_(data), session_(session), names_(session.SkladNames) {}
+
+void WarehouseDirectory::Create(const QString& name) {
+  RefuseAllWarehouses(name);
+  const QString path = PathOf(session_, name);
+  // A directory that is there already, be it the Database's own, must not become a warehouse.
+  if (data_.DirectoryExists(path)) {
+    ThrowFileError(u"Не удалось создать склад"_s, path, EEXIST);
+  }
+  QStringList names = names_;
+  names.append(name);
+  SaveSet save(data_);
+  WriteList(save, session_, names);
+  AddNewWarehouse(save, path);
+  save.Commit();
+  TakeOver(names);
+}
+
+void WarehouseDirectory::Rename(int row, const QString& name) {
+  if (name == names_[row]) return;
+  RefuseAllWarehouses(name);
+  SaveSet save(data_);
+  save.RenameDirectory(PathOf(session_, names_[row]), PathOf(session_, name));
+  save.Commit();
+  names_[row] = name;
+}
+
+void WarehouseDirectory::Delete(int row) {
+  if (row <= 0) return;
+  QStringList names = names_;
+  names.removeAt(row);
+  const QString path = PathOf(session_, names_[row]);
+  SaveSet save(data_);
+  // A rename that was not saved leaves a name without a directory; it must not stay for ever.
+  if (data_.DirectoryExists(path)) save.DeleteTree(path);
+  WriteList(save, session_, names);
+  save.Commit();
+  TakeOver(names);
+}
+
+void WarehouseDirectory::Save() {
+  SaveSet save(data_);
+  WriteList(save, session_, names_);
+  save.Commit();
+  TakeOver(names_);
+}
+
+void WarehouseDirectory::TakeOver(const QStringList& names) {
+  names_ = names;
+  session_.SkladNames = names;
+}
+
+}  // namespace kladez

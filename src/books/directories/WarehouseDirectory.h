@@ -1,0 +1,47 @@
+// The warehouses of a Database: склад.usd, one name a line, and one directory each. A warehouse's
+// name is the name of its directory.
+#pragma once
+
+#include <QStringList>
+
+#include "books/store/DataDir.h"
+#include "books/store/Session.h"
+
+namespace kladez {
+
+// The entry of a selector that means all warehouses together; never the name of one.
+inline constexpr QStringView kAllWarehouses = u"ВСЕ СКЛАДЫ";
+
+// Whether the name holds one of the characters \ / : * ? " < > | that no warehouse may have.
+bool HoldsForbiddenCharacter(QStringView name);
+
+// The list of the warehouses as a screen shows it, filled from the session. Every command throws
+// filesystem_error, and nothing has changed then, neither the list nor the disk. A name that is not
+// one plain directory name ("..", empty), or means all warehouses, is refused before anything is
+// touched.
+class WarehouseDirectory {
+ public:
+  WarehouseDirectory(const DataDir& data, Session& session);
+
+  const QStringList& Names() const { return names_; }
+  bool Contains(const QString& name) const { return names_.contains(name); }  // letter case counts
+
+  // Makes the directory with all that a new warehouse holds, and writes the list: one save.
+  void Create(const QString& name);
+  // Renames the directory. The list file and the session keep the old name until Save.
+  void Rename(int row, const QString& name);
+  // Deletes the directory with all that it holds, and writes the list: one save. The first
+  // warehouse is never deleted.
+  void Delete(int row);
+  // Writes the list file, and gives the session the names.
+  void Save();
+
+ private:
+  void TakeOver(const QStringList& names);
+
+  const DataDir& data_;
+  Session& session_;
+  QStringList names_;
+};
+
+}  // namespace kladez

@@ -1,0 +1,78 @@
+#include "books/prices/PriceStore.h"
+
+#include <cerrno>
+
+#include "books/directories/GoodsMarks.h"
+#include "books/store/Errors.h"
+#include "books/store/SaveSet.h"
+#include "formats/TextLines.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kClipboard = u"temp.prc"_s;
+
+}  // namespace
+
+QStringList PriceStore::Names(const QString& warehouse) const {
+  const auto bytes = data_.ReadIfAny(session_.Path(warehouse, u"price.usd"));
+  return DecodeLines(bytes.value_or(QByteArray()));
+}
+
+QStringList PriceStore::Files(const QString& warehouse) const {
+  QStringList files = data_.List(session_.Path(warehouse, u"PRICE"), u".prc");
+  for (QString& file : files) file = session_.Path(warehouse, u"PRICE\\") + file;
+  return files;
+}
+
+QString PriceStore::FileOf(const QString& warehouse, int index) const {
+  const QStringList files = Files(warehouse);
+  if (index < 0 || index >= files.size()) {
+    ThrowFileError(u"У этого прайс-листа нет файла: имён прайс-листов больше, чем файлов .prc"_s,
+                   session_.Path(warehouse, u"PRICE"), ENOENT);
+  }
+  return files[index];
+}
+
+PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
+                           const LoadProgress& progress) const {
+  const QStringList files = Files(warehouse);
+  const bool has_file = index >= 0 && index < files.size();
+  return {data_.Read(session_.Path(u"spr\\товар.spr")),
+          has_file ? data_.Read(files[index]) : QByteArray(),
+          data_.ReadIfAny(MarksPath(session_)).value_or(QByteArray()), view, progress};
+}
+
+void PriceStore::Save(const PriceList& list, const QString& warehouse, int index) const {
+  SaveSet save(data_);
+  save.Write(MarksPath(session_), list.MarkedBytes());
+  save.Write(FileOf(warehouse, index), list.PriceBytes());
+  save.Commit();
+}
+
+void PriceStore::SaveTicks(const PriceList& list) const {
+  SaveSet save(data_);
+  save.Write(MarksPath(session_), list.MarkedBytes());
+  save.Commit();
+}
+
+void PriceStore::Copy(const PriceList& list) const {
+  SaveSet save(data_);
+  save.Write(kClipboard, list.PriceBytes());
+  save.Commit();
+}
+
+bool PriceStore::Paste(PriceList& list, const QString& warehouse, int index) const {
+  if (!data_.FileExists(kClipboard)) return false;
+  PriceList pasted = list;
+  pasted.Paste(data_.Read(kClipboard));
+  SaveSet save(data_);
+  save.Write(FileOf(warehouse, index), pasted.PriceBytes());
+  save.Commit();
+  list = std::move(pasted);
+  return true;
+}
+
+}  // namespace kladez

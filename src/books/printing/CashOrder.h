@@ -1,0 +1,27 @@
+// What a cash receipt order and its tear-off receipt are filled with.
+#pragma once
+
+#include <QString>
+
+#include "books/printing/DocumentTotals.h"
+#include "books/stock/PrintSource.h"
+
+namespace kladez {
+
+struct CashOrder {
+  QString firm;
+  QString number;
+  QString date;
+  QString payer;
+  QString grounds;   // "Накладная N5 от 12.03.2026"
+  QString sum;       // "#0.00"
+  QString words;     // the sum spelled
+  QString included;  // "НДС: 180.00 руб. НСП: 0.00 руб."
+};
+
+// Fills the order for a document; the discount of the parameters takes no part. Throws InputError
+// for a total or parameter that is no number; what was filled until then stays.
+void FillCashOrder(const PrintSource& source, const QString& firm, PrintParameters parameters,
+                   const QString& rub, const Currency& currency, CashOrder& order);
+
+}  // namespace kladez

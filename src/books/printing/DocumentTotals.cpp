@@ -1,0 +1,41 @@
+#include "books/printing/DocumentTotals.h"
+
+#include "books/printing/AmountInWords.h"
+#include "books/printing/InputError.h"
+#include "formats/Numbers.h"
+
+namespace kladez {
+namespace {
+
+// The amount that taxes are taken from, not rounded.
+double LessDiscount(const QString& before, const QString& discount) {
+  const double amount = FieldNumber(before);
+  return amount - amount * FieldNumber(discount) / 100;
+}
+
+QString TaxText(double tax, const TaxStyle& style) {
+  return (style.grouped ? FormatGrouped(tax) : FormatMoney(tax)) + style.currency;
+}
+
+}  // namespace
+
+QString TotalBefore(const QString& total, const PrintParameters& parameters) {
+  return FormatMoney(FieldNumber(total) * FieldNumber(parameters.percent) / 100 *
+                     FieldNumber(parameters.rate));
+}
+
+QString AmountDue(const QString& before, const QString& discount) {
+  return FormatMoney(LessDiscount(before, discount));
+}
+
+void FillTotals(const PrintParameters& parameters, const TaxStyle& style, const Currency& currency,
+                TotalTexts& totals) {
+  totals.words = AmountDue(totals.before, parameters.discount);
+  const double amount = LessDiscount(totals.before, parameters.discount);
+  const double vat = FieldNumber(parameters.vat);
+  totals.vat = TaxText(amount / (vat + 100) * vat, style);
+  totals.sales_tax = TaxText(amount * FieldNumber(parameters.sales_tax) / 100, style);
+  totals.words = AmountInWords(totals.words, currency);
+}
+
+}  // namespace kladez

@@ -1,0 +1,48 @@
+#include "books/printing/PrintOutDesk.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+PrintOutDesk::PrintOutDesk(const DataDir& data, std::function<void()> start_viewer)
+    : data_(data), start_viewer_(std::move(start_viewer)) {}
+
+void PrintOutDesk::Write(const QString& name, const QByteArray& bytes) const {
+  SaveSet save(data_);
+  save.Write(name, bytes);
+  save.Commit();
+}
+
+void PrintOutDesk::WriteInPieces(const QString& name, SaveSet::Contents contents) const {
+  SaveSet save(data_);
+  save.WriteInPieces(name, std::move(contents));
+  save.Commit();
+}
+
+void PrintOutDesk::OpenPrintOut(const QString& name) const {
+  const QString out = data_.Root() + u"/out.htm"_s;
+  QFile::remove(out);
+  QFile::rename(data_.Root() + u'/' + name, out);
+  if (start_viewer_) start_viewer_();
+}
+
+void PrintOutDesk::Show(const QString& name, const QByteArray& bytes) const {
+  Write(name, bytes);
+  OpenPrintOut(name);
+}
+
+bool StartReportViewer(const DataDir& data, const QStringList& arguments) {
+  const QString beside = QCoreApplication::applicationDirPath() + u"/kladez-report"_s;
+  const QString program = QFileInfo(beside).isExecutable()
+                              ? beside
+                              : QStandardPaths::findExecutable(u"kladez-report"_s);
+  return !program.isEmpty() && QProcess::startDetached(program, arguments, data.Root());
+}
+
+}  // namespace kladez

@@ -1,0 +1,97 @@
+#include "books/reports/ChartSeries.h"
+
+#include <cerrno>
+
+#include "books/store/Errors.h"
+#include "formats/Dates.h"
+#include "formats/Numbers.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+using L = DocumentLine;
+
+QString PeriodTitle(const ChartScope& scope) {
+  const QString year = GeneralText(scope.year);
+  return scope.by_day ? QString(MonthName(scope.month) + u' ' + year) : QString(year + u" год"_s);
+}
+
+int DaysOf(const ChartScope& scope) { return QDate(scope.year, scope.month, 1).daysInMonth(); }
+
+ChartGrid EmptyGrid(const QString& title, const ChartScope& scope, const QStringList& columns) {
+  const int rows = scope.by_day ? DaysOf(scope) : 12;
+  return NumberedChartGrid(title + PeriodTitle(scope), rows, columns);
+}
+
+// The row that a date falls into. By day the key holds two digits of the year, so a date a century
+// off counts as well, unless the month lacks its day: only some years have a 29th of February.
+std::optional<int> RowOf(const ChartScope& scope, QDate date) {
+  if (!scope.by_day) {
+    if (date.year() != scope.year) return std::nullopt;
+    return date.month() - 1;
+  }
+  if (date.year() % 100 != scope.year % 100 || date.month() != scope.month) return std::nullopt;
+  if (date.day() > DaysOf(scope)) return std::nullopt;
+  return date.day() - 1;
+}
+
+// What is no number counts as far as it can be read, without a word.
+double Tolerant(QByteArrayView bytes) {
+  if (const auto value = ParseStrict(bytes)) return *value;
+  return ParseLenient(DecodeText(bytes));
+}
+
+// A sum is kept as text between two additions: 15 significant digits.
+void AddTo(double& sum, double value) { sum = RoundGeneral(sum + RoundGeneral(value)); }
+
+using AddLine = std::function<void(const ScannedDocument& line, int row)>;
+
+bool Collect(const DataDir& data, const Session& session, const ChartScope& scope,
+             const Progress& progress, const AddLine& add) {
+  const QStringList warehouses = ReportScope{scope.warehouse, {}}.Warehouses(session);
+  const auto visit = [&](ScannedDocument& document) {
+    const auto date = document.Date();
+    const auto row = date ? RowOf(scope, *date) : std::nullopt;
+    while (document.NextLine()) {
+      if (row) add(document, *row);
+    }
+    if (document.IsCut()) {
+      ThrowFileError(u"Документ обрывается на середине, график не построен"_s, document.File(),
+                     EBADMSG);
+    }
+  };
+  return ScanWarehouses(data, session, warehouses, DocumentKind::kShipment, Unreadable::kStop,
+                        progress, visit);
+}
+
+}  // namespace
+
+std::optional<ChartGrid> CollectSalesChart(const DataDir& data, const Session& session,
+                                           const ChartScope& scope, const Progress& progress) {
+  ChartGrid grid = EmptyGrid(u"График продаж за "_s, scope, {u"Реализация"_s, u"Прибыль"_s});
+  const bool whole =
+      Collect(data, session, scope, progress, [&](const ScannedDocument& line, int row) {
+        const double quantity = Tolerant(line.Line(&L::quantity));
+        const double revenue = Tolerant(line.Line(&L::net_price)) * quantity;
+        AddTo(grid.Cell(row, 0), revenue);
+        AddTo(grid.Cell(row, 1), revenue - Tolerant(line.Line(&L::cost)) * quantity);
+      });
+  return whole ? std::optional(std::move(grid)) : std::nullopt;
+}
+
+std::optional<ChartGrid> CollectGoodsChart(const DataDir& data, const Session& session,
+                                           const QString& goods, const ChartScope& scope,
+                                           const Progress& progress) {
+  ChartGrid grid =
+      EmptyGrid(u"График реализации товара "_s + goods + u" за "_s, scope, {u"Количество"_s});
+  const QByteArray name = EncodeText(goods);
+  const bool whole =
+      Collect(data, session, scope, progress, [&](const ScannedDocument& line, int row) {
+        if (line.Line(&L::name) == name)
+          AddTo(grid.Cell(row, 0), Tolerant(line.Line(&L::quantity)));
+      });
+  return whole ? std::optional(std::move(grid)) : std::nullopt;
+}
+
+}  // namespace kladez

@@ -1,0 +1,40 @@
+// The sales report: every shipped line of a period with its amount after the discount, oldest
+// first, read from the shipments themselves.
+#pragma once
+
+#include <QByteArray>
+#include <optional>
+#include <vector>
+
+#include "books/reports/ReportScope.h"
+#include "formats/TextPool.h"
+
+namespace kladez {
+
+struct SalesReport {
+  struct Row {
+    int day_key;
+    int name;      // texts are numbers of the pool
+    int quantity;  // as written in the document
+    int unit;
+    double amount;  // after the discount, rounded to the kopeck
+  };
+
+  TextPool texts;
+  std::vector<Row> rows;
+
+  // The sum of the amounts is rounded after each addition, the sum of the quantities never.
+  double TotalQuantity() const;
+  double TotalAmount() const;
+};
+
+// Nothing when the progress ended the work. A damaged document gives its whole lines, an unreadable
+// one nothing.
+std::optional<SalesReport> CollectSales(const DataDir& data, const Session& session,
+                                        const ReportScope& scope, const Progress& progress = {});
+
+// The page "temp.htm". Throws WorkEnded.
+void WriteSalesReport(const SalesReport& report, const ReportScope& scope, const ByteSink& sink,
+                      const Progress& progress);
+
+}  // namespace kladez

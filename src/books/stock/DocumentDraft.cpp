@@ -1,0 +1,164 @@
+#include "books/stock/DocumentDraft.h"
+
+#include <utility>
+
+#include "books/stock/DocumentNumbers.h"
+#include "formats/Dates.h"
+#include "formats/Numbers.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+DraftLine WithAmount(DocumentLine line) {
+  QString amount = LineAmount(line.quantity, line.price).value_or(u"0.00"_s);
+  return {std::move(line), std::move(amount)};
+}
+
+DocumentDraft DocumentDraft::New(const Place& place, QDate today) {
+  DocumentDraft draft(place);
+  const QString directory = DocumentDirectory(place.session, place.kind, place.warehouse);
+  const NewDocumentNumbers numbers = NumbersForNew(place.data, place.kind, directory);
+  draft.file_ = numbers.file;
+  draft.is_new_ = true;
+  draft.head_.number = numbers.number;
+  draft.head_.sum = u"0.00"_s;
+  draft.SetDate(today);
+  if (draft.book_.has_flag) {
+    draft.head_.party = u"-"_s;
+    draft.SetClosed(false);
+  } else {
+    const QStringList& warehouses = place.session.SkladNames;
+    draft.head_.party = warehouses.value(0);
+    draft.head_.destination = warehouses.value(warehouses.size() > 1 ? 1 : 0);
+  }
+  draft.SetDiscount(u"0"_s);
+  draft.TakeLedgers();
+  return draft;
+}
+
+DocumentDraft DocumentDraft::Open(const Place& place, const RegisterRow& row) {
+  DocumentDraft draft(place);
+  draft.file_ = row.file;
+  draft.head_ = row.head;
+  if (const auto date = ParseDate(row.head.date)) draft.SetDate(*date);
+  if (draft.book_.has_flag) {
+    draft.was_closed_ = row.head.IsClosed();
+    draft.SetClosed(draft.was_closed_);
+  }
+  Document document = ReadDocument(
+      place.kind,
+      place.data.Read(DocumentPath(place.session, place.kind, place.warehouse, row.file)));
+  draft.lines_.reserve(document.lines.size());
+  for (DocumentLine& line : document.lines) draft.lines_.push_back(WithAmount(std::move(line)));
+  draft.Recompute();
+  draft.TakeLedgers();
+  return draft;
+}
+
+void DocumentDraft::TakeLedgers() {
+  if (book_.has_flag ? was_closed_ : !is_new_) return;  // no save of it will post
+  std::vector<QByteArray> ledgers;
+  for (const LedgerEffect& effect : book_.effects) {
+    const QString warehouse = WarehouseOf(effect, head_, place_.warehouse);
+    ledgers.push_back(place_.data.Read(LedgerPath(place_.session, warehouse)));
+  }
+  ledgers_ = std::move(ledgers);
+}
+
+void DocumentDraft::SetDate(QDate date) { head_.date = DateText(date); }
+
+void DocumentDraft::SetClosed(bool closed) { head_.closed = closed ? u"да"_s : u"нет"_s; }
+
+void DocumentDraft::SetSum(const QString& sum) {
+  head_.sum = sum;
+  Recompute();
+}
+
+void DocumentDraft::SetDiscount(const QString& percent) {
+  head_.discount = percent;
+  Recompute();
+}
+
+void DocumentDraft::Recompute() { head_.net_sum = AfterDiscount(head_.sum, head_.discount); }
+
+void DocumentDraft::ChooseWarehouse(QString DocumentHead::*side, const QString& warehouse) {
+  const QString before = std::exchange(head_.*side, warehouse);
+  try {
+    TakeLedgers();
+  } catch (...) {
+    head_.*side = before;
+    throw;
+  }
+}
+
+bool DocumentDraft::AddLine(const GoodsPick& pick) {
+  if (pick.is_group || pick.name.isEmpty() || pick.quantity.isEmpty() || pick.price.isEmpty()) {
+    return false;
+  }
+  const DraftLine& added = lines_.emplace_back(WithAmount(
+      {pick.name, pick.quantity, pick.unit, pick.cost, FormatMoney(NumberOr(pick.price)), {}}));
+  SetSum(FormatMoney(NumberOr(head_.sum) + NumberOr(added.amount)));
+  return true;
+}
+
+void DocumentDraft::ChangeLine(size_t row, const QString& quantity, const QString& price,
+                               const QString& amount) {
+  DraftLine& changed = lines_[row];
+  const double without = NumberOr(head_.sum) - NumberOr(changed.amount);
+  changed.line.quantity = quantity;
+  changed.line.price = FormatMoney(NumberOr(price));
+  changed.amount = amount;
+  SetSum(FormatMoney(without + NumberOr(changed.amount)));
+}
+
+void DocumentDraft::RemoveLine(size_t row) {
+  SetSum(FormatMoney(NumberOr(head_.sum) - NumberOr(lines_[row].amount)));
+  lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(row));
+}
+
+bool DocumentDraft::Posts() const {
+  return book_.has_flag ? head_.IsClosed() && !was_closed_ : is_new_;
+}
+
+Document DocumentDraft::ToDocument() const {
+  Document document{head_, {}};
+  document.head.sum = FormatMoney(NumberOr(head_.sum));
+  document.lines.reserve(lines_.size());
+  for (const DraftLine& draft : lines_) {
+    DocumentLine& line = document.lines.emplace_back(draft.line);
+    line.net_price = AfterDiscount(line.price, head_.discount);
+  }
+  return document;
+}
+
+DocumentDraft::Outcome DocumentDraft::Save() {
+  if (book_.has_flag && lines_.empty()) return Outcome::kNoLines;
+  if (!book_.has_flag && head_.party == head_.destination) return Outcome::kSameWarehouse;
+  SaveSet save(place_.data);
+  save.Write(DocumentPath(place_.session, place_.kind, place_.warehouse, file_),
+             WriteDocument(place_.kind, ToDocument()));
+  if (Posts()) {
+    std::vector<LedgerRecord> records;
+    for (const DraftLine& draft : lines_) {
+      records.push_back({draft.line.name, draft.line.quantity, draft.line.unit});
+    }
+    for (size_t i = 0; i < book_.effects.size(); ++i) {
+      StockLedger ledger(ledgers_[i]);
+      ledger.Post(book_.effects[i].posting, records);
+      const QString warehouse = WarehouseOf(book_.effects[i], head_, place_.warehouse);
+      save.Write(LedgerPath(place_.session, warehouse), ledger.Bytes());
+    }
+  }
+  save.Commit();
+  return Outcome::kSaved;
+}
+
+PrintSource DocumentDraft::ToPrint() const {
+  Document shown{head_, {}};
+  for (const DraftLine& draft : lines_) shown.lines.push_back(draft.line);
+  return PrintSourceOf(place_.kind, PrintSource::Opener::kEditor, place_.warehouse,
+                       std::move(shown));
+}
+
+}  // namespace kladez

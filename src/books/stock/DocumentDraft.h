@@ -1,0 +1,96 @@
+// A document while it is being written: the working copy behind the three editors. It keeps the sum
+// by adding and subtracting the rounded amounts of its lines, as they come and go, and never sums
+// them anew; saving writes the document and, where it is due, posts it to the ledgers, in one save.
+#pragma once
+
+#include <QDate>
+#include <vector>
+
+#include "books/directories/GoodsPick.h"
+#include "books/stock/DocumentRegister.h"
+#include "books/stock/PrintSource.h"
+
+namespace kladez {
+
+struct DraftLine {
+  DocumentLine line;
+  QString amount;  // quantity times price, "#0.00"; it is not stored
+};
+
+DraftLine WithAmount(DocumentLine line);
+
+class DocumentDraft {
+ public:
+  // Where the document lies; both outlive the draft.
+  struct Place {
+    const DataDir& data;
+    const Session& session;
+    DocumentKind kind;
+    QString warehouse;  // chosen in the register; transfers have none
+  };
+
+  // A new document, with its file name and a proposed number, and a copy of the ledgers that it
+  // would post to. Throws filesystem_error.
+  static DocumentDraft New(const Place& place, QDate today);
+  // A document of the register: its head is that of the row, its lines come from the file.
+  static DocumentDraft Open(const Place& place, const RegisterRow& row);
+
+  const DocumentHead& Head() const { return head_; }
+  const QString& File() const { return file_; }
+  DocumentKind Kind() const { return place_.kind; }
+  // The warehouse that goods are picked in: where the document lies, or a transfer's source.
+  const QString& Warehouse() const { return book_.in_warehouse ? place_.warehouse : head_.party; }
+  const std::vector<DraftLine>& Lines() const { return lines_; }
+  // Saved closed before: the flag stays, and no save posts again.
+  bool WasClosed() const { return was_closed_; }
+  bool IsNew() const { return is_new_; }
+
+  void SetNumber(const QString& number) { head_.number = number; }
+  void SetDate(QDate date);
+  void SetParty(const QString& party) { head_.party = party; }
+  void SetClosed(bool closed);
+  // Number texts; the sum after the discount follows.
+  void SetSum(const QString& sum);
+  void SetDiscount(const QString& percent);
+  // Transfers: chooses the warehouse of one side and takes a copy of its ledger. Throws
+  // filesystem_error, the choice as before then.
+  void ChooseWarehouse(QString DocumentHead::*side, const QString& warehouse);
+
+  // Adds a picked line at the end; the same goods twice are two lines. A pick without a name,
+  // quantity or price, as that of a group, adds nothing: false.
+  bool AddLine(const GoodsPick& pick);
+  // `amount` is what the line comes to, as the dialog shows it.
+  void ChangeLine(size_t row, const QString& quantity, const QString& price, const QString& amount);
+  void RemoveLine(size_t row);
+
+  enum class Outcome {
+    kSaved,
+    kNoLines,        // receipts and shipments: nothing was written
+    kSameWarehouse,  // transfers: nothing was written
+  };
+  // Throws filesystem_error, nothing written then; the draft may be saved again.
+  Outcome Save();
+
+  // What a print screen is handed.
+  PrintSource ToPrint() const;
+
+ private:
+  explicit DocumentDraft(const Place& place) : place_(place), book_(BookOf(place.kind)) {}
+
+  void TakeLedgers();
+  bool Posts() const;
+  void Recompute();
+  Document ToDocument() const;
+
+  Place place_;
+  const DocumentBook& book_;
+  QString file_;
+  DocumentHead head_;
+  std::vector<DraftLine> lines_;
+  // The ledgers as they were when the draft was opened, one for each effect: postings go on these.
+  std::vector<QByteArray> ledgers_;
+  bool is_new_ = false;
+  bool was_closed_ = false;
+};
+
+}  // namespace kladez

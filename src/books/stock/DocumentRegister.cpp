@@ -1,0 +1,87 @@
+#include "books/stock/DocumentRegister.h"
+
+#include <algorithm>
+
+#include "books/stock/DocumentScan.h"
+#include "formats/Dates.h"
+#include "formats/Numbers.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+using H = DocumentHead;
+
+DocumentHead RowHead(const DocumentFormat& format, const ScannedDocument& document) {
+  DocumentHead head;
+  for (auto field : format.head) head.*field = DecodeText(document.Head(field));
+  if (head.date.endsWith(u' ')) head.date.chop(1);
+  for (auto amount : {&H::sum, &H::discount, &H::net_sum}) {
+    const bool has = std::find(format.head.begin(), format.head.end(), amount) != format.head.end();
+    if (has) head.*amount = ToNumberOr(head.*amount);
+  }
+  return head;
+}
+
+}  // namespace
+
+bool RegisterFilter::Passes(QDate date, QDate today) const {
+  switch (period) {
+    case Period::kMonth:
+      return date.month() == month && date.year() == today.year();
+    case Period::kYear:
+      return QString::number(date.year()) == year;
+    case Period::kDay:
+      return ShortDateText(date) == ShortDateText(day);
+  }
+  Q_UNREACHABLE();
+}
+
+void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filter, QDate today,
+                            bool descending) {
+  const DocumentFormat& format = FormatOf(kind_);
+  std::vector<RegisterRow> rows;
+  ScanDocuments(data_, kind_, DocumentDirectory(session_, kind_, warehouse), Unreadable::kStop,
+                [&](ScannedDocument& document) {
+                  const auto date = document.Date();
+                  if (date && filter.Passes(*date, today)) {
+                    rows.push_back({document.File(), RowHead(format, document)});
+                  }
+                  return true;
+                });
+  if (descending) std::reverse(rows.begin(), rows.end());
+  rows_ = std::move(rows);
+  total_ = 0;
+  for (const RegisterRow& row : rows_) total_ += NumberOr(row.head.*BookOf(kind_).total);
+}
+
+int DocumentRegister::RowOf(const QString& file) const {
+  const auto found = std::find_if(rows_.begin(), rows_.end(),
+                                  [&](const RegisterRow& row) { return row.file == file; });
+  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+QString DocumentRegister::StatusText() const {
+  return u"Документов:%1     Сумма:%2"_s.arg(rows_.size()).arg(FormatMoney(total_));
+}
+
+void DeleteDocument(const DataDir& data, const Session& session, DocumentKind kind,
+                    const QString& warehouse, const QString& file, bool reverse) {
+  const QString path = DocumentPath(session, kind, warehouse, file);
+  SaveSet save(data);
+  if (reverse) {
+    const Document document = ReadDocument(kind, data.Read(path));
+    for (const LedgerEffect& effect : BookOf(kind).effects) {
+      std::vector<LedgerRecord> records;
+      for (const DocumentLine& line : document.lines) {
+        records.push_back({line.name, effect.reversal + line.quantity, line.unit});
+      }
+      AppendToLedger(save, LedgerPath(session, WarehouseOf(effect, document.head, warehouse)),
+                     records);
+    }
+  }
+  save.Delete(path);
+  save.Commit();
+}
+
+}  // namespace kladez

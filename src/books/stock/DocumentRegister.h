@@ -1,0 +1,64 @@
+// The register of a kind of documents: the heads of the files of a directory that a filter lets
+// pass, and their total. The files are the books; a register is read anew for each showing.
+#pragma once
+
+#include <QDate>
+#include <vector>
+
+#include "books/stock/DocumentBook.h"
+#include "books/store/DataDir.h"
+
+namespace kladez {
+
+struct RegisterFilter {
+  enum class Period {
+    kMonth,  // "За месяц:": that month of the current year, whatever the year box says
+    kYear,   // "За год:"
+    kDay,    // "За число:": compared as "dd.mm.yy", two digits of the year
+  };
+
+  Period period = Period::kMonth;
+  int month = 1;      // 1 to 12
+  QString year = {};  // "2026"
+  QDate day = {};
+
+  bool Passes(QDate date, QDate today) const;
+};
+
+struct RegisterRow {
+  QString file;       // "0012.prh"
+  DocumentHead head;  // sums and discount passed through ToNumberOr
+};
+
+class DocumentRegister {
+ public:
+  DocumentRegister(const DataDir& data, const Session& session, DocumentKind kind)
+      : data_(data), session_(session), kind_(kind) {}
+
+  // Reads the documents of a warehouse in the order of their file names, or from the last to the
+  // first. One without a valid date is left out. Throws filesystem_error for a directory or file
+  // that can't be read; the rows stay as they were then.
+  void Load(const QString& warehouse, const RegisterFilter& filter, QDate today, bool descending);
+  void Clear() { rows_.clear(), total_ = 0; }
+
+  const std::vector<RegisterRow>& Rows() const { return rows_; }
+  // The row of a file, -1 where the filter hides it.
+  int RowOf(const QString& file) const;
+  // "Документов:2     Сумма:10.50".
+  QString StatusText() const;
+
+ private:
+  const DataDir& data_;
+  const Session& session_;
+  DocumentKind kind_;
+  std::vector<RegisterRow> rows_;
+  double total_ = 0;
+};
+
+// Deletes a document in one save. With `reverse` a reversing record for each line goes to the end
+// of each ledger it had posted to; what it posted is not touched. Throws filesystem_error, nothing
+// changed then.
+void DeleteDocument(const DataDir& data, const Session& session, DocumentKind kind,
+                    const QString& warehouse, const QString& file, bool reverse);
+
+}  // namespace kladez

@@ -1,0 +1,86 @@
+// What lies in a warehouse, or in all of them: the goods directory joined with the stock ledgers.
+// A record of a ledger belongs to the first row of the list whose name begins with the record's
+// name, letter case minded; a record without such a row is not seen here. Rows have no value of
+// their own: stock is worth the purchase price that the directory gives at the moment.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "books/directories/GoodsView.h"
+#include "books/stock/PrefixIndex.h"
+#include "books/store/Session.h"
+#include "formats/GoodsFile.h"
+
+namespace kladez {
+
+struct OnHandRow {
+  QString name;      // of a group with its leading blank
+  QString quantity;  // number text, "0" where no ledger has the goods; empty for a group
+  QString unit;
+  QString price;  // purchase price as the directory has it
+  QString group;  // the directory's group above the item, with its blank; empty before the first
+
+  bool IsGroup() const { return IsGroupName(name); }
+};
+
+class OnHandList {
+ public:
+  struct Totals {
+    int names = 0;   // goods with a quantity other than 0
+    double sum = 0;  // their worth at purchase prices
+  };
+
+  OnHandList() = default;
+  explicit OnHandList(std::vector<OnHandRow> rows) : rows_(std::move(rows)) {}
+
+  const std::vector<OnHandRow>& Rows() const { return rows_; }
+  Totals Total() const;
+  // "Итого наименований: 12     на сумму: 3400.00"
+  QString StatusText() const;
+
+  // Puts a quantity into an item's row. False for a group and for a text that is no number or is
+  // the row's text already: nothing is to be written then.
+  bool ChangeQuantity(int row, const QString& quantity);
+
+  // The ledger after a correction: all items but those whose quantity is the text "0".
+  QByteArray LedgerBytes() const;
+  // The ledger after zeroing: the same items, with "0" for quantity and unit.
+  QByteArray ZeroedLedgerBytes() const;
+
+ private:
+  std::vector<OnHandRow> rows_;
+};
+
+// Makes the list: the directory's rows with quantity "0", to which the records of the ledgers are
+// added one after the other, each sum kept as text between two additions. Bytes are those of files.
+class OnHandJoin {
+ public:
+  OnHandJoin(QByteArrayView goods, GoodsView view);
+  void Add(QByteArrayView ledger);
+  OnHandList Take();
+
+ private:
+  struct Sum {
+    double value = 0;
+    bool touched = false;
+  };
+
+  std::vector<OnHandRow> rows_;
+  PrefixIndex index_;
+  std::vector<Sum> sums_;
+};
+
+// Reads the directory and the ledgers of the named warehouses. Throws filesystem_error.
+OnHandList LoadOnHand(const DataDir& data, const Session& session, const QStringList& warehouses,
+                      GoodsView view);
+
+// Each writes the ledger of one warehouse. Throws filesystem_error; nothing has changed then.
+void SaveOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+                const QString& warehouse);
+void ZeroOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+                const QString& warehouse);
+
+}  // namespace kladez

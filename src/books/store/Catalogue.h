@@ -1,0 +1,68 @@
+// The catalogue of Databases: whatever descriptors ("0001.us") lie in the data directory at the
+// moment. It has no file of its own.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "books/store/DataDir.h"
+#include "books/store/SaveSet.h"
+#include "books/store/Session.h"
+#include "formats/DescriptorFile.h"
+
+namespace kladez {
+
+struct CatalogueEntry {
+  QString file;  // "0001.us"
+  DatabaseDescriptor descriptor;
+};
+
+// All descriptors in the order of their file names; one that can't be read, or is far too long
+// for one, is an entry with empty texts. Throws filesystem_error when the directory itself can't be
+// listed.
+std::vector<CatalogueEntry> ListDatabases(const DataDir& data);
+
+// A number as files are named by it: "0###", "0012".
+QString NumberedName(qint64 number);
+
+// The number for a new Database: one above the number of the last descriptor by name, 1 when there
+// is none. A gap in the middle is not filled.
+int NextDatabaseNumber(const DataDir& data);
+
+// Adds the descriptor and the whole tree of a new Database to a save; gives its path, "0001\".
+QString AddNewDatabase(SaveSet& save, int number, const QString& name);
+// Adds the directories and files of a new warehouse, `path` being its directory; the save fails
+// where something of that name, whatever its letter case, is there already.
+void AddNewWarehouse(SaveSet& save, const QString& path);
+
+// The number for a new Database, once it is certain that nothing stands under it. Throws
+// filesystem_error (EEXIST) where a directory or a descriptor does.
+int FreeDatabaseNumber(const DataDir& data);
+
+// Throws filesystem_error for an entry whose path is not one plain directory name (see
+// IsPlainTreePath), or is a link that leads out of the directory of the descriptor: it is listed,
+// but neither opened nor deleted, copied or imported from.
+void RequirePlainPath(const DataDir& data, const CatalogueEntry& entry);
+
+// Whether the entry is the open Database, however it is spelled; that one can be neither renamed
+// nor deleted.
+bool IsInUse(const DataDir& data, const Session& session, const CatalogueEntry& entry);
+
+// The row (from 0) that a catalogue list selects: `position` is the setting "FilePos", from 1. One
+// past the end, as a creation leaves it, gives the last row, anything further out the first; -1 in
+// an empty list. The list of sources for an import takes the count less the position where that is
+// past the end, which is no row and so gives the first.
+int RowAtPosition(int position, int rows);
+int ImportRowAtPosition(int position, int rows);
+
+// Each is one save, and throws filesystem_error. A read-only tree is deleted all the same; one that
+// is gone already is no reason to keep its descriptor.
+QString CreateDatabase(const DataDir& data, const QString& name);  // gives the path, "0001\"
+void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name);
+void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry);
+
+// The first line of bases.psw, empty when there is none: no password then. The file is made by hand
+// in any editor, so a line feed alone ends the line too.
+QString DirectorPassword(const DataDir& data);
+
+}  // namespace kladez

@@ -1,0 +1,154 @@
+#include "books/store/Import.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <functional>
+#include <set>
+
+#include "books/store/Errors.h"
+#include "books/store/SaveSet.h"
+#include "books/store/SystemCalls.h"
+#include "formats/CurrencyFile.h"
+#include "formats/Ordering.h"
+#include "formats/PartyFile.h"
+#include "formats/TextLines.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Gathers one save; each step passes over what stands in its way.
+class Gathering {
+ public:
+  Gathering(const DataDir& data, const QString& source, const QString& destination)
+      : data_(data), source_(source), destination_(destination), save_(data) {}
+
+  void Commit() { save_.Commit(); }
+
+  void CopyFile(const QString& name) {
+    IgnoreErrors([&] { Write(name, data_.Read(source_ + name)); });
+  }
+
+  // A source without a currency gives back the rouble. One that has it copies a file which no
+  // Database holds, so that the destination keeps its own: the currency itself is never copied.
+  void CopyCurrency() {
+    if (data_.FileExists(source_ + u"currency.usd")) {
+      CopyFile(u"currency.spr"_s);
+    } else {
+      IgnoreErrors([&] { Write(u"currency.usd"_s, WriteCurrency(RoubleCurrency())); });
+    }
+  }
+
+  void CopyStock() {
+    for (const QString& warehouse : SourceWarehouses()) {
+      MakeWarehouse(warehouse);
+      CopyFile(warehouse + u"\\товар.usl");
+    }
+  }
+
+  void CopyPrices() {
+    for (const QString& warehouse : SourceWarehouses()) {
+      MakeWarehouse(warehouse);
+      CopyFile(warehouse + u"\\price.usd");
+      const QString lists = warehouse + u"\\PRICE\\";
+      IgnoreErrors([&] {
+        for (const QString& file : data_.List(source_ + lists, u".prc")) CopyFile(lists + file);
+      });
+    }
+  }
+
+ private:
+  QStringList SourceWarehouses() const {
+    return DecodeLines(data_.ReadIfAny(source_ + u"склад.usd").value_or(QByteArray()));
+  }
+
+  void MakeWarehouse(const QString& name) {
+    MakeDirectory(name);
+    for (const char16_t* directory : {u"\\OPR", u"\\PRH", u"\\UHD", u"\\PRICE"}) {
+      MakeDirectory(name + QStringView(directory));
+    }
+  }
+
+  void MakeDirectory(const QString& name) {
+    IgnoreErrors([&] {
+      const QString path = data_.Resolve(destination_ + name);
+      if (QFileInfo::exists(path) || !TakesFiles(QFileInfo(path).path())) return;
+      // Names that differ in letter case only are one directory.
+      if (!made_.insert(FoldCase(path)).second) return;
+      made_exactly_.insert(path);
+      save_.MakeDirectory(destination_ + name);
+    });
+  }
+
+  void Write(const QString& name, const QByteArray& bytes) {
+    const QString path = data_.Resolve(destination_ + name);
+    const QFileInfo there(path);
+    if (!TakesFiles(there.path())) return;
+    if (there.exists() &&
+        (!there.isFile() || syscalls::WriteRefusal(QFile::encodeName(path)) != 0)) {
+      return;
+    }
+    save_.Write(destination_ + name, bytes);
+  }
+
+  bool TakesFiles(const QString& directory) const {
+    if (made_exactly_.contains(directory)) return true;
+    return QFileInfo(directory).isDir() &&
+           syscalls::WriteRefusal(QFile::encodeName(directory)) == 0;
+  }
+
+  const DataDir& data_;
+  QString source_;
+  QString destination_;
+  SaveSet save_;
+  std::set<QString> made_;          // upper-cased
+  std::set<QString> made_exactly_;  // as spelled
+};
+
+}  // namespace
+
+bool ImportChoice::IsLocked(ImportArea area) const {
+  switch (area) {
+    case ImportArea::kGoods:
+    case ImportArea::kWarehouses:
+      return IsTicked(ImportArea::kStock) || IsTicked(ImportArea::kPrices);
+    case ImportArea::kSuppliers:
+      return IsTicked(ImportArea::kAccounts);
+    default:
+      return false;
+  }
+}
+
+void ImportChoice::Tick(ImportArea area, bool on) {
+  if (IsLocked(area)) return;
+  ticked_[static_cast<size_t>(area)] = on;
+  for (int other = 0; other < kImportAreas; ++other) {
+    if (IsLocked(static_cast<ImportArea>(other))) ticked_[static_cast<size_t>(other)] = true;
+  }
+}
+
+void ImportAreas(const DataDir& data, const QString& source, const QString& destination,
+                 const ImportChoice& choice) {
+  Gathering gathering(data, source, destination);
+  const auto copy_file = [&](const QString& name) {
+    return [&, name] { gathering.CopyFile(name); };
+  };
+  const std::array<std::function<void()>, kImportAreas> steps = {
+      copy_file(u"spr\\товар.spr"_s),
+      [&] { gathering.CopyCurrency(); },
+      copy_file(u"склад.usd"_s),
+      copy_file(PartyPath(PartyKind::kFirm)),
+      copy_file(PartyPath(PartyKind::kSupplier)),
+      copy_file(PartyPath(PartyKind::kClient)),
+      [&] { gathering.CopyStock(); },
+      [&] { gathering.CopyPrices(); },
+      copy_file(u"post.ras"_s),
+  };
+  for (int area = 0; area < kImportAreas; ++area) {
+    if (choice.IsTicked(static_cast<ImportArea>(area))) steps[static_cast<size_t>(area)]();
+  }
+  gathering.Commit();
+}
+
+}  // namespace kladez

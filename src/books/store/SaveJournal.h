@@ -1,0 +1,56 @@
+// The staging directory of a SaveSet and the steps by which a set is staged, made final, carried
+// out and taken back. Every step may be repeated after a crash without harm. The data directory is
+// locked for as long as the journal lives.
+#pragma once
+
+#include <QByteArray>
+#include <span>
+#include <vector>
+
+#include "books/store/DirectoryLock.h"
+#include "books/store/SaveSet.h"
+
+namespace kladez {
+
+class SaveJournal {
+ public:
+  // Throws filesystem_error where another program holds the data directory for too long.
+  explicit SaveJournal(const DataDir& data);
+
+  // All changes or, when it throws, none. Where it first has to heal what a crash left it throws
+  // too ("cancelled"): the caller may have read files that were changed in part only.
+  void Commit(std::vector<SaveSet::Change>& changes);
+  void Recover();
+
+ private:
+  using Change = SaveSet::Change;
+
+  QByteArray Staged(const char* name, size_t index) const {
+    return stage_ + '/' + name + '.' + QByteArray::number(static_cast<qulonglong>(index));
+  }
+  QByteArray New(size_t index) const { return Staged("new", index); }
+  QByteArray Old(size_t index) const { return Staged("old", index); }
+  QByteArray Manifest() const { return stage_ + "/manifest"; }
+  QByteArray TakingBack() const { return stage_ + "/taking-back"; }
+
+  // False where only leftovers without meaning lay there, or nothing.
+  bool Heal();
+  // Writes new contents and keeps what they will replace.
+  void Stage(std::vector<Change>& changes);
+  void StageOne(size_t index, Change& change);
+  void StageWrite(size_t index, Change& change);
+  // From here on the set survives a crash.
+  void MakeFinal(std::span<const Change> changes);
+  void CarryOut(std::span<const Change> changes);
+  void MakeOne(size_t index, const Change& change);
+  void TakeBack(std::span<const Change> changes);
+  void TakeBackOne(size_t index, const Change& change);
+  // Removes the staging directory, whose contents are no longer needed; 0 or an errno.
+  int Discard();
+
+  QByteArray root_;
+  QByteArray stage_;
+  DirectoryLock lock_;
+};
+
+}  // namespace kladez

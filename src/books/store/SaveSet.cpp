@@ -1,0 +1,101 @@
+#include "books/store/SaveSet.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "books/store/Errors.h"
+#include "books/store/SaveJournal.h"
+
+namespace kladez {
+
+// What this set makes is found whatever its letter case, as if it lay on the disk already.
+QByteArray SaveSet::Target(const QString& path) const {
+  QString target = data_.Resolve(path);
+  if (QFileInfo::exists(target)) return QFile::encodeName(target);
+  for (const Change& change : changes_) {
+    if (change.kind != Kind::kWrite && change.kind != Kind::kMakeDirectory) continue;
+    const QString made = QFile::decodeName(change.path);
+    if (!target.startsWith(made, Qt::CaseInsensitive)) continue;
+    if (target.size() > made.size() && target[made.size()] != u'/') continue;
+    target.replace(0, made.size(), made);
+  }
+  return QFile::encodeName(target);
+}
+
+SaveSet::Change* SaveSet::LastChangeOf(const QByteArray& target) {
+  const auto found = std::find_if(changes_.rbegin(), changes_.rend(), [&](const Change& change) {
+    return change.path == target || change.to == target;
+  });
+  return found == changes_.rend() ? nullptr : &*found;
+}
+
+void SaveSet::Write(const QString& path, QByteArray bytes) {
+  QByteArray target = Target(path);
+  Change* last = LastChangeOf(target);
+  if (last != nullptr && last->kind == Kind::kWrite) {
+    last->bytes = std::move(bytes);
+  } else {
+    changes_.push_back(
+        {.kind = Kind::kWrite, .path = std::move(target), .to = {}, .bytes = std::move(bytes)});
+  }
+}
+
+void SaveSet::WriteInPieces(const QString& path, Contents contents) {
+  changes_.push_back({.kind = Kind::kWrite,
+                      .path = Target(path),
+                      .to = {},
+                      .bytes = {},
+                      .contents = std::move(contents)});
+}
+
+void SaveSet::Append(const QString& path, QByteArrayView lines) {
+  const Change* last = LastChangeOf(Target(path));
+  QByteArray bytes = last != nullptr && last->kind == Kind::kWrite ? last->bytes : data_.Read(path);
+  // The last line of a file that was made by hand may lack its end.
+  if (!bytes.isEmpty() && !bytes.endsWith("\r\n")) bytes.append("\r\n");
+  Write(path, bytes.append(lines));
+}
+
+void SaveSet::Delete(const QString& path) {
+  changes_.push_back({.kind = Kind::kDelete, .path = Target(path), .to = {}, .bytes = {}});
+}
+
+void SaveSet::DeleteTree(const QString& path) {
+  changes_.push_back({.kind = Kind::kDeleteTree, .path = Target(path), .to = {}, .bytes = {}});
+}
+
+void SaveSet::MakeDirectory(const QString& path) {
+  const QByteArray target = Target(path);
+  const Change* last = LastChangeOf(target);
+  const bool made = last != nullptr && last->kind == Kind::kMakeDirectory;
+  if (!made && !QFileInfo(QFile::decodeName(target)).isDir()) MakeNewDirectory(path);
+}
+
+void SaveSet::MakeNewDirectory(const QString& path) {
+  changes_.push_back({.kind = Kind::kMakeDirectory, .path = Target(path), .to = {}, .bytes = {}});
+}
+
+void SaveSet::RenameDirectory(const QString& from, const QString& to) {
+  QByteArray source = Target(from);
+  QByteArray target = Target(to);
+  if (target == source) {
+    // The resolver finds the old name again where only the letter case changes.
+    QStringView name(to);
+    if (name.endsWith(u'\\')) name.chop(1);
+    name = name.sliced(name.lastIndexOf(u'\\') + 1);
+    target = target.left(target.lastIndexOf('/') + 1) + QFile::encodeName(name.toString());
+  }
+  changes_.push_back(
+      {.kind = Kind::kRename, .path = std::move(source), .to = std::move(target), .bytes = {}});
+}
+
+void SaveSet::Commit() {
+  if (changes_.empty()) return;
+  SaveJournal(data_).Commit(changes_);
+  changes_.clear();
+}
+
+void SaveSet::Recover(const DataDir& data) { SaveJournal(data).Recover(); }
+
+}  // namespace kladez

@@ -1,0 +1,82 @@
+#include "screens/directories/PartyForm.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include "screens/directories/PartyTexts.h"
+#include "ui/controls/Commands.h"
+#include "ui/controls/Fields.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Of a bank account, the longest number of the form.
+constexpr int kAccountFigures = 20;
+
+// Fields that fill a whole line of the form; the others stand two in a line.
+bool IsWide(PartyField field) {
+  using enum PartyField;
+  return field == kName || field == kLegalAddress || field == kActualAddress || field == kContact ||
+         field == kShipper;
+}
+
+}  // namespace
+
+PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDialog(parent) {
+  setObjectName(ScreensOf(kind).form);
+  setWindowTitle(ScreensOf(kind).form_title);
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(look::kGrid);
+  grid->setVerticalSpacing(look::kGrid);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  int line = 0;
+  int half = 0;
+  for (const PartyField field : FieldsOf(kind)) {
+    const bool wide = IsWide(field);
+    if (wide && half == 1) {
+      ++line;
+      half = 0;
+    }
+    auto* edit = new TextLine(this);
+    edit->setObjectName(u"field%1"_s.arg(fields_.size() + 1));
+    ShowText(edit, party.value(static_cast<qsizetype>(fields_.size())));
+    if (!wide) KeepRoomFor(edit, kAccountFigures);
+    fields_.push_back(edit);
+    auto* label = new QLabel(CaptionOf(field).caption, this);
+    label->setBuddy(edit);
+    grid->addWidget(label, line, 2 * half, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(edit, line, 2 * half + 1, 1, wide ? 3 : 1);
+    half = wide ? 0 : 1 - half;
+    if (half == 0) ++line;
+  }
+  auto* ok = NewCommand(this, u"ok"_s, u"OK"_s);
+  auto* cancel = NewCommand(this, u"cancel"_s, u"О&тмена"_s);
+  auto* layout = new QVBoxLayout(this);
+  look::SetDialogMargins(layout);
+  layout->addLayout(grid);
+  layout->addSpacing(look::kGrid);
+  layout->addLayout(NewEndingRow(ok, cancel));
+  resize(sizeHint().expandedTo(QSize(85 * look::kGrid, 0)));
+  fields_.front()->setFocus();
+  connect(ok, &QPushButton::clicked, this, &PartyForm::Ok);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+Party PartyForm::Record() const {
+  Party party;
+  for (const TextLine* field : fields_) party.append(field->text());
+  return party;
+}
+
+void PartyForm::Ok() {
+  if (fields_.front()->text().isEmpty()) {
+    fields_.front()->setFocus();
+    return;
+  }
+  accept();
+}
+
+}  // namespace kladez

@@ -1,0 +1,17 @@
+// What the pickers of goods ask about the row that was chosen.
+#pragma once
+
+#include <optional>
+
+#include "books/directories/GoodsPick.h"
+
+class QWidget;
+
+namespace kladez {
+
+// Asks the quantity of goods, and their purchase price where the pick has one; a group, and the
+// goods of a chart, are handed over unasked. Nothing when cancelled, or when the quantity is no
+// number.
+std::optional<GoodsPick> AskPick(QWidget* parent, const GoodsRecord& record, PickFor pick_for);
+
+}  // namespace kladez

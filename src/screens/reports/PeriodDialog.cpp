@@ -1,0 +1,69 @@
+#include "screens/reports/PeriodDialog.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+#include "books/reports/ReportScope.h"
+#include "ui/Help.h"
+#include "ui/Hints.h"
+#include "ui/controls/Choice.h"
+#include "ui/controls/Commands.h"
+#include "ui/controls/Forms.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidget* parent)
+    : QDialog(parent), context_(context) {
+  setObjectName(texts.name.toString());
+  setWindowTitle(texts.caption.toString());
+  Combo1 =
+      new TextChoice(context.session.SkladNames + QStringList{kAllWarehouses.toString()}, this);
+  Combo1->setObjectName(u"Combo1"_s);
+  BoundByLetters(Combo1, 28);
+  Combo1->setCurrentIndex(Combo1->count() - 1);
+  auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), {Combo1}, this);
+  hint->setObjectName(u"Picture5"_s);
+  fields_ = new QGridLayout;
+  fields_->setSpacing(look::kGrid);
+  fields_->setColumnStretch(1, 1);
+  fields_->addWidget(NewLabel(u"С&клад:"_s, Combo1, this), 0, 0);
+  fields_->addWidget(Combo1, 0, 1);
+  fields_->addWidget(hint, 0, 2);
+  frame_ = NewFrame();
+
+  Command1 = NewCommand(this, u"Command1"_s, texts.yes.toString());
+  Command2 = NewCommand(this, u"Command2"_s, texts.no.toString());
+  auto* ending = NewEndingRow(Command1, Command2);
+  ending->insertWidget(0, NewHelpCommand(this, context_.data, texts.help));
+
+  auto* layout = new QVBoxLayout(this);
+  look::SetDialogMargins(layout);
+  layout->addLayout(fields_);
+  layout->addSpacing(look::kGrid);
+  layout->addWidget(frame_);
+  layout->addStretch();
+  layout->addSpacing(look::kGrid);
+  layout->addLayout(ending);
+  setMinimumWidth(56 * look::kGrid);
+
+  connect(Command1, &QPushButton::clicked, this, [this] { Ok(); });
+  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QGroupBox* PeriodDialog::NewFrame() {
+  // The question mark stands in the blanks before the word.
+  auto* frame = new QGroupBox(u"     Документы"_s, this);
+  frame->setObjectName(u"Frame1"_s);
+  auto* hint = new HintPicture(HintFor(objectName(), u"Документы"), {frame}, frame);
+  hint->setObjectName(u"Picture1"_s);
+  hint->setFixedSize(look::kMargin, look::kMargin);
+  hint->move(0, look::kTight / 2);
+  return frame;
+}
+
+QString PeriodDialog::Warehouse() const { return Combo1->Chosen(); }
+
+}  // namespace kladez

@@ -1,0 +1,52 @@
+// What the dialogs of reports and charts have in common: the warehouse or all of them, the frame
+// that chooses the period, the help page, and the commands that end the dialog.
+#pragma once
+
+#include <QDialog>
+
+#include "ui/AppContext.h"
+
+class QGridLayout;
+class QGroupBox;
+class QPushButton;
+
+namespace kladez {
+
+class TextChoice;
+
+// What differs between them.
+struct PeriodTexts {
+  QStringView name;  // of the screen
+  QStringView caption;
+  QStringView help;  // the page of the folder "help"
+  QStringView yes;   // captions of Command1 and Command2
+  QStringView no;
+};
+
+class PeriodDialog : public QDialog {
+  Q_OBJECT
+
+ protected:
+  PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidget* parent);
+
+  AppContext& Context() const { return context_; }
+  QString Warehouse() const;
+
+  QGridLayout* Fields() const { return fields_; }  // caption, field, question mark; row 0 is taken
+  QGroupBox* Frame() const { return frame_; }      // "     Документы", still empty
+
+  virtual void Ok() = 0;
+
+  TextChoice* Combo1;     // "Склад:"
+  QPushButton* Command1;  // makes the report or chart
+  QPushButton* Command2;  // closes
+
+ private:
+  QGroupBox* NewFrame();
+
+  AppContext& context_;
+  QGridLayout* fields_;
+  QGroupBox* frame_;
+};
+
+}  // namespace kladez

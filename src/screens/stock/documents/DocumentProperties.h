@@ -1,0 +1,51 @@
+// The read-only view of a document's file: its lines, sums and flag, and the prints of a register.
+#pragma once
+
+#include <QDialog>
+
+#include "screens/stock/documents/DocumentScreens.h"
+#include "ui/AppContext.h"
+
+class QFormLayout;
+class QHBoxLayout;
+class QPushButton;
+
+namespace kladez {
+
+class RecordList;
+class TextLine;
+
+class DocumentProperties : public QDialog {
+  Q_OBJECT
+
+ protected:
+  // Throws filesystem_error when the file can't be read.
+  DocumentProperties(AppContext& context, DocumentKind kind, const QString& warehouse,
+                     const QString& file, QWidget* parent);
+
+ private:
+  TextLine* AddField(QFormLayout* form, const QString& caption, const QString& name,
+                     const QString& text);
+  QFormLayout* NewFields(const DocumentHead& head);
+  void AddPrints(QHBoxLayout* row);
+
+  AppContext& context_;
+  const DocumentScreens& screens_;
+  const QString warehouse_;
+  DocumentHead head_;
+  std::vector<DraftLine> lines_;
+
+  RecordList* ListView1;
+  TextLine* Text4;                // "Сумма по накладной:", "Сумма:"
+  TextLine* Text3 = nullptr;      // "Скидка %:"
+  TextLine* net_sum_ = nullptr;   // "Сумма со скидкой:"
+  TextLine* closed_ = nullptr;    // "Счет закрыт:"
+  QPushButton* print_ = nullptr;  // "Печать"
+  QPushButton* close_;            // "Закрыть"
+};
+
+// The properties of a document of a kind: TovPrih_Ass, TovUhod_Ass, or those of a transfer.
+DocumentProperties* NewProperties(AppContext& context, DocumentKind kind, const QString& warehouse,
+                                  const QString& file, QWidget* parent);
+
+}  // namespace kladez

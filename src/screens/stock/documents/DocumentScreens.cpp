@@ -1,0 +1,212 @@
+#include "screens/stock/documents/DocumentScreens.h"
+
+#include <memory>
+
+#include "screens/directories/sprtovar2.h"
+#include "screens/prices/price2.h"
+#include "screens/printing/PrihNakl.h"
+#include "screens/printing/PrihPrint.h"
+#include "screens/printing/UhodSch.h"
+#include "screens/printing/chFactPrint.h"
+#include "screens/printing/prihnokl.h"
+#include "screens/printing/vnNakl.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+using H = DocumentHead;
+
+template <typename PrintScreen>
+QDialog* Open(AppContext& context, const PrintSource& source, QWidget* parent) {
+  return new PrintScreen(context, source, parent);
+}
+
+void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, const TakePick& take) {
+  sprtovar2 picker(context, PickFor::kReceipt, parent);
+  picker.exec();
+  if (picker.Pick()) take(*picker.Pick());
+}
+
+// Stays open from one pick to the next.
+void PickFromPrices(AppContext& context, const QString& warehouse, QWidget* parent,
+                    const TakePick& take) {
+  price2 picker(context, warehouse, parent);
+  QObject::connect(&picker, &price2::Picked, parent, take);
+  picker.exec();
+}
+
+Column Text(const QString& title, int twips) { return {title, twips}; }
+Column Number(const QString& title, int twips) { return {title, twips, true}; }
+Column Date() { return {u"Дата"_s, 950, false, false, u"00.00.0000"_s}; }
+Column Name(const QString& title, int twips) { return {title, twips, false, true}; }
+
+LineColumn NameOf(int twips) {
+  return {Name(u"Наименование"_s, twips), [](const DraftLine& line) { return line.line.name; }};
+}
+LineColumn Quantity() {
+  return {Number(u"Кол-во"_s, 1050), [](const DraftLine& line) { return line.line.quantity; }};
+}
+LineColumn Unit() {
+  return {Text(u"Ед.изм."_s, 1050), [](const DraftLine& line) { return line.line.unit; }};
+}
+LineColumn Cost(bool hidden_from_seller) {
+  return {Number(u"Цена зак"_s, 950), [](const DraftLine& line) { return line.line.cost; },
+          hidden_from_seller};
+}
+LineColumn Price(const QString& title) {
+  return {Number(title, 950), [](const DraftLine& line) { return line.line.price; }};
+}
+// The titles of sums begin with a Latin C, as they always have.
+LineColumn Amount(const QString& title) {
+  return {Number(title, 950), [](const DraftLine& line) { return line.amount; }};
+}
+LineColumn NetPrice() {
+  return {Number(u"Цена со скидкой"_s, 1500),
+          [](const DraftLine& line) { return line.line.net_price; }};
+}
+LineColumn NetAmount() {
+  return {Number(u"Cумма со скидкой"_s, 1600), [](const DraftLine& line) {
+            return LineAmount(line.line.quantity, line.line.net_price).value_or(u"0.00"_s);
+          }};
+}
+
+const DocumentScreens& Receipts() {
+  static const DocumentScreens screens = {
+      .kind = DocumentKind::kReceipt,
+      .register_name = u"TovPrih"_s,
+      .register_caption = u"Приход"_s,
+      .register_columns = {{Text(u"Номер"_s, 850), &H::number},
+                           {Date(), &H::date},
+                           {Name(u"Поставщик"_s, 2900), &H::party},
+                           {Number(u"Сумма"_s, 1400), &H::sum},
+                           {Text(u"Закрыт"_s, 1400), &H::closed},
+                           {Text(u"Файл"_s, 0), nullptr}},
+      .has_journal = true,
+      .delete_closed_question = u"Списать товар со склада?"_s,
+      .editor_name = u"PrihNew"_s,
+      .editor_caption = u"Приход"_s,
+      .party_caption = u"&Поставщик:"_s,
+      .party_hint = u"Поставщик"_s,
+      .sum_caption = u"Сумма по счету:"_s,
+      .sum_hint = u"Сумма по счету"_s,
+      .editor_columns = {NameOf(3100), Quantity(), Unit(), Price(u"Цена"_s), Amount(u"Cумма"_s)},
+      .pick = &PickFromDirectory,
+      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<prihnokl>}},
+      .properties_name = u"TovPrih_Ass"_s,
+      .properties_caption = u"Свойства накладной прихода товара N "_s,
+      .properties_sum_caption = u"Сумма по накладной:"_s,
+      .properties_columns = {NameOf(3600), Quantity(), Unit(), Price(u"Цена"_s),
+                             Amount(u"Cумма"_s)},
+      .prints_from_properties = true,
+  };
+  return screens;
+}
+
+const DocumentScreens& Shipments() {
+  static const DocumentScreens screens = {
+      .kind = DocumentKind::kShipment,
+      .register_name = u"TovUhod"_s,
+      .register_caption = u"Расход"_s,
+      .register_columns = {{Text(u"Номер"_s, 850), &H::number},
+                           {Date(), &H::date},
+                           {Name(u"Клиент"_s, 2780), &H::party},
+                           {Number(u"Сумма"_s, 1400), &H::sum},
+                           {Number(u"Скидка %"_s, 1000), &H::discount},
+                           {Number(u"Сумма со скидкой"_s, 1400), &H::net_sum},
+                           {Text(u"Закрыт"_s, 1000), &H::closed},
+                           {Text(u"Файл"_s, 0), nullptr}},
+      .has_journal = true,
+      .delete_closed_question = u"Возвратить товар на склад?"_s,
+      .editor_name = u"UhodNew"_s,
+      .editor_caption = u"Расход"_s,
+      .party_caption = u"К&лиент:"_s,
+      .party_hint = u"Клиент"_s,
+      .sum_caption = u"Сумма:"_s,
+      .sum_hint = u"Сумма"_s,
+      .editor_columns = {NameOf(3650), Quantity(), Unit(), Cost(true), Price(u"Цена реал"_s),
+                         Amount(u"Cумма реал"_s)},
+      .pick = &PickFromPrices,
+      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<PrihNakl>},
+                 {u"prs"_s, u"Счет-&фактура"_s, &Open<chFactPrint>},
+                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &Open<PrihPrint>},
+                 {u"pri"_s, u"С&чет"_s, &Open<UhodSch>}},
+      .properties_name = u"TovUhod_Ass"_s,
+      .properties_caption = u"Свойства накладной ухода товара N "_s,
+      .properties_sum_caption = u"Сумма:"_s,
+      .properties_columns = {NameOf(3000), Quantity(), Unit(), Cost(true), Price(u"Цена реал"_s),
+                             NetPrice(), Amount(u"Cумма"_s), NetAmount()},
+      .prints_from_properties = true,
+  };
+  return screens;
+}
+
+const DocumentScreens& Transfers() {
+  static const DocumentScreens screens = {
+      .kind = DocumentKind::kTransfer,
+      .register_name = u"vnutr"_s,
+      .register_caption = u"Внутреннее перемещение"_s,
+      .register_columns = {{Text(u"Номер"_s, 850), &H::number},
+                           {Date(), &H::date},
+                           {Text(u"Откуда"_s, 2000), &H::party},
+                           {Name(u"Куда"_s, 2000), &H::destination},
+                           {Number(u"Сумма"_s, 1000), &H::sum},
+                           {Text(u"Файл"_s, 0), nullptr}},
+      .has_journal = false,
+      .delete_closed_question = u"Возвратить/списать?"_s,
+      .editor_name = u"vnutrNew"_s,
+      .editor_caption = u"Перемещение"_s,
+      .party_caption = u"&Откуда:"_s,
+      .party_hint = u"Откуда"_s,
+      .sum_caption = u"Сумма :"_s,
+      .sum_hint = u"Сумма по счету"_s,
+      .editor_columns = {NameOf(2280), Quantity(), Unit(), Cost(false), Price(u"Цена реал"_s),
+                         Amount(u"Cумма реал"_s)},
+      .pick = &PickFromPrices,
+      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<vnNakl>}},
+      .properties_name = u"vnutr_Ass"_s,
+      .properties_caption = u"Свойства накладной перемещения товара N "_s,
+      .properties_sum_caption = u"Сумма по накладной:"_s,
+      .properties_columns = {NameOf(2280), Quantity(), Unit(), Cost(false), Price(u"Цена реал"_s),
+                             Amount(u"Cумма реал"_s)},
+      .prints_from_properties = false,
+  };
+  return screens;
+}
+
+}  // namespace
+
+const DocumentScreens& ScreensOf(DocumentKind kind) {
+  switch (kind) {
+    case DocumentKind::kReceipt:
+      return Receipts();
+    case DocumentKind::kShipment:
+      return Shipments();
+    case DocumentKind::kTransfer:
+      return Transfers();
+  }
+  Q_UNREACHABLE();
+}
+
+void RunPrint(const PrintCommand& command, AppContext& context, const PrintSource& source,
+              QWidget* parent) {
+  const std::unique_ptr<QDialog> screen(command.open(context, source, parent));
+  screen->exec();
+}
+
+RecordModel* NewLineModel(const std::vector<LineColumn>& columns, bool for_seller,
+                          const std::vector<DraftLine>& lines, QObject* parent) {
+  std::vector<Column> shown;
+  for (const LineColumn& line : columns) {
+    shown.push_back(line.column);
+    if (for_seller && line.hidden_from_seller) shown.back().twips = 0;
+  }
+  RowSource source;
+  source.count = [&lines] { return static_cast<int>(lines.size()); };
+  source.text = [&lines, &columns](int row, int column) {
+    return columns[column].text(lines[row]);
+  };
+  return new RecordModel(std::move(shown), std::move(source), parent);
+}
+
+}  // namespace kladez

@@ -1,0 +1,27 @@
+// What every screen is given: the data directory, the open Database, the settings, the clock, the
+// desk that takes print-outs to the viewer, and the main window's progress bar. All of them outlive
+// the screens.
+#pragma once
+
+#include <functional>
+
+#include "books/printing/PrintOutDesk.h"
+#include "books/store/Clock.h"
+#include "books/store/DataDir.h"
+#include "books/store/Session.h"
+#include "books/store/SettingsStore.h"
+
+namespace kladez {
+
+struct AppContext {
+  const DataDir& data;
+  Session& session;
+  SettingsStore& settings;
+  const Clock& clock;
+  const PrintOutDesk& print_outs;
+  // Shows in the main window how much of some work is done, 0 to 1; the bar is away again once all
+  // is. Does nothing where there is no main window.
+  std::function<void(double part)> show_progress = [](double) {};
+};
+
+}  // namespace kladez

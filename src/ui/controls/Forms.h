@@ -1,0 +1,45 @@
+// What forms are made of besides their fields: labels, fields with their question mark, the field
+// of a date, the list of a few texts.
+#pragma once
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+
+#include "ui/controls/HintPicture.h"
+
+class QBoxLayout;
+class QLineEdit;
+
+namespace kladez {
+
+// Shows the text as it is, never as markup; its letter to press with Alt leads to the field.
+QLabel* NewLabel(const QString& text, QWidget* field, QWidget* parent);
+
+// The field with the question mark beside it.
+QBoxLayout* WithHint(QWidget* field, const Hint& hint);
+
+// Fields that only show: they look it, and the tab key passes them by.
+void MakeReadOnly(QLineEdit* field);
+
+// A list to choose one text from, the first one chosen. A text that it lacks, as the name of a
+// party that has left its directory, is added so that it can be shown and kept.
+class TextChoice : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit TextChoice(const QStringList& texts, QWidget* parent = nullptr);
+  void Choose(const QString& text);
+  // The whole text, however much of it is shown.
+  QString Chosen() const { return currentData().toString(); }
+};
+
+// A date, "dd.MM.yyyy", typed or picked from a Russian calendar on every machine.
+class DateField : public QDateEdit {
+  Q_OBJECT
+
+ public:
+  explicit DateField(QDate date, QWidget* parent = nullptr);
+};
+
+}  // namespace kladez

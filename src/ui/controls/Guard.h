@@ -1,0 +1,25 @@
+// The command guard: every command slot of a screen runs inside it. What the outside world refused
+// (a missing file, a full disk) is told in a message box, and the screen stays as it was.
+#pragma once
+
+#include <exception>
+#include <functional>
+
+#include "books/store/Errors.h"
+#include "ui/controls/Messages.h"
+
+namespace kladez {
+
+// True when the action came to its end.
+template <typename Action>
+bool Guarded(QWidget* parent, Action&& action) {
+  try {
+    action();
+    return true;
+  } catch (const std::exception& error) {
+    ShowError(parent, ErrorText(error));
+    return false;
+  }
+}
+
+}  // namespace kladez

@@ -1,0 +1,239 @@
+#include <gtest/gtest.h>
+
+#include "ReportPageLines.h"
+#include "ShipmentsOnDisk.h"
+#include "books/reports/ChartSeries.h"
+#include "books/reports/FlowReport.h"
+#include "books/reports/SalesFigures.h"
+#include "books/reports/SalesReport.h"
+#include "books/reports/SpeedReport.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QDate kToday(2026, 11, 22);
+
+ReportScope Scope(const QString& warehouse, PeriodKind kind, QDate from = {}, QDate to = {}) {
+  return {warehouse, {kind, kToday, from, to}};
+}
+
+template <typename Report>
+QStringList PageLines(void write(const Report&, const ReportScope&, const ByteSink&,
+                                 const Progress&),
+                      const Report& report, const ReportScope& scope) {
+  QByteArray page;
+  write(report, scope, [&](QByteArrayView piece) { page.append(piece); }, {});
+  return DecodeLines(page);
+}
+
+class Reports : public ::testing::Test, protected ShipmentsOnDisk {};
+
+TEST_F(Reports, SalesPageIsWholeAndRoundsTheSumAfterEachAddition) {
+  Ship(0, u"0001.uhd"_s, u"22.11.2026 "_s, u"10"_s, u"0"_s,
+       {u"Чай <чёрный> & Ко"_s, u"0.125"_s, u"кг"_s, u"1.00"_s, u"1.005"_s, u"x"_s,  //
+        u"Сахар"_s, u"3,5"_s, u"кг"_s, u"1"_s, u"61.25"_s, u"x"_s});
+  Ship(1, u"0001.uhd"_s, u"03.01.2026"_s, u"0"_s, u"0"_s,
+       {u"Соль"_s, u"пять"_s, u"пач."_s, u""_s, u"18.40"_s, u"x"_s});
+  const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
+  const auto report = CollectSales(temp.Data(), session, scope);
+  ASSERT_TRUE(report);
+  const ReportTable table{{5, 30, 10, 10, 10}, 2};
+  const QStringList expected =
+      ReportStart(u"Отчет по продажам"_s, u"ВСЕ СКЛАДЫ"_s) +
+      QStringList{
+          table.Heads({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s}),
+          table.Row({u"03.01.26"_s, u"Соль"_s, u"пач."_s, u"0"_s, u"0.00"_s}),
+          // 1.005 less 10 per cent is 0.9045, printed and taken back as 0.90.
+          table.Row({u"22.11.26"_s, u"Чай <чёрный> & Ко"_s, u"кг"_s, u"0.125"_s, u"0.11"_s}),
+          table.Row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3.5"_s, u"192.96"_s}),
+          table.Total({u"ИТОГО:"_s, {}, {}, u"3.625"_s, u"193.07"_s})} +
+      ReportEnd();
+  EXPECT_EQ(PageLines(WriteSalesReport, *report, scope), expected);
+}
+
+TEST_F(Reports, CurrentMonthCountsThatMonthOfEveryYearAndARangeComparesTwoDigitsOfTheYear) {
+  int file = 1;
+  for (const QString& date : {u"05.11.2025"_s, u"05.11.2026"_s, u"05.10.2026"_s, u"01.01.1999"_s}) {
+    Ship(0, u"%1.uhd"_s.arg(file++, 4, 10, QLatin1Char('0')), date, u"0"_s, u"0"_s,
+         {date, u"1"_s, u"шт."_s, u"1"_s, u"1"_s, u"1"_s});
+  }
+  const auto names = [&](const ReportScope& scope) {
+    const auto report = CollectSales(temp.Data(), session, scope);
+    QStringList list;
+    for (const auto& row : report->rows) list.append(report->texts.Text(row.name));
+    return list;
+  };
+  const QString warehouse = session.SkladNames.first();
+  EXPECT_EQ(names(Scope(warehouse, PeriodKind::kCurrentMonth)),
+            (QStringList{u"05.11.2025"_s, u"05.11.2026"_s}));
+  EXPECT_EQ(names(Scope(warehouse, PeriodKind::kRange, QDate(2026, 10, 5), QDate(2026, 11, 5))),
+            (QStringList{u"05.10.2026"_s, u"05.11.2026"_s}));
+  EXPECT_EQ(names(Scope(warehouse, PeriodKind::kRange, QDate(2026, 1, 1), QDate(2099, 12, 31))),
+            (QStringList{u"05.10.2026"_s, u"05.11.2026"_s, u"01.01.1999"_s}));
+}
+
+TEST_F(Reports, DamagedShipmentsGiveTheirWholeLinesAndStopNothing) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"0"_s, u"5.00"_s,
+       {u"Чай"_s, u"1"_s, u"шт."_s, u"1"_s, u"2"_s, u"2"_s, u"Кофе"_s, u"1"_s});
+  Ship(0, u"0002.uhd"_s, u"когда-то"_s, u"0"_s, u"9.00"_s,
+       {u"Соль"_s, u"1"_s, u"шт."_s, u"1"_s, u"2"_s, u"2"_s});
+  temp.Put(u"0001\\Главный склад\\UHD\\0003.uhd"_s, {});
+  QByteArray noise(100000, '\0');
+  for (int i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>(i * 7919 >> 3);
+  temp.Put(u"0001\\Главный склад\\UHD\\0004.uhd"_s, noise);
+  const ReportScope scope = Scope(session.SkladNames.first(), PeriodKind::kAll);
+  const auto sales = CollectSales(temp.Data(), session, scope);
+  ASSERT_EQ(sales->rows.size(), 1u);
+  EXPECT_EQ(sales->texts.Text(sales->rows[0].name), u"Чай"_s);
+  const auto flow = CollectFlow(temp.Data(), session, scope);
+  EXPECT_EQ(flow->days.at(261105).sales, 5.0);
+  EXPECT_EQ(CollectSalesFigures(temp.Data(), session, kToday)->month, 5.0);
+}
+
+TEST_F(Reports, SpeedAddsUpItemsByTheirExactNameAndKeepsALoneQuantityAsWritten) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"50"_s, u"0"_s,
+       {u"Чай"_s, u"2.50"_s, u"пач."_s, u"1.10"_s, u"2.005"_s, u"x"_s,  //
+        u"чай"_s, u"1.50"_s, u"кг"_s, u""_s, u"3"_s, u"x"_s});
+  Ship(1, u"0001.uhd"_s, u"06.11.2026"_s, u"0"_s, u"0"_s,
+       {u"Чай"_s, u"0.5"_s, u"шт."_s, u"9"_s, u"2"_s, u"x"_s});
+  const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
+  const auto report = CollectSpeed(temp.Data(), session, scope);
+  ASSERT_EQ(report->rows.size(), 2u);
+  const SpeedReport::Row& tea = report->rows[0];
+  EXPECT_EQ(tea.name, u"Чай"_s);
+  EXPECT_EQ(tea.unit, u"пач."_s);
+  EXPECT_EQ(tea.quantity, u"3"_s);
+  EXPECT_EQ(tea.sales, 6.01);    // 5.0125 is 5.01, plus 1.00
+  EXPECT_EQ(tea.profit, -1.24);  // 2.2625 is 2.26, less 3.50
+  EXPECT_EQ(report->rows[1].quantity, u"1.50"_s);
+  EXPECT_EQ(report->rows[1].profit, 4.5) << "an empty cost counts as 0";
+  const QStringList page = PageLines(WriteSpeedReport, *report, scope);
+  const ReportTable table{{25, 10, 10, 10, 10}, 1};
+  EXPECT_EQ(page, (ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s) +
+                   QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
+                                            u"Прибыль"_s}),
+                               table.Row({u"Чай"_s, u"пач."_s, u"3"_s, u"6.01"_s, u"-1.24"_s}),
+                               table.Row({u"чай"_s, u"кг"_s, u"1.50"_s, u"4.50"_s, u"4.50"_s}),
+                               table.Total({u"ИТОГО:"_s, {}, u"4.5"_s, u"10.51"_s, u"3.26"_s})} +
+                   ReportEnd()));
+}
+
+TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
+  Receive(0, u"0001.prh"_s, u"05.11.2026"_s, u"100.50"_s);
+  Receive(1, u"0001.prh"_s, u"05.11.2026"_s, u"0.25"_s);
+  Ship(1, u"0001.uhd"_s, u"05.11.2026"_s, u"0"_s, u"40.00"_s, {});
+  Ship(0, u"0001.uhd"_s, u"6.11.2026"_s, u"0"_s, u"7,5"_s, {});
+  const ReportScope scope =
+      Scope(kAllWarehouses.toString(), PeriodKind::kRange, QDate(2026, 11, 5), QDate(2026, 11, 6));
+  const auto report = CollectFlow(temp.Data(), session, scope);
+  const QStringList page = PageLines(WriteFlowReport, *report, scope);
+  const ReportTable table{{25, 10, 10, 10}, 1};
+  EXPECT_EQ(page,
+            (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"ВСЕ СКЛАДЫ"_s,
+                         u"Период: с 05.11.2026 по 06.11.2026"_s) +
+             QStringList{table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
+                         table.Row({u"05.11.26"_s, u"100.75"_s, u"40.00"_s, u"-60.75"_s}),
+                         table.Row({u"06.11.26"_s, u"0.00"_s, u"7.50"_s, u"7.50"_s}),
+                         table.Total({u"ИТОГО:"_s, u"100.75"_s, u"47.50"_s, u"-53.25"_s})} +
+             ReportEnd()));
+}
+
+TEST_F(Reports, APageIsNotFinishedOnceTheUserEndsIt) {
+  const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
+  SalesReport report;
+  report.rows.resize(2000, {.day_key = 261122,
+                            .name = report.texts.Add("x"),
+                            .quantity = report.texts.Add("1"),
+                            .unit = report.texts.Add(""),
+                            .amount = 1});
+  std::vector<double> parts;
+  const auto end_at_half = [&](double part) {
+    parts.push_back(part);
+    return part < 0.5;
+  };
+  EXPECT_THROW(WriteSalesReport(
+                   report, scope, [](QByteArrayView) {}, end_at_half),
+               WorkEnded);
+  EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+  EXPECT_LT(parts.back(), 0.7) << "it ends soon";
+}
+
+TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {
+  session.SkladNames.append(u"Стёртый"_s);
+  const ReportScope scope = Scope(u"Стёртый"_s, PeriodKind::kCurrentMonth);
+  const QStringList page =
+      PageLines(WriteSalesReport, *CollectSales(temp.Data(), session, scope), scope);
+  EXPECT_EQ(page[3], u"<FONT FACE=Arial SIZE=3>Месяц: Ноябрь</FONT><br>"_s);
+  EXPECT_EQ(page.filter(u"<tr><TD"_s).size(), 2);
+}
+
+TEST_F(Reports, ChartsTakeNetPricesAndStopAtACutDocument) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"10"_s, u"0"_s,
+       {u"Чай"_s, u"2"_s, u"шт."_s, u"30"_s, u"20"_s, u"18.00"_s});
+  Ship(1, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"0"_s,
+       {u"Чай"_s, u"1,5"_s, u"шт."_s, u"1"_s, u"20"_s, u"20"_s,  //
+        u"чай"_s, u"7"_s, u"шт."_s, u"0"_s, u"1"_s, u"1"_s});
+  const ChartScope year{kAllWarehouses.toString(), false, 2026, 0};
+  const auto months = CollectSalesChart(temp.Data(), session, year);
+  EXPECT_EQ(months->title, u"График продаж за 2026 год"_s);
+  ASSERT_EQ(months->RowCount(), 12);
+  EXPECT_EQ(months->Cell(10, 0), 36.0 + 20.0 + 7.0) << "a decimal comma ends a chart's number";
+  EXPECT_EQ(months->Cell(10, 1), -24.0 + 19.0 + 7.0);
+  EXPECT_EQ(months->Cell(9, 0), 0.0);
+  const ChartScope month{kAllWarehouses.toString(), true, 2026, 11};
+  const auto days = CollectGoodsChart(temp.Data(), session, u"Чай"_s, month);
+  EXPECT_EQ(days->title, u"График реализации товара Чай за Ноябрь 2026"_s);
+  ASSERT_EQ(days->RowCount(), 30);
+  EXPECT_EQ(days->Cell(4, 0), 2.0);
+  EXPECT_EQ(days->Cell(21, 0), 1.0);
+  Ship(1, u"0002.uhd"_s, u"01.02.2020"_s, u"0"_s, u"0"_s, {u"Чай"_s, u"1"_s});
+  try {
+    CollectSalesChart(temp.Data(), session, year);
+    FAIL() << "a cut shipment must stop the chart";
+  } catch (const std::filesystem::filesystem_error& error) {
+    EXPECT_EQ(error.path1().filename(), "0002.uhd");
+  }
+}
+
+// By day two digits of the year are compared: the 29th of a leap year's February finds no row in
+// that of 2100.
+TEST_F(Reports, ADayThatTheChartsMonthLacksIsLeftOut) {
+  for (const QString& date : {u"28.02.2000"_s, u"29.02.2000"_s}) {
+    Ship(0, date.first(2) + u".uhd"_s, date, u"0"_s, u"0"_s,
+         {u"Чай"_s, u"1"_s, u"шт."_s, u"1"_s, u"2"_s, u"2"_s});
+  }
+  const ChartScope february{kAllWarehouses.toString(), true, 2100, 2};
+  const auto chart = CollectSalesChart(temp.Data(), session, february);
+  std::vector<double> expected(28);
+  expected.back() = 2;
+  EXPECT_EQ(chart->columns[0].values, expected);
+}
+
+TEST_F(Reports, HomeScreenSumsTodayThisMonthAndThisYear) {
+  Ship(0, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"10.00"_s, {}, u"нет"_s);
+  Ship(1, u"0001.uhd"_s, u"21.11.2026"_s, u"0"_s, u"5.50"_s, {});
+  Ship(1, u"0002.uhd"_s, u"01.01.2026"_s, u"0"_s, u"100"_s, {});
+  Ship(1, u"0003.uhd"_s, u"22.11.2025"_s, u"0"_s, u"1000"_s, {});
+  Ship(1, u"0004.uhd"_s, u"20.11.2026"_s, u"0"_s, u"мало"_s, {});
+  const auto figures = CollectSalesFigures(temp.Data(), session, kToday);
+  EXPECT_EQ(figures->day, 10.0);
+  EXPECT_EQ(figures->month, 15.5);
+  EXPECT_EQ(figures->year, 115.5);
+  ASSERT_EQ(figures->by_day.RowCount(), 30);
+  EXPECT_EQ(figures->by_day.Cell(20, 0), 5.5);
+  EXPECT_EQ(figures->by_day.Cell(21, 0), 10.0);
+  EXPECT_EQ(CollectSalesFigures(temp.Data(), session, QDate(2027, 2, 3))->by_day.RowCount(), 28);
+}
+
+TEST_F(Reports, ClosingTheProgressEndsTheWork) {
+  Ship(0, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"10.00"_s, {});
+  const auto stop = [](double) { return false; };
+  EXPECT_FALSE(CollectSalesFigures(temp.Data(), session, kToday, stop));
+  EXPECT_FALSE(
+      CollectFlow(temp.Data(), session, Scope(kAllWarehouses.toString(), PeriodKind::kAll), stop));
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,274 @@
+#include <filesystem>
+
+#include "books/stock/Books.h"
+#include "books/stock/DocumentDraft.h"
+#include "books/store/SystemCalls.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Files = std::map<QString, QStringList>;
+using Outcome = DocumentDraft::Outcome;
+
+const QString kPrh = u"Склад/PRH/0001.prh"_s;
+const QString kUhd = u"Склад/UHD/0001.uhd"_s;
+const QString kVpr = u"ВНПЕР/0001.vpr"_s;
+const QString kStock = u"Склад/товар.usl"_s;
+const QString kShop = u"Магазин/товар.usl"_s;
+
+class Drafts : public testing::Test {
+ protected:
+  Drafts() { SeedBooks(temp_, session_); }
+
+  DocumentDraft::Place In(DocumentKind kind) const {
+    return {temp_.Data(), session_, kind, kind == DocumentKind::kTransfer ? QString() : u"Склад"_s};
+  }
+  DocumentDraft New(DocumentKind kind) const {
+    return DocumentDraft::New(In(kind), QDate(2026, 11, 22));
+  }
+  // Opens the only document there is, as its register shows it.
+  DocumentDraft Reopen(DocumentKind kind) const {
+    DocumentRegister rows(temp_.Data(), session_, kind);
+    rows.Load(In(kind).warehouse, {.period = RegisterFilter::Period::kYear, .year = u"2026"_s},
+              QDate(2026, 11, 22), false);
+    EXPECT_EQ(rows.Rows().size(), 1);
+    return DocumentDraft::Open(In(kind), rows.Rows().at(0));
+  }
+  void Stock(const QString& warehouse, const QStringList& lines) const {
+    temp_.PutLines(LedgerPath(session_, warehouse), lines);
+  }
+
+  TempData temp_;
+  Session session_;
+};
+
+GoodsPick Pick(const QString& name, const QString& quantity, const QString& price,
+               const QString& cost = {}) {
+  return {.name = name, .quantity = quantity, .unit = u"шт."_s, .cost = cost, .price = price};
+}
+
+TEST_F(Drafts, AnOpenReceiptMovesNoStock) {
+  DocumentDraft draft = New(DocumentKind::kReceipt);
+  draft.SetParty(u"ООО Заря"_s);
+  EXPECT_TRUE(draft.AddLine(Pick(u"Чай"_s, u"3"_s, u"45.00"_s)));
+  EXPECT_TRUE(draft.AddLine(Pick(u"Чай"_s, u"0.333"_s, u"10"_s)));
+  EXPECT_EQ(draft.Save(), Outcome::kSaved);
+  EXPECT_EQ(Filled(temp_),
+            (Files{{kPrh,
+                    {u"1"_s, u"22.11.2026"_s, u"ООО Заря"_s, u"138.33"_s, u"нет"_s, u"Чай"_s,
+                     u"3"_s, u"шт."_s, u"45.00"_s, u"Чай"_s, u"0.333"_s, u"шт."_s, u"10.00"_s}}}));
+}
+
+TEST_F(Drafts, AReceiptPostsOnceWhenItIsClosed) {
+  Stock(u"Склад"_s, {u"Чай"_s, u"1.5"_s, u"шт."_s});
+  DocumentDraft draft = New(DocumentKind::kReceipt);
+  draft.AddLine(Pick(u"Чай"_s, u"0.125"_s, u"45.00"_s));
+  draft.AddLine(Pick(u"Кофе"_s, u"2"_s, u"100.00"_s));
+  draft.Save();
+  DocumentDraft again = Reopen(DocumentKind::kReceipt);
+  EXPECT_FALSE(again.WasClosed());
+  again.SetClosed(true);
+  again.Save();
+  const QStringList posted = {u"Чай"_s, u"1.625"_s, u"шт."_s, u"Кофе"_s, u"2"_s, u"шт."_s};
+  EXPECT_EQ(Filled(temp_)[kStock], posted);
+  // Its lines may still change; the ledger does not follow.
+  DocumentDraft closed = Reopen(DocumentKind::kReceipt);
+  EXPECT_TRUE(closed.WasClosed());
+  closed.RemoveLine(1);
+  closed.ChangeLine(0, u"7"_s, u"45"_s, u"315.00"_s);
+  EXPECT_EQ(closed.Save(), Outcome::kSaved);
+  EXPECT_EQ(Filled(temp_), (Files{{kPrh,
+                                   {u"1"_s, u"22.11.2026"_s, u"-"_s, u"315.00"_s, u"да"_s, u"Чай"_s,
+                                    u"7"_s, u"шт."_s, u"45.00"_s}},
+                                  {kStock, posted}}));
+}
+
+TEST_F(Drafts, AShipmentTakesTheDiscountOffSumAndPrices) {
+  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  DocumentDraft draft = New(DocumentKind::kShipment);
+  draft.SetParty(u"ООО Свет"_s);
+  draft.AddLine(Pick(u"Чай"_s, u"0.125"_s, u"60.01"_s, u"45,5"_s));
+  draft.AddLine(Pick(u"Кофе"_s, u"2"_s, u"99.99"_s, {}));
+  draft.SetDiscount(u"7.5"_s);
+  draft.SetClosed(true);
+  EXPECT_EQ(draft.Save(), Outcome::kSaved);
+  // 0.125 x 60.01 is 7.50; 207.48 less 7.5 percent is 191.919.
+  EXPECT_EQ(Filled(temp_),
+            (Files{{kUhd,
+                    {u"1"_s,
+                     u"22.11.2026"_s,
+                     u"ООО Свет"_s,
+                     u"207.48"_s,
+                     u"7.5"_s,
+                     u"191.92"_s,
+                     u"да"_s,  //
+                     u"Чай"_s,
+                     u"0.125"_s,
+                     u"шт."_s,
+                     u"45,5"_s,
+                     u"60.01"_s,
+                     u"55.51"_s,  //
+                     u"Кофе"_s,
+                     u"2"_s,
+                     u"шт."_s,
+                     {},
+                     u"99.99"_s,
+                     u"92.49"_s}},
+                   {kStock, {u"Чай"_s, u"9.88"_s, u"шт."_s, u"Кофе"_s, u"-2.00"_s, u"шт."_s}}}));
+}
+
+TEST_F(Drafts, WithoutADiscountBothSumsAreOne) {
+  DocumentDraft draft = New(DocumentKind::kShipment);
+  draft.AddLine(Pick(u"Чай"_s, u"3"_s, u"60"_s, u"45"_s));
+  draft.Save();
+  EXPECT_EQ(Filled(temp_)[kUhd],
+            QStringList({u"1"_s, u"22.11.2026"_s, u"-"_s, u"180.00"_s, u"0"_s, u"180.00"_s,
+                         u"нет"_s, u"Чай"_s, u"3"_s, u"шт."_s, u"45"_s, u"60.00"_s, u"60.00"_s}));
+}
+
+TEST_F(Drafts, ATransferPostsAtItsFirstSaveAndRoundsTheSourceOnly) {
+  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  Stock(u"Магазин"_s, {u"Чай"_s, u"1"_s, u"шт."_s});
+  DocumentDraft draft = New(DocumentKind::kTransfer);
+  draft.AddLine(Pick(u"Чай"_s, u"1.125"_s, u"60"_s, u"45"_s));
+  draft.AddLine(Pick(u"Кофе"_s, u"0.500"_s, u"10"_s, u"5"_s));
+  EXPECT_EQ(draft.Save(), Outcome::kSaved);
+  Files after = {
+      {kVpr,
+       {u"1"_s, u"22.11.2026"_s, u"Склад"_s, u"Магазин"_s, u"72.50"_s, u"Чай"_s, u"1.125"_s,
+        u"шт."_s, u"45"_s, u"60.00"_s, u"Кофе"_s, u"0.500"_s, u"шт."_s, u"5"_s, u"10.00"_s}},
+      {kStock, {u"Чай"_s, u"8.88"_s, u"шт."_s, u"Кофе"_s, u"-0.50"_s, u"шт."_s}},
+      {kShop, {u"Чай"_s, u"2.125"_s, u"шт."_s, u"Кофе"_s, u"0.5"_s, u"шт."_s}}};
+  EXPECT_EQ(Filled(temp_), after);
+  DocumentDraft again = Reopen(DocumentKind::kTransfer);
+  again.RemoveLine(0);
+  EXPECT_EQ(again.Save(), Outcome::kSaved);
+  after[kVpr] = {u"1"_s,    u"22.11.2026"_s, u"Склад"_s, u"Магазин"_s, u"5.00"_s,
+                 u"Кофе"_s, u"0.500"_s,      u"шт."_s,   u"5"_s,       u"10.00"_s};
+  EXPECT_EQ(Filled(temp_), after);
+}
+
+TEST_F(Drafts, ATransferWithinOneWarehouseIsRefused) {
+  DocumentDraft draft = New(DocumentKind::kTransfer);
+  draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"60"_s));
+  draft.ChooseWarehouse(&DocumentHead::destination, u"Склад"_s);
+  EXPECT_EQ(draft.Save(), Outcome::kSameWarehouse);
+  EXPECT_EQ(Filled(temp_), Files());
+}
+
+TEST_F(Drafts, ATransferTurnedRoundPostsToTheLedgersChosenLast) {
+  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  DocumentDraft draft = New(DocumentKind::kTransfer);
+  draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"60"_s));
+  draft.ChooseWarehouse(&DocumentHead::party, u"Магазин"_s);
+  draft.ChooseWarehouse(&DocumentHead::destination, u"Склад"_s);
+  EXPECT_THROW(draft.ChooseWarehouse(&DocumentHead::destination, u"Нет такого"_s),
+               std::filesystem::filesystem_error);
+  draft.Save();
+  EXPECT_EQ(Filled(temp_)[kStock], QStringList({u"Чай"_s, u"11"_s, u"шт."_s}));
+  EXPECT_EQ(Filled(temp_)[kShop], QStringList({u"Чай"_s, u"-1.00"_s, u"шт."_s}));
+}
+
+TEST_F(Drafts, WithoutLinesNothingIsWritten) {
+  for (const DocumentKind kind : {DocumentKind::kReceipt, DocumentKind::kShipment}) {
+    DocumentDraft draft = New(kind);
+    draft.SetClosed(true);
+    EXPECT_EQ(draft.Save(), Outcome::kNoLines);
+  }
+  EXPECT_EQ(Filled(temp_), Files());
+}
+
+TEST_F(Drafts, PicksOfGroupsAndEmptyFieldsAddNothing) {
+  DocumentDraft draft = New(DocumentKind::kReceipt);
+  GoodsPick group = Pick(u" Чай и кофе"_s, u"1"_s, u"1"_s);
+  group.is_group = true;
+  for (const GoodsPick& pick :
+       {group, Pick({}, u"1"_s, u"1"_s), Pick(u"Чай"_s, {}, u"1"_s), Pick(u"Чай"_s, u"1"_s, {})}) {
+    EXPECT_FALSE(draft.AddLine(pick));
+  }
+  EXPECT_TRUE(draft.Lines().empty());
+  EXPECT_EQ(draft.Head().sum, u"0.00");
+}
+
+// The sum goes by the rounded amounts as they come and go: a sum that was edited by hand, or stood
+// wrong in the file, keeps its difference.
+TEST_F(Drafts, TheSumIsNeverSummedAnew) {
+  DocumentDraft draft = New(DocumentKind::kReceipt);
+  for (int i = 0; i < 3; ++i) draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"0.335"_s));
+  EXPECT_EQ(draft.Lines().at(0).amount, u"0.34");
+  EXPECT_EQ(draft.Head().sum, u"1.02");
+  draft.SetSum(u"100"_s);
+  draft.ChangeLine(1, u"0"_s, u"5"_s, u"0.00"_s);
+  EXPECT_EQ(draft.Lines().at(1).amount, u"0.00");
+  EXPECT_EQ(draft.Head().sum, u"99.66");
+  draft.RemoveLine(0);
+  EXPECT_EQ(draft.Head().sum, u"99.32");
+}
+
+TEST_F(Drafts, WithoutALedgerNoDocumentIsBegun) {
+  QFile::remove(temp_.Data().Resolve(LedgerPath(session_, u"Склад"_s)));
+  for (const DocumentKind kind :
+       {DocumentKind::kReceipt, DocumentKind::kShipment, DocumentKind::kTransfer}) {
+    EXPECT_THROW(New(kind), std::filesystem::filesystem_error);
+  }
+}
+
+// A save that the disk refuses half-way leaves neither half, and a second try posts once.
+TEST_F(Drafts, ARefusedSaveChangesNothingAndMayBeRepeated) {
+  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  const auto before = temp_.Tree();
+  DocumentDraft draft = New(DocumentKind::kTransfer);
+  draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"60"_s));
+  int calls = 0;
+  for (int fail_at = 1;; ++fail_at) {
+    calls = 0;
+    syscalls::SetFaultHook(
+        [&](std::string_view, const QByteArray&) { return ++calls == fail_at ? ENOSPC : 0; });
+    bool saved = true;
+    try {
+      draft.Save();
+    } catch (const std::filesystem::filesystem_error&) {
+      saved = false;
+    }
+    syscalls::SetFaultHook({});
+    if (saved) break;
+    ASSERT_EQ(temp_.Tree(), before) << "call " << fail_at;
+    ASSERT_LT(fail_at, 100);
+  }
+  EXPECT_GT(calls, 5);
+  EXPECT_EQ(Filled(temp_)[kStock], QStringList({u"Чай"_s, u"9.00"_s, u"шт."_s}));
+  EXPECT_EQ(Filled(temp_)[kShop], QStringList({u"Чай"_s, u"1"_s, u"шт."_s}));
+}
+
+TEST_F(Drafts, DamagedDocumentsOpenWithWhatTheyHave) {
+  const QByteArray good =
+      EncodeText(u"7\r\n22.11.2026 \r\nООО Заря\r\nсто\r\n\r\nЧай\r\nдве\r\nшт.\r\n5\r\nКофе\r\n3");
+  temp_.Put(u"0001\\Склад\\PRH\\0001.prh"_s, good);
+  const DocumentDraft draft = Reopen(DocumentKind::kReceipt);
+  EXPECT_TRUE(draft.WasClosed());  // whatever is not "нет"
+  EXPECT_EQ(draft.Head().sum, u"0");
+  EXPECT_EQ(draft.Head().date, u"22.11.2026");
+  ASSERT_EQ(draft.Lines().size(), 2);
+  EXPECT_EQ(draft.Lines()[0].amount, u"0.00");
+  EXPECT_EQ(draft.Lines()[1].line.quantity, u"3");
+  EXPECT_EQ(draft.Lines()[1].amount, u"0.00");
+}
+
+TEST_F(Drafts, PrintScreensGetWhatTheEditorShows) {
+  DocumentDraft draft = New(DocumentKind::kShipment);
+  draft.SetNumber(u"15/а"_s);
+  draft.SetDiscount(u"5"_s);
+  draft.AddLine(Pick(u"Чай"_s, u"3"_s, u"60"_s, u"45"_s));
+  const PrintSource source = draft.ToPrint();
+  EXPECT_EQ(source.opener, PrintSource::Opener::kEditor);
+  EXPECT_EQ(source.number, u"15/а");
+  EXPECT_EQ(source.warehouse, u"Склад");
+  EXPECT_EQ(source.total, u"180.00");
+  EXPECT_EQ(source.discount, u"5");
+  ASSERT_EQ(source.lines.size(), 1);
+  EXPECT_EQ(source.lines[0].price, u"60.00");
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,196 @@
+#include <filesystem>
+
+#include "books/stock/Books.h"
+#include "books/stock/DocumentNumbers.h"
+#include "books/stock/DocumentRegister.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Files = std::map<QString, QStringList>;
+using Period = RegisterFilter::Period;
+
+const QDate kToday(2026, 11, 22);
+
+class Register : public testing::Test {
+ protected:
+  Register() { SeedBooks(temp_, session_); }
+
+  void Receipt(const QString& file, const QString& date, const QString& sum = u"1.00"_s,
+               const QString& number = u"1"_s) const {
+    temp_.PutLines(u"0001\\Склад\\PRH\\"_s + file, {number, date, u"-"_s, sum, u"нет"_s});
+  }
+  QStringList Shown(DocumentKind kind, const RegisterFilter& filter, bool descending = false) {
+    rows_.emplace(temp_.Data(), session_, kind);
+    rows_->Load(u"Склад"_s, filter, kToday, descending);
+    QStringList files;
+    for (const RegisterRow& row : rows_->Rows()) files << row.file;
+    return files;
+  }
+
+  TempData temp_;
+  Session session_;
+  std::optional<DocumentRegister> rows_;
+};
+
+TEST_F(Register, EachFilterKeepsItsDocuments) {
+  Receipt(u"0001.prh"_s, u"05.11.2026"_s);
+  Receipt(u"0002.prh"_s, u"5.11.2025 "_s);
+  Receipt(u"0003.prh"_s, u"06.10.2026"_s);
+  Receipt(u"0004.prh"_s, u"05.11.1926"_s);
+  Receipt(u"0005.prh"_s, u"вчера"_s);
+  Receipt(u"0006.prh"_s, u"31.11.2026"_s);
+  temp_.Put(u"0001\\Склад\\PRH\\0007.prh"_s, {});
+  const struct {
+    RegisterFilter filter;
+    QStringList files;
+  } cases[] = {
+      {{.period = Period::kMonth, .month = 11, .year = u"2025"_s}, {u"0001.prh"_s}},
+      {{.period = Period::kMonth, .month = 9}, {}},
+      {{.period = Period::kYear, .year = u"2026"_s}, {u"0001.prh"_s, u"0003.prh"_s}},
+      {{.period = Period::kYear, .year = u"2025"_s}, {u"0002.prh"_s}},
+      {{.period = Period::kYear, .year = u"26"_s}, {}},
+      // Two digits of the year: the same day a century apart passes.
+      {{.period = Period::kDay, .day = QDate(2026, 11, 5)}, {u"0001.prh"_s, u"0004.prh"_s}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Shown(DocumentKind::kReceipt, c.filter), c.files);
+}
+
+TEST_F(Register, OrderGoesByFileNamesNotByDateOrNumber) {
+  const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
+  Receipt(u"0002.prh"_s, u"01.01.2026"_s);
+  Receipt(u"10000.prh"_s, u"02.01.2026"_s);
+  Receipt(u"0010.PRH"_s, u"03.01.2026"_s);
+  const QStringList files = {u"0002.prh"_s, u"0010.PRH"_s, u"10000.prh"_s};
+  EXPECT_EQ(Shown(DocumentKind::kReceipt, year), files);
+  EXPECT_EQ(Shown(DocumentKind::kReceipt, year, true), QStringList(files.rbegin(), files.rend()));
+  EXPECT_EQ(rows_->RowOf(u"0010.PRH"_s), 1);
+  EXPECT_EQ(rows_->RowOf(u"0001.prh"_s), -1);
+}
+
+TEST_F(Register, TotalsAddWhatEachKindTells) {
+  const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
+  EXPECT_EQ(Shown(DocumentKind::kReceipt, year), QStringList());
+  EXPECT_EQ(rows_->StatusText(), u"Документов:0     Сумма:0.00");
+  Receipt(u"0001.prh"_s, u"01.01.2026"_s, u"10,5"_s);
+  Receipt(u"0002.prh"_s, u"01.01.2026"_s, u"сто"_s);
+  Receipt(u"0003.prh"_s, u"01.01.2026"_s, u"0.005"_s);
+  Shown(DocumentKind::kReceipt, year);
+  EXPECT_EQ(rows_->StatusText(), u"Документов:3     Сумма:10.51");
+  EXPECT_EQ(rows_->Rows()[0].head.sum, u"10.5");
+  EXPECT_EQ(rows_->Rows()[1].head.sum, u"0");
+  temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
+                 {u"1"_s, u"01.01.2026"_s, u"-"_s, u"100.00"_s, u"10"_s, u"90.00"_s, u"да"_s});
+  Shown(DocumentKind::kShipment, year);
+  EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:90.00");
+  temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s,
+                 {u"1"_s, u"01.01.2026"_s, u"Склад"_s, u"Снесённый"_s, u"7.00"_s});
+  Shown(DocumentKind::kTransfer, year);
+  EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:7.00");
+  EXPECT_EQ(rows_->Rows()[0].head.destination, u"Снесённый");
+}
+
+TEST_F(Register, AMissingDirectoryIsToldAndKeepsTheRows) {
+  Receipt(u"0001.prh"_s, u"01.01.2026"_s);
+  const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
+  Shown(DocumentKind::kReceipt, year);
+  EXPECT_THROW(rows_->Load(u"Нет"_s, year, kToday, false), std::filesystem::filesystem_error);
+  EXPECT_EQ(rows_->Rows().size(), 1);
+}
+
+TEST_F(Register, FileNamesAndNumbersCountApart) {
+  const struct {
+    QStringList files;
+    QString number;  // in the last of them
+    QString new_file;
+    QString new_number;
+  } cases[] = {
+      {{}, {}, u"0001.prh"_s, u"1"_s},
+      {{u"0001.prh"_s}, u"15"_s, u"0002.prh"_s, u"16"_s},
+      {{u"0001.prh"_s, u"0007.prh"_s}, u"7/а"_s, u"0008.prh"_s, u"8"_s},
+      {{u"0009.prh"_s}, u"б/н"_s, u"0010.prh"_s, u"1"_s},
+      {{u"0009.prh"_s}, {}, u"0010.prh"_s, u"1"_s},
+      {{u"0009.prh"_s}, u" 1 0 №"_s, u"0010.prh"_s, u"11"_s},
+      {{u"0009.prh"_s}, u"2.5"_s, u"0010.prh"_s, u"3.5"_s},
+      // "10000" stands before "9999": the last name stays, and the new file takes its place.
+      {{u"9999.prh"_s}, u"1"_s, u"10000.prh"_s, u"2"_s},
+      {{u"10000.prh"_s, u"9999.prh"_s}, u"1"_s, u"10000.prh"_s, u"2"_s},
+      {{u"0005.prh"_s, u"копия.prh"_s}, u"1"_s, u"0001.prh"_s, u"2"_s},
+      {{u"1e999.prh"_s}, u"1"_s, u"0001.prh"_s, u"2"_s},
+      {{u"99999999999.prh"_s}, u"1"_s, u"100000000000.prh"_s, u"2"_s},
+  };
+  for (const auto& c : cases) {
+    for (const QString& file : c.files) {
+      Receipt(file, u"01.01.2026"_s, u"1.00"_s, file == c.files.constLast() ? c.number : u"77"_s);
+    }
+    const NewDocumentNumbers numbers =
+        NumbersForNew(temp_.Data(), DocumentKind::kReceipt, u"0001\\Склад\\PRH"_s);
+    EXPECT_EQ(numbers.file, c.new_file);
+    EXPECT_EQ(numbers.number, c.new_number);
+    for (const QString& file : c.files) {
+      QFile::remove(temp_.Data().Resolve(u"0001\\Склад\\PRH\\"_s + file));
+    }
+  }
+}
+
+class Deletion : public Register {
+ protected:
+  const QStringList tea_ = {u"Чай"_s, u"10"_s, u"шт."_s};
+  void SetUp() override {
+    for (const QString& name : session_.SkladNames)
+      temp_.PutLines(LedgerPath(session_, name), tea_);
+  }
+};
+
+TEST_F(Deletion, ReversalIsASecondRecordAtTheEnd) {
+  const QStringList lines = {u"Чай"_s,  u"2,5"_s, u"шт."_s, u"45"_s,
+                             u"Кофе"_s, u"-1"_s,  u"кг"_s,  u"9"_s};
+  temp_.PutLines(u"0001\\Склад\\PRH\\0001.prh"_s,
+                 QStringList({u"1"_s, u"01.01.2026"_s, u"-"_s, u"1.00"_s, u"да"_s}) + lines);
+  DeleteDocument(temp_.Data(), session_, DocumentKind::kReceipt, u"Склад"_s, u"0001.prh"_s, true);
+  EXPECT_EQ(Filled(temp_),
+            (Files{{u"Склад/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"- 2,5"_s, u"шт."_s,
+                                                              u"Кофе"_s, u"- -1"_s, u"кг"_s})},
+                   {u"Магазин/товар.usl"_s, tea_}}));
+}
+
+TEST_F(Deletion, AReturnedShipmentKeepsTheTextOfItsQuantity) {
+  temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
+                 {u"1"_s, u"01.01.2026"_s, u"-"_s, u"1"_s, u"0"_s, u"1"_s, u"да"_s,  //
+                  u"Чай"_s, u"0.125"_s, u"шт."_s, u"4"_s, u"5"_s, u"5"_s});
+  DeleteDocument(temp_.Data(), session_, DocumentKind::kShipment, u"Склад"_s, u"0001.uhd"_s, true);
+  EXPECT_EQ(Filled(temp_),
+            (Files{{u"Склад/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"0.125"_s, u"шт."_s})},
+                   {u"Магазин/товар.usl"_s, tea_}}));
+}
+
+TEST_F(Deletion, ATransferIsTakenBackFromBothLedgers) {
+  const QStringList document = {u"1"_s,   u"01.01.2026"_s, u"Магазин"_s, u"Склад"_s, u"1"_s,
+                                u"Чай"_s, u"3"_s,          u"шт."_s,     u"4"_s,     u"5"_s};
+  temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s, document);
+  DeleteDocument(temp_.Data(), session_, DocumentKind::kTransfer, {}, u"0001.vpr"_s, true);
+  EXPECT_EQ(Filled(temp_),
+            (Files{{u"Магазин/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"3"_s, u"шт."_s})},
+                   {u"Склад/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"- 3"_s, u"шт."_s})}}));
+}
+
+TEST_F(Deletion, WithoutReversalOnlyTheFileGoes) {
+  Receipt(u"0001.prh"_s, u"01.01.2026"_s);
+  DeleteDocument(temp_.Data(), session_, DocumentKind::kReceipt, u"Склад"_s, u"0001.prh"_s, false);
+  EXPECT_EQ(Filled(temp_), (Files{{u"Склад/товар.usl"_s, tea_}, {u"Магазин/товар.usl"_s, tea_}}));
+}
+
+TEST_F(Deletion, AWarehouseThatIsGoneStopsItWhole) {
+  temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s,
+                 {u"1"_s, u"01.01.2026"_s, u"Склад"_s, u"Снесённый"_s, u"1"_s,  //
+                  u"Чай"_s, u"3"_s, u"шт."_s, u"4"_s, u"5"_s});
+  const auto before = temp_.Tree();
+  EXPECT_THROW(
+      DeleteDocument(temp_.Data(), session_, DocumentKind::kTransfer, {}, u"0001.vpr"_s, true),
+      std::filesystem::filesystem_error);
+  EXPECT_EQ(temp_.Tree(), before);
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,188 @@
+#include <filesystem>
+#include <random>
+
+#include "TempData.h"
+#include "books/stock/OnHand.h"
+#include "books/stock/PrefixIndex.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Name, unit, price of each item; a name that begins with a blank is a group.
+QByteArray Goods(const QStringList& names) {
+  QStringList lines;
+  for (const QString& name : names) {
+    lines.append(name);
+    if (!name.startsWith(u' ')) lines += QStringList{u"Россия"_s, u"-"_s, u"шт."_s, u"10.00"_s};
+  }
+  return EncodeLines(lines);
+}
+
+QStringList Shown(const OnHandList& list) {
+  QStringList shown;
+  for (const OnHandRow& row : list.Rows()) {
+    shown.append(row.IsGroup() ? row.name : row.name + u'=' + row.quantity);
+  }
+  return shown;
+}
+
+struct JoinCase {
+  const char* name;
+  QStringList goods;
+  std::vector<QStringList> ledgers;
+  GoodsView view;
+  QStringList shown;
+  QString status;
+};
+
+void PrintTo(const JoinCase& c, std::ostream* out) { *out << c.name; }
+
+class Joining : public testing::TestWithParam<JoinCase> {};
+
+TEST_P(Joining, ShowsTheseQuantities) {
+  const JoinCase& c = GetParam();
+  OnHandJoin join(Goods(c.goods), c.view);
+  for (const QStringList& lines : c.ledgers) join.Add(EncodeLines(lines));
+  const OnHandList list = join.Take();
+  EXPECT_EQ(Shown(list), c.shown);
+  EXPECT_EQ(list.StatusText(), c.status);
+}
+
+const JoinCase kJoinCases[] = {
+    {"NoStock",
+     {u" Чай"_s, u"Ассам"_s},
+     {{}},
+     GoodsView::kGroups,
+     {u" Чай"_s, u"Ассам=0"_s},
+     u"Итого наименований: 0     на сумму: 0.00"_s},
+    {"RecordsOfOneNameAndOfAllWarehousesSum",
+     {u"Ассам"_s, u"Кимун"_s},
+     {{u"Ассам"_s, u"5"_s, u"шт."_s, u" группа"_s, u"Ассам"_s, u"- 1.5"_s, u"шт."_s},
+      {u"Кимун"_s, u"2,5"_s, u"0"_s},
+      {u"Ассам"_s, u"1"_s, u"шт."_s}},
+     GoodsView::kGroups,
+     {u"Ассам=4.5"_s, u"Кимун=2.5"_s},
+     u"Итого наименований: 2     на сумму: 70.00"_s},
+    {"AShorterNameAddsToTheFirstLongerRowThatItBegins",
+     {u"Чай зелёный"_s, u"Чай"_s, u"Чай чёрный"_s},
+     {{u"Чай"_s, u"3"_s, u"шт."_s, u"Чай ч"_s, u"4"_s, u"шт."_s}},
+     GoodsView::kGroups,
+     {u"Чай зелёный=3"_s, u"Чай=0"_s, u"Чай чёрный=4"_s},
+     u"Итого наименований: 2     на сумму: 70.00"_s},
+    {"LetterCaseCountsAndLostNamesAreNotSeen",
+     {u"Чай"_s},
+     {{u"чай"_s, u"3"_s, u"шт."_s, u"Чай чёрный"_s, u"4"_s, u"шт."_s}},
+     GoodsView::kGroups,
+     {u"Чай=0"_s},
+     u"Итого наименований: 0     на сумму: 0.00"_s},
+    {"TheFirstRowIsThatOfTheListAsItIsShown",
+     {u" Б"_s, u"Чай чёрный"_s, u" А"_s, u"Чай белый"_s},
+     {{u"Чай"_s, u"3"_s, u"шт."_s}},
+     GoodsView::kGoodsOnly,
+     {u"Чай белый=3"_s, u"Чай чёрный=0"_s},
+     u"Итого наименований: 1     на сумму: 30.00"_s},
+    {"NegativeStockCountsAndLowersTheSum",
+     {u"Ассам"_s, u"Кимун"_s},
+     {{u"Ассам"_s, u"-2"_s, u"шт."_s, u"Кимун"_s, u"много"_s, u"шт."_s}},
+     GoodsView::kGroups,
+     {u"Ассам=-2"_s, u"Кимун=0"_s},
+     u"Итого наименований: 1     на сумму: -20.00"_s},
+    {"TenthsThatCancelLeaveNothing",
+     {u"Ассам"_s},
+     {{u"Ассам"_s, u"0.1"_s, u"кг"_s, u"Ассам"_s, u"0.2"_s, u"кг"_s, u"Ассам"_s, u"-0.3"_s,
+       u"кг"_s}},
+     GoodsView::kGroups,
+     {u"Ассам=0"_s},
+     u"Итого наименований: 0     на сумму: 0.00"_s},
+    {"ARecordWithoutANameGivesNoStockToAGroup",
+     {u" Чай"_s, u"Ассам"_s},
+     {{u""_s, u"5"_s, u"шт."_s}},
+     GoodsView::kGroups,
+     {u" Чай"_s, u"Ассам=0"_s},
+     u"Итого наименований: 0     на сумму: 0.00"_s},
+};
+INSTANTIATE_TEST_SUITE_P(OnHand, Joining, testing::ValuesIn(kJoinCases),
+                         [](const auto& test) { return test.param.name; });
+
+// Against the plain walk over all names, on names that often begin each other.
+TEST(OnHandIndex, FindsTheFirstRowThatBeginsSo) {
+  std::mt19937 random(20261122);
+  const auto text = [&](int longest) {
+    QByteArray name;
+    for (int n = static_cast<int>(random() % (longest + 1)); n > 0; --n) {
+      name.append("aab\xC0\xFF"[random() % 5]);
+    }
+    return name;
+  };
+  for (int round = 0; round < 200; ++round) {
+    std::vector<QByteArray> names(random() % 70);
+    for (QByteArray& name : names) name = text(random() % 4 == 0 ? 14 : 5);
+    const PrefixIndex index(names);
+    for (int i = 0; i < 100; ++i) {
+      const QByteArray asked = text(10);
+      const auto first = std::find_if(names.begin(), names.end(), [&](const QByteArray& name) {
+        return name.startsWith(asked);
+      });
+      EXPECT_EQ(index.FirstBeginning(asked),
+                first == names.end() ? -1 : static_cast<int>(first - names.begin()))
+          << asked.toStdString();
+    }
+  }
+}
+
+class OnHandFiles : public testing::Test {
+ protected:
+  OnHandFiles() {
+    session_.basedir = u"0001\\"_s;
+    temp_.Put(u"0001\\spr\\товар.spr"_s, Goods({u" Чай"_s, u"Ассам"_s, u"Кимун"_s, u"Пуэр"_s}));
+    temp_.PutLines(u"0001\\Лавка\\товар.usl"_s,
+                   {u"Пуэр"_s, u"7"_s, u"кор."_s, u" группа"_s, u"Ассам"_s, u"5"_s, u"шт."_s,
+                    u"Сенча"_s, u"9"_s, u"шт."_s, u"Кимун"_s, u"0"_s, u"шт."_s});
+  }
+  OnHandList Load() const {
+    return LoadOnHand(temp_.Data(), session_, {u"Лавка"_s}, GoodsView::kGroups);
+  }
+  QStringList Ledger() const { return temp_.Lines(u"0001\\Лавка\\товар.usl"_s); }
+
+  TempData temp_;
+  Session session_;
+};
+
+TEST_F(OnHandFiles, ACorrectionRewritesTheLedgerFromTheList) {
+  OnHandList list = Load();
+  ASSERT_TRUE(list.ChangeQuantity(1, u"12"_s));
+  SaveOnHand(list, temp_.Data(), session_, u"Лавка"_s);
+  EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"12"_s, u"шт."_s, u"Пуэр"_s, u"7"_s, u"шт."_s}));
+}
+
+TEST_F(OnHandFiles, OnlyTheTextZeroDropsARow) {
+  OnHandList list = Load();
+  ASSERT_TRUE(list.ChangeQuantity(1, u"0.00"_s));
+  ASSERT_TRUE(list.ChangeQuantity(3, u"0"_s));
+  SaveOnHand(list, temp_.Data(), session_, u"Лавка"_s);
+  EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"0.00"_s, u"шт."_s}));
+}
+
+TEST_F(OnHandFiles, ZeroingKeepsTheRowsThatHadStock) {
+  ZeroOnHand(Load(), temp_.Data(), session_, u"Лавка"_s);
+  EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"0"_s, u"0"_s, u"Пуэр"_s, u"0"_s, u"0"_s}));
+  EXPECT_EQ(Load().StatusText(), u"Итого наименований: 0     на сумму: 0.00"_s);
+}
+
+TEST_F(OnHandFiles, NothingToWriteForAGroupTheSameTextOrNoNumber) {
+  OnHandList list = Load();
+  EXPECT_FALSE(list.ChangeQuantity(0, u"5"_s));
+  EXPECT_FALSE(list.ChangeQuantity(1, u"5"_s));
+  EXPECT_FALSE(list.ChangeQuantity(1, u"пять"_s));
+  EXPECT_TRUE(list.ChangeQuantity(1, u"5.0"_s)) << "texts are compared, not numbers";
+}
+
+TEST_F(OnHandFiles, AMissingLedgerIsTold) {
+  EXPECT_THROW(LoadOnHand(temp_.Data(), session_, {u"Лавка"_s, u"Подвал"_s}, GoodsView::kGroups),
+               std::filesystem::filesystem_error);
+}
+
+}  // namespace
+}  // namespace kladez

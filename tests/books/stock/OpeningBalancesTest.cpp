@@ -1,0 +1,61 @@
+#include "TempData.h"
+#include "books/stock/OpeningBalances.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Opening : public testing::Test {
+ protected:
+  Opening() { session_.basedir = u"0001\\"_s; }
+
+  static GoodsPick Pick(const QString& name, const QString& quantity, const QString& unit) {
+    return {name, quantity, unit, u"1"_s, u"1.00"_s, name.startsWith(u' ')};
+  }
+  QStringList Book(const QStringList& ledger) {
+    temp_.PutLines(u"0001\\Лавка\\товар.usl"_s, ledger);
+    balances_.Book(temp_.Data(), session_, u"Лавка"_s);
+    return temp_.Lines(u"0001\\Лавка\\товар.usl"_s);
+  }
+
+  TempData temp_;
+  Session session_;
+  OpeningBalances balances_;
+};
+
+TEST_F(Opening, AddsToWhatIsThereAndEntersWhatIsNot) {
+  balances_.Add(Pick(u"Чай"_s, u"0.125"_s, u"пач."_s));
+  balances_.Add(Pick(u"Мёд"_s, u"2.50"_s, u"кг"_s));
+  balances_.Add(Pick(u"Чай"_s, u"4"_s, u"пач."_s));
+  balances_.Add(Pick(u"Мёд"_s, u"1"_s, u"л"_s));
+  EXPECT_EQ(
+      Book({u" Группа"_s, u"Чай"_s, u"- 5"_s, u"кор."_s}),
+      (QStringList{u" Группа"_s, u"Чай"_s, u"-0.875"_s, u"кор."_s, u"Мёд"_s, u"3.5"_s, u"кг"_s}));
+}
+
+TEST_F(Opening, EveryLineOfTheLedgerIsComparedWithAName) {
+  balances_.Add(Pick(u"шт."_s, u"3"_s, u"уп."_s));
+  EXPECT_EQ(Book({u"Чай"_s, u"1"_s, u"шт."_s, u"2"_s, u"7"_s, u"кг"_s}),
+            (QStringList{u"Чай"_s, u"1"_s, u"шт."_s, u"5"_s, u"7"_s, u"кг"_s}));
+}
+
+TEST_F(Opening, APickedGroupIsNotBooked) {
+  balances_.Add(Pick(u" Чай"_s, {}, {}));
+  balances_.Add(Pick(u"Чай"_s, u"3"_s, u"пач."_s));
+  EXPECT_FALSE(balances_.ChangeQuantity(0, u"5"_s));
+  EXPECT_EQ(Book({}), (QStringList{u"Чай"_s, u"3"_s, u"пач."_s}));
+}
+
+TEST_F(Opening, ChangedAndRemovedEntriesAreBookedAsTheyAreThen) {
+  balances_.Add(Pick(u"Чай"_s, u"3"_s, u"пач."_s));
+  balances_.Add(Pick(u"Мёд"_s, u"2"_s, u"кг"_s));
+  EXPECT_FALSE(balances_.ChangeQuantity(1, u"2"_s));
+  EXPECT_FALSE(balances_.ChangeQuantity(1, u"два"_s));
+  EXPECT_TRUE(balances_.ChangeQuantity(1, u"2.0"_s));
+  balances_.Remove(0);
+  EXPECT_EQ(Book({}), (QStringList{u"Мёд"_s, u"2.0"_s, u"кг"_s}));
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,284 @@
+#include <QAbstractItemModelTester>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "ScreenDriver.h"
+#include "books/directories/GoodsPick.h"
+#include "books/store/SystemCalls.h"
+#include "screens/prices/Price.h"
+#include "screens/prices/price2.h"
+#include "ui/controls/RecordList.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kRetail = u"0001\\Лавка\\PRICE\\0001.prc"_s;
+const QString kWholesale = u"0001\\Лавка\\PRICE\\0002.prc"_s;
+const QString kMarked = u"0001\\marked"_s;
+
+class PriceScreens : public testing::Test {
+ protected:
+  PriceScreens() {
+    Session& session = world_.TheSession();
+    session.basedir = u"0001\\"_s;
+    session.SkladNames = {u"Лавка"_s, u"Подвал"_s};
+    Temp().PutLines(u"0001\\spr\\товар.spr"_s,
+                    {u" Чай"_s, u"Улун"_s, u"Китай"_s, u"-"_s, u"пач."_s, u"90"_s, u"Ассам"_s,
+                     u"Индия"_s, u"-"_s, u"пач."_s, u"45.00"_s});
+    Temp().PutLines(kMarked, {u"Ассам"_s});
+    Temp().PutLines(u"0001\\Лавка\\price.usd"_s, {u"Розница"_s, u"Опт"_s});
+    Temp().PutLines(kRetail, Lines(u"120.00"_s, u"60.00"_s));
+    Temp().PutLines(kWholesale, {});
+  }
+
+  TempData& Temp() { return world_.Temp(); }
+  static QStringList Lines(const QString& oolong, const QString& assam) {
+    return {u" Чай"_s,  u"Улун"_s, u"пач."_s,  u"90.00"_s, oolong,
+            u"Ассам"_s, u"пач."_s, u"45.00"_s, assam};
+  }
+  static RecordList* List(QWidget* screen) { return Find<RecordList>(screen, "ListView1"); }
+  static QString Cell(QWidget* screen, int row, int column) {
+    return List(screen)->model()->index(row, column).data().toString();
+  }
+  static QStringList Names(QWidget* screen) {
+    QStringList names;
+    for (int row = 0; row < List(screen)->model()->rowCount(); ++row) {
+      names.append(Cell(screen, row, 0));
+    }
+    return names;
+  }
+  static bool IsTicked(QWidget* screen, int row) {
+    return List(screen)->model()->index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+  }
+
+  ScreenWorld world_;
+};
+
+// Answers the quantity dialog of a pick from a price list.
+ModalAnswers::Step AnswerQuantityAndPrice(const QString& quantity, const QString& price) {
+  return [=](QWidget* dialog) {
+    for (const auto& [name, text] : {std::pair("Text1", quantity), std::pair("Text4", price)}) {
+      auto* field = Find<QLineEdit>(dialog, name);
+      field->selectAll();
+      Type(field, text);
+    }
+    Click(dialog, "Command1");
+  };
+}
+
+TEST_F(PriceScreens, ANewPriceIsInTheFileAtOnceAndCancelChangesNothing) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  const QAbstractItemModelTester tester(List(&screen)->model());
+  EXPECT_EQ(Cell(&screen, 1, 3), u"120.00"_s);
+  List(&screen)->SelectRow(1);
+  const auto before = Temp().Tree();
+  {
+    ModalAnswers answers({Escape()});
+    QTest::keyClick(List(&screen), Qt::Key_Return);
+  }
+  EXPECT_EQ(Temp().Tree(), before);
+  ModalAnswers answers({[](QWidget* dialog) {
+    EXPECT_EQ(dialog->windowTitle(), u"Изменить цену в прайсе"_s);
+    EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), u"120.00"_s);
+    AnswerText(u"130.5"_s)(dialog);
+  }});
+  QTest::keyClick(List(&screen), Qt::Key_Return);
+  auto expected = before;
+  expected["0001/Лавка/PRICE/0001.prc"] = EncodeLines(Lines(u"130.50"_s, u"60.00"_s)).toStdString();
+  EXPECT_EQ(Temp().Tree(), expected);
+  EXPECT_EQ(Cell(&screen, 1, 3), u"130.50"_s);
+}
+
+TEST_F(PriceScreens, CopyChangeOfTheListAndPasteCarryAListOver) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  Click(&screen, "Command7");
+  Find<QComboBox>(&screen, "Combo2")->setCurrentIndex(1);
+  EXPECT_EQ(Cell(&screen, 2, 3), u"45.00"_s);
+  Click(&screen, "Command8");
+  EXPECT_EQ(Cell(&screen, 2, 3), u"60.00"_s);
+  EXPECT_EQ(Temp().Lines(kWholesale), Lines(u"120.00"_s, u"60.00"_s));
+}
+
+TEST_F(PriceScreens, TicksAreSavedOnTheWayOutAndNothingElse) {
+  auto expected = Temp().Tree();
+  {
+    Price screen(world_.Context());
+    ShowActive(&screen);
+    EXPECT_TRUE(IsTicked(&screen, 2));
+    List(&screen)->SelectRow(1);
+    QTest::keyClick(List(&screen), Qt::Key_Space);
+    List(&screen)->SelectRow(0);
+    QTest::keyClick(List(&screen), Qt::Key_Space);
+    QTest::keyClick(List(&screen), Qt::Key_Delete);
+    Click(&screen, "Command3");
+    EXPECT_FALSE(screen.isVisible());
+  }
+  expected["0001/marked"] = EncodeLines({u"Улун"_s, u"Ассам"_s}).toStdString();
+  EXPECT_EQ(Temp().Tree(), expected);
+  EXPECT_EQ(world_.Settings().Read(settings::kPriceGroups), u"True"_s);
+  EXPECT_EQ(world_.Settings().Read(settings::kPriceGoodsOnly), u"False"_s);
+}
+
+TEST_F(PriceScreens, SwitchingToGoodsOnlySavesTicksAndASaveThereDropsTheGroups) {
+  {
+    Price screen(world_.Context());
+    ShowActive(&screen);
+    List(&screen)->SelectRow(1);
+    QTest::keyClick(List(&screen), Qt::Key_Space);
+    Find<QRadioButton>(&screen, "op2")->click();
+    EXPECT_EQ(Temp().Lines(kMarked), (QStringList{u"Улун"_s, u"Ассам"_s}));
+    EXPECT_EQ(Names(&screen), (QStringList{u"Ассам"_s, u"Улун"_s}));
+    Click(&screen, "Command5");
+    screen.close();
+  }
+  EXPECT_EQ(Temp().Lines(kRetail), (QStringList{u"Ассам"_s, u"пач."_s, u"45.00"_s, u"60.00"_s,
+                                                u"Улун"_s, u"пач."_s, u"90.00"_s, u"120.00"_s}));
+  Price again(world_.Context());
+  EXPECT_EQ(Names(&again), (QStringList{u"Ассам"_s, u"Улун"_s})) << "the view is remembered";
+}
+
+TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  const auto before = Temp().Tree();
+  List(&screen)->SelectRow(1);
+  Click(&screen, "GoldButton1");
+  auto* picker = screen.findChild<QWidget*>(u"sprTovar"_s);
+  ASSERT_NE(picker, nullptr);
+  EXPECT_FALSE(picker->isModal());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(picker));
+  List(picker)->SelectRow(2);
+  ModalAnswers answers({AnswerText(u"12"_s)});
+  QTest::keyClick(List(picker), Qt::Key_Return);
+  EXPECT_EQ(Names(&screen), (QStringList{u" Чай"_s, u"Улун"_s, u"Ассам"_s, u"Ассам"_s}));
+  const QModelIndex name = List(&screen)->model()->index(2, 0);
+  EXPECT_EQ(Cell(&screen, 2, 2), u"45.00"_s);
+  EXPECT_EQ(Cell(&screen, 2, 3), u"12"_s);
+  EXPECT_EQ(name.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0, 0, 255));
+  EXPECT_TRUE(name.data(Qt::FontRole).value<QFont>().bold());
+  EXPECT_EQ(Temp().Tree(), before);
+  Click(&screen, "Command10");
+  EXPECT_EQ(Names(&screen), (QStringList{u" Чай"_s, u"Улун"_s, u"Ассам"_s}));
+}
+
+TEST_F(PriceScreens, APickerLeftOpenClosesWithTheScreenAndKeepsItsView) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  Click(&screen, "GoldButton1");
+  auto* picker = screen.findChild<QWidget*>(u"sprTovar"_s);
+  ASSERT_NE(picker, nullptr);
+  Find<QRadioButton>(picker, "op2")->click();
+  Click(&screen, "Command3");
+  EXPECT_FALSE(picker->isVisible());
+  EXPECT_EQ(world_.Settings().Read(settings::kGoodsGoodsOnly), u"True"_s);
+}
+
+TEST_F(PriceScreens, RemovedRowsLeaveTheFileWithTheNextSave) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  List(&screen)->SelectRow(0);
+  QTest::keyClick(List(&screen), Qt::Key_Down, Qt::ShiftModifier);
+  Click(&screen, "GoldButton2");
+  EXPECT_EQ(Temp().Lines(kRetail), Lines(u"120.00"_s, u"60.00"_s));
+  Click(&screen, "Command5");
+  EXPECT_EQ(Temp().Lines(kRetail), (QStringList{u"Ассам"_s, u"пач."_s, u"45.00"_s, u"60.00"_s}));
+}
+
+TEST_F(PriceScreens, ASellerSeesNoCostAndChangesCopiesAndPastesNothing) {
+  world_.TheSession().role = UserRole::kSeller;
+  Temp().PutLines(u"temp.prc"_s, {u"Улун"_s, u"пач."_s, u"1.00"_s, u"1.00"_s});
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  EXPECT_TRUE(List(&screen)->isColumnHidden(2));
+  const auto before = Temp().Tree();
+  for (const char* command : {"Command2", "Command7", "Command8"}) {
+    ModalAnswers answers({[](QWidget* dialog) {
+      EXPECT_EQ(dialog->windowTitle(), u"Продавец"_s);
+      Press(QMessageBox::Ok, u"У вас не достаточно полномочий"_s)(dialog);
+    }});
+    Click(&screen, command);
+  }
+  EXPECT_EQ(Temp().Tree(), before);
+}
+
+TEST_F(PriceScreens, AWarehouseWithoutListsShowsNothingAndKeepsTheTicks) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  Find<QComboBox>(&screen, "Combo1")->setCurrentIndex(1);
+  EXPECT_EQ(Find<QComboBox>(&screen, "Combo2")->count(), 0);
+  EXPECT_EQ(Names(&screen), QStringList());
+  const auto before = Temp().Tree();
+  Click(&screen, "Command5");
+  screen.close();
+  EXPECT_EQ(Temp().Tree(), before);
+}
+
+TEST_F(PriceScreens, AFailedSaveIsToldAndTheRowKeepsItsPrice) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  List(&screen)->SelectRow(1);
+  const auto before = Temp().Tree();
+  syscalls::SetFaultHook([](std::string_view, const QByteArray&) { return ENOSPC; });
+  ModalAnswers answers({AnswerText(u"1"_s), [](QWidget* dialog) {
+                          EXPECT_EQ(dialog->windowTitle(), u"Внимание!"_s);
+                          Press(QMessageBox::Ok)(dialog);
+                        }});
+  QTest::keyClick(List(&screen), Qt::Key_Return);
+  syscalls::SetFaultHook({});
+  EXPECT_EQ(Cell(&screen, 1, 3), u"120.00"_s);
+  EXPECT_EQ(Temp().Tree(), before);
+}
+
+TEST_F(PriceScreens, ThePickerHandsOverWhatWasAnsweredAndStaysOpen) {
+  price2 screen(world_.Context(), u"Лавка"_s);
+  ShowActive(&screen);
+  std::vector<GoodsPick> picks;
+  QObject::connect(&screen, &price2::Picked, [&](const GoodsPick& pick) { picks.push_back(pick); });
+  EXPECT_FALSE(Find<QComboBox>(&screen, "Combo1")->isEnabled());
+  Find<QComboBox>(&screen, "Combo2")->setCurrentIndex(1);
+
+  List(&screen)->SelectRow(0);
+  QTest::keyClick(List(&screen), Qt::Key_Return);  // a group asks nothing
+  List(&screen)->SelectRow(2);
+  {
+    ModalAnswers answers({Escape()});
+    QTest::keyClick(List(&screen), Qt::Key_Return);
+  }
+  EXPECT_TRUE(picks.empty());
+  {
+    ModalAnswers answers({[](QWidget* dialog) {
+      EXPECT_EQ(dialog->windowTitle(), u"Товар"_s);
+      EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), u"1"_s);
+      EXPECT_EQ(Find<QLineEdit>(dialog, "Text4")->text(), u"45.00"_s);
+      AnswerQuantityAndPrice(u"2.5"_s, u"50"_s)(dialog);
+    }});
+    Click(&screen, "Command6");
+  }
+  EXPECT_TRUE(screen.isVisible());
+  ASSERT_EQ(picks.size(), 1u);
+  EXPECT_EQ(picks[0].name, u"Ассам"_s);
+  EXPECT_EQ(picks[0].quantity, u"2.5"_s);
+  EXPECT_EQ(picks[0].unit, u"пач."_s);
+  EXPECT_EQ(picks[0].cost, u"45.00"_s);
+  EXPECT_EQ(picks[0].price, u"50.00"_s);
+  Click(&screen, "Command3");
+  EXPECT_FALSE(screen.isVisible());
+}
+
+TEST_F(PriceScreens, TypingInTheListSearchesByTheBeginningOfAName) {
+  Price screen(world_.Context());
+  ShowActive(&screen);
+  List(&screen)->setFocus();
+  Type(List(&screen), u"а"_s);
+  EXPECT_EQ(List(&screen)->CurrentRow(), 2);
+  EXPECT_TRUE(Find<QLineEdit>(&screen, "search")->hasFocus());
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,98 @@
+// A Database with two firms, a client and goods, a document to print, and a desk that tells what
+// the screens hand to the viewer.
+#pragma once
+
+#include <QComboBox>
+
+#include "ScreenDriver.h"
+#include "books/printing/Pages.h"
+#include "books/stock/PrintSource.h"
+#include "formats/CurrencyFile.h"
+
+namespace kladez {
+
+class PrintWorld {
+ public:
+  PrintWorld() {
+    using namespace Qt::StringLiterals;
+    Session& session = world_.TheSession();
+    session.basedir = u"0001\\"_s;
+    session.rub = u"руб."_s;
+    session.firma = {u"Первая"_s, u"Вторая <&>"_s};
+    session.Klient = {u"Ромашка"_s};
+    session.Post = {u"Завод"_s};
+    session.SkladNames = {u"Главный склад"_s, u"Магазин"_s};
+    const TempData& temp = world_.Temp();
+    temp.Put(u"0001\\currency.usd"_s, WriteCurrency(RoubleCurrency()));
+    QStringList firms;
+    for (const QString& name : session.firma) {
+      firms << name;
+      for (int line = 2; line <= 15; ++line) firms << name.left(6) + QString::number(line);
+    }
+    temp.PutLines(u"0001\\SPR\\firma.spr"_s, firms);
+    QStringList client = {u"Ромашка"_s};
+    for (int line = 2; line <= 14; ++line) client << u"к"_s + QString::number(line);
+    temp.PutLines(u"0001\\SPR\\klient.spr"_s, client);
+    temp.PutLines(u"0001\\SPR\\товар.spr"_s,
+                  {u" Чай"_s, u"Чай <&>"_s, u"Индия"_s, u"ГТД/1"_s, u"пач."_s, u"1.00"_s});
+    source.number = u"5"_s;
+    source.date = u"12.03.2026"_s;
+    source.party = u"Ромашка"_s;
+    source.warehouse = u"Главный склад"_s;
+    source.total = u"1180.00"_s;
+    source.discount = u"10"_s;
+    source.lines = {{u"Чай <&>"_s, u"10"_s, u"пач."_s, u"60"_s, u"118.00"_s, u"106.20"_s}};
+  }
+
+  ScreenWorld* operator->() { return &world_; }
+
+  // What screens are given here: when the viewer starts, the desk notes whether the screen was
+  // gone.
+  AppContext& Context() { return context_; }
+  void Watch(QWidget* screen) { screen_ = screen; }
+  bool ScreenWasClosedFirst() const { return closed_first_; }
+  int ViewerStarts() const { return viewer_starts_; }
+  QByteArray PageShown() { return world_.Temp().Bytes(QStringLiteral("out.htm")); }
+
+  PrintSource source;
+
+ private:
+  ScreenWorld world_;
+  QWidget* screen_ = nullptr;
+  bool closed_first_ = false;
+  int viewer_starts_ = 0;
+  PrintOutDesk desk_{world_.Temp().Data(), [this] {
+                       ++viewer_starts_;
+                       closed_first_ = screen_ != nullptr && !screen_->isVisible();
+                     }};
+  AppContext context_{world_.Context().data, world_.Context().session, world_.Context().settings,
+                      world_.Context().clock, desk_};
+};
+
+// Puts a text into a field by typing over what stands there.
+inline void Enter(QWidget* screen, const char* name, const QString& text) {
+  auto* field = Find<QLineEdit>(screen, name);
+  field->setFocus();
+  field->selectAll();
+  Type(field, text);
+}
+
+inline QString TextOf(QWidget* screen, const char* name) {
+  return Find<QLineEdit>(screen, name)->text();
+}
+
+// The message that a load which fails leaves behind, told after the event at hand.
+inline ModalAnswers::Step InputErrorTold() {
+  return [](QWidget* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->text(), QStringLiteral("Ошибка ввода"));
+    EXPECT_EQ(box->windowTitle(), QStringLiteral("Внимание!"));
+    EXPECT_EQ(box->icon(), QMessageBox::Critical);
+    box->accept();
+  };
+}
+
+inline void LetMessagesCome() { QTest::qWait(50); }
+
+}  // namespace kladez

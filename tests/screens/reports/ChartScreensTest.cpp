@@ -1,0 +1,224 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "ScreenDriver.h"
+#include "books/reports/GifReader.h"
+#include "books/reports/ReportPageLines.h"
+#include "books/reports/ShipmentsOnDisk.h"
+#include "screens/reports/ChartImage.h"
+#include "screens/reports/ChartWidget.h"
+#include "screens/reports/graphic.h"
+#include "screens/reports/otgr.h"
+#include "screens/reports/otspeed.h"
+#include "screens/reports/waitplease.h"
+#include "ui/controls/Fields.h"
+#include "ui/controls/RecordList.h"
+#include "viewer/page/PageReader.h"
+#include "viewer/paper/PaperLayout.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ChartScreens : public testing::Test, protected ScreenWorld {
+ protected:
+  ChartScreens() {
+    Temp().PutLines(u"0001\\spr\\товар.spr"_s,
+                    {u" Бакалея"_s, u"Чай"_s, u"Индия"_s, {}, u"пач."_s, u"30"_s});
+    Temp().Put(u"0001\\marked"_s, {});
+    books.Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"10"_s, u"36.00"_s,
+               {u"Чай"_s, u"2"_s, u"шт."_s, u"10"_s, u"20"_s, u"18.00"_s});
+    books.Ship(1, u"0001.uhd"_s, u"28.02.2025"_s, u"0"_s, u"20.00"_s,
+               {u"Соль"_s, u"1"_s, u"шт."_s, u"5"_s, u"20"_s, u"20.00"_s});
+  }
+
+  // Presses "Построить" and gives the grid that the chart screen shows.
+  ChartGrid Build(QDialog& screen) {
+    ChartGrid grid;
+    QString title;
+    const ModalAnswers answers{[&](QWidget* chart) {
+      EXPECT_EQ(chart->objectName(), u"graphic"_s);
+      EXPECT_FALSE(screen.isVisible());
+      grid = Find<ChartWidget>(chart, "MSChart1")->grid();
+      title = Find<QLabel>(chart, "title")->text();
+      Click(chart, "Command1");
+    }};
+    Click(&screen, "Command1");
+    EXPECT_EQ(title, grid.title);
+    return grid;
+  }
+
+  DocumentsOnDisk books{Temp(), TheSession()};
+};
+
+TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {
+  otgr by_year(Context());
+  ShowActive(&by_year);
+  EXPECT_EQ(Find<QComboBox>(&by_year, "Combo2")->currentText(), u"2026"_s);
+  EXPECT_EQ(Find<QComboBox>(&by_year, "Combo3")->currentText(), u"Ноябрь"_s);
+  EXPECT_FALSE(Find<QComboBox>(&by_year, "Combo3")->isEnabled());
+  const ChartGrid year = Build(by_year);
+  EXPECT_EQ(year.title, u"График продаж за 2026 год"_s);
+  ASSERT_EQ(year.RowCount(), 12);
+  EXPECT_EQ(year.Cell(10, 0), 36.0);
+  EXPECT_EQ(year.Cell(10, 1), 16.0);
+
+  otgr by_day(Context());
+  ShowActive(&by_day);
+  Find<QRadioButton>(&by_day, "Option2")->click();
+  EXPECT_TRUE(Find<QComboBox>(&by_day, "Combo3")->isEnabled());
+  EXPECT_TRUE(Find<QComboBox>(&by_day, "Combo2")->isEnabled());
+  Find<QComboBox>(&by_day, "Combo2")->setCurrentText(u"2025"_s);
+  Find<QComboBox>(&by_day, "Combo3")->setCurrentText(u"Февраль"_s);
+  const ChartGrid month = Build(by_day);
+  EXPECT_EQ(month.title, u"График продаж за Февраль 2025"_s);
+  ASSERT_EQ(month.RowCount(), 28);
+  EXPECT_EQ(month.Cell(27, 0), 20.0);
+}
+
+TEST_F(ChartScreens, GoodsAreAskedForAndPickedFromTheDirectory) {
+  otspeed screen(Context());
+  ShowActive(&screen);
+  auto* goods = Find<TextLine>(&screen, "Text1");
+  {
+    const ModalAnswers answers{[](QWidget* box) {
+      EXPECT_EQ(box->windowTitle(), u"Ошибка"_s);
+      Press(QMessageBox::Ok, u"Выбирите товар"_s)(box);
+    }};
+    Click(&screen, "Command1");
+  }
+  ASSERT_TRUE(screen.isVisible());
+  const auto pick = [](int row) {
+    return [row](QWidget* picker) {
+      EXPECT_EQ(picker->objectName(), u"sprtovar2"_s);
+      picker->findChild<RecordList*>()->SelectRow(row);
+      Click(picker, "Command7");
+    };
+  };
+  for (const auto& [row, expected] : {std::pair(0, QString()), std::pair(1, u"Чай"_s)}) {
+    const ModalAnswers answers{pick(row)};
+    Click(&screen, "Command3");
+    EXPECT_EQ(goods->text(), expected) << "a group closes the picker and picks nothing";
+  }
+  const ChartGrid grid = Build(screen);
+  EXPECT_EQ(grid.title, u"График реализации товара Чай за 2026 год"_s);
+  ASSERT_EQ(grid.columns.size(), 1u);
+  EXPECT_EQ(grid.Cell(10, 0), 2.0);
+}
+
+TEST_F(ChartScreens, ACutShipmentIsNamedAndNoChartIsShown) {
+  books.Ship(1, u"0002.uhd"_s, u"01.02.2020"_s, u"0"_s, u"0"_s, {u"Чай"_s, u"1"_s});
+  otspeed screen(Context(), u"Чай"_s, nullptr);
+  ShowActive(&screen);
+  const ModalAnswers answers{[](QWidget* box) {
+    auto* message = qobject_cast<QMessageBox*>(box);
+    ASSERT_NE(message, nullptr);
+    EXPECT_TRUE(message->text().contains(u"0002.uhd"_s)) << message->text().toStdString();
+    Press(QMessageBox::Ok)(box);
+  }};
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+}
+
+ChartGrid TeaGrid() {
+  ChartGrid grid =
+      NumberedChartGrid(u"График реализации товара <b>Чай</b> & Ко за 2026 год"_s, 12, {u"Кол"_s});
+  grid.Cell(10, 0) = 2.5;
+  return grid;
+}
+
+TEST_F(ChartScreens, OptionsChangeTheKindByTheirNumbers) {
+  graphic screen(Context(), TeaGrid());
+  ShowActive(&screen);
+  auto* chart = Find<ChartWidget>(&screen, "MSChart1");
+  EXPECT_TRUE(Find<QRadioButton>(&screen, "Option1")->isChecked());
+  EXPECT_EQ(static_cast<int>(chart->kind()), 0);
+  for (const auto& [option, kind] :
+       {std::pair("Option4", 3), std::pair("Option3", 1), std::pair("Option2", 2)}) {
+    Find<QRadioButton>(&screen, option)->click();
+    EXPECT_EQ(static_cast<int>(chart->kind()), kind) << option;
+  }
+}
+
+TEST_F(ChartScreens, ALongNameLeavesTheChartItsRoomAndTheTitleItsPeriod) {
+  for (const QString& name : {QString(3000, u'Ш'), u"Чай крупный лист "_s.repeated(200)}) {
+    ChartGrid grid = TeaGrid();
+    grid.title = u"График реализации товара "_s + name + u" за Февраль 2026"_s;
+    graphic screen(Context(), grid);
+    ShowActive(&screen);
+    const auto* chart = Find<ChartWidget>(&screen, "MSChart1");
+    EXPECT_LE(screen.width(), 1024);
+    EXPECT_GE(chart->height(), screen.height() / 2);
+    EXPECT_TRUE(Find<QLabel>(&screen, "title")->text().endsWith(u" за Февраль 2026"_s));
+    EXPECT_EQ(chart->grid().title, grid.title) << "the print-out has it whole";
+  }
+}
+
+TEST_F(ChartScreens, PrintedChartIsThePictureOnThePage) {
+  Temp().Put(u"temp.gif"_s, "the chart of yesterday");
+  graphic screen(Context(), TeaGrid());
+  ShowActive(&screen);
+  Find<QRadioButton>(&screen, "Option3")->click();
+  Click(&screen, "GoldButton1");
+  EXPECT_EQ(ViewerStarts(), 1);
+  EXPECT_TRUE(screen.isVisible());
+  const IndexedImage expected = RenderChartIndexed(TeaGrid(), ChartKind::k2DBars, QSize(1200, 640));
+  const IndexedImage printed = ReadGif(Temp().Bytes(u"temp.gif"_s));
+  EXPECT_EQ(printed.width, 1200);
+  EXPECT_EQ(printed.colours, expected.colours);
+  EXPECT_EQ(printed.pixels, expected.pixels);
+  EXPECT_EQ(
+      Temp().Bytes(u"out.htm"_s),
+      EncodeLines({PageHead(),
+                   u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>График реализации товара "
+                   "<b>Чай</b> & Ко за 2026 год</FONT></B><br><br><br>"_s,
+                   u"<img src=temp.gif>"_s, u"</center></table><p></p>"_s, u"</body></html>"_s}));
+}
+
+TEST_F(ChartScreens, PrintedChartStandsUnderItsTitleOnOneSheet) {
+  for (const QString& name : {u"Чай"_s, u"Чай крупный лист "_s.repeated(12)}) {
+    ChartGrid grid = TeaGrid();
+    grid.title = u"График реализации товара "_s + name + u" за Февраль 2026"_s;
+    graphic screen(Context(), grid);
+    ShowActive(&screen);
+    Click(&screen, "GoldButton1");
+    viewer::PaperLayout paper(std::make_shared<const viewer::Page>(
+        viewer::ReadPageFile(QDir(Temp().Root()), u"out.htm"_s)));
+    ASSERT_TRUE(paper.LayOut(paper.Propose({}), {}));
+    EXPECT_EQ(paper.SheetCount(), 1) << name.toStdString();
+  }
+}
+
+TEST_F(ChartScreens, TheWaitTellsWhatItIsFor) {
+  const ChartGrid grid = TeaGrid();
+  waitplease wait(Context(), grid, ChartKind::k3DBars);
+  EXPECT_EQ(wait.windowTitle(), u"График"_s);
+  EXPECT_EQ(Find<QLabel>(&wait, "Label1")->text(),
+            u"Формирование графика для предосмотра... Это займет около минуты."_s);
+}
+
+TEST_F(ChartScreens, AFailedPrintIsToldAndOpensNothing) {
+  QDir().mkpath(Temp().Root() + u"/temp.htm"_s);
+  graphic screen(Context(), TeaGrid());
+  ShowActive(&screen);
+  int messages = 0;
+  QTimer answer;  // the waiting screen comes and goes by itself
+  QObject::connect(&answer, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    ++messages;
+    QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+  });
+  answer.start(5);
+  Click(&screen, "GoldButton1");
+  EXPECT_EQ(messages, 1);
+  EXPECT_EQ(ViewerStarts(), 0);
+  EXPECT_TRUE(screen.isVisible());
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QRadioButton>
+
+#include "ScreenDriver.h"
+#include "books/reports/ReportPageLines.h"
+#include "books/reports/ShipmentsOnDisk.h"
+#include "screens/reports/otppr.h"
+#include "screens/reports/otpruh.h"
+#include "screens/reports/otrpt.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ReportScreens : public testing::Test, protected ScreenWorld {
+ protected:
+  ReportScreens() {
+    books_.Ship(0, u"0001.uhd"_s, u"05.11.2025"_s, u"50"_s, u"2.00"_s,
+                {u"Чай"_s, u"2"_s, u"пач."_s, u"1.50"_s, u"2.00"_s, u"1.00"_s});
+    books_.Ship(1, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"30.00"_s,
+                {u"Сахар"_s, u"3"_s, u"кг"_s, u"8"_s, u"10"_s, u"10.00"_s});
+    books_.Ship(1, u"0002.uhd"_s, u"01.10.2026"_s, u"0"_s, u"70.00"_s,
+                {u"Соль"_s, u"7"_s, u"кг"_s, u"5"_s, u"10"_s, u"10.00"_s});
+    books_.Receive(0, u"0001.prh"_s, u"22.11.2026"_s, u"12.50"_s);
+  }
+
+  // The report as it is asked for on its screen; the lines of the print-out.
+  template <typename Screen>
+  QStringList Run(const std::function<void(QWidget*)>& choose) {
+    Screen screen(Context());
+    ShowActive(&screen);
+    choose(&screen);
+    Click(&screen, "Command1");
+    EXPECT_FALSE(screen.isVisible());
+    EXPECT_FALSE(Temp().Data().FileExists(u"temp.htm"_s)) << "the page becomes out.htm";
+    EXPECT_EQ(ViewerStarts(), 1);
+    return Temp().Lines(u"out.htm"_s);
+  }
+
+  static std::function<void(QWidget*)> Choose(const char* option) {
+    return [option](QWidget* screen) { Find<QRadioButton>(screen, option)->click(); };
+  }
+
+ private:
+  DocumentsOnDisk books_{Temp(), TheSession()};
+};
+
+TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {
+  otppr sales(Context());
+  otrpt speed(Context());
+  otpruh flow(Context());
+  const std::vector<std::tuple<QDialog*, QString, QString>> screens = {
+      {&sales, u"otppr"_s, u"Отчет по продажам"_s},
+      {&speed, u"otrpt"_s, u"Скорость реализации"_s},
+      {&flow, u"otpruh"_s, u"Отчет по поступлению/реализации"_s}};
+  for (const auto& [dialog, name, caption] : screens) {
+    EXPECT_EQ(dialog->objectName(), name);
+    EXPECT_EQ(dialog->windowTitle(), caption);
+    auto* warehouses = Find<QComboBox>(dialog, "Combo1");
+    EXPECT_EQ(warehouses->count(), 3);
+    EXPECT_EQ(warehouses->itemText(2), u"ВСЕ СКЛАДЫ"_s);
+    EXPECT_EQ(warehouses->currentIndex(), 2);
+    for (const char* date : {"from", "to"}) {
+      EXPECT_EQ(Find<QDateEdit>(dialog, date)->date(), QDate(2026, 11, 22));
+      EXPECT_FALSE(Find<QDateEdit>(dialog, date)->isEnabled());
+    }
+    Find<QRadioButton>(dialog, "range")->click();
+    EXPECT_TRUE(Find<QDateEdit>(dialog, "to")->isEnabled());
+    Find<QRadioButton>(dialog, "current_month")->click();
+    EXPECT_FALSE(Find<QDateEdit>(dialog, "from")->isEnabled());
+  }
+}
+
+TEST_F(ReportScreens, SpeedOfTheCurrentMonthCountsThatMonthOfBothYears) {
+  const ReportTable table{{25, 10, 10, 10, 10}, 1};
+  EXPECT_EQ(Run<otrpt>(Choose("current_month")),
+            (ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s, u"Месяц: Ноябрь"_s) +
+             QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
+                                      u"Прибыль"_s}),
+                         table.Row({u"Сахар"_s, u"кг"_s, u"3"_s, u"30.00"_s, u"6.00"_s}),
+                         table.Row({u"Чай"_s, u"пач."_s, u"2"_s, u"4.00"_s, u"1.00"_s}),
+                         table.Total({u"ИТОГО:"_s, {}, u"5"_s, u"34.00"_s, u"7.00"_s})} +
+             ReportEnd()));
+}
+
+TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
+  const ReportTable table{{25, 10, 10, 10}, 1};
+  const auto choose = [](QWidget* screen) {
+    Find<QComboBox>(screen, "Combo1")->setCurrentIndex(1);
+    Find<QRadioButton>(screen, "range")->click();
+    Find<QDateEdit>(screen, "from")->setDate(QDate(2026, 10, 1));
+  };
+  EXPECT_EQ(Run<otpruh>(choose),
+            (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"Магазин"_s,
+                         u"Период: с 01.10.2026 по 22.11.2026"_s) +
+             QStringList{table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
+                         table.Row({u"01.10.26"_s, u"0.00"_s, u"70.00"_s, u"70.00"_s}),
+                         table.Row({u"22.11.26"_s, u"0.00"_s, u"30.00"_s, u"30.00"_s}),
+                         table.Total({u"ИТОГО:"_s, u"0.00"_s, u"100.00"_s, u"100.00"_s})} +
+             ReportEnd()));
+}
+
+TEST_F(ReportScreens, SalesOfAllDocumentsComeOldestFirst) {
+  const ReportTable table{{5, 30, 10, 10, 10}, 2};
+  EXPECT_EQ(Run<otppr>(Choose("all")),
+            (ReportStart(u"Отчет по продажам"_s, u"ВСЕ СКЛАДЫ"_s) +
+             QStringList{table.Heads({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s}),
+                         table.Row({u"05.11.25"_s, u"Чай"_s, u"пач."_s, u"2"_s, u"2.00"_s}),
+                         table.Row({u"01.10.26"_s, u"Соль"_s, u"кг"_s, u"7"_s, u"70.00"_s}),
+                         table.Row({u"22.11.26"_s, u"Сахар"_s, u"кг"_s, u"3"_s, u"30.00"_s}),
+                         table.Total({u"ИТОГО:"_s, {}, {}, u"12"_s, u"102.00"_s})} +
+             ReportEnd()));
+}
+
+TEST_F(ReportScreens, CancellingWritesNothing) {
+  const auto before = Temp().Tree();
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    otppr screen(Context());
+    ShowActive(&screen);
+    if (key == Qt::Key_Escape) {
+      QTest::keyClick(&screen, key);
+    } else {
+      Click(&screen, "Command2");
+    }
+    EXPECT_FALSE(screen.isVisible());
+  }
+  EXPECT_EQ(Temp().Tree(), before);
+  EXPECT_EQ(ViewerStarts(), 0);
+}
+
+TEST_F(ReportScreens, APageThatCantBeWrittenIsToldAndTheScreenStays) {
+  QDir().mkpath(Temp().Root() + u"/temp.htm"_s);
+  otppr screen(Context());
+  ShowActive(&screen);
+  const ModalAnswers answers{Press(QMessageBox::Ok)};
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_EQ(ViewerStarts(), 0);
+}
+
+}  // namespace
+}  // namespace kladez

@@ -1,0 +1,331 @@
+#include <QAbstractItemModelTester>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QPushButton>
+
+#include "books/stock/DocumentWorld.h"
+#include "screens/directories/colvo.h"
+#include "screens/stock/change.h"
+#include "screens/stock/documents/PrihNew.h"
+#include "screens/stock/documents/TovPrih.h"
+#include "screens/stock/documents/TovPrih_Ass.h"
+#include "screens/stock/documents/TovUhod_Ass.h"
+#include "screens/stock/documents/UhodNew.h"
+#include "screens/stock/documents/vnutr.h"
+#include "screens/stock/documents/vnutrNew.h"
+#include "ui/controls/Forms.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Editors : public testing::Test {
+ protected:
+  QStringList Lines(const QString& path) { return world_.Temp().Lines(u"0001\\"_s + path); }
+
+  DocumentWorld world_;
+};
+
+// From the empty register to the ledger by keys alone.
+TEST_F(Editors, AReceiptIsEnteredPickedClosedAndPosted) {
+  TovPrih screen(world_.Context());
+  ShowActive(&screen);
+  ModalAnswers answers({
+      [&](QWidget* editor) {
+        EXPECT_EQ(editor->objectName(), u"PrihNew");
+        EXPECT_EQ(TextOf(editor, "number"), u"1");
+        Click(editor, "ok");  // nothing to save yet: it stays
+        EXPECT_TRUE(editor->isVisible());
+        QTest::keyClick(ListOf(editor), Qt::Key_Insert);
+        EXPECT_EQ(RowTexts(editor, 0),
+                  QStringList({u"Чай"_s, u"2.5"_s, u"шт."_s, u"45.50"_s, u"113.75"_s}));
+        EXPECT_EQ(TextOf(editor, "Text2"), u"113.75");
+        Enter(editor, "number", u"15/а"_s);
+        Find<TextChoice>(editor, "party")->Choose(u"ООО Заря"_s);
+        Find<DateField>(editor, "date")->setDate(QDate(2026, 11, 5));
+        Find<QCheckBox>(editor, "Check1")->click();
+        Click(editor, "ok");
+      },
+      [](QWidget* picker) {
+        EXPECT_EQ(picker->objectName(), u"sprtovar2");
+        auto* list = picker->findChild<RecordList*>();
+        list->SelectRow(1);
+        QTest::keyClick(list, Qt::Key_Return);
+      },
+      [](QWidget* question) {
+        EXPECT_EQ(question->objectName(), u"colvo");
+        EXPECT_EQ(TextOf(question, "Text1"), u"1");
+        EXPECT_EQ(TextOf(question, "Text4"), u"45.50");
+        Enter(question, "Text1", u"2.5"_s);
+        QTest::keyClick(question->focusWidget(), Qt::Key_Return);
+      },
+  });
+  QTest::keyClick(ListOf(&screen), Qt::Key_Insert);
+  EXPECT_EQ(Lines(u"Склад\\PRH\\0001.prh"_s),
+            QStringList({u"15/а"_s, u"05.11.2026"_s, u"ООО Заря"_s, u"113.75"_s, u"да"_s, u"Чай"_s,
+                         u"2.5"_s, u"шт."_s, u"45.50"_s}));
+  EXPECT_EQ(Lines(u"Склад\\товар.usl"_s), QStringList({u"Чай"_s, u"2.5"_s, u"шт."_s}));
+  EXPECT_EQ(ListOf(&screen)->Records()->rowCount(), 1);
+}
+
+TEST_F(Editors, CancelWritesNothing) {
+  const auto before = world_.Temp().Tree();
+  PrihNew editor(world_.Context(),
+                 DocumentDraft::New(world_.In(DocumentKind::kReceipt), QDate(2026, 11, 22)));
+  ShowActive(&editor);
+  Find<QCheckBox>(&editor, "Check1")->click();
+  Click(&editor, "cancel");
+  EXPECT_FALSE(editor.isVisible());
+  EXPECT_EQ(world_.Temp().Tree(), before);
+}
+
+TEST_F(Editors, TheDivideKeyChangesALineAndTheSumFollows) {
+  world_.Put(DocumentKind::kReceipt);
+  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  ShowActive(&editor);
+  ModalAnswers answers({[](QWidget* dialog) {
+    EXPECT_EQ(dialog->objectName(), u"change");
+    EXPECT_EQ(TextOf(dialog, "Text1"), u"Чай");
+    EXPECT_EQ(TextOf(dialog, "Text4"), u"60.00");
+    Enter(dialog, "Text2", u"0.333"_s);
+    EXPECT_EQ(TextOf(dialog, "Text5"), u"19.98");
+    Enter(dialog, "Text4", u"10"_s);
+    EXPECT_EQ(TextOf(dialog, "Text5"), u"3.33");
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+  }});
+  QTest::keyClick(ListOf(&editor), Qt::Key_Slash, Qt::KeypadModifier);
+  EXPECT_EQ(RowTexts(&editor, 0),
+            QStringList({u"Чай"_s, u"0.333"_s, u"шт."_s, u"10.00"_s, u"3.33"_s}));
+  EXPECT_EQ(TextOf(&editor, "Text2"), u"3.33");
+}
+
+TEST_F(Editors, AProductThatOverflowsLeavesTheAmountAsItIsShown) {
+  world_.Put(DocumentKind::kReceipt);
+  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  ShowActive(&editor);
+  ModalAnswers answers({[](QWidget* dialog) {
+    Enter(dialog, "Text4", u"70"_s);
+    EXPECT_EQ(TextOf(dialog, "Text5"), u"210.00");
+    Find<QLineEdit>(dialog, "Text2")->setText(QString(308, u'9'));
+    EXPECT_EQ(TextOf(dialog, "Text5"), u"210.00");
+    Click(dialog, "Command1");
+  }});
+  QTest::keyClick(ListOf(&editor), Qt::Key_Slash, Qt::KeypadModifier);
+  EXPECT_EQ(RowTexts(&editor, 0).last(), u"210.00");
+  EXPECT_EQ(TextOf(&editor, "Text2"), u"210.00");
+}
+
+TEST_F(Editors, ARemovedLineIsAskedForAndLowersTheSum) {
+  world_.Put(DocumentKind::kShipment);
+  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  ShowActive(&editor);
+  {
+    ModalAnswers answers({Press(QMessageBox::No, u"Вы уверены?"_s)});
+    QTest::keyClick(ListOf(&editor), Qt::Key_Delete);
+  }
+  EXPECT_EQ(TextOf(&editor, "Text2"), u"180.00");
+  {
+    ModalAnswers answers({Press(QMessageBox::Yes, u"Вы уверены?"_s)});
+    QTest::keyClick(ListOf(&editor), Qt::Key_Delete);
+  }
+  EXPECT_EQ(TextOf(&editor, "Text2"), u"0.00");
+  EXPECT_EQ(ListOf(&editor)->Records()->rowCount(), 0);
+  QAbstractItemModelTester(ListOf(&editor)->model(),
+                           QAbstractItemModelTester::FailureReportingMode::Fatal);
+}
+
+TEST_F(Editors, TheDiscountedSumFollowsSumAndPercent) {
+  world_.Put(DocumentKind::kShipment);
+  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  ShowActive(&editor);
+  EXPECT_EQ(TextOf(&editor, "DecText1"), u"180.00");
+  Enter(&editor, "Text19", u"12.5"_s);
+  EXPECT_EQ(TextOf(&editor, "DecText1"), u"157.50");
+  Enter(&editor, "Text2", u"100"_s);
+  EXPECT_EQ(TextOf(&editor, "DecText1"), u"87.50");
+  Click(&editor, "ok");
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3),
+            QStringList({u"100.00"_s, u"12.5"_s, u"87.50"_s}));
+}
+
+TEST_F(Editors, AnEmptiedSumOrDiscountIsSavedAsTheZeroThatItsFieldShows) {
+  world_.Put(DocumentKind::kShipment);
+  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  ShowActive(&editor);
+  for (const char* name : {"Text19", "Text2"}) {
+    auto* field = Find<QLineEdit>(&editor, name);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete);
+    EXPECT_EQ(field->text(), u"0"_s) << name;
+  }
+  Click(&editor, "ok");
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3),
+            QStringList({u"0.00"_s, u"0"_s, u"0.00"_s}));
+}
+
+TEST_F(Editors, TheCaretStaysWhereADigitOfTheSumIsTyped) {
+  world_.Put(DocumentKind::kReceipt);
+  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  ShowActive(&editor);
+  auto* sum = Find<QLineEdit>(&editor, "Text2");
+  sum->setFocus();
+  sum->setCursorPosition(1);
+  Type(sum, u"23"_s);
+  EXPECT_EQ(sum->text(), u"12380.00"_s);
+}
+
+TEST_F(Editors, AClosedDocumentKeepsItsFlagAndItsPartyThatIsGone) {
+  world_.TheSession().Klient << u"Бывший клиент"_s;
+  DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kShipment), QDate(2026, 11, 22));
+  draft.SetParty(u"Бывший клиент"_s);
+  draft.SetClosed(true);
+  draft.AddLine(
+      {.name = u"Чай"_s, .quantity = u"1"_s, .unit = u"шт."_s, .cost = u"1"_s, .price = u"1"_s});
+  draft.Save();
+  world_.TheSession().Klient.removeLast();
+  const auto before = world_.Temp().Tree();
+  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  ShowActive(&editor);
+  EXPECT_TRUE(Find<QCheckBox>(&editor, "Check1")->isChecked());
+  EXPECT_FALSE(Find<QCheckBox>(&editor, "Check1")->isEnabled());
+  Click(&editor, "ok");
+  EXPECT_EQ(world_.Temp().Tree(), before);
+}
+
+TEST_F(Editors, ATransferWithinOneWarehouseIsRefusedInWords) {
+  vnutrNew editor(world_.Context(),
+                  DocumentDraft::New(world_.In(DocumentKind::kTransfer), QDate(2026, 11, 22)));
+  ShowActive(&editor);
+  Find<TextChoice>(&editor, "destination")->Choose(u"Склад"_s);
+  {
+    ModalAnswers answers({[](QWidget* box) {
+      EXPECT_EQ(box->windowTitle(), u"Внимание!");
+      Press(QMessageBox::Ok, u"Выбирите разные склады"_s)(box);
+    }});
+    Click(&editor, "ok");
+  }
+  EXPECT_TRUE(editor.isVisible());
+  EXPECT_EQ(world_.Temp().Data().FileExists(u"0001\\ВНПЕР\\0001.vpr"_s), false);
+}
+
+TEST_F(Editors, AWarehouseWithoutALedgerIsNotChosen) {
+  QFile::remove(world_.Temp().Data().Resolve(u"0001\\Магазин\\товар.usl"_s));
+  world_.TheSession().SkladNames = {u"Склад"_s};
+  DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kTransfer), QDate(2026, 11, 22));
+  world_.TheSession().SkladNames << u"Магазин"_s;
+  vnutrNew editor(world_.Context(), std::move(draft));
+  ShowActive(&editor);
+  ModalAnswers answers({Press(QMessageBox::Ok)});
+  Find<QComboBox>(&editor, "destination")->setCurrentText(u"Магазин"_s);
+  EXPECT_EQ(Find<TextChoice>(&editor, "destination")->Chosen(), u"Склад");
+}
+
+TEST_F(Editors, TheSellerSeesNoCostsAndTheFileKeepsThem) {
+  world_.Put(DocumentKind::kShipment, true);
+  for (const UserRole role : {UserRole::kSeller, UserRole::kDirector, UserRole::kNone}) {
+    world_.TheSession().role = role;
+    UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+    TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+    for (QWidget* screen : {static_cast<QWidget*>(&editor), static_cast<QWidget*>(&properties)}) {
+      EXPECT_EQ(ListOf(screen)->isColumnHidden(3), role == UserRole::kSeller);
+      EXPECT_FALSE(ListOf(screen)->isColumnHidden(4));
+    }
+    if (role != UserRole::kSeller) continue;
+    ShowActive(&editor);
+    Click(&editor, "ok");
+    EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).value(10), u"45.50");
+  }
+}
+
+TEST_F(Editors, PropertiesShowTheFileAndOpenThePrints) {
+  world_.Put(DocumentKind::kShipment, true);
+  TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+  ShowActive(&properties);
+  EXPECT_EQ(properties.windowTitle(), u"Свойства накладной ухода товара N 1");
+  EXPECT_EQ(TextOf(&properties, "Text4"), u"180.00");
+  EXPECT_EQ(TextOf(&properties, "Text3"), u"0");
+  EXPECT_EQ(TextOf(&properties, "closed"), u"да");
+  EXPECT_EQ(RowTexts(&properties, 0),
+            QStringList({u"Чай"_s, u"3"_s, u"шт."_s, u"45.50"_s, u"60.00"_s, u"60.00"_s,
+                         u"180.00"_s, u"180.00"_s}));
+  const std::pair<const char*, QString> prints[] = {{"prn", u"PrihNakl"_s},
+                                                    {"prs", u"chFactPrint"_s},
+                                                    {"prp", u"PrihPrint"_s},
+                                                    {"pri", u"UhodSch"_s}};
+  for (const auto& [entry, screen] : prints) {
+    ModalAnswers answers({[&](QWidget* dialog) {
+      EXPECT_EQ(dialog->objectName(), screen);
+      QTest::keyClick(dialog, Qt::Key_Escape);
+    }});
+    Find<QAction>(&properties, entry)->trigger();
+  }
+}
+
+// Documents from before the decimal point was fixed have a comma in their figures.
+TEST_F(Editors, PropertiesPrintTheFiguresOfADocumentWithDecimalCommas) {
+  world_.Temp().PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
+                         {u"1"_s, u"22.11.2026"_s, u"-"_s, u"180,00"_s, u"2,5"_s, u"175,50"_s,
+                          u"да"_s, u"Чай"_s, u"3"_s, u"шт."_s, u"45.50"_s, u"60.00"_s, u"58.50"_s});
+  TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+  ShowActive(&properties);
+  EXPECT_EQ(TextOf(&properties, "Text3"), u"2.5");
+  EXPECT_EQ(TextOf(&properties, "net_sum"), u"175.50");
+  for (const char* entry : {"prn", "prs", "pri"}) {
+    ModalAnswers answers({[&](QWidget* screen) {
+      EXPECT_EQ(TextOf(screen, "Text6"), QLatin1String(entry) == "prn"_L1 ? u"180.00" : u"175.50");
+      EXPECT_EQ(TextOf(screen, "Text19"), u"2.5");
+      EXPECT_TRUE(TextOf(screen, "Text20").startsWith(u"Сто семьдесят ")) << entry;
+      QTest::keyClick(screen, Qt::Key_Escape);
+    }});
+    Find<QAction>(&properties, entry)->trigger();
+  }
+}
+
+TEST_F(Editors, EachPrintCommandOpensItsScreen) {
+  world_.Put(DocumentKind::kReceipt);
+  world_.Put(DocumentKind::kTransfer);
+  PrihNew receipt(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  vnutrNew transfer(world_.Context(), world_.Open(DocumentKind::kTransfer, u"0001.vpr"_s));
+  TovPrih_Ass properties(world_.Context(), u"Склад"_s, u"0001.prh"_s);
+  const std::tuple<QWidget*, const char*, QString> prints[] = {
+      {&receipt, "prn", u"prihnokl"_s},
+      {&transfer, "prn", u"vnNakl"_s},
+      {&properties, "print", u"prihnokl"_s}};
+  for (const auto& [screen, button, name] : prints) {
+    ShowActive(screen);
+    ModalAnswers answers({[&, expected = name](QWidget* dialog) {
+      EXPECT_EQ(dialog->objectName(), expected);
+      QTest::keyClick(dialog, Qt::Key_Escape);
+    }});
+    Click(screen, button);
+    screen->hide();
+  }
+}
+
+TEST_F(Editors, AskQuantityAnswersWhatWasEnteredOrNothing) {
+  {
+    ModalAnswers answers({[](QWidget* dialog) {
+      EXPECT_EQ(dialog->windowTitle(), u"Товар");
+      Type(dialog->focusWidget(), u"1.125"_s);
+      Enter(dialog, "Text4", u"7.5"_s);
+      QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    }});
+    const auto answer = AskQuantity(nullptr, u"Товар"_s, u"Кол-во:"_s, u"1"_s, u"60.00"_s);
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_EQ(answer->quantity, u"1.125");
+    EXPECT_EQ(answer->price, u"7.50");
+  }
+  {
+    ModalAnswers answers({[](QWidget* dialog) {
+      EXPECT_FALSE(dialog->findChild<QWidget*>(u"Text4"_s)->isVisible());
+      QTest::keyClick(dialog, Qt::Key_Escape);
+    }});
+    EXPECT_FALSE(AskQuantity(nullptr, u"Товар"_s, u"Кол-во:"_s, u"1"_s).has_value());
+  }
+}
+
+}  // namespace
+}  // namespace kladez

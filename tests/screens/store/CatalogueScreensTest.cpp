@@ -1,0 +1,397 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QComboBox>
+#include <QLabel>
+
+#include "ScreenDriver.h"
+#include "books/store/Catalogue.h"
+#include "screens/store/Bases.h"
+#include "screens/store/BasesImport.h"
+#include "screens/store/BasesNew.h"
+#include "screens/store/CatalogueHost.h"
+#include "screens/store/CatalogueList.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Stands for the main window and keeps what it was asked, in order.
+class NotedHost : public CatalogueHost {
+ public:
+  void CloseChildScreens() override { calls.append(u"CloseChildScreens"_s); }
+  void SetDatabaseTitle(const QString& name) override { calls.append(u"Title "_s + name); }
+  void HideDatabaseMenus() override { calls.append(u"HideDatabaseMenus"_s); }
+  void DisableDatabaseCommands() override { calls.append(u"DisableDatabaseCommands"_s); }
+  void ShowNewDatabase() override { calls.append(u"ShowNewDatabase"_s); }
+
+  QStringList calls;
+};
+
+class CatalogueScreens : public testing::Test {
+ protected:
+  const DataDir& Data() { return world_.Temp().Data(); }
+  Session& TheSession() { return world_.TheSession(); }
+  QString Setting(const struct Setting& setting) { return world_.Settings().Read(setting); }
+  std::map<std::string, std::string> Tree() { return world_.Temp().Tree(); }
+
+  void Create(const QStringList& names) {
+    for (const QString& name : names) CreateDatabase(Data(), name);
+  }
+  static ModalAnswers::Step On(const std::function<void(Bases*)>& act) {
+    return [=](QWidget* dialog) { act(qobject_cast<Bases*>(dialog)); };
+  }
+
+  ScreenWorld world_;
+  NotedHost host_;
+  Bases bases_{world_.Context(), host_, nullptr};
+};
+
+void SelectRow(QWidget* screen, int row) {
+  Find<CatalogueList>(screen, "ListView1")->SelectRow(row);
+}
+
+TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
+  ModalAnswers answers{On([&](Bases* bases) {
+                         for (const char* name : {"GoldButton1", "GoldButton2", "Command1"}) {
+                           EXPECT_FALSE(Find<QAbstractButton>(bases, name)->isEnabled()) << name;
+                         }
+                         EXPECT_FALSE(Find<QComboBox>(bases, "Combo1")->isEnabled());
+                         Click(bases, "GoldButton3");
+                         EXPECT_TRUE(Find<QComboBox>(bases, "Combo1")->isEnabled());
+                         EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Новая база"_s);
+                         EXPECT_EQ(Find<QComboBox>(bases, "Combo1")->currentIndex(), -1);
+                         Click(bases, "Command2");
+                       }),
+                       [](QWidget* dialog) {
+                         EXPECT_EQ(dialog->windowTitle(), u"Создать базу"_s);
+                         EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), u"Новая база"_s);
+                         QTest::keyClick(dialog, Qt::Key_Return);
+                       }};
+  EXPECT_FALSE(bases_.Run(Bases::Mode::kCatalogue));
+  EXPECT_TRUE(Tree().contains("0001.us") && Tree().contains("0001/SPR/товар.spr"));
+  EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
+  EXPECT_EQ(Setting(settings::kRole), u"-1"_s);
+  EXPECT_FALSE(TheSession().IsOpen());
+}
+
+TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
+  Create({u"Первая"_s, u"Вторая"_s, u"Третья"_s});
+  ModalAnswers answers{On([&](Bases* bases) {
+    EXPECT_EQ(bases->windowTitle(), u"Открыть"_s);
+    EXPECT_EQ(Find<CatalogueList>(bases, "ListView1")->width(), 6135 / 15);
+    EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Первая"_s);
+    Find<QComboBox>(bases, "Combo1")->setCurrentIndex(0);
+    SelectRow(bases, 1);
+    EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Вторая"_s);
+    QTest::keyClick(Find<CatalogueList>(bases, "ListView1"), Qt::Key_Return);
+  })};
+  EXPECT_TRUE(bases_.Run(Bases::Mode::kOpen));
+  EXPECT_EQ(host_.calls, (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s}));
+  EXPECT_EQ(TheSession().bases_text1, u"0002\\"_s);
+  EXPECT_TRUE(TheSession().IsSeller());
+  EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
+  EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
+  EXPECT_EQ(Setting(settings::kRole), u"0"_s);
+  EXPECT_EQ(Setting(settings::kFilePos), u"2"_s);
+}
+
+TEST_F(CatalogueScreens, OnlyTheDirectorIsAskedForThePassword) {
+  Create({u"Первая"_s});
+  world_.Temp().PutLines(u"bases.psw"_s, {u"Пароль"_s});
+  const auto open_as = [](int role, int tries) {
+    return On([=](Bases* bases) {
+      Find<QComboBox>(bases, "Combo1")->setCurrentIndex(role);
+      for (int i = 0; i < tries; ++i) {
+        EXPECT_TRUE(bases->isVisible());
+        Click(bases, "Command1");
+      }
+    });
+  };
+  {
+    ModalAnswers answers{open_as(1, 4),
+                         [](QWidget* dialog) {
+                           EXPECT_EQ(dialog->windowTitle(), u"Пароль"_s);
+                           EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), QString());
+                           QTest::keyClick(dialog, Qt::Key_Escape);
+                         },
+                         AnswerText({}),
+                         AnswerText(u"пароль"_s),
+                         Press(QMessageBox::Ok, u"Пароль введен не верно"_s),
+                         [&](QWidget* dialog) {
+                           EXPECT_TRUE(host_.calls.isEmpty());
+                           EXPECT_EQ(Setting(settings::kBaseName), QString());
+                           AnswerText(u"Пароль"_s)(dialog);
+                         }};
+    EXPECT_TRUE(bases_.Run(Bases::Mode::kOpen));
+  }
+  for (const int role : {0, -1}) {
+    ModalAnswers answers{open_as(role, 1)};
+    EXPECT_TRUE(bases_.Run(Bases::Mode::kOpen)) << role;
+  }
+}
+
+TEST_F(CatalogueScreens, OpenDatabaseIsNeitherRenamedNorDeleted) {
+  Create({u"Первая"_s});
+  TheSession().basedir = u"0001\\"_s;
+  const auto before = Tree();
+  ModalAnswers answers{
+      On([](Bases* bases) {
+        Click(bases, "GoldButton1");
+        Click(bases, "GoldButton2");
+        bases->close();
+      }),
+      Press(QMessageBox::Ok, u"Изменение невозможно, т.к. база данных используется."_s),
+      Press(QMessageBox::Ok, u"Удаление невозможно, т.к. база данных используется."_s)};
+  bases_.Run(Bases::Mode::kCatalogue);
+  EXPECT_EQ(Tree(), before);
+}
+
+TEST_F(CatalogueScreens, RenameAndDeleteAskFirst) {
+  Create({u"Первая"_s, u"Вторая"_s});
+  auto expected = Tree();
+  expected["0001.us"] = EncodeLines({u"0001\\"_s, u"Новое имя"_s}).toStdString();
+  std::erase_if(expected, [](const auto& file) { return file.first.starts_with("0002"); });
+  ModalAnswers answers{On([&](Bases* bases) {
+                         Click(bases, "GoldButton1");
+                         Click(bases, "GoldButton1");
+                         EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Новое имя"_s);
+                         SelectRow(bases, 1);
+                         const auto before = Tree();
+                         Click(bases, "GoldButton2");
+                         EXPECT_EQ(Tree(), before);
+                         Click(bases, "GoldButton2");
+                         EXPECT_EQ(Find<CatalogueList>(bases, "ListView1")->Count(), 1);
+                         bases->close();
+                       }),
+                       AnswerText({}),
+                       [](QWidget* dialog) {
+                         EXPECT_EQ(dialog->windowTitle(), u"Переименовать"_s);
+                         EXPECT_EQ(dialog->findChild<QLabel*>()->text(),
+                                   u"Введите новое имя для базы: Первая"_s);
+                         AnswerText(u"Новое имя"_s)(dialog);
+                       },
+                       Press(QMessageBox::No, u"Вы уверены?"_s), Press(QMessageBox::Yes)};
+  bases_.Run(Bases::Mode::kCatalogue);
+  EXPECT_EQ(Tree(), expected);
+}
+
+TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
+  struct Case {
+    bool any;
+    QString open;
+    bool frame;
+    QString text1_after;
+    QStringList calls;
+    QString filepos_after;
+    QString basename_after;
+  };
+  const QStringList both = {u"DisableDatabaseCommands"_s, u"HideDatabaseMenus"_s};
+  const std::vector<Case> cases = {
+      {true, u"0001\\"_s, false, u"0001\\"_s, {}, u"7"_s, u"old"_s},
+      {true, {}, false, {}, {}, u"7"_s, u"old"_s},
+      {true, {}, true, u"0001\\"_s, {}, u"1"_s, u"old"_s},
+      {false, u"0001\\"_s, false, {}, both, u"7"_s, u"old"_s},
+      {false, u"0001\\"_s, true, {}, {u"HideDatabaseMenus"_s}, u"7"_s, u"0001\\"_s},
+  };
+  for (const Case& c : cases) {
+    for (const auto& entry : ListDatabases(Data())) DeleteDatabase(Data(), entry);
+    if (c.any) Create({u"Первая"_s});
+    host_.calls.clear();
+    TheSession().basedir = c.open;
+    TheSession().bases_text1 = u"0001\\"_s;
+    world_.Settings().Write(settings::kFilePos, u"7"_s);
+    world_.Settings().Write(settings::kBaseName, u"old"_s);
+    ModalAnswers answers{On([&](Bases* bases) {
+      if (c.frame) {
+        bases->close();
+      } else {
+        QTest::keyClick(bases, Qt::Key_Escape);
+      }
+    })};
+    EXPECT_FALSE(bases_.Run(Bases::Mode::kOpen));
+    const size_t number = size_t(&c - cases.data());
+    EXPECT_EQ(TheSession().bases_text1, c.text1_after) << number;
+    EXPECT_EQ(host_.calls, c.calls) << number;
+    EXPECT_EQ(Setting(settings::kFilePos), c.filepos_after) << number;
+    EXPECT_EQ(Setting(settings::kBaseName), c.basename_after) << number;
+  }
+}
+
+TEST_F(CatalogueScreens, PathThatLeadsElsewhereIsShownButNotOpened) {
+  world_.Temp().PutLines(u"0001.us"_s, {u"..\\чужая\\"_s, u"Чужая"_s});
+  ModalAnswers answers{
+      On([](Bases* bases) {
+        EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Чужая"_s);
+        Click(bases, "Command1");
+        EXPECT_TRUE(bases->isVisible());
+        bases->close();
+      }),
+      [](QWidget* dialog) {
+        EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"0001.us"_s));
+        dialog->close();
+      }};
+  EXPECT_FALSE(bases_.Run(Bases::Mode::kOpen));
+  EXPECT_EQ(host_.calls, QStringList());
+}
+
+TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNorImported) {
+  const TempData outside;
+  Create({u"Первая"_s});
+  world_.Temp().PutLines(u"0002.us"_s, {u"0002\\"_s, u"Чужая"_s});
+  const QByteArray link = QFile::encodeName(world_.Temp().Root() + u"/0002"_s);
+  ASSERT_EQ(::symlink(QFile::encodeName(outside.Root()).constData(), link.constData()), 0);
+  const ModalAnswers::Step told = [](QWidget* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    ASSERT_NE(box, nullptr) << dialog->objectName().toStdString();
+    EXPECT_TRUE(box->text().contains(u"0002.us"_s)) << box->text().toStdString();
+    box->close();
+  };
+  {
+    ModalAnswers answers{On([](Bases* bases) {
+                           SelectRow(bases, 1);
+                           Click(bases, "Command1");
+                           EXPECT_TRUE(bases->isVisible());
+                           Click(bases, "GoldButton2");
+                           bases->close();
+                         }),
+                         told, Press(QMessageBox::Yes, u"Вы уверены?"_s), told};
+    EXPECT_FALSE(bases_.Run(Bases::Mode::kCatalogue));
+  }
+  EXPECT_EQ(host_.calls, QStringList());
+  EXPECT_EQ(ListDatabases(Data()).size(), 2u);
+  TheSession().basedir = u"0001\\"_s;
+  BasesImport screen(world_.Context(), host_, nullptr);
+  ShowActive(&screen);
+  SelectRow(&screen, 1);
+  ModalAnswers answers{told};
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+}
+
+TEST_F(CatalogueScreens, BoxesKeepTheirSizeWhateverTheDescriptorHolds) {
+  const QString name(20000, u'ш');
+  const QString path(20000, u'п');
+  world_.Temp().PutLines(u"0001.us"_s, {path, name});
+  const auto fits = [](QWidget* dialog) {
+    EXPECT_LT(dialog->width(), 1000) << dialog->windowTitle().toStdString();
+    EXPECT_LT(dialog->height(), 600) << dialog->windowTitle().toStdString();
+  };
+  ModalAnswers answers{On([](Bases* bases) {
+                         Click(bases, "Command1");
+                         Click(bases, "GoldButton1");
+                         bases->close();
+                       }),
+                       [&](QWidget* dialog) {
+                         fits(dialog);
+                         dialog->close();
+                       },
+                       [&](QWidget* dialog) {
+                         fits(dialog);
+                         // What is proposed is the whole name all the same.
+                         EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), name);
+                         dialog->close();
+                       }};
+  bases_.Run(Bases::Mode::kCatalogue);
+}
+
+TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
+  for (const auto mode : {Bases::Mode::kCatalogue, Bases::Mode::kOpen}) {
+    ModalAnswers answers{On([](Bases* bases) {
+      const QString text = Find<CatalogueList>(bases, "ListView1")->EmptyText();
+      const bool there = Find<QAbstractButton>(bases, "GoldButton3")->isVisible();
+      EXPECT_EQ(text.contains(u"Нажмите «Создать»"_s), there) << text.toStdString();
+      bases->close();
+    })};
+    bases_.Run(mode);
+  }
+}
+
+TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
+  Create({u"Первая"_s});
+  TheSession().basedir = TheSession().bases_text1 = u"0001\\"_s;
+  TheSession().SkladNames = QStringList{u"a"_s, u"b"_s};
+  TheSession().firma = QStringList{u"Прежняя фирма"_s};
+  TheSession().rub = u"тнг"_s;
+  BasesNew screen(world_.Context(), host_, nullptr);
+  ShowActive(&screen);
+  EXPECT_EQ(Find<QLineEdit>(&screen, "Text3")->text(), u"Первая"_s);
+  Find<QLineEdit>(&screen, "Text3")->clear();
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_TRUE(Find<QLineEdit>(&screen, "Text3")->hasFocus());
+  EXPECT_TRUE(host_.calls.isEmpty());
+  Type(Find<QLineEdit>(&screen, "Text3"), u"Вторая"_s);
+  QTest::keyClick(Find<QLineEdit>(&screen, "Text3"), Qt::Key_Return);
+  EXPECT_FALSE(screen.isVisible());
+  EXPECT_EQ(host_.calls,
+            (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s, u"ShowNewDatabase"_s}));
+  EXPECT_EQ(TheSession().basedir, u"0002\\"_s);
+  EXPECT_EQ(TheSession().bases_text1, u"0001\\"_s);
+  EXPECT_EQ(TheSession().SkladNames, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(TheSession().firma, QStringList{u"Прежняя фирма"_s});
+  EXPECT_EQ(TheSession().rub, u"тнг"_s);
+  EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
+  EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
+  EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
+  EXPECT_TRUE(Tree().contains("0002/Главный склад/PRICE/0005.prc"));
+}
+
+TEST_F(CatalogueScreens, FailedCreationTellsWhyAndLeavesTheScreen) {
+  world_.Temp().Put(u"0001\\чужое"_s, {});
+  BasesNew screen(world_.Context(), host_, nullptr);
+  ShowActive(&screen);
+  Type(Find<QLineEdit>(&screen, "Text3"), u"Первая"_s);
+  ModalAnswers answers{[](QWidget* dialog) {
+    EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"такое имя уже есть"_s));
+    dialog->close();
+  }};
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_TRUE(host_.calls.isEmpty());
+  EXPECT_FALSE(TheSession().IsOpen());
+}
+
+TEST_F(CatalogueScreens, ImportOfADatabaseIntoItselfIsRefused) {
+  Create({u"Первая"_s});
+  TheSession().basedir = u"0001\\"_s;
+  const auto before = Tree();
+  BasesImport screen(world_.Context(), host_, nullptr);
+  ShowActive(&screen);
+  ModalAnswers answers{Press(QMessageBox::Ok, u"Нельзя импортировать базу саму в себя"_s)};
+  Click(&screen, "Command1");
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_EQ(Tree(), before);
+}
+
+TEST_F(CatalogueScreens, ImportGoesFromSourceToAreasToFiles) {
+  Create({u"Первая"_s, u"Вторая"_s});
+  TheSession().basedir = u"0001\\"_s;
+  world_.Temp().PutLines(u"0002\\SPR\\товар.spr"_s, {u" Чай"_s});
+  world_.Temp().PutLines(u"0002\\SPR\\firma.spr"_s, {u"не отмечено"_s});
+  BasesImport screen(world_.Context(), host_, nullptr);
+  ShowActive(&screen);
+  SelectRow(&screen, 1);
+  ModalAnswers answers{[](QWidget* dialog) {
+    EXPECT_EQ(dialog->objectName(), u"Import"_s);
+    Find<QAbstractButton>(dialog, "Check6")->click();
+    for (const char* name : {"Check1", "Check2"}) {
+      EXPECT_TRUE(Find<QAbstractButton>(dialog, name)->isChecked()) << name;
+      EXPECT_FALSE(Find<QAbstractButton>(dialog, name)->isEnabled()) << name;
+    }
+    Find<QAbstractButton>(dialog, "Check6")->click();
+    EXPECT_TRUE(Find<QAbstractButton>(dialog, "Check1")->isChecked());
+    EXPECT_TRUE(Find<QAbstractButton>(dialog, "Check1")->isEnabled());
+    Find<QAbstractButton>(dialog, "Check2")->click();
+    Click(dialog, "Command1");
+  }};
+  auto expected = Tree();
+  expected["0001/SPR/товар.spr"] = EncodeLines({u" Чай"_s}).toStdString();
+  Click(&screen, "Command1");
+  EXPECT_EQ(Tree(), expected);
+  EXPECT_EQ(Setting(settings::kFilePos), u"2"_s);
+}
+
+}  // namespace
+}  // namespace kladez

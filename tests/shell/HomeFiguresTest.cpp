@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+
+#include "ScreenDriver.h"
+#include "books/reports/ShipmentsOnDisk.h"
+#include "screens/reports/ChartWidget.h"
+#include "shell/Main.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Tells whether anything in a directory, or the directory itself, was opened.
+class OpenWatch {
+ public:
+  explicit OpenWatch(const QString& directory) : queue_(::inotify_init1(IN_NONBLOCK)) {
+    EXPECT_GE(::inotify_add_watch(queue_, QFile::encodeName(directory).constData(), IN_OPEN), 0);
+  }
+  ~OpenWatch() { ::close(queue_); }
+
+  bool SawAny() {
+    char events[4096];
+    bool any = false;
+    while (::read(queue_, events, sizeof events) > 0) any = true;
+    return any;
+  }
+
+ private:
+  int queue_;
+};
+
+class HomeFigures : public testing::Test, protected ScreenWorld {
+ protected:
+  HomeFigures() {
+    books.Ship(0, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"10.50"_s, {});
+    books.Ship(1, u"0001.uhd"_s, u"21.11.2026"_s, u"0"_s, u"5.00"_s, {});
+    books.Ship(1, u"0002.uhd"_s, u"01.02.2026"_s, u"0"_s, u"100"_s, {});
+  }
+
+  static QStringList Sums(QWidget* home) {
+    QStringList sums;
+    for (const char* name : {"Label18", "Label20", "Label15"}) {
+      sums << Find<QLabel>(home, name)->text();
+    }
+    return sums;
+  }
+
+  DocumentsOnDisk books{Temp(), TheSession()};
+};
+
+TEST_F(HomeFigures, EachActivationCountsAnew) {
+  Main home(Context(), nullptr);
+  ShowActive(&home);
+  EXPECT_FALSE(Find<QWidget>(&home, "Picture3")->isHidden()) << "an empty chart is covered";
+  home.Activate();
+  EXPECT_EQ(Sums(&home), (QStringList{u"10.50"_s, u"15.50"_s, u"115.50"_s}));
+  EXPECT_TRUE(Find<QWidget>(&home, "Picture3")->isHidden());
+  const ChartGrid& grid = Find<ChartWidget>(&home, "MSChart1")->grid();
+  ASSERT_EQ(grid.RowCount(), 30);
+  EXPECT_EQ(grid.Cell(20, 0), 5.0);
+  EXPECT_EQ(grid.Cell(21, 0), 10.5);
+  books.Ship(0, u"0002.uhd"_s, u"22.11.2026"_s, u"0"_s, u"1.00"_s, {});
+  home.Activate();
+  EXPECT_EQ(Sums(&home), (QStringList{u"11.50"_s, u"16.50"_s, u"116.50"_s}));
+}
+
+TEST_F(HomeFigures, WithTheBoxClearedNoDocumentIsOpened) {
+  Settings().Write(settings::kReport, u"0"_s);
+  Main home(Context(), nullptr);
+  ShowActive(&home);
+  OpenWatch watch(Temp().Root() + u"/0001/Главный склад/UHD"_s);
+  home.Activate();
+  EXPECT_FALSE(watch.SawAny());
+  EXPECT_FALSE(Find<QWidget>(&home, "MSChart1")->isVisible());
+  Find<QCheckBox>(&home, "Check2")->click();
+  EXPECT_TRUE(watch.SawAny());
+  EXPECT_TRUE(Find<QWidget>(&home, "MSChart1")->isVisible());
+  EXPECT_EQ(Settings().Read(settings::kReport), u"1"_s);
+}
+
+}  // namespace
+}  // namespace kladez
