@@ -7,7 +7,7 @@
 #include "books/store/Backup.h"
 #include "books/store/SaveSet.h"
 #include "demo/DemoBooks.h"
-#include "shell/frmMain.h"
+#include "shell/MainWindow.h"
 #include "ui/base/Toolkit.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/GuardedApplication.h"
@@ -40,7 +40,7 @@ int Run() {
   const kladez::Clock clock;
   const kladez::PrintOutDesk print_outs(data, [&] { kladez::StartReportViewer(data); });
   kladez::AppContext context{data, session, settings, clock, print_outs};
-  kladez::frmMain window(context);
+  kladez::MainWindow window(context);
   window.Start();
   window.show();
   QGuiApplication::setQuitOnLastWindowClosed(true);

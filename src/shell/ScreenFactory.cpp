@@ -1,30 +1,30 @@
 #include "shell/ScreenFactory.h"
 
-#include "screens/directories/currenc.h"
+#include "screens/directories/CurrencyDialog.h"
+#include "screens/directories/GoodsDirectoryScreen.h"
+#include "screens/directories/WarehousesDialog.h"
 #include "screens/directories/sprFirm.h"
 #include "screens/directories/sprPost.h"
-#include "screens/directories/sprSklad.h"
-#include "screens/directories/sprTovar.h"
 #include "screens/directories/sprklient.h"
-#include "screens/prices/Price.h"
+#include "screens/prices/PriceScreen.h"
 #include "screens/reports/otgr.h"
 #include "screens/reports/otppr.h"
 #include "screens/reports/otpruh.h"
 #include "screens/reports/otrpt.h"
 #include "screens/reports/otspeed.h"
-#include "screens/stock/Sklad.h"
+#include "screens/stock/OnHandScreen.h"
+#include "screens/stock/OpeningBalancesDialog.h"
 #include "screens/stock/documents/TovPrih.h"
 #include "screens/stock/documents/TovUhod.h"
 #include "screens/stock/documents/vnutr.h"
-#include "screens/stock/ost.h"
 
 namespace kladez {
 
 namespace {
 
 QWidget* NewGoodsDirectory(AppContext& context, QWidget* parent) {
-  auto* directory = new sprTovar(context, parent);
-  QObject::connect(directory, &sprTovar::ChartWanted, directory,
+  auto* directory = new GoodsDirectoryScreen(context, parent);
+  QObject::connect(directory, &GoodsDirectoryScreen::ChartWanted, directory,
                    [&context, directory](const QString& goods) {
                      otspeed(context, goods, directory->window()).exec();
                    });
@@ -36,7 +36,7 @@ QWidget* NewGoodsDirectory(AppContext& context, QWidget* parent) {
 QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
   switch (place) {
     case Place::kStock:
-      return new Sklad(context, parent);
+      return new OnHandScreen(context, parent);
     case Place::kReceipts:
       return new TovPrih(context, parent);
     case Place::kShipments:
@@ -44,9 +44,9 @@ QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
     case Place::kTransfers:
       return new vnutr(context, parent);
     case Place::kPrices:
-      return new Price(context, parent);
+      return new PriceScreen(context, parent);
     case Place::kOpening:
-      return new ost(context, parent);
+      return new OpeningBalancesDialog(context, parent);
     case Place::kSalesReport:
       return new otppr(context, parent);
     case Place::kSpeedReport:
@@ -66,9 +66,9 @@ QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
     case Place::kClients:
       return new sprklient(context, parent);
     case Place::kWarehouses:
-      return new sprSklad(context, parent);
+      return new WarehousesDialog(context, parent);
     case Place::kCurrency:
-      return new currenc(context, parent);
+      return new CurrencyDialog(context, parent);
     case Place::kHome:
       return nullptr;
   }

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "shell/frmMain.h"
+#include "shell/MainWindow.h"
 #include "tour/Robot.h"
 
 namespace kladez {
@@ -21,7 +21,7 @@ class Stage {
 
   const DataDir& Data() const { return data_; }
   Session& OpenSession() { return session_; }
-  frmMain& Window() { return window_; }
+  MainWindow& Window() { return window_; }
 
  private:
   DataDir data_;
@@ -30,7 +30,7 @@ class Stage {
   Clock clock_;
   PrintOutDesk desk_;
   AppContext context_;
-  frmMain window_;
+  MainWindow window_;
 };
 
 }  // namespace kladez

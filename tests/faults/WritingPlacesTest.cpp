@@ -37,8 +37,8 @@ TEST(WritingPlaces, EachHasItsCommandInTheTableOfFaults) {
   for (const WritingCommand& command : WritingCommands()) places.erase(command.source);
   // One file each, whose loss loses nothing: the ticks of the picker (as of the price list above),
   // the scratch price list at the end of a run, yesterday's chart.
-  for (const char* scratch : {"screens/directories/sprtovar2.cpp", "shell/frmMain.cpp",
-                              "screens/reports/waitplease.cpp"}) {
+  for (const char* scratch : {"screens/directories/GoodsPicker.cpp", "shell/MainWindow.cpp",
+                              "screens/reports/ChartPrinting.cpp"}) {
     EXPECT_EQ(places.erase(scratch), 1u) << scratch;
   }
   EXPECT_EQ(places.erase("demo/DemoBooks.cpp"), 1u);  // into an empty directory

@@ -9,28 +9,28 @@
 #include <set>
 
 #include "ScreenDriver.h"
+#include "ui/HintWindow.h"
 #include "ui/Hints.h"
 #include "ui/controls/Fields.h"
-#include "ui/helper.h"
 
 namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-std::vector<helper*> ShownHints() {
-  std::vector<helper*> shown;
+std::vector<HintWindow*> ShownHints() {
+  std::vector<HintWindow*> shown;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
-    auto* hint = qobject_cast<helper*>(widget);
+    auto* hint = qobject_cast<HintWindow*>(widget);
     if (hint != nullptr && hint->isVisible()) shown.push_back(hint);
   }
   return shown;
 }
 
-class HintWindow : public testing::Test {
+class HintShown : public testing::Test {
  protected:
   void SetUp() override {
-    HintPicture::SetOpener(&helper::Show);
+    HintPicture::SetOpener(&HintWindow::Show);
     screen_.resize(400, 300);
     field_.move(0, 100);
     frame_.setGeometry(0, 150, 200, 100);
@@ -96,19 +96,19 @@ TEST(Hints, LikePlacesKeepTheirOddHeadings) {
   EXPECT_THROW(HintFor(u"Main", u"Picture99"), std::out_of_range);
 }
 
-TEST_F(HintWindow, SecondHintIsShownAlone) {
+TEST_F(HintShown, SecondHintIsShownAlone) {
   stock_.click();
   ASSERT_EQ(ShownHints().size(), 1u);
   receipts_.click();
   ASSERT_EQ(ShownHints().size(), 1u);
-  helper* hint = ShownHints().front();
+  HintWindow* hint = ShownHints().front();
   EXPECT_EQ(hint->windowTitle(), u"Подсказка"_s);
   EXPECT_EQ(Find<QLabel>(hint, "Label1")->text(), u"Приход"_s);
   EXPECT_EQ(Find<QPlainTextEdit>(hint, "Text1")->toPlainText(), HintFor(u"Main", u"Picture7").body);
   EXPECT_TRUE(Find<QPlainTextEdit>(hint, "Text1")->isReadOnly());
 }
 
-TEST_F(HintWindow, TheKeyboardReachesEveryHint) {
+TEST_F(HintShown, TheKeyboardReachesEveryHint) {
   AskIn(&field_);
   EXPECT_EQ(ShownHeading(), u"Приход"_s);
   AskIn(&plain_);
@@ -126,7 +126,7 @@ TEST_F(HintWindow, TheKeyboardReachesEveryHint) {
   EXPECT_EQ(ShownHeading(), u"Наличие товаров"_s);
 }
 
-TEST_F(HintWindow, AssistiveToolsFindThePictureAndReadTheHint) {
+TEST_F(HintShown, AssistiveToolsFindThePictureAndReadTheHint) {
   auto* picture = QAccessible::queryAccessibleInterface(&receipts_);
   EXPECT_EQ(picture->text(QAccessible::Name), u"Подсказка: Приход"_s);
   picture->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -135,11 +135,11 @@ TEST_F(HintWindow, AssistiveToolsFindThePictureAndReadTheHint) {
             HintFor(u"Main", u"Picture7").body);
 }
 
-TEST_F(HintWindow, GoesAwayOnEscapeOnTheButtonAndWhenAnotherWindowIsActivated) {
-  const std::vector<std::function<void(helper*)>> ways = {
-      [](helper* hint) { Click(hint, "Command4"); },
-      [](helper* hint) { QTest::keyClick(hint, Qt::Key_Escape); },
-      [this](helper*) { screen_.activateWindow(); },
+TEST_F(HintShown, GoesAwayOnEscapeOnTheButtonAndWhenAnotherWindowIsActivated) {
+  const std::vector<std::function<void(HintWindow*)>> ways = {
+      [](HintWindow* hint) { Click(hint, "Command4"); },
+      [](HintWindow* hint) { QTest::keyClick(hint, Qt::Key_Escape); },
+      [this](HintWindow*) { screen_.activateWindow(); },
   };
   for (const auto& way : ways) {
     stock_.click();

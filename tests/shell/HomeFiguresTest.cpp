@@ -9,7 +9,7 @@
 #include "ScreenDriver.h"
 #include "books/reports/ShipmentsOnDisk.h"
 #include "screens/reports/ChartWidget.h"
-#include "shell/Main.h"
+#include "shell/HomeScreen.h"
 
 namespace kladez {
 namespace {
@@ -55,7 +55,7 @@ class HomeFigures : public testing::Test, protected ScreenWorld {
 };
 
 TEST_F(HomeFigures, EachActivationCountsAnew) {
-  Main home(Context(), nullptr);
+  HomeScreen home(Context(), nullptr);
   ShowActive(&home);
   EXPECT_FALSE(Find<QWidget>(&home, "Picture3")->isHidden()) << "an empty chart is covered";
   home.Activate();
@@ -72,7 +72,7 @@ TEST_F(HomeFigures, EachActivationCountsAnew) {
 
 TEST_F(HomeFigures, WithTheBoxClearedNoDocumentIsOpened) {
   Settings().Write(settings::kReport, u"0"_s);
-  Main home(Context(), nullptr);
+  HomeScreen home(Context(), nullptr);
   ShowActive(&home);
   OpenWatch watch(Temp().Root() + u"/0001/Главный склад/UHD"_s);
   home.Activate();

@@ -8,9 +8,9 @@
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
-#include "screens/store/Bases.h"
-#include "shell/Main.h"
-#include "shell/frmMain.h"
+#include "screens/store/CatalogueDialog.h"
+#include "shell/HomeScreen.h"
+#include "shell/MainWindow.h"
 #include "ui/Help.h"
 
 namespace kladez {
@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 const QStringList kDatabaseMenus = {u"mnu_Sklad"_s, u"mnu_Otchet"_s, u"mnu_Sprav"_s};
 
-class MainWindow : public testing::Test {
+class MainWindowShown : public testing::Test {
  protected:
   void SetUp() override { window_.resize(1024, 740); }
 
@@ -72,16 +72,16 @@ class MainWindow : public testing::Test {
   void ClickPanel(const char* link) { Click(Panel("Picture1"), link); }
 
   ScreenWorld world_;
-  frmMain window_{world_.Context()};
+  MainWindow window_{world_.Context()};
 };
 
-TEST_F(MainWindow, FirstStartOnAnEmptyFolderLands) {
+TEST_F(MainWindowShown, FirstStartOnAnEmptyFolderLands) {
   Start();
   ExpectLanding();
   EXPECT_TRUE(world_.Temp().Tree().empty());
 }
 
-TEST_F(MainWindow, LastDatabaseOpensWithFullRights) {
+TEST_F(MainWindowShown, LastDatabaseOpensWithFullRights) {
   StartOpen();
   EXPECT_EQ(window_.windowTitle(), u"Kladez - Первая"_s);
   EXPECT_EQ(ChildName(), u"Main"_s);
@@ -95,14 +95,14 @@ TEST_F(MainWindow, LastDatabaseOpensWithFullRights) {
   EXPECT_TRUE(Panel("Picture1")->isVisible() && Panel("Picture2")->isVisible());
 }
 
-TEST_F(MainWindow, ADatabaseWithoutANameKeepsTheDashOfTheTitle) {
+TEST_F(MainWindowShown, ADatabaseWithoutANameKeepsTheDashOfTheTitle) {
   CreateDatabase(Data(), u"Первая"_s);
   world_.Settings().Write(settings::kBaseName, u"0001\\"_s);
   Start();
   EXPECT_EQ(window_.windowTitle(), u"Kladez - "_s);
 }
 
-TEST_F(MainWindow, RemovedDatabaseLandsSilentlyAndKeepsTheKey) {
+TEST_F(MainWindowShown, RemovedDatabaseLandsSilentlyAndKeepsTheKey) {
   world_.Settings().Write(settings::kBaseName, u"0001\\"_s);
   world_.Settings().Write(settings::kBaseTitle, u"Первая"_s);
   Start();
@@ -110,7 +110,7 @@ TEST_F(MainWindow, RemovedDatabaseLandsSilentlyAndKeepsTheKey) {
   EXPECT_EQ(Setting(settings::kBaseName), u"0001\\"_s);
 }
 
-TEST_F(MainWindow, SellerFindsHisMenusGreyedButTheLinksOpen) {
+TEST_F(MainWindowShown, SellerFindsHisMenusGreyedButTheLinksOpen) {
   StartOpen(UserRole::kSeller);
   for (const QString& name :
        {u"mnu_Sklad_P"_s, u"mnu_Sklad_VO"_s, u"mnu_Sklad_ZO"_s, u"mnu_Otchet"_s, u"mnu_Sprav"_s}) {
@@ -131,7 +131,7 @@ TEST_F(MainWindow, SellerFindsHisMenusGreyedButTheLinksOpen) {
   EXPECT_TRUE(Entry(u"mnu_Sklad_P"_s)->isEnabled() && Entry(u"mnu_Otchet"_s)->isEnabled());
 }
 
-TEST_F(MainWindow, TheTwoWaysOutDifferInTheScratchFile) {
+TEST_F(MainWindowShown, TheTwoWaysOutDifferInTheScratchFile) {
   StartOpen();
   world_.Temp().Put(u"temp.prc"_s, "x");
   QTimer::singleShot(0, [&] { Entry(u"mnuFileExit"_s)->trigger(); });
@@ -144,19 +144,19 @@ TEST_F(MainWindow, TheTwoWaysOutDifferInTheScratchFile) {
   EXPECT_EQ(Setting(settings::kBaseName), u"0001\\"_s);
 }
 
-TEST_F(MainWindow, ClosedDatabaseStaysClosedAtTheNextStart) {
+TEST_F(MainWindowShown, ClosedDatabaseStaysClosedAtTheNextStart) {
   StartOpen();
   Entry(u"mnuFileClose"_s)->trigger();
   ExpectLanding();
   EXPECT_FALSE(TheSession().IsOpen());
   EXPECT_TRUE(TheSession().SkladNames.isEmpty() && TheSession().firma.isEmpty());
-  frmMain again(world_.Context());
+  MainWindow again(world_.Context());
   again.Start(1);
   EXPECT_EQ(again.windowTitle(), u"Kladez"_s);
   EXPECT_EQ(again.Child()->objectName(), u"main2"_s);
 }
 
-TEST_F(MainWindow, OneChildScreenAtATime) {
+TEST_F(MainWindowShown, OneChildScreenAtATime) {
   StartOpen();
   for (const char* link : {"go12", "go16", "go12"}) {
     ClickPanel(link);
@@ -166,7 +166,7 @@ TEST_F(MainWindow, OneChildScreenAtATime) {
   EXPECT_EQ(ChildName(), u"sprTovar"_s);
 }
 
-TEST_F(MainWindow, ModalScreensLeaveTheChildAndAScreenThatClosesGivesWayToTheHomeScreen) {
+TEST_F(MainWindowShown, ModalScreensLeaveTheChildAndAScreenThatClosesGivesWayToTheHomeScreen) {
   StartOpen();
   ClickPanel("go12");
   const QPointer<QWidget> goods = window_.Child();
@@ -182,7 +182,7 @@ TEST_F(MainWindow, ModalScreensLeaveTheChildAndAScreenThatClosesGivesWayToTheHom
   EXPECT_TRUE(QTest::qWaitFor([&] { return ChildName() == u"Main"_s; }));
 }
 
-TEST_F(MainWindow, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
+TEST_F(MainWindowShown, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
   StartOpen();
   Entry(u"mnu_Sprav_T"_s)->trigger();
   // It closes itself, and before the home screen is there, another one is asked for. That one has
@@ -199,7 +199,7 @@ TEST_F(MainWindow, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
   EXPECT_EQ(Children(), 1);
 }
 
-TEST_F(MainWindow, ALongWarehouseNameWidensNoScreen) {
+TEST_F(MainWindowShown, ALongWarehouseNameWidensNoScreen) {
   StartOpen();
   const QString name = u"Склад "_s.repeated(40);
   TheSession().SkladNames.append(name);
@@ -211,7 +211,7 @@ TEST_F(MainWindow, ALongWarehouseNameWidensNoScreen) {
   }
 }
 
-TEST_F(MainWindow, EveryMenuEntryBearsItsCaption) {
+TEST_F(MainWindowShown, EveryMenuEntryBearsItsCaption) {
   const std::vector<std::pair<QString, QString>> captions = {
       {u"mnuFileCreate"_s, u"Создать..."_s},
       {u"mnuFileOpen"_s, u"Открыть..."_s},
@@ -249,7 +249,7 @@ TEST_F(MainWindow, EveryMenuEntryBearsItsCaption) {
   }
 }
 
-TEST_F(MainWindow, LettersOfAMenuAreNotUsedTwice) {
+TEST_F(MainWindowShown, LettersOfAMenuAreNotUsedTwice) {
   for (QMenu* menu : window_.findChildren<QMenu*>()) {
     QSet<QChar> letters;
     for (const QAction* action : menu->actions()) {
@@ -263,7 +263,7 @@ TEST_F(MainWindow, LettersOfAMenuAreNotUsedTwice) {
   }
 }
 
-TEST_F(MainWindow, PanelFollowsTheHeightAndTheLandingPictureTheSize) {
+TEST_F(MainWindowShown, PanelFollowsTheHeightAndTheLandingPictureTheSize) {
   StartOpen();
   for (const int height : {740, 900}) {
     window_.resize(1200, height);
@@ -277,7 +277,7 @@ TEST_F(MainWindow, PanelFollowsTheHeightAndTheLandingPictureTheSize) {
   EXPECT_EQ(picture->width(), window_.centralWidget()->width() - 180 / 15);
 }
 
-TEST_F(MainWindow, PointerLightsOneLinkOfThePanel) {
+TEST_F(MainWindowShown, PointerLightsOneLinkOfThePanel) {
   StartOpen();
   auto* stock = Find<QAbstractButton>(Panel("Picture1"), "go0");
   auto* receipts = Find<QAbstractButton>(Panel("Picture1"), "go1");
@@ -302,7 +302,7 @@ TEST_F(MainWindow, PointerLightsOneLinkOfThePanel) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !shows(receipts, peach); }));
 }
 
-TEST_F(MainWindow, HomeScreenFollowsItsStoredChoice) {
+TEST_F(MainWindowShown, HomeScreenFollowsItsStoredChoice) {
   world_.Settings().Write(settings::kPanel, u"0"_s);
   StartOpen();
   EXPECT_FALSE(Panel("Picture1")->isVisible());
@@ -318,7 +318,7 @@ TEST_F(MainWindow, HomeScreenFollowsItsStoredChoice) {
             u"Отображать подсказку \"     \" на главной"_s);
 }
 
-TEST_F(MainWindow, TheHomeScreenCountsAnewAfterEveryDialogAboveIt) {
+TEST_F(MainWindowShown, TheHomeScreenCountsAnewAfterEveryDialogAboveIt) {
   StartOpen();
   int documents = 0;
   for (const QString& entry : {u"mnAbout"_s, u"mnuFileCreate"_s, u"mnubases"_s, u"arch"_s}) {
@@ -333,7 +333,7 @@ TEST_F(MainWindow, TheHomeScreenCountsAnewAfterEveryDialogAboveIt) {
   }
 }
 
-TEST_F(MainWindow, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {
+TEST_F(MainWindowShown, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {
   StartOpen();
   for (int link = 0; link <= 16; ++link) {
     const QString name = u"go%1"_s.arg(link);
@@ -347,7 +347,7 @@ TEST_F(MainWindow, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {
   Click(window_.Child(), "go16");
 }
 
-TEST_F(MainWindow, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
+TEST_F(MainWindowShown, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
   for (const char16_t* page : {u"price.htm", u"ost.htm", u"workdb.htm", u"index.htm"}) {
     world_.Temp().Put(u"help\\"_s + QString::fromUtf16(page), "x");
   }
@@ -369,7 +369,7 @@ TEST_F(MainWindow, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
   EXPECT_EQ(opened, QStringList({u"index.htm"_s, u"price.htm"_s, u"ost.htm"_s, u"workdb.htm"_s}));
 }
 
-TEST_F(MainWindow, NewDatabaseIsOpenAtOnce) {
+TEST_F(MainWindowShown, NewDatabaseIsOpenAtOnce) {
   Start();
   ModalAnswers answers{[](QWidget* dialog) {
     Type(Find<QLineEdit>(dialog, "Text3"), u"Новая"_s);
@@ -383,7 +383,7 @@ TEST_F(MainWindow, NewDatabaseIsOpenAtOnce) {
   EXPECT_EQ(TheSession().bases_text1, QString());
 }
 
-TEST_F(MainWindow, CancelledChoiceOpensTheSameDatabaseAgain) {
+TEST_F(MainWindowShown, CancelledChoiceOpensTheSameDatabaseAgain) {
   StartOpen();
   ClickPanel("go12");
   world_.Temp().PutLines(u"0001\\склад.usd"_s, {u"Главный склад"_s, u"Киоск"_s});

@@ -3,7 +3,7 @@
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
-#include "shell/frmMain.h"
+#include "shell/MainWindow.h"
 
 namespace kladez {
 namespace {
@@ -39,7 +39,7 @@ TEST(Progress, TheMainWindowShowsHowFarAPriceListIsLoaded) {
   temp.PutLines(u"0001\\spr\\товар.spr"_s, goods);
   temp.PutLines(u"0001\\Главный склад\\PRICE\\0001.prc"_s, prices);
   world.Settings().Write(settings::kBaseName, u"0001\\"_s);
-  frmMain window(world.Context());
+  MainWindow window(world.Context());
   window.Start(1);
   ShowActive(&window);
   auto* bar = Find<QProgressBar>(&window, "ProgressBar1");

@@ -1,6 +1,6 @@
 #include "screens/directories/PickQuestion.h"
 
-#include "screens/directories/colvo.h"
+#include "screens/directories/QuantityDialog.h"
 
 namespace kladez {
 

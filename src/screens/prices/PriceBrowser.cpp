@@ -6,10 +6,10 @@
 #include <algorithm>
 
 #include "formats/Numbers.h"
-#include "screens/directories/colvo.h"
-#include "screens/directories/sprTovar.h"
-#include "screens/prices/prChange.h"
-#include "screens/printing/pricePrint.h"
+#include "screens/directories/GoodsDirectoryScreen.h"
+#include "screens/directories/QuantityDialog.h"
+#include "screens/prices/SalePriceDialog.h"
+#include "screens/printing/PricePrintScreen.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
@@ -25,9 +25,7 @@ using look::IconName;
 
 namespace {
 
-QString ScreenName(PriceScreen kind) {
-  return kind == PriceScreen::kEditor ? u"Price"_s : u"price2"_s;
-}
+QString ScreenName(PriceUse kind) { return kind == PriceUse::kEditor ? u"Price"_s : u"price2"_s; }
 
 const QString& CellOf(const PriceRow& row, int column) {
   const std::array cells = {&row.name, &row.unit, &row.purchase, &row.sale};
@@ -46,7 +44,7 @@ struct PriceBrowser::Command {
   Place place = Place::kLeft;
 };
 
-std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
+std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceUse kind) {
   using P = PriceBrowser;
   const Command copy = {&P::Command7, u"Command7"_s, u"Копи&ровать"_s, IconName::kCopy, &P::Copy};
   const Command paste = {&P::Command8, u"Command8"_s, u"&Вставить"_s, IconName::kPaste, &P::Paste};
@@ -55,7 +53,7 @@ std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
   const auto close = [](const QString& caption) {
     return Command{&P::Command3, u"Command3"_s, caption, {}, &P::CloseAsked, Place::kRight};
   };
-  if (kind == PriceScreen::kPicker) return {copy, paste, pick, close(u"&Отмена"_s)};
+  if (kind == PriceUse::kPicker) return {copy, paste, pick, close(u"&Отмена"_s)};
   return {
       {&P::GoldButton1, u"GoldButton1"_s, u"&Добавить"_s, IconName::kAdd, &P::Add},
       {&P::GoldButton2, u"GoldButton2"_s, u"&Удалить"_s, IconName::kRemove, &P::Remove},
@@ -69,7 +67,7 @@ std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceScreen kind) {
       close(u"&Закрыть"_s)};
 }
 
-PriceBrowser::PriceBrowser(AppContext& context, PriceScreen kind, QWidget* parent)
+PriceBrowser::PriceBrowser(AppContext& context, PriceUse kind, QWidget* parent)
     : QWidget(parent),
       context_(context),
       kind_(kind),
@@ -87,8 +85,8 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceScreen kind, QWidget* paren
   AddCommands(commands, Place::kRight);
   layout->addLayout(commands);
   // A document brings its own warehouse to the picker; the editor picks nothing.
-  Combo1->setEnabled(kind == PriceScreen::kEditor);
-  Command6->setVisible(kind == PriceScreen::kPicker);
+  Combo1->setEnabled(kind == PriceUse::kEditor);
+  Command6->setVisible(kind == PriceUse::kPicker);
   setFocusProxy(ListView1);
 
   connect(Combo1, &QComboBox::currentIndexChanged, this, &PriceBrowser::ListLists);
@@ -96,7 +94,7 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceScreen kind, QWidget* paren
   connect(filter_, &GoodsFilter::ViewChosen, this, &PriceBrowser::SwitchView);
   connect(ListView1, &RecordList::EnterPressed, this, &PriceBrowser::ChangeOrPick);
   connect(ListView1, &RecordList::DoubleClicked, this, &PriceBrowser::ChangeOrPick);
-  if (kind == PriceScreen::kEditor) {
+  if (kind == PriceUse::kEditor) {
     connect(ListView1, &RecordList::InsertPressed, this, &PriceBrowser::Add);
     connect(ListView1, &RecordList::DeletePressed, this, &PriceBrowser::Remove);
   }
@@ -234,8 +232,8 @@ void PriceBrowser::Leave() {
 void PriceBrowser::Add() {
   if (!goods_) {
     Guarded(this, [this] {
-      goods_ = new sprTovar(context_, PickFor::kPriceList, this);
-      connect(goods_, &sprTovar::Picked, this, &PriceBrowser::InsertPicked);
+      goods_ = new GoodsDirectoryScreen(context_, PickFor::kPriceList, this);
+      connect(goods_, &GoodsDirectoryScreen::Picked, this, &PriceBrowser::InsertPicked);
     });
   }
   if (!goods_) return;
@@ -267,7 +265,7 @@ void PriceBrowser::Change() {
   const int row = ListView1->CurrentRow();
   ListView1->setFocus();
   if (row < 0 || list_.Rows()[row].IsGroup()) return;
-  prChange dialog(list_.Rows()[row].name, list_.Rows()[row].sale, this);
+  SalePriceDialog dialog(list_.Rows()[row].name, list_.Rows()[row].sale, this);
   if (dialog.exec() != QDialog::Accepted) return;
   PriceList changed = list_;
   changed.SetSalePrice(row, dialog.Price());
@@ -280,7 +278,7 @@ void PriceBrowser::Change() {
 }
 
 void PriceBrowser::ChangeOrPick() {
-  if (kind_ == PriceScreen::kPicker) {
+  if (kind_ == PriceUse::kPicker) {
     Pick();
   } else {
     Change();
@@ -314,8 +312,8 @@ void PriceBrowser::Paste() {
 }
 
 void PriceBrowser::Print() {
-  pricePrint screen(context_, {Combo1->currentText(), {list_.Rows(), ListView1->SelectedRows()}},
-                    this);
+  PricePrintScreen screen(context_,
+                          {Combo1->currentText(), {list_.Rows(), ListView1->SelectedRows()}}, this);
   screen.exec();
 }
 

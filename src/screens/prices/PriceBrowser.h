@@ -17,15 +17,15 @@ class QVBoxLayout;
 
 namespace kladez {
 
-class sprTovar;
+class GoodsDirectoryScreen;
 
-enum class PriceScreen { kEditor, kPicker };
+enum class PriceUse { kEditor, kPicker };
 
 class PriceBrowser : public QWidget {
   Q_OBJECT
 
  public:
-  PriceBrowser(AppContext& context, PriceScreen kind, QWidget* parent);
+  PriceBrowser(AppContext& context, PriceUse kind, QWidget* parent);
 
   // Chooses a warehouse and shows its first list. A list that can't be read is told in a message
   // and leaves the screen empty.
@@ -55,7 +55,7 @@ class PriceBrowser : public QWidget {
  private:
   enum class Place { kLeft, kRight, kPanel };
   struct Command;
-  static std::vector<Command> CommandsOf(PriceScreen kind);
+  static std::vector<Command> CommandsOf(PriceUse kind);
   void BuildPanel(QVBoxLayout* layout);
   void BuildList();
   void AddCommands(QLayout* row, Place place);
@@ -79,14 +79,14 @@ class PriceBrowser : public QWidget {
   void Save();
 
   AppContext& context_;
-  const PriceScreen kind_;
+  const PriceUse kind_;
   const Session session_;  // of the Database that it was opened on, which it leaves last
   const PriceStore store_;
   GoodsFilter* filter_;
   RecordModel* model_;
   PriceList list_;
   bool loaded_ = false;  // without a list nothing is saved, least of all no ticks
-  QPointer<sprTovar> goods_;
+  QPointer<GoodsDirectoryScreen> goods_;
 };
 
 }  // namespace kladez

@@ -7,8 +7,8 @@
 #include <QVBoxLayout>
 
 #include "formats/Numbers.h"
-#include "screens/directories/sprtovar2.h"
-#include "screens/reports/graphic.h"
+#include "screens/directories/GoodsPicker.h"
+#include "screens/reports/ChartWindow.h"
 #include "ui/Hints.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
@@ -87,7 +87,7 @@ void ChartDialog::BuildPeriod() {
 
 void ChartDialog::PickGoods() {
   Guarded(this, [this] {
-    sprtovar2 picker(Context(), PickFor::kGoodsChart, this);
+    GoodsPicker picker(Context(), PickFor::kGoodsChart, this);
     picker.exec();
     if (picker.Pick()) Text1->setText(picker.Pick()->name);
   });
@@ -116,7 +116,7 @@ void ChartDialog::Ok() {
     }
     if (!grid) return;
     accept();
-    graphic(Context(), *grid, parentWidget()).exec();
+    ChartWindow(Context(), *grid, parentWidget()).exec();
   });
 }
 

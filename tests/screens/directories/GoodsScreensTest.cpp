@@ -3,8 +3,8 @@
 #include <QTabWidget>
 
 #include "books/directories/DirectoryWorld.h"
-#include "screens/directories/sprTovar.h"
-#include "screens/directories/sprtovar2.h"
+#include "screens/directories/GoodsDirectoryScreen.h"
+#include "screens/directories/GoodsPicker.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -50,12 +50,12 @@ class GoodsScreensTest : public testing::Test {
 class sprTovarTest : public GoodsScreensTest {
  protected:
   void Open() {
-    screen_ = std::make_unique<sprTovar>(world_.Context());
+    screen_ = std::make_unique<GoodsDirectoryScreen>(world_.Context());
     ShowActive(screen_.get());
     list_ = Find<RecordList>(screen_.get(), "ListView1");
   }
 
-  std::unique_ptr<sprTovar> screen_;
+  std::unique_ptr<GoodsDirectoryScreen> screen_;
   RecordList* list_ = nullptr;
 };
 
@@ -203,9 +203,10 @@ TEST_F(sprTovarTest, FailedSaveLeavesTheScreenWithWhatWasEntered) {
 }
 
 TEST_F(sprTovarTest, PickIsSavedAskedAndHandedOver) {
-  auto* picker = new sprTovar(world_.Context(), PickFor::kPriceList, nullptr);
+  auto* picker = new GoodsDirectoryScreen(world_.Context(), PickFor::kPriceList, nullptr);
   QList<GoodsPick> picks;
-  QObject::connect(picker, &sprTovar::Picked, [&](const GoodsPick& pick) { picks.append(pick); });
+  QObject::connect(picker, &GoodsDirectoryScreen::Picked,
+                   [&](const GoodsPick& pick) { picks.append(pick); });
   QSignalSpy gone(picker, &QObject::destroyed);
   ShowActive(picker);
   auto* list = Find<RecordList>(picker, "ListView1");
@@ -228,7 +229,7 @@ TEST_F(sprTovarTest, PickIsSavedAskedAndHandedOver) {
 class sprtovar2Test : public GoodsScreensTest {
  protected:
   void Open(PickFor pick_for) {
-    screen_ = std::make_unique<sprtovar2>(world_.Context(), pick_for);
+    screen_ = std::make_unique<GoodsPicker>(world_.Context(), pick_for);
     ShowActive(screen_.get());
     list_ = Find<RecordList>(screen_.get(), "ListView1");
   }
@@ -241,7 +242,7 @@ class sprtovar2Test : public GoodsScreensTest {
     return names;
   }
 
-  std::unique_ptr<sprtovar2> screen_;
+  std::unique_ptr<GoodsPicker> screen_;
   RecordList* list_ = nullptr;
 };
 

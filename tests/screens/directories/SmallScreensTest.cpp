@@ -1,9 +1,9 @@
 // Parties, warehouses and the main currency.
 #include "books/directories/DirectoryWorld.h"
-#include "screens/directories/currenc.h"
+#include "screens/directories/CurrencyDialog.h"
+#include "screens/directories/WarehousesDialog.h"
 #include "screens/directories/sprFirm.h"
 #include "screens/directories/sprPost.h"
-#include "screens/directories/sprSklad.h"
 #include "screens/directories/sprklient.h"
 #include "ui/controls/RecordList.h"
 
@@ -121,7 +121,7 @@ class sprSkladTest : public testing::Test {
   }
 
   DirectoryWorld world_;
-  sprSklad screen_;
+  WarehousesDialog screen_;
   RecordList* list_;
 };
 
@@ -163,7 +163,7 @@ TEST_F(sprSkladTest, TheFirstWarehouseIsNotDeletedAnotherIsAtOnce) {
 TEST(currencTest, OkWritesEightLinesAndTheShortForm) {
   DirectoryWorld world;
   world.Remember();
-  currenc screen(world.Context());
+  CurrencyDialog screen(world.Context());
   ShowActive(&screen);
   const QStringList forms = {u"тг."_s, u"тенге"_s, {},         u"тенге"_s,
                              u"тн."_s, u"тиын"_s,  u"тиына"_s, u"тиынов"_s};
@@ -182,7 +182,7 @@ TEST(currencTest, OkWritesEightLinesAndTheShortForm) {
 TEST(currencTest, FailedSaveAndCancelChangeNothing) {
   DirectoryWorld world;
   world.Remember();
-  currenc screen(world.Context());
+  CurrencyDialog screen(world.Context());
   ShowActive(&screen);
   world.Protect(u"currency.usd"_s);
   ModalAnswers answers({Press(QMessageBox::Ok)});

@@ -7,8 +7,8 @@
 #include "ScreenDriver.h"
 #include "books/directories/GoodsPick.h"
 #include "books/store/SystemCalls.h"
-#include "screens/prices/Price.h"
-#include "screens/prices/price2.h"
+#include "screens/prices/PricePicker.h"
+#include "screens/prices/PriceScreen.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -71,7 +71,7 @@ ModalAnswers::Step AnswerQuantityAndPrice(const QString& quantity, const QString
 }
 
 TEST_F(PriceScreens, ANewPriceIsInTheFileAtOnceAndCancelChangesNothing) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   const QAbstractItemModelTester tester(List(&screen)->model());
   EXPECT_EQ(Cell(&screen, 1, 3), u"120.00"_s);
@@ -95,7 +95,7 @@ TEST_F(PriceScreens, ANewPriceIsInTheFileAtOnceAndCancelChangesNothing) {
 }
 
 TEST_F(PriceScreens, CopyChangeOfTheListAndPasteCarryAListOver) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   Click(&screen, "Command7");
   Find<QComboBox>(&screen, "Combo2")->setCurrentIndex(1);
@@ -108,7 +108,7 @@ TEST_F(PriceScreens, CopyChangeOfTheListAndPasteCarryAListOver) {
 TEST_F(PriceScreens, TicksAreSavedOnTheWayOutAndNothingElse) {
   auto expected = Temp().Tree();
   {
-    Price screen(world_.Context());
+    PriceScreen screen(world_.Context());
     ShowActive(&screen);
     EXPECT_TRUE(IsTicked(&screen, 2));
     List(&screen)->SelectRow(1);
@@ -127,7 +127,7 @@ TEST_F(PriceScreens, TicksAreSavedOnTheWayOutAndNothingElse) {
 
 TEST_F(PriceScreens, SwitchingToGoodsOnlySavesTicksAndASaveThereDropsTheGroups) {
   {
-    Price screen(world_.Context());
+    PriceScreen screen(world_.Context());
     ShowActive(&screen);
     List(&screen)->SelectRow(1);
     QTest::keyClick(List(&screen), Qt::Key_Space);
@@ -139,12 +139,12 @@ TEST_F(PriceScreens, SwitchingToGoodsOnlySavesTicksAndASaveThereDropsTheGroups) 
   }
   EXPECT_EQ(Temp().Lines(kRetail), (QStringList{u"Ассам"_s, u"пач."_s, u"45.00"_s, u"60.00"_s,
                                                 u"Улун"_s, u"пач."_s, u"90.00"_s, u"120.00"_s}));
-  Price again(world_.Context());
+  PriceScreen again(world_.Context());
   EXPECT_EQ(Names(&again), (QStringList{u"Ассам"_s, u"Улун"_s})) << "the view is remembered";
 }
 
 TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   const auto before = Temp().Tree();
   List(&screen)->SelectRow(1);
@@ -168,7 +168,7 @@ TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain
 }
 
 TEST_F(PriceScreens, APickerLeftOpenClosesWithTheScreenAndKeepsItsView) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   auto* picker = screen.findChild<QWidget*>(u"sprTovar"_s);
@@ -180,7 +180,7 @@ TEST_F(PriceScreens, APickerLeftOpenClosesWithTheScreenAndKeepsItsView) {
 }
 
 TEST_F(PriceScreens, RemovedRowsLeaveTheFileWithTheNextSave) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   List(&screen)->SelectRow(0);
   QTest::keyClick(List(&screen), Qt::Key_Down, Qt::ShiftModifier);
@@ -193,7 +193,7 @@ TEST_F(PriceScreens, RemovedRowsLeaveTheFileWithTheNextSave) {
 TEST_F(PriceScreens, ASellerSeesNoCostAndChangesCopiesAndPastesNothing) {
   world_.TheSession().role = UserRole::kSeller;
   Temp().PutLines(u"temp.prc"_s, {u"Улун"_s, u"пач."_s, u"1.00"_s, u"1.00"_s});
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   EXPECT_TRUE(List(&screen)->isColumnHidden(2));
   const auto before = Temp().Tree();
@@ -208,7 +208,7 @@ TEST_F(PriceScreens, ASellerSeesNoCostAndChangesCopiesAndPastesNothing) {
 }
 
 TEST_F(PriceScreens, AWarehouseWithoutListsShowsNothingAndKeepsTheTicks) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   Find<QComboBox>(&screen, "Combo1")->setCurrentIndex(1);
   EXPECT_EQ(Find<QComboBox>(&screen, "Combo2")->count(), 0);
@@ -220,7 +220,7 @@ TEST_F(PriceScreens, AWarehouseWithoutListsShowsNothingAndKeepsTheTicks) {
 }
 
 TEST_F(PriceScreens, AFailedSaveIsToldAndTheRowKeepsItsPrice) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   List(&screen)->SelectRow(1);
   const auto before = Temp().Tree();
@@ -236,10 +236,11 @@ TEST_F(PriceScreens, AFailedSaveIsToldAndTheRowKeepsItsPrice) {
 }
 
 TEST_F(PriceScreens, ThePickerHandsOverWhatWasAnsweredAndStaysOpen) {
-  price2 screen(world_.Context(), u"Лавка"_s);
+  PricePicker screen(world_.Context(), u"Лавка"_s);
   ShowActive(&screen);
   std::vector<GoodsPick> picks;
-  QObject::connect(&screen, &price2::Picked, [&](const GoodsPick& pick) { picks.push_back(pick); });
+  QObject::connect(&screen, &PricePicker::Picked,
+                   [&](const GoodsPick& pick) { picks.push_back(pick); });
   EXPECT_FALSE(Find<QComboBox>(&screen, "Combo1")->isEnabled());
   Find<QComboBox>(&screen, "Combo2")->setCurrentIndex(1);
 
@@ -272,7 +273,7 @@ TEST_F(PriceScreens, ThePickerHandsOverWhatWasAnsweredAndStaysOpen) {
 }
 
 TEST_F(PriceScreens, TypingInTheListSearchesByTheBeginningOfAName) {
-  Price screen(world_.Context());
+  PriceScreen screen(world_.Context());
   ShowActive(&screen);
   List(&screen)->setFocus();
   Type(List(&screen), u"а"_s);

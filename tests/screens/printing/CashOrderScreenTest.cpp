@@ -1,7 +1,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
-#include "screens/printing/PrihPrint.h"
+#include "screens/printing/CashOrderScreen.h"
 #include "screens/printing/PrintWorld.h"
 #include "screens/printing/SheetText.h"
 #include "ui/controls/Fields.h"
@@ -33,7 +33,7 @@ bool HasInk(const QImage& image, const QRectF& mm) {
 TEST(CashOrderScreen, TheOrderAndItsReceiptAreFilled) {
   PrintWorld world;
   world->Settings().Write(settings::kRate, u"2"_s);
-  PrihPrint screen(world.Context(), world.source);
+  CashOrderScreen screen(world.Context(), world.source);
   EXPECT_EQ(screen.windowTitle(), u"Приходный кассовый ордер"_s);
   const SheetTexts texts = screen.Texts();
   const QString words = u"Две тысячи триста шестьдесят рублей 00 копеек"_s;
@@ -64,7 +64,7 @@ TEST(CashOrderScreen, TheOrderAndItsReceiptAreFilled) {
 
 TEST(CashOrderScreen, ATypedTextStaysUntilAParameterIsLeft) {
   PrintWorld world;
-  PrihPrint screen(world.Context(), world.source);
+  CashOrderScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Enter(&screen, "Text16", u"по договору"_s);
   auto* words = Find<SheetText>(&screen, "Words");
@@ -85,7 +85,7 @@ TEST(CashOrderScreen, ATypedTextStaysUntilAParameterIsLeft) {
 
 TEST(CashOrderScreen, ThePercentageIsInTheSumAsSoonAsItIsLeft) {
   PrintWorld world;
-  PrihPrint screen(world.Context(), world.source);
+  CashOrderScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Enter(&screen, "Text45", u"50"_s);
   QTest::keyClick(Find<QLineEdit>(&screen, "Text45"), Qt::Key_Tab);
@@ -96,7 +96,7 @@ TEST(CashOrderScreen, ThePercentageIsInTheSumAsSoonAsItIsLeft) {
 
 TEST(CashOrderScreen, AParameterThatIsNoNumberIsTold) {
   PrintWorld world;
-  PrihPrint screen(world.Context(), world.source);
+  CashOrderScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Enter(&screen, "Text44", u"?"_s);
   ModalAnswers answers({InputErrorTold()});
@@ -149,7 +149,7 @@ TEST(CashOrderScreen, TheTearLinePartsTwoDrawnHalves) {
 
 TEST(CashOrderScreen, PrintsOnePageOnEveryPaper) {
   PrintWorld world;
-  PrihPrint screen(world.Context(), world.source);
+  CashOrderScreen screen(world.Context(), world.source);
   for (const auto size : {QPageSize::A4, QPageSize::A5, QPageSize::A6}) {
     const QString file = world->Temp().Root() + u"/order.pdf"_s;
     {
@@ -168,7 +168,7 @@ TEST(CashOrderScreen, PrintsOnePageOnEveryPaper) {
 
 TEST(CashOrderScreen, PrintShowsThePreviewAndTheScreenStaysOpen) {
   PrintWorld world;
-  PrihPrint screen(world.Context(), world.source);
+  CashOrderScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   {
     ModalAnswers answers({[](QWidget* dialog) {

@@ -1,6 +1,6 @@
+#include "screens/printing/BillScreen.h"
 #include "screens/printing/PrintWorld.h"
-#include "screens/printing/UhodSch.h"
-#include "screens/printing/chFactPrint.h"
+#include "screens/printing/TaxInvoiceScreen.h"
 #include "ui/controls/Fields.h"
 
 namespace kladez {
@@ -20,7 +20,7 @@ QStringList From(const QByteArray& page, const QString& beginning) {
 TEST(InvoiceScreens, TheFirstLoadTakesTheDiscountAndFillsTheParties) {
   PrintWorld world;
   world->Settings().Write(settings::kInvoiceTrader, u"Сидоров"_s);
-  chFactPrint screen(world.Context(), world.source);
+  TaxInvoiceScreen screen(world.Context(), world.source);
   EXPECT_EQ(screen.windowTitle(), u"Счет-фактура"_s);
   const std::pair<const char*, QString> fields[] = {
       {"Text1", u"Счет-фактура N 5 от 12.03.2026"_s},
@@ -60,7 +60,7 @@ TEST(InvoiceScreens, TheFirstLoadTakesTheDiscountAndFillsTheParties) {
 
 TEST(InvoiceScreens, ThePickOfAPartyFillsItsFieldsAndALoadPutsTheFirstBack) {
   PrintWorld world;
-  chFactPrint screen(world.Context(), world.source);
+  TaxInvoiceScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   auto* seller = Find<QComboBox>(&screen, "Text2");
   seller->setFocus();
@@ -75,7 +75,7 @@ TEST(InvoiceScreens, ThePickOfAPartyFillsItsFieldsAndALoadPutsTheFirstBack) {
 
 TEST(InvoiceScreens, PercentagesAreInTheRowsAndThePickedPartyStays) {
   PrintWorld world;
-  chFactPrint screen(world.Context(), world.source);
+  TaxInvoiceScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   auto* seller = Find<QComboBox>(&screen, "Text2");
   seller->setFocus();
@@ -92,7 +92,7 @@ TEST(InvoiceScreens, PercentagesAreInTheRowsAndThePickedPartyStays) {
 TEST(InvoiceScreens, DollarsTakeTheDiscountOutOfTheRows) {
   PrintWorld world;
   world->Settings().Write(settings::kRate, u"2"_s);
-  chFactPrint screen(world.Context(), world.source);
+  TaxInvoiceScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(TextOf(&screen, "Text6"), u"2124.00"_s);
   Click(&screen, "Option2");
@@ -129,14 +129,14 @@ TEST(InvoiceScreens, DollarsTakeTheDiscountOutOfTheRows) {
 TEST(InvoiceScreens, ThePrintOfAnInvoiceRemembersTheTraderAndThatOfABillDoesNot) {
   PrintWorld world;
   {
-    UhodSch bill(world.Context(), world.source);
+    BillScreen bill(world.Context(), world.source);
     ShowActive(&bill);
     Enter(&bill, "Text35", u"Чужой"_s);
     Click(&bill, "Command1");
     EXPECT_EQ(world.ViewerStarts(), 1);
     EXPECT_EQ(world->Settings().Read(settings::kInvoiceTrader), u""_s);
   }
-  chFactPrint invoice(world.Context(), world.source);
+  TaxInvoiceScreen invoice(world.Context(), world.source);
   world.Watch(&invoice);
   ShowActive(&invoice);
   Enter(&invoice, "Text35", u"Сидоров"_s);
@@ -149,7 +149,7 @@ TEST(InvoiceScreens, ThePrintOfAnInvoiceRemembersTheTraderAndThatOfABillDoesNot)
 
 TEST(InvoiceScreens, TheBillInRoublesIsPrintedWhole) {
   PrintWorld world;
-  UhodSch screen(world.Context(), world.source);
+  BillScreen screen(world.Context(), world.source);
   EXPECT_EQ(screen.windowTitle(), u"Счет"_s);
   ShowActive(&screen);
   Click(&screen, "Command1");
@@ -223,7 +223,7 @@ TEST(InvoiceScreens, TheBillInRoublesIsPrintedWhole) {
 
 TEST(InvoiceScreens, RowsThatCouldNotBeWorkedOutAreNotPrinted) {
   PrintWorld world;
-  chFactPrint screen(world.Context(), world.source);
+  TaxInvoiceScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Enter(&screen, "Text7", u"abc"_s);
   {
@@ -244,7 +244,7 @@ TEST(InvoiceScreens, RowsThatCouldNotBeWorkedOutAreNotPrinted) {
 TEST(InvoiceScreens, ADatabaseWithoutGoodsDirectoryIsTold) {
   PrintWorld world;
   QFile::remove(world->Temp().Data().Resolve(u"0001\\spr\\товар.spr"_s));
-  chFactPrint screen(world.Context(), world.source);
+  TaxInvoiceScreen screen(world.Context(), world.source);
   ModalAnswers answers({[](QWidget* dialog) {
     EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"товар.spr"_s));
     dialog->close();

@@ -2,7 +2,7 @@
 #include <QRadioButton>
 
 #include "ScreenDriver.h"
-#include "screens/printing/pricePrint.h"
+#include "screens/printing/PricePrintScreen.h"
 
 namespace kladez {
 namespace {
@@ -19,9 +19,9 @@ PriceRow Item(const QString& name, bool ticked = false) {
   return row;
 }
 
-class PricePrintScreen : public testing::Test {
+class PricePrinting : public testing::Test {
  protected:
-  PricePrintScreen() {
+  PricePrinting() {
     Session& session = world_.TheSession();
     session.basedir = u"0001\\"_s;
     session.SkladNames = {u"А"_s, u"Б"_s};
@@ -54,7 +54,7 @@ class PricePrintScreen : public testing::Test {
     return PricePage(source_.rows, stock, options);
   }
   QByteArray Printed(const std::function<void(QWidget*)>& set) {
-    pricePrint screen(world_.Context(), source_);
+    PricePrintScreen screen(world_.Context(), source_);
     ShowActive(&screen);
     set(&screen);
     Click(&screen, "Command1");
@@ -83,12 +83,12 @@ void SetText(QWidget* screen, const char* name, const QString& text) {
   Type(field, text);
 }
 
-TEST_F(PricePrintScreen, OkPrintsWhatIsProposed) {
+TEST_F(PricePrinting, OkPrintsWhatIsProposed) {
   EXPECT_EQ(Printed([](QWidget*) {}), Page(proposed_, one_));
   EXPECT_EQ(world_.ViewerStarts(), 1);
 }
 
-TEST_F(PricePrintScreen, EveryOptionReachesThePage) {
+TEST_F(PricePrinting, EveryOptionReachesThePage) {
   PricePageOptions options;
   options.signature = u"Ждём"_s;
   options.stock = true;
@@ -119,7 +119,7 @@ TEST_F(PricePrintScreen, EveryOptionReachesThePage) {
   EXPECT_EQ(page, Page(options, both_)) << "quantities are those of all warehouses";
 }
 
-TEST_F(PricePrintScreen, EachChoiceOfGoodsIsItsFilter) {
+TEST_F(PricePrinting, EachChoiceOfGoodsIsItsFilter) {
   const struct {
     const char* option;
     PrintedGoods goods;
@@ -134,8 +134,8 @@ TEST_F(PricePrintScreen, EachChoiceOfGoodsIsItsFilter) {
   }
 }
 
-TEST_F(PricePrintScreen, GroupsDisableTheGap) {
-  pricePrint screen(world_.Context(), source_);
+TEST_F(PricePrinting, GroupsDisableTheGap) {
+  PricePrintScreen screen(world_.Context(), source_);
   ShowActive(&screen);
   EXPECT_FALSE(Find<QCheckBox>(&screen, "Check14")->isEnabled());
   Toggle(&screen, "Check1");
@@ -146,9 +146,9 @@ TEST_F(PricePrintScreen, GroupsDisableTheGap) {
   EXPECT_FALSE(Find<QWidget>(&screen, "Text12")->isEnabled());
 }
 
-TEST_F(PricePrintScreen, AMissingLedgerIsToldAndTheScreenStays) {
+TEST_F(PricePrinting, AMissingLedgerIsToldAndTheScreenStays) {
   QFile::remove(world_.Temp().Data().Resolve(u"0001\\А\\товар.usl"_s));
-  pricePrint screen(world_.Context(), source_);
+  PricePrintScreen screen(world_.Context(), source_);
   ShowActive(&screen);
   ModalAnswers answers({Press(QMessageBox::Ok)});
   Click(&screen, "Command1");

@@ -1,8 +1,8 @@
 #include "books/printing/WaybillParts.h"
-#include "screens/printing/PrihNakl.h"
 #include "screens/printing/PrintWorld.h"
-#include "screens/printing/prihnokl.h"
-#include "screens/printing/vnNakl.h"
+#include "screens/printing/ReceiptWaybillScreen.h"
+#include "screens/printing/ShipmentWaybillScreen.h"
+#include "screens/printing/TransferWaybillScreen.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/FoldButton.h"
 
@@ -24,7 +24,7 @@ QStringList OneRow(const char* name, const char* price, const char* sum) {
 
 TEST(WaybillScreens, AShipmentIsPrintedWithItsDiscountAndTheScreenClosesBeforeTheViewerStarts) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   world.Watch(&screen);
   ShowActive(&screen);
   Click(&screen, "Command1");
@@ -57,7 +57,7 @@ TEST(WaybillScreens, AReceiptComesFromItsSupplierAndTellsNoDiscount) {
   world.source.party = u"Завод"_s;
   world.source.discount.clear();
   world->Settings().Write(settings::kRate, u"2"_s);
-  prihnokl screen(world.Context(), world.source);
+  ReceiptWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(TextOf(&screen, "Text19"), u"0"_s);
   Enter(&screen, "Text12", u"срочно"_s);
@@ -91,7 +91,7 @@ TEST(WaybillScreens, ATransferHasNoTaxesAndSavesItsRateOnly) {
   world.source.kind = DocumentKind::kTransfer;
   world.source.party = u"Главный склад"_s;
   world.source.destination = u"Магазин"_s;
-  vnNakl screen(world.Context(), world.source);
+  TransferWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(screen.findChild<QWidget*>(u"Text7"_s), nullptr);
   EXPECT_EQ(screen.findChild<QWidget*>(u"Text5"_s), nullptr);
@@ -119,7 +119,7 @@ TEST(WaybillScreens, ATransferHasNoTaxesAndSavesItsRateOnly) {
 
 TEST(WaybillScreens, LeavingARateSavesItAndLoadsAnewButKeepsTheTypedDiscount) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(TextOf(&screen, "Text19"), u"10"_s);
   Click(&screen, "GoldButton1");
@@ -138,13 +138,13 @@ TEST(WaybillScreens, LeavingARateSavesItAndLoadsAnewButKeepsTheTypedDiscount) {
   EXPECT_EQ(world->Settings().Read(settings::kSalesTax), u"0"_s);
   EXPECT_EQ(world->Settings().Read(settings::kRate), u"1"_s);
   // The next screen opens with the rate, not with the taxes.
-  PrihNakl next(world.Context(), world.source);
+  ShipmentWaybillScreen next(world.Context(), world.source);
   EXPECT_EQ(TextOf(&next, "Text7"), u"18"_s);
 }
 
 TEST(WaybillScreens, PercentagesAreInAllOfThePaperAndTheTypedHeadStays) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "Text1", u"Другой заголовок"_s);
@@ -168,7 +168,7 @@ TEST(WaybillScreens, PercentagesAreInAllOfThePaperAndTheTypedHeadStays) {
 // A field that was only passed through changes nothing.
 TEST(WaybillScreens, ATypedTotalStaysWhenNoPercentageWasTyped) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "Text20", u"Тысяча рублей"_s);
@@ -181,7 +181,7 @@ TEST(WaybillScreens, ATypedTotalStaysWhenNoPercentageWasTyped) {
 
 TEST(WaybillScreens, ARateStillBeingTypedIsOnThePaperWhenEnterPrints) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "DecText1", u"3"_s);
@@ -194,7 +194,7 @@ TEST(WaybillScreens, ARateStillBeingTypedIsOnThePaperWhenEnterPrints) {
 
 TEST(WaybillScreens, ATextThatIsNoNumberEndsTheLoadAndThePrintWaitsForItsMessage) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "DecText1", u"2"_s);
@@ -215,7 +215,7 @@ TEST(WaybillScreens, ATextThatIsNoNumberEndsTheLoadAndThePrintWaitsForItsMessage
 
 TEST(WaybillScreens, WithoutASelectedDocumentTheLoadFails) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), PrintSource());
+  ShipmentWaybillScreen screen(world.Context(), PrintSource());
   ModalAnswers answers({InputErrorTold()});
   screen.show();
   LetMessagesCome();
@@ -224,7 +224,7 @@ TEST(WaybillScreens, WithoutASelectedDocumentTheLoadFails) {
 TEST(WaybillScreens, AQuantityThatIsNoNumberLeavesNoPageAndNoClosedScreen) {
   PrintWorld world;
   world.source.lines[0].quantity = u"2,5"_s;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   {
     ModalAnswers answers({Press(QMessageBox::Ok,
@@ -240,7 +240,7 @@ TEST(WaybillScreens, AQuantityThatIsNoNumberLeavesNoPageAndNoClosedScreen) {
 TEST(WaybillScreens, AWorkFileThatCannotBeWrittenIsTold) {
   PrintWorld world;
   world->Temp().Put(u"nakl.htm\\x"_s, "");
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   {
     ModalAnswers answers({[](QWidget* dialog) {
@@ -255,7 +255,7 @@ TEST(WaybillScreens, AWorkFileThatCannotBeWrittenIsTold) {
 
 TEST(WaybillScreens, TheButtonFoldsTheParametersAndEscapeCloses) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   const QLineEdit* rate = Find<QLineEdit>(&screen, "DecText1");
   EXPECT_FALSE(rate->isVisible());
@@ -271,7 +271,7 @@ TEST(WaybillScreens, TheButtonFoldsTheParametersAndEscapeCloses) {
 
 TEST(WaybillScreens, PartiesAreTypedFreelyButOnlyWhatAFileHolds) {
   PrintWorld world;
-  PrihNakl screen(world.Context(), world.source);
+  ShipmentWaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   auto* party = Find<QComboBox>(&screen, "Text3");
   party->lineEdit()->selectAll();

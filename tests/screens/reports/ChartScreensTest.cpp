@@ -9,11 +9,11 @@
 #include "books/reports/ReportPageLines.h"
 #include "books/reports/ShipmentsOnDisk.h"
 #include "screens/reports/ChartImage.h"
+#include "screens/reports/ChartPrinting.h"
 #include "screens/reports/ChartWidget.h"
-#include "screens/reports/graphic.h"
+#include "screens/reports/ChartWindow.h"
 #include "screens/reports/otgr.h"
 #include "screens/reports/otspeed.h"
-#include "screens/reports/waitplease.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/RecordList.h"
 #include "viewer/page/PageReader.h"
@@ -132,7 +132,7 @@ ChartGrid TeaGrid() {
 }
 
 TEST_F(ChartScreens, OptionsChangeTheKindByTheirNumbers) {
-  graphic screen(Context(), TeaGrid());
+  ChartWindow screen(Context(), TeaGrid());
   ShowActive(&screen);
   auto* chart = Find<ChartWidget>(&screen, "MSChart1");
   EXPECT_TRUE(Find<QRadioButton>(&screen, "Option1")->isChecked());
@@ -148,7 +148,7 @@ TEST_F(ChartScreens, ALongNameLeavesTheChartItsRoomAndTheTitleItsPeriod) {
   for (const QString& name : {QString(3000, u'Ш'), u"Чай крупный лист "_s.repeated(200)}) {
     ChartGrid grid = TeaGrid();
     grid.title = u"График реализации товара "_s + name + u" за Февраль 2026"_s;
-    graphic screen(Context(), grid);
+    ChartWindow screen(Context(), grid);
     ShowActive(&screen);
     const auto* chart = Find<ChartWidget>(&screen, "MSChart1");
     EXPECT_LE(screen.width(), 1024);
@@ -160,7 +160,7 @@ TEST_F(ChartScreens, ALongNameLeavesTheChartItsRoomAndTheTitleItsPeriod) {
 
 TEST_F(ChartScreens, PrintedChartIsThePictureOnThePage) {
   Temp().Put(u"temp.gif"_s, "the chart of yesterday");
-  graphic screen(Context(), TeaGrid());
+  ChartWindow screen(Context(), TeaGrid());
   ShowActive(&screen);
   Find<QRadioButton>(&screen, "Option3")->click();
   Click(&screen, "GoldButton1");
@@ -183,7 +183,7 @@ TEST_F(ChartScreens, PrintedChartStandsUnderItsTitleOnOneSheet) {
   for (const QString& name : {u"Чай"_s, u"Чай крупный лист "_s.repeated(12)}) {
     ChartGrid grid = TeaGrid();
     grid.title = u"График реализации товара "_s + name + u" за Февраль 2026"_s;
-    graphic screen(Context(), grid);
+    ChartWindow screen(Context(), grid);
     ShowActive(&screen);
     Click(&screen, "GoldButton1");
     viewer::PaperLayout paper(std::make_shared<const viewer::Page>(
@@ -195,7 +195,7 @@ TEST_F(ChartScreens, PrintedChartStandsUnderItsTitleOnOneSheet) {
 
 TEST_F(ChartScreens, TheWaitTellsWhatItIsFor) {
   const ChartGrid grid = TeaGrid();
-  waitplease wait(Context(), grid, ChartKind::k3DBars);
+  ChartPrinting wait(Context(), grid, ChartKind::k3DBars);
   EXPECT_EQ(wait.windowTitle(), u"График"_s);
   EXPECT_EQ(Find<QLabel>(&wait, "Label1")->text(),
             u"Формирование графика для предосмотра... Это займет около минуты."_s);
@@ -203,7 +203,7 @@ TEST_F(ChartScreens, TheWaitTellsWhatItIsFor) {
 
 TEST_F(ChartScreens, AFailedPrintIsToldAndOpensNothing) {
   QDir().mkpath(Temp().Root() + u"/temp.htm"_s);
-  graphic screen(Context(), TeaGrid());
+  ChartWindow screen(Context(), TeaGrid());
   ShowActive(&screen);
   int messages = 0;
   QTimer answer;  // the waiting screen comes and goes by itself

@@ -5,8 +5,8 @@
 #include <QPushButton>
 
 #include "books/stock/DocumentWorld.h"
-#include "screens/directories/colvo.h"
-#include "screens/stock/change.h"
+#include "screens/directories/QuantityDialog.h"
+#include "screens/stock/LineDialog.h"
 #include "screens/stock/documents/PrihNew.h"
 #include "screens/stock/documents/TovPrih.h"
 #include "screens/stock/documents/TovPrih_Ass.h"

@@ -6,8 +6,8 @@
 
 #include "ScreenDriver.h"
 #include "books/printing/OnHandPage.h"
-#include "screens/stock/Sklad.h"
-#include "screens/stock/ost.h"
+#include "screens/stock/OnHandScreen.h"
+#include "screens/stock/OpeningBalancesDialog.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -48,18 +48,18 @@ class StockScreens : public testing::Test {
   ScreenWorld world_;
 };
 
-class OnHandScreen : public StockScreens {
+class OnHandShown : public StockScreens {
  protected:
-  OnHandScreen() : screen_(world_.Context()) {
+  OnHandShown() : screen_(world_.Context()) {
     ShowActive(&screen_);
     List(&screen_)->SelectRow(2);
   }
   void ChooseAll() { Find<QComboBox>(&screen_, "Combo1")->setCurrentText(u"ВСЕ СКЛАДЫ"_s); }
 
-  Sklad screen_;
+  OnHandScreen screen_;
 };
 
-TEST_F(OnHandScreen, ACorrectionRewritesTheLedgerAndTheStatusLine) {
+TEST_F(OnHandShown, ACorrectionRewritesTheLedgerAndTheStatusLine) {
   const QAbstractItemModelTester tester(List(&screen_)->model());
   EXPECT_EQ(Rows(&screen_), (QStringList{u" Чай="_s, u"Улун=0"_s, u"Ассам=5"_s}));
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 1     на сумму: 225.00"_s);
@@ -73,7 +73,7 @@ TEST_F(OnHandScreen, ACorrectionRewritesTheLedgerAndTheStatusLine) {
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 1     на сумму: 562.50"_s);
 }
 
-TEST_F(OnHandScreen, CancelTheSameTextAndAGroupWriteNothing) {
+TEST_F(OnHandShown, CancelTheSameTextAndAGroupWriteNothing) {
   const auto before = Temp().Tree();
   {
     ModalAnswers answers({Escape()});
@@ -88,7 +88,7 @@ TEST_F(OnHandScreen, CancelTheSameTextAndAGroupWriteNothing) {
   EXPECT_EQ(Temp().Tree(), before) << "not even the record that the list lacks is lost";
 }
 
-TEST_F(OnHandScreen, OverAllWarehousesOnlyEnterChangesAndOnlyTheShownRow) {
+TEST_F(OnHandShown, OverAllWarehousesOnlyEnterChangesAndOnlyTheShownRow) {
   ChooseAll();
   EXPECT_EQ(Rows(&screen_), (QStringList{u" Чай="_s, u"Улун=1.5"_s, u"Ассам=5"_s}));
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 2     на сумму: 360.00"_s);
@@ -104,7 +104,7 @@ TEST_F(OnHandScreen, OverAllWarehousesOnlyEnterChangesAndOnlyTheShownRow) {
   EXPECT_EQ(Temp().Tree(), before);
 }
 
-TEST_F(OnHandScreen, ZeroingAsksFirstAndKeepsTheRows) {
+TEST_F(OnHandShown, ZeroingAsksFirstAndKeepsTheRows) {
   const QString question = u"Вы уверены, что хотите удалить все остатки со склада"_s;
   const auto before = Temp().Tree();
   {
@@ -118,7 +118,7 @@ TEST_F(OnHandScreen, ZeroingAsksFirstAndKeepsTheRows) {
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 0     на сумму: 0.00"_s);
 }
 
-TEST_F(OnHandScreen, ASellerIsRefusedBothCorrections) {
+TEST_F(OnHandShown, ASellerIsRefusedBothCorrections) {
   world_.TheSession().role = UserRole::kSeller;
   const auto before = Temp().Tree();
   for (const char* command : {"Command1", "Command3"}) {
@@ -126,12 +126,12 @@ TEST_F(OnHandScreen, ASellerIsRefusedBothCorrections) {
     Click(&screen_, command);
   }
   EXPECT_EQ(Temp().Tree(), before);
-  Sklad sellers(world_.Context());
+  OnHandScreen sellers(world_.Context());
   EXPECT_TRUE(List(&sellers)->isColumnHidden(3));
   EXPECT_FALSE(List(&screen_)->isColumnHidden(3));
 }
 
-TEST_F(OnHandScreen, ALedgerThatCanNotBeReadIsToldAndNeverZeroed) {
+TEST_F(OnHandShown, ALedgerThatCanNotBeReadIsToldAndNeverZeroed) {
   QFile::remove(Temp().Data().Resolve(u"0001\\Подвал\\товар.usl"_s));
   {
     ModalAnswers answers({Press(QMessageBox::Ok)});
@@ -142,7 +142,7 @@ TEST_F(OnHandScreen, ALedgerThatCanNotBeReadIsToldAndNeverZeroed) {
   EXPECT_EQ(Temp().Tree(), before);
 }
 
-TEST_F(OnHandScreen, ThePageIsThatOfTheListAndTheViewIsRemembered) {
+TEST_F(OnHandShown, ThePageIsThatOfTheListAndTheViewIsRemembered) {
   Find<QRadioButton>(&screen_, "op2")->click();
   EXPECT_EQ(Rows(&screen_), (QStringList{u"Ассам=5"_s, u"Улун=0"_s}));
   Click(&screen_, "Command2");
@@ -165,7 +165,7 @@ ModalAnswers::Step PickRow(int row) {
 }
 
 TEST_F(StockScreens, OpeningBalancesAreAddedToTheChosenWarehouse) {
-  ost screen(world_.Context());
+  OpeningBalancesDialog screen(world_.Context());
   ShowActive(&screen);
   {
     ModalAnswers answers({PickRow(2), AnswerText(u"2.5"_s), PickRow(1), AnswerText(u"4"_s),
@@ -195,7 +195,7 @@ TEST_F(StockScreens, OpeningBalancesAreAddedToTheChosenWarehouse) {
 }
 
 TEST_F(StockScreens, AnEmptyListOfBalancesIsNotBooked) {
-  ost screen(world_.Context());
+  OpeningBalancesDialog screen(world_.Context());
   ShowActive(&screen);
   const auto before = Temp().Tree();
   Find<QComboBox>(&screen, "Combo1")->setCurrentIndex(0);

@@ -6,11 +6,11 @@
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
-#include "screens/store/Bases.h"
-#include "screens/store/BasesImport.h"
-#include "screens/store/BasesNew.h"
+#include "screens/store/CatalogueDialog.h"
 #include "screens/store/CatalogueHost.h"
 #include "screens/store/CatalogueList.h"
+#include "screens/store/ImportSourceDialog.h"
+#include "screens/store/NewDatabaseDialog.h"
 
 namespace kladez {
 namespace {
@@ -39,13 +39,13 @@ class CatalogueScreens : public testing::Test {
   void Create(const QStringList& names) {
     for (const QString& name : names) CreateDatabase(Data(), name);
   }
-  static ModalAnswers::Step On(const std::function<void(Bases*)>& act) {
-    return [=](QWidget* dialog) { act(qobject_cast<Bases*>(dialog)); };
+  static ModalAnswers::Step On(const std::function<void(CatalogueDialog*)>& act) {
+    return [=](QWidget* dialog) { act(qobject_cast<CatalogueDialog*>(dialog)); };
   }
 
   ScreenWorld world_;
   NotedHost host_;
-  Bases bases_{world_.Context(), host_, nullptr};
+  CatalogueDialog bases_{world_.Context(), host_, nullptr};
 };
 
 void SelectRow(QWidget* screen, int row) {
@@ -53,7 +53,7 @@ void SelectRow(QWidget* screen, int row) {
 }
 
 TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
-  ModalAnswers answers{On([&](Bases* bases) {
+  ModalAnswers answers{On([&](CatalogueDialog* bases) {
                          for (const char* name : {"GoldButton1", "GoldButton2", "Command1"}) {
                            EXPECT_FALSE(Find<QAbstractButton>(bases, name)->isEnabled()) << name;
                          }
@@ -69,7 +69,7 @@ TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
                          EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), u"Новая база"_s);
                          QTest::keyClick(dialog, Qt::Key_Return);
                        }};
-  EXPECT_FALSE(bases_.Run(Bases::Mode::kCatalogue));
+  EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kCatalogue));
   EXPECT_TRUE(Tree().contains("0001.us") && Tree().contains("0001/SPR/товар.spr"));
   EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
   EXPECT_EQ(Setting(settings::kRole), u"-1"_s);
@@ -78,7 +78,7 @@ TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
 
 TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
   Create({u"Первая"_s, u"Вторая"_s, u"Третья"_s});
-  ModalAnswers answers{On([&](Bases* bases) {
+  ModalAnswers answers{On([&](CatalogueDialog* bases) {
     EXPECT_EQ(bases->windowTitle(), u"Открыть"_s);
     EXPECT_EQ(Find<CatalogueList>(bases, "ListView1")->width(), 6135 / 15);
     EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Первая"_s);
@@ -87,7 +87,7 @@ TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
     EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Вторая"_s);
     QTest::keyClick(Find<CatalogueList>(bases, "ListView1"), Qt::Key_Return);
   })};
-  EXPECT_TRUE(bases_.Run(Bases::Mode::kOpen));
+  EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen));
   EXPECT_EQ(host_.calls, (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s}));
   EXPECT_EQ(TheSession().bases_text1, u"0002\\"_s);
   EXPECT_TRUE(TheSession().IsSeller());
@@ -101,7 +101,7 @@ TEST_F(CatalogueScreens, OnlyTheDirectorIsAskedForThePassword) {
   Create({u"Первая"_s});
   world_.Temp().PutLines(u"bases.psw"_s, {u"Пароль"_s});
   const auto open_as = [](int role, int tries) {
-    return On([=](Bases* bases) {
+    return On([=](CatalogueDialog* bases) {
       Find<QComboBox>(bases, "Combo1")->setCurrentIndex(role);
       for (int i = 0; i < tries; ++i) {
         EXPECT_TRUE(bases->isVisible());
@@ -124,11 +124,11 @@ TEST_F(CatalogueScreens, OnlyTheDirectorIsAskedForThePassword) {
                            EXPECT_EQ(Setting(settings::kBaseName), QString());
                            AnswerText(u"Пароль"_s)(dialog);
                          }};
-    EXPECT_TRUE(bases_.Run(Bases::Mode::kOpen));
+    EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen));
   }
   for (const int role : {0, -1}) {
     ModalAnswers answers{open_as(role, 1)};
-    EXPECT_TRUE(bases_.Run(Bases::Mode::kOpen)) << role;
+    EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen)) << role;
   }
 }
 
@@ -137,14 +137,14 @@ TEST_F(CatalogueScreens, OpenDatabaseIsNeitherRenamedNorDeleted) {
   TheSession().basedir = u"0001\\"_s;
   const auto before = Tree();
   ModalAnswers answers{
-      On([](Bases* bases) {
+      On([](CatalogueDialog* bases) {
         Click(bases, "GoldButton1");
         Click(bases, "GoldButton2");
         bases->close();
       }),
       Press(QMessageBox::Ok, u"Изменение невозможно, т.к. база данных используется."_s),
       Press(QMessageBox::Ok, u"Удаление невозможно, т.к. база данных используется."_s)};
-  bases_.Run(Bases::Mode::kCatalogue);
+  bases_.Run(CatalogueDialog::Mode::kCatalogue);
   EXPECT_EQ(Tree(), before);
 }
 
@@ -153,7 +153,7 @@ TEST_F(CatalogueScreens, RenameAndDeleteAskFirst) {
   auto expected = Tree();
   expected["0001.us"] = EncodeLines({u"0001\\"_s, u"Новое имя"_s}).toStdString();
   std::erase_if(expected, [](const auto& file) { return file.first.starts_with("0002"); });
-  ModalAnswers answers{On([&](Bases* bases) {
+  ModalAnswers answers{On([&](CatalogueDialog* bases) {
                          Click(bases, "GoldButton1");
                          Click(bases, "GoldButton1");
                          EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Новое имя"_s);
@@ -173,7 +173,7 @@ TEST_F(CatalogueScreens, RenameAndDeleteAskFirst) {
                          AnswerText(u"Новое имя"_s)(dialog);
                        },
                        Press(QMessageBox::No, u"Вы уверены?"_s), Press(QMessageBox::Yes)};
-  bases_.Run(Bases::Mode::kCatalogue);
+  bases_.Run(CatalogueDialog::Mode::kCatalogue);
   EXPECT_EQ(Tree(), expected);
 }
 
@@ -203,14 +203,14 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
     TheSession().bases_text1 = u"0001\\"_s;
     world_.Settings().Write(settings::kFilePos, u"7"_s);
     world_.Settings().Write(settings::kBaseName, u"old"_s);
-    ModalAnswers answers{On([&](Bases* bases) {
+    ModalAnswers answers{On([&](CatalogueDialog* bases) {
       if (c.frame) {
         bases->close();
       } else {
         QTest::keyClick(bases, Qt::Key_Escape);
       }
     })};
-    EXPECT_FALSE(bases_.Run(Bases::Mode::kOpen));
+    EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kOpen));
     const size_t number = size_t(&c - cases.data());
     EXPECT_EQ(TheSession().bases_text1, c.text1_after) << number;
     EXPECT_EQ(host_.calls, c.calls) << number;
@@ -222,7 +222,7 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
 TEST_F(CatalogueScreens, PathThatLeadsElsewhereIsShownButNotOpened) {
   world_.Temp().PutLines(u"0001.us"_s, {u"..\\чужая\\"_s, u"Чужая"_s});
   ModalAnswers answers{
-      On([](Bases* bases) {
+      On([](CatalogueDialog* bases) {
         EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Чужая"_s);
         Click(bases, "Command1");
         EXPECT_TRUE(bases->isVisible());
@@ -232,7 +232,7 @@ TEST_F(CatalogueScreens, PathThatLeadsElsewhereIsShownButNotOpened) {
         EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"0001.us"_s));
         dialog->close();
       }};
-  EXPECT_FALSE(bases_.Run(Bases::Mode::kOpen));
+  EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kOpen));
   EXPECT_EQ(host_.calls, QStringList());
 }
 
@@ -249,7 +249,7 @@ TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNor
     box->close();
   };
   {
-    ModalAnswers answers{On([](Bases* bases) {
+    ModalAnswers answers{On([](CatalogueDialog* bases) {
                            SelectRow(bases, 1);
                            Click(bases, "Command1");
                            EXPECT_TRUE(bases->isVisible());
@@ -257,12 +257,12 @@ TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNor
                            bases->close();
                          }),
                          told, Press(QMessageBox::Yes, u"Вы уверены?"_s), told};
-    EXPECT_FALSE(bases_.Run(Bases::Mode::kCatalogue));
+    EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kCatalogue));
   }
   EXPECT_EQ(host_.calls, QStringList());
   EXPECT_EQ(ListDatabases(Data()).size(), 2u);
   TheSession().basedir = u"0001\\"_s;
-  BasesImport screen(world_.Context(), host_, nullptr);
+  ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   SelectRow(&screen, 1);
   ModalAnswers answers{told};
@@ -278,7 +278,7 @@ TEST_F(CatalogueScreens, BoxesKeepTheirSizeWhateverTheDescriptorHolds) {
     EXPECT_LT(dialog->width(), 1000) << dialog->windowTitle().toStdString();
     EXPECT_LT(dialog->height(), 600) << dialog->windowTitle().toStdString();
   };
-  ModalAnswers answers{On([](Bases* bases) {
+  ModalAnswers answers{On([](CatalogueDialog* bases) {
                          Click(bases, "Command1");
                          Click(bases, "GoldButton1");
                          bases->close();
@@ -293,12 +293,12 @@ TEST_F(CatalogueScreens, BoxesKeepTheirSizeWhateverTheDescriptorHolds) {
                          EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), name);
                          dialog->close();
                        }};
-  bases_.Run(Bases::Mode::kCatalogue);
+  bases_.Run(CatalogueDialog::Mode::kCatalogue);
 }
 
 TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
-  for (const auto mode : {Bases::Mode::kCatalogue, Bases::Mode::kOpen}) {
-    ModalAnswers answers{On([](Bases* bases) {
+  for (const auto mode : {CatalogueDialog::Mode::kCatalogue, CatalogueDialog::Mode::kOpen}) {
+    ModalAnswers answers{On([](CatalogueDialog* bases) {
       const QString text = Find<CatalogueList>(bases, "ListView1")->EmptyText();
       const bool there = Find<QAbstractButton>(bases, "GoldButton3")->isVisible();
       EXPECT_EQ(text.contains(u"Нажмите «Создать»"_s), there) << text.toStdString();
@@ -314,7 +314,7 @@ TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
   TheSession().SkladNames = QStringList{u"a"_s, u"b"_s};
   TheSession().firma = QStringList{u"Прежняя фирма"_s};
   TheSession().rub = u"тнг"_s;
-  BasesNew screen(world_.Context(), host_, nullptr);
+  NewDatabaseDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   EXPECT_EQ(Find<QLineEdit>(&screen, "Text3")->text(), u"Первая"_s);
   Find<QLineEdit>(&screen, "Text3")->clear();
@@ -340,7 +340,7 @@ TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
 
 TEST_F(CatalogueScreens, FailedCreationTellsWhyAndLeavesTheScreen) {
   world_.Temp().Put(u"0001\\чужое"_s, {});
-  BasesNew screen(world_.Context(), host_, nullptr);
+  NewDatabaseDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   Type(Find<QLineEdit>(&screen, "Text3"), u"Первая"_s);
   ModalAnswers answers{[](QWidget* dialog) {
@@ -357,7 +357,7 @@ TEST_F(CatalogueScreens, ImportOfADatabaseIntoItselfIsRefused) {
   Create({u"Первая"_s});
   TheSession().basedir = u"0001\\"_s;
   const auto before = Tree();
-  BasesImport screen(world_.Context(), host_, nullptr);
+  ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   ModalAnswers answers{Press(QMessageBox::Ok, u"Нельзя импортировать базу саму в себя"_s)};
   Click(&screen, "Command1");
@@ -370,7 +370,7 @@ TEST_F(CatalogueScreens, ImportGoesFromSourceToAreasToFiles) {
   TheSession().basedir = u"0001\\"_s;
   world_.Temp().PutLines(u"0002\\SPR\\товар.spr"_s, {u" Чай"_s});
   world_.Temp().PutLines(u"0002\\SPR\\firma.spr"_s, {u"не отмечено"_s});
-  BasesImport screen(world_.Context(), host_, nullptr);
+  ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   SelectRow(&screen, 1);
   ModalAnswers answers{[](QWidget* dialog) {

@@ -6,10 +6,10 @@
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
 #include "books/store/SystemCalls.h"
+#include "screens/store/BackupWizard.h"
 #include "screens/store/CatalogueList.h"
 #include "screens/store/FolderChooser.h"
-#include "screens/store/rescopy.h"
-#include "screens/store/resrep.h"
+#include "screens/store/RestoreWizard.h"
 
 namespace kladez {
 namespace {
@@ -44,7 +44,7 @@ class CopyWizards : public testing::Test {
 };
 
 TEST_F(CopyWizards, BackupGoesThroughBothSteps) {
-  rescopy screen(world_.Context(), nullptr);
+  BackupWizard screen(world_.Context(), nullptr);
   ModalAnswers answers{[&](QWidget* dialog) {
                          EXPECT_EQ(dialog->windowTitle(), u"Резервное корирование"_s);
                          Click(dialog, "Command1");
@@ -69,7 +69,7 @@ TEST_F(CopyWizards, BackupGoesThroughBothSteps) {
 
 TEST_F(CopyWizards, NothingToBackUpIsSaidAtOnce) {
   for (const auto& entry : ListDatabases(Data())) DeleteDatabase(Data(), entry);
-  rescopy screen(world_.Context(), nullptr);
+  BackupWizard screen(world_.Context(), nullptr);
   ModalAnswers answers{
       Press(QMessageBox::Ok, u"У вас нет ни одной базы данных, чтобы копировать ее."_s), Escape()};
   screen.exec();
@@ -79,7 +79,7 @@ TEST_F(CopyWizards, FaultNamesTheFileAndTheScreenStays) {
   syscalls::SetFaultHook([](std::string_view call, const QByteArray& path) {
     return call == "copy" && path.endsWith("0003.prc") ? EIO : 0;
   });
-  rescopy screen(world_.Context(), nullptr);
+  BackupWizard screen(world_.Context(), nullptr);
   ModalAnswers answers{[&](QWidget* dialog) {
                          ToLastStepOfBackup(dialog);
                          Click(dialog, "Command1");
@@ -100,7 +100,7 @@ TEST_F(CopyWizards, FaultNamesTheFileAndTheScreenStays) {
 }
 
 TEST_F(CopyWizards, CancelWhileCopyingLeavesNothing) {
-  rescopy screen(world_.Context(), nullptr);
+  BackupWizard screen(world_.Context(), nullptr);
   int seen = -1;
   ModalAnswers answers{
       [&](QWidget* dialog) {
@@ -123,7 +123,7 @@ TEST_F(CopyWizards, CancelWhileCopyingLeavesNothing) {
 
 // The folder of the last good path would be taken in silence.
 TEST_F(CopyWizards, TypedPathThatIsNoFolderIsNotPassedOver) {
-  rescopy screen(world_.Context(), nullptr);
+  BackupWizard screen(world_.Context(), nullptr);
   const QString missing = drive_.Root() + u"/нет такой"_s;
   const ModalAnswers::Step told = Press(
       QMessageBox::Ok, u"Такой папки нет. Выберите её в дереве или напишите полный путь к ней."_s);
@@ -153,7 +153,7 @@ TEST_F(CopyWizards, TypedPathThatIsNoFolderIsNotPassedOver) {
 TEST_F(CopyWizards, RestoreWaitsForAFolderWithAnIndex) {
   ASSERT_TRUE(
       MakeBackup(Data(), ListDatabases(Data()), drive_.Root(), world_.Context().clock.Today()));
-  resrep screen(world_.Context(), nullptr);
+  RestoreWizard screen(world_.Context(), nullptr);
   ModalAnswers answers{[&](QWidget* dialog) {
                          EXPECT_EQ(Find<QLabel>(dialog, "Label1")->text(),
                                    u"Выбрите папку, в которую Вы ранее скопировали базы данных"_s);

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "formats/Dates.h"
-#include "screens/stock/change.h"
+#include "screens/stock/LineDialog.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
@@ -241,7 +241,7 @@ void DocumentEditor::TakePick(const GoodsPick& pick) {
 void DocumentEditor::Change() {
   const int row = ListView1->CurrentRow();
   if (row < 0) return;
-  class change dialog(draft_.Lines()[row], this);
+  class LineDialog dialog(draft_.Lines()[row], this);
   if (dialog.exec() == QDialog::Accepted) {
     draft_.ChangeLine(row, dialog.Quantity(), dialog.Price(), dialog.Amount());
     ListView1->Records()->Update(row);

@@ -2,14 +2,14 @@
 
 #include <memory>
 
-#include "screens/directories/sprtovar2.h"
-#include "screens/prices/price2.h"
-#include "screens/printing/PrihNakl.h"
-#include "screens/printing/PrihPrint.h"
-#include "screens/printing/UhodSch.h"
-#include "screens/printing/chFactPrint.h"
-#include "screens/printing/prihnokl.h"
-#include "screens/printing/vnNakl.h"
+#include "screens/directories/GoodsPicker.h"
+#include "screens/prices/PricePicker.h"
+#include "screens/printing/BillScreen.h"
+#include "screens/printing/CashOrderScreen.h"
+#include "screens/printing/ReceiptWaybillScreen.h"
+#include "screens/printing/ShipmentWaybillScreen.h"
+#include "screens/printing/TaxInvoiceScreen.h"
+#include "screens/printing/TransferWaybillScreen.h"
 
 namespace kladez {
 namespace {
@@ -23,7 +23,7 @@ QDialog* Open(AppContext& context, const PrintSource& source, QWidget* parent) {
 }
 
 void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, const TakePick& take) {
-  sprtovar2 picker(context, PickFor::kReceipt, parent);
+  GoodsPicker picker(context, PickFor::kReceipt, parent);
   picker.exec();
   if (picker.Pick()) take(*picker.Pick());
 }
@@ -31,8 +31,8 @@ void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, con
 // Stays open from one pick to the next.
 void PickFromPrices(AppContext& context, const QString& warehouse, QWidget* parent,
                     const TakePick& take) {
-  price2 picker(context, warehouse, parent);
-  QObject::connect(&picker, &price2::Picked, parent, take);
+  PricePicker picker(context, warehouse, parent);
+  QObject::connect(&picker, &PricePicker::Picked, parent, take);
   picker.exec();
 }
 
@@ -92,7 +92,7 @@ const DocumentScreens& Receipts() {
       .sum_hint = u"Сумма по счету"_s,
       .editor_columns = {NameOf(3100), Quantity(), Unit(), Price(u"Цена"_s), Amount(u"Cумма"_s)},
       .pick = &PickFromDirectory,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<prihnokl>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<ReceiptWaybillScreen>}},
       .properties_name = u"TovPrih_Ass"_s,
       .properties_caption = u"Свойства накладной прихода товара N "_s,
       .properties_sum_caption = u"Сумма по накладной:"_s,
@@ -127,10 +127,10 @@ const DocumentScreens& Shipments() {
       .editor_columns = {NameOf(3650), Quantity(), Unit(), Cost(true), Price(u"Цена реал"_s),
                          Amount(u"Cумма реал"_s)},
       .pick = &PickFromPrices,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<PrihNakl>},
-                 {u"prs"_s, u"Счет-&фактура"_s, &Open<chFactPrint>},
-                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &Open<PrihPrint>},
-                 {u"pri"_s, u"С&чет"_s, &Open<UhodSch>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<ShipmentWaybillScreen>},
+                 {u"prs"_s, u"Счет-&фактура"_s, &Open<TaxInvoiceScreen>},
+                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &Open<CashOrderScreen>},
+                 {u"pri"_s, u"С&чет"_s, &Open<BillScreen>}},
       .properties_name = u"TovUhod_Ass"_s,
       .properties_caption = u"Свойства накладной ухода товара N "_s,
       .properties_sum_caption = u"Сумма:"_s,
@@ -163,7 +163,7 @@ const DocumentScreens& Transfers() {
       .editor_columns = {NameOf(2280), Quantity(), Unit(), Cost(false), Price(u"Цена реал"_s),
                          Amount(u"Cумма реал"_s)},
       .pick = &PickFromPrices,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<vnNakl>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<TransferWaybillScreen>}},
       .properties_name = u"vnutr_Ass"_s,
       .properties_caption = u"Свойства накладной перемещения товара N "_s,
       .properties_sum_caption = u"Сумма по накладной:"_s,

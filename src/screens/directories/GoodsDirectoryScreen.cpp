@@ -1,0 +1,221 @@
+#include "screens/directories/GoodsDirectoryScreen.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QToolBar>
+#include <algorithm>
+
+#include "screens/directories/GoodsBrowser.h"
+#include "screens/directories/GoodsForm.h"
+#include "screens/directories/PickQuestion.h"
+#include "ui/controls/Commands.h"
+#include "ui/controls/Guard.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+using look::IconName;
+
+GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
+    : QWidget(parent),
+      context_(context),
+      browser_(new GoodsBrowser(context, u"sprTovar", {}, this)),
+      add_(NewCommand(this, u"add"_s, u"&Добавить"_s, IconName::kAdd)),
+      change_(NewCommand(this, u"change"_s, u"&Изменить"_s, IconName::kChange)),
+      remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
+      sort_(NewCommand(this, u"sort"_s, u"Сортиро&вка"_s, IconName::kSort)),
+      chart_(NewCommand(this, u"chart"_s, u"Г&рафик..."_s, IconName::kChart)),
+      Command7(NewCommand(this, u"Command7"_s, u"Вы&брать"_s, IconName::kPick)),
+      Command9(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
+      up_(NewMove(u"up"_s, u"Порядок: вверх"_s, Qt::Key_Up, true)),
+      down_(NewMove(u"down"_s, u"Порядок: вниз"_s, Qt::Key_Down, false)) {
+  setObjectName(u"sprTovar"_s);
+  setWindowTitle(u"Справочник товаров"_s);
+  Command7->hide();
+  BuildLayout();
+  Wire();
+  ShowView();
+  setFocusProxy(browser_->List());
+}
+
+GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, PickFor pick_for, QWidget* parent)
+    : GoodsDirectoryScreen(context, parent) {
+  pick_for_ = pick_for;
+  setWindowFlag(Qt::Window);
+  setAttribute(Qt::WA_DeleteOnClose);
+  resize(100 * look::kGrid, 70 * look::kGrid);
+  Command7->show();
+  chart_->hide();
+}
+
+QAction* GoodsDirectoryScreen::NewMove(const QString& name, const QString& caption, Qt::Key key,
+                                       bool up) {
+  auto* action = new QAction(look::Icon(up ? IconName::kUp : IconName::kDown), caption, this);
+  action->setObjectName(name);
+  action->setShortcut(Qt::CTRL | key);
+  connect(action, &QAction::triggered, this, [this, up] { Move(up); });
+  return action;
+}
+
+void GoodsDirectoryScreen::BuildLayout() {
+  auto* order = new QToolBar(this);
+  order->addAction(up_);
+  order->addAction(down_);
+  browser_->Filter()->Row()->addSpacing(look::kGrid);
+  browser_->Filter()->Row()->addWidget(order);
+  auto* layout = new QVBoxLayout(this);
+  look::SetPanelMargins(layout);
+  layout->addWidget(browser_, 1);
+  layout->addLayout(NewCommandRow({add_, change_, remove_, sort_, chart_}, {Command7, Command9}));
+}
+
+void GoodsDirectoryScreen::Wire() {
+  connect(add_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Add);
+  connect(change_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Change);
+  connect(remove_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Remove);
+  connect(sort_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Sort);
+  connect(chart_, &QPushButton::clicked, this, &GoodsDirectoryScreen::AskForChart);
+  connect(Command7, &QPushButton::clicked, this, &GoodsDirectoryScreen::Choose);
+  connect(Command9, &QPushButton::clicked, this, &GoodsDirectoryScreen::CloseSaved);
+  RecordList* list = browser_->List();
+  // Adding and deleting rest with their commands while only goods are shown; changing does not.
+  connect(list, &RecordList::InsertPressed, add_, &QPushButton::click);
+  connect(list, &RecordList::DeletePressed, remove_, &QPushButton::click);
+  connect(list, &RecordList::EnterPressed, this, &GoodsDirectoryScreen::ChangeOrChoose);
+  connect(list, &RecordList::DoubleClicked, this, &GoodsDirectoryScreen::ChangeOrChoose);
+  connect(browser_->Filter(), &GoodsFilter::ViewChosen, this, &GoodsDirectoryScreen::ChooseView);
+  auto* refresh = new QShortcut(Qt::Key_F5, this);
+  connect(refresh, &QShortcut::activated, this, &GoodsDirectoryScreen::Refresh);
+}
+
+GoodsDirectory& GoodsDirectoryScreen::Directory() { return browser_->Directory(); }
+
+void GoodsDirectoryScreen::Add() {
+  if (Directory().IsFull()) {
+    ShowMessage(this, u"Нельзя добавлять более 1000 наименований товаров"_s);
+    return;
+  }
+  GoodsEntry entry;
+  entry.group_only = Directory().Rows().empty();
+  entry.record.country = u"Россия"_s;
+  GoodsForm form(entry, this);
+  if (form.exec() != QDialog::Accepted) return;
+  const int below = browser_->List()->CurrentRow();
+  const int row = below < 0 ? static_cast<int>(Directory().Rows().size()) : below + 1;
+  browser_->Model()->Insert(row, [&] { Directory().Insert(below, form.Record()); });
+  browser_->List()->SelectRow(row);
+}
+
+void GoodsDirectoryScreen::Change() {
+  const GoodsRecord* record = browser_->Selected();
+  if (record == nullptr) return;
+  GoodsForm form({.change = true, .record = *record}, this);
+  if (form.exec() != QDialog::Accepted) return;
+  const int before = browser_->List()->CurrentRow();
+  const int row = Directory().Change(before, form.Record());
+  if (row == before) {
+    browser_->Model()->Update(row);
+  } else {
+    browser_->Model()->Reset();
+    browser_->List()->SelectRow(row);
+  }
+  Guarded(this, [&] { Directory().SaveChange(row); });
+}
+
+void GoodsDirectoryScreen::Remove() {
+  browser_->List()->setFocus();
+  // Asked over an empty list too: that is the order in which it has always gone.
+  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
+  const GoodsRecord* record = browser_->Selected();
+  if (record == nullptr) return;
+  Guarded(this, [&] {
+    if (!record->IsGroup() && IsOnHand(context_.data, context_.session, record->name)) {
+      ShowMessage(this, u"На одном из складов присутствует данный товар.\nУдаление невозможно"_s);
+      return;
+    }
+    const int row = browser_->List()->CurrentRow();
+    browser_->Model()->Remove(row, [&] { Directory().Remove(row); });
+    browser_->List()->SelectRow(std::min(row, browser_->Model()->rowCount() - 1));
+  });
+}
+
+void GoodsDirectoryScreen::Sort() {
+  browser_->ShowAnew([this] { Directory().Sort(); });
+}
+
+void GoodsDirectoryScreen::Move(bool up) {
+  const int row = browser_->List()->CurrentRow();
+  const int moved = up ? Directory().MoveUp(row) : Directory().MoveDown(row);
+  if (moved == row) return;
+  browser_->Model()->Update(row);
+  browser_->Model()->Update(moved);
+  browser_->List()->SelectRow(moved);
+}
+
+void GoodsDirectoryScreen::ChangeOrChoose() {
+  if (Command7->isHidden()) {
+    Change();
+  } else {
+    Choose();
+  }
+}
+
+void GoodsDirectoryScreen::Choose() {
+  if (!Guarded(this, [this] { Directory().SaveBeforePick(); })) return;
+  const GoodsRecord* record = browser_->Selected();
+  if (record == nullptr) return;
+  const auto pick = AskPick(this, *record, pick_for_);
+  if (!pick) return;
+  emit Picked(*pick);
+  close();
+}
+
+void GoodsDirectoryScreen::AskForChart() {
+  const GoodsRecord* record = browser_->Selected();
+  if (record != nullptr && !record->IsGroup()) emit ChartWanted(record->name);
+}
+
+void GoodsDirectoryScreen::CloseSaved() {
+  if (Guarded(this, [this] { Directory().Save(); })) close();
+}
+
+void GoodsDirectoryScreen::ChooseView(GoodsView view) {
+  browser_->SaveWidths();
+  Guarded(this, [&] {
+    browser_->ShowAnew([&] {
+      if (view == GoodsView::kGoodsOnly) {
+        Directory().ShowGoodsOnly();
+      } else {
+        Directory().Reload(view);
+      }
+    });
+  });
+  browser_->Filter()->SetView(Directory().View());
+  ShowView();
+}
+
+void GoodsDirectoryScreen::ShowView() {
+  const bool groups = Directory().View() == GoodsView::kGroups;
+  for (QPushButton* command : {add_, change_, remove_, sort_}) command->setEnabled(groups);
+  // Goods alone keep themselves in order.
+  up_->setEnabled(groups);
+  down_->setEnabled(groups);
+  browser_->List()->SetEmptyText(
+      groups ? u"Список пуст. Нажмите «Добавить» и создайте первую группу товаров."_s
+             : u"Товаров ещё нет. Выберите «Группы», чтобы добавить их."_s);
+}
+
+void GoodsDirectoryScreen::Refresh() {
+  browser_->SaveWidths();
+  SaveWidth(context_.settings, 6, browser_->List()->ColumnTwips().back());
+  browser_->ShowAnew([] {});
+}
+
+void GoodsDirectoryScreen::closeEvent(QCloseEvent* event) {
+  browser_->Filter()->Remember();
+  QWidget::closeEvent(event);
+}
+
+}  // namespace kladez

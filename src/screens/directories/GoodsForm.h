@@ -1,0 +1,54 @@
+// "Запись": the form of one record of the goods directory, goods or a group.
+#pragma once
+
+#include <QDialog>
+
+#include "formats/GoodsFile.h"
+
+class QLabel;
+class QPushButton;
+class QTabWidget;
+
+namespace kladez {
+
+class TextLine;
+class TextLineDecimal;
+
+struct GoodsEntry {
+  bool change = false;      // a record is changed, otherwise one is added
+  bool group_only = false;  // the first record of a directory must be a group
+  GoodsRecord record;       // what the fields show at first
+};
+
+class GoodsForm : public QDialog {
+  Q_OBJECT
+
+ public:
+  GoodsForm(const GoodsEntry& entry, QWidget* parent);
+
+  // What was entered; valid after OK.
+  GoodsRecord Record() const;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QWidget* NewGoodsPage(const GoodsRecord& record);
+  QWidget* NewGroupPage(const GoodsEntry& entry);
+  bool IsGroupShown() const;
+  void Ok();
+
+  QTabWidget* tabs_;        // "Товар", "Группа"
+  TextLine* name_;          // "Наименование:"
+  TextLine* country_;       // "Страна:"
+  TextLine* declaration_;   // "N декларации:"
+  TextLine* unit_;          // "Единица измерения:"
+  TextLineDecimal* price_;  // "Цена:"
+  TextLine* group_;         // "Наименование группы:"
+  QLabel* Label7;           // why only a group can be added to an empty directory
+  QPushButton* ok_;         // "OK"
+  QPushButton* cancel_;     // "Отмена"
+};
+
+}  // namespace kladez

@@ -1,0 +1,62 @@
+#include "screens/directories/WarehousesDialog.h"
+
+#include "ui/controls/Guard.h"
+#include "ui/controls/Look.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+WarehousesDialog::WarehousesDialog(AppContext& context, QWidget* parent)
+    : DirectoryDialog(u"sprSklad"_s, u"Список складов"_s, Ending::kOk, parent),
+      directory_(context.data, context.session) {
+  SetRows({{.title = u"Склад"_s, .twips = 4500, .stretch = true}},
+          {.count = [this] { return static_cast<int>(directory_.Names().size()); },
+           .text = [this](int row, int) { return directory_.Names()[row]; },
+           .is_group = {},
+           .checked = {},
+           .set_checked = {}});
+  resize(65 * look::kGrid, 45 * look::kGrid);
+}
+
+QString WarehousesDialog::AskName(const QString& prompt, const QString& value) {
+  while (true) {
+    const QString name = AskText(this, u"Имя склада"_s, prompt, value).value_or(QString());
+    if (!HoldsForbiddenCharacter(name)) return name;
+    ShowMessage(this, u"В названии склада запрещается использовать символы \\/:*?\"<>|"_s);
+  }
+}
+
+void WarehousesDialog::Add() {
+  const QString name = AskName(u"Введите название нового склада"_s, {});
+  if (name.isEmpty()) return;
+  if (directory_.Contains(name)) {
+    ShowMessage(this, u"Такой склад уже существует"_s);
+    return;
+  }
+  Guarded(this, [&] {
+    directory_.Create(name);
+    ShowAnew(static_cast<int>(directory_.Names().size()) - 1);
+  });
+}
+
+void WarehousesDialog::Change(int row) {
+  const QString name = AskName(u"Введите новое название склада"_s, directory_.Names()[row]);
+  if (name.isEmpty()) return;
+  Guarded(this, [&] {
+    directory_.Rename(row, name);
+    ShowAnew(row);
+  });
+}
+
+void WarehousesDialog::Remove(int row) {
+  if (row == 0 || !AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
+  Guarded(this, [&] {
+    directory_.Delete(row);
+    ShowAnew(row);
+  });
+}
+
+void WarehousesDialog::Save() { directory_.Save(); }
+
+}  // namespace kladez

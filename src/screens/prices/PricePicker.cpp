@@ -1,0 +1,33 @@
+#include "screens/prices/PricePicker.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "screens/prices/PriceBrowser.h"
+#include "ui/controls/Look.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+PricePicker::PricePicker(AppContext& context, const QString& warehouse, QWidget* parent)
+    : QDialog(parent), browser_(new PriceBrowser(context, PriceUse::kPicker, this)) {
+  setObjectName(u"price2"_s);
+  setWindowTitle(u"Прайс-лист"_s);
+  auto* layout = new QVBoxLayout(this);
+  look::SetDialogMargins(layout);
+  layout->addWidget(browser_);
+  resize(90 * look::kGrid, 64 * look::kGrid);
+  browser_->Command6->setDefault(true);
+  browser_->ListView1->setFocus();
+  connect(browser_, &PriceBrowser::CloseAsked, this, &QDialog::reject);
+  connect(browser_, &PriceBrowser::Picked, this, &PricePicker::Picked);
+  browser_->ChooseWarehouse(warehouse);
+}
+
+void PricePicker::done(int result) {
+  browser_->Leave();
+  QDialog::done(result);
+}
+
+}  // namespace kladez

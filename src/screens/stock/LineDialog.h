@@ -1,0 +1,36 @@
+// The dialog that changes the quantity and price of one line of a document.
+#pragma once
+
+#include <QDialog>
+
+#include "books/stock/DocumentDraft.h"
+
+class QPushButton;
+
+namespace kladez {
+
+class TextLine;
+class TextLineDecimal;
+class TextLineNumber;
+
+class LineDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit LineDialog(const DraftLine& line, QWidget* parent = nullptr);
+
+  QString Quantity() const;
+  QString Price() const;
+  QString Amount() const;
+
+ private:
+  void Recompute();
+
+  TextLine* Text1;         // "Товар:"
+  TextLineNumber* Text2;   // "Кол-во:"
+  TextLine* Text3;         // "Ед. изм.:"
+  TextLineDecimal* Text4;  // "Цена:"
+  TextLineDecimal* Text5;  // "Сумма:"
+};
+
+}  // namespace kladez

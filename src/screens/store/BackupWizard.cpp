@@ -1,0 +1,51 @@
+#include "screens/store/BackupWizard.h"
+
+#include <QPushButton>
+
+#include "screens/store/CatalogueList.h"
+#include "screens/store/FolderChooser.h"
+#include "ui/controls/Guard.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+BackupWizard::BackupWizard(AppContext& context, QWidget* parent)
+    : CopyWizard(context, u"rescopy"_s, u"Резервное корирование"_s, parent) {
+  ShowList(u"Отметьте галочками те базы данных, которые необходимо копировать."_s);
+}
+
+int BackupWizard::exec() {
+  Guarded(this, [this] { ListView1->Fill(context_.data); });
+  ListView1->SelectRow(0);
+  if (ListView1->Count() == 0) {
+    ShowMessage(parentWidget(), u"У вас нет ни одной базы данных, чтобы копировать ее."_s);
+  }
+  return CopyWizard::exec();
+}
+
+void BackupWizard::Next() {
+  if (ListIsShown()) {
+    if (!AnyChecked()) return;
+    Guarded(this, [this] {
+      for (const CatalogueEntry& entry : ListView1->Checked()) {
+        RequirePlainPath(context_.data, entry);
+      }
+      Command1->setText(u"OK"_s);
+      ShowChooser(u"Выбирите папку, куда необходимо скопировать базы данных"_s);
+    });
+    return;
+  }
+  if (chooser_->Folder().isEmpty()) {
+    ShowMessage(this, u"Такой папки нет. Выберите её в дереве или напишите полный путь к ней."_s);
+    return;
+  }
+  Copy(
+      [this](const CopyProgress& progress) {
+        return MakeBackup(context_.data, ListView1->Checked(), chooser_->Folder(),
+                          context_.clock.Today(), progress);
+      },
+      u"Копирование прервано, незаконченная копия удалена."_s);
+}
+
+}  // namespace kladez

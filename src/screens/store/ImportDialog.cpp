@@ -1,0 +1,94 @@
+#include "screens/store/ImportDialog.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "ui/Help.h"
+#include "ui/Hints.h"
+#include "ui/controls/Commands.h"
+#include "ui/controls/Guard.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct AreaRow {
+  QStringView control;
+  QStringView caption;
+};
+
+// In the order of ImportArea.
+constexpr std::array<AreaRow, kImportAreas> kAreas = {{
+    {u"Check1", u"Справочник товаров"},
+    {u"Check9", u"Основная валюта"},
+    {u"Check2", u"Справочник складов"},
+    {u"Check5", u"Справочник фирм"},
+    {u"Check3", u"Справочник поставщиков"},
+    {u"Check4", u"Справочник клиентов"},
+    {u"Check6", u"Состояние складов"},
+    {u"Check7", u"Прайс-листы"},
+    {u"Check8", u"Расчеты с поставщиками"},
+}};
+
+}  // namespace
+
+ImportDialog::ImportDialog(AppContext& context, const QString& source, QWidget* parent)
+    : QDialog(parent),
+      context_(context),
+      Text1(source),
+      Command1(NewCommand(this, u"Command1"_s, u"OK"_s)),
+      Command2(NewCommand(this, u"Command2"_s, u"О&тмена"_s)),
+      Command3(NewHelpCommand(this, context.data, u"workdb.htm", u"Command3")) {
+  setObjectName(u"Import"_s);
+  setWindowTitle(u"Импорт"_s);
+  // The blanks leave room for the question mark.
+  auto* frame = new QGroupBox(u"     Что импортировать?"_s, this);
+  frame->setObjectName(u"Frame1"_s);
+  Picture5 = new HintPicture(HintFor(u"Import", u"Picture5"), {frame}, frame);
+  Picture5->setObjectName(u"Picture5"_s);
+  Picture5->setGeometry(0, 0, look::kMargin + 2, look::kMargin + 2);
+  auto* list = new QVBoxLayout(frame);
+  list->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kMargin);
+  list->setSpacing(look::kGrid);
+  for (size_t i = 0; i < kAreas.size(); ++i) {
+    boxes_[i] = new QCheckBox(kAreas[i].caption.toString(), frame);
+    boxes_[i]->setObjectName(kAreas[i].control.toString());
+    list->addWidget(boxes_[i]);
+    connect(boxes_[i], &QCheckBox::toggled, this, [this, i](bool on) {
+      choice_.Tick(static_cast<ImportArea>(i), on);
+      ShowChoice();
+    });
+  }
+  auto* ending = NewEndingRow(Command1, Command2);
+  ending->insertWidget(0, Command3);
+  auto* layout = new QVBoxLayout(this);
+  look::SetDialogMargins(layout);
+  layout->addWidget(frame, 1);
+  layout->addSpacing(look::kGrid);
+  layout->addLayout(ending);
+  setMinimumWidth(46 * look::kGrid);
+
+  connect(Command1, &QPushButton::clicked, this, &ImportDialog::Copy);
+  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  boxes_.front()->setFocus();
+}
+
+void ImportDialog::ShowChoice() {
+  for (size_t i = 0; i < boxes_.size(); ++i) {
+    const QSignalBlocker quiet(boxes_[i]);
+    boxes_[i]->setChecked(choice_.IsTicked(static_cast<ImportArea>(i)));
+    boxes_[i]->setEnabled(!choice_.IsLocked(static_cast<ImportArea>(i)));
+  }
+}
+
+void ImportDialog::Copy() {
+  if (Guarded(this,
+              [this] { ImportAreas(context_.data, Text1, context_.session.basedir, choice_); })) {
+    accept();
+  }
+}
+
+}  // namespace kladez

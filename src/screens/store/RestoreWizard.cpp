@@ -1,0 +1,39 @@
+#include "screens/store/RestoreWizard.h"
+
+#include <QPushButton>
+
+#include "screens/store/CatalogueList.h"
+#include "screens/store/FolderChooser.h"
+#include "ui/controls/Guard.h"
+
+namespace kladez {
+
+using namespace Qt::StringLiterals;
+
+RestoreWizard::RestoreWizard(AppContext& context, QWidget* parent)
+    : CopyWizard(context, u"resrep"_s, u"Восстановление"_s, parent) {
+  ShowChooser(u"Выбрите папку, в которую Вы ранее скопировали базы данных"_s);
+  const auto look = [this] { Command1->setEnabled(IsBackupFolder(chooser_->Folder())); };
+  connect(chooser_, &FolderChooser::FolderChanged, this, look);
+  look();
+}
+
+void RestoreWizard::Next() {
+  if (!ListIsShown()) {
+    Guarded(this, [this] {
+      ListView1->Fill(DataDir(chooser_->Folder()));
+      Command1->setText(u"OK"_s);
+      ShowList(u"Выбирите базы данных, которые необходимо восстановить"_s);
+    });
+    return;
+  }
+  if (!AnyChecked()) return;
+  Copy(
+      [this](const CopyProgress& progress) {
+        return RestoreDatabases(context_.data, DataDir(chooser_->Folder()), ListView1->Checked(),
+                                progress);
+      },
+      u"Восстановление прервано. Базы, восстановленные до этого, остались в списке баз данных."_s);
+}
+
+}  // namespace kladez

@@ -1,0 +1,81 @@
+// The main window: menu, left panel, strip, and one child screen at a time. It starts the session,
+// opens and closes Databases, and stays until the end of the run.
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+
+#include "screens/store/CatalogueHost.h"
+#include "shell/MainMenu.h"
+#include "shell/Places.h"
+#include "ui/AppContext.h"
+#include "ui/controls/DialogsFirst.h"
+
+class QLabel;
+class QProgressBar;
+class QVBoxLayout;
+
+namespace kladez {
+
+class CatalogueDialog;
+class LinksPanel;
+class LinksStrip;
+
+class MainWindow : public QMainWindow, public CatalogueHost {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(AppContext& context);
+  ~MainWindow() override;
+
+  // The start: title window, catalogue, the Database that was open last.
+  void Start(int splash_milliseconds = 2000);
+  // Opens the Database that the session's bases_text1 names, or shows the landing screen.
+  void OpenDatabase();
+
+  void CloseChildScreens() override;
+  void SetDatabaseTitle(const QString& name) override;
+  void HideDatabaseMenus() override;
+  void DisableDatabaseCommands() override;
+  void ShowNewDatabase() override;
+
+  QWidget* Child() const { return child_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;  // its frame
+
+ private:
+  void BuildLayout();
+  void Go(Place place);
+  void Do(Command command);
+  void OpenFromCatalogue();
+  void Create();
+  void CloseDatabase();
+  void Exit();
+
+  void ShowPanels(bool show);
+  void ShowChild(QWidget* child);
+  void ShowHome();
+  void ShowLanding();
+  void Return();
+  void ShowFoot();
+  void ShowProgress(double part);
+
+  AppContext& context_;
+  MainMenu* menu_;
+  LinksPanel* Picture1;
+  LinksStrip* Picture2;
+  QWidget* host_;  // where the child screen lives
+  QVBoxLayout* host_layout_;
+  QWidget* foot_;
+  QLabel* role_;
+  QLabel* today_;
+  QProgressBar* ProgressBar1;  // how far a price list is loaded
+  CatalogueDialog* bases_ = nullptr;
+  QPointer<QWidget> child_;
+  QTimer way_home_;  // from a child screen that closed itself
+  DialogsFirst dialogs_first_;
+};
+
+}  // namespace kladez
