@@ -23,7 +23,7 @@ QString GoodsName(int i) { return u"Чай чёрный байховый № %1,
 // every third quantity has decimals.
 struct Books {
   Books() : data(directory.path()) {
-    session.basedir = u"0001\\"_s;
+    session.base_path = u"0001\\"_s;
     SaveSet save(data);
     save.MakeDirectory(u"0001"_s);
     save.MakeDirectory(u"0001\\spr"_s);
@@ -36,8 +36,8 @@ struct Books {
     }
     save.Write(u"0001\\spr\\товар.spr"_s, goods.Take());
     for (int w = 0; w < kWarehouses; ++w) {
-      session.SkladNames.append(u"Склад %1"_s.arg(w));
-      save.MakeDirectory(u"0001\\"_s + session.SkladNames.back());
+      session.warehouses.append(u"Склад %1"_s.arg(w));
+      save.MakeDirectory(u"0001\\"_s + session.warehouses.back());
       LineWriter ledger;
       for (int i = 0; i < kGoods; ++i) {
         const int item = static_cast<int>((qint64(i) * 7919 + w * 331) % kGoods);
@@ -46,14 +46,14 @@ struct Books {
         ledger.Add(item % 3 == 0 ? u"%1.25"_s.arg(item % 90) : QString::number(item % 900));
         ledger.Add(u"пач."_s);
       }
-      save.Write(session.Path(session.SkladNames.back(), u"товар.usl"), ledger.Take());
+      save.Write(session.Path(session.warehouses.back(), u"товар.usl"), ledger.Take());
     }
     save.Commit();
   }
 
   QStringList Files() const {
     QStringList files{session.Path(u"spr\\товар.spr")};
-    for (const QString& name : session.SkladNames) files.append(session.Path(name, u"товар.usl"));
+    for (const QString& name : session.warehouses) files.append(session.Path(name, u"товар.usl"));
     return files;
   }
 
@@ -80,7 +80,7 @@ void ReadLines(benchmark::State& state) {
 void Load(benchmark::State& state, GoodsView view) {
   const Books& books = TheBooks();
   for (auto _ : state) {
-    benchmark::DoNotOptimize(LoadOnHand(books.data, books.session, books.session.SkladNames, view));
+    benchmark::DoNotOptimize(LoadOnHand(books.data, books.session, books.session.warehouses, view));
   }
 }
 

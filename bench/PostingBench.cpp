@@ -25,8 +25,8 @@ QString GoodsName(int i) { return u"Чай чёрный байховый № %1,
 
 struct Books {
   Books() : data(directory.path()) {
-    session.basedir = u"0001\\"_s;
-    session.SkladNames = {u"Склад"_s};
+    session.base_path = u"0001\\"_s;
+    session.warehouses = {u"Склад"_s};
     QDir().mkpath(directory.path() + u"/0001/Склад/PRH"_s);
     LineWriter ledger;
     for (int i = 0; i < kRecords; ++i) {

@@ -28,8 +28,8 @@ constexpr int kLines = 6;
 // Shipments over two years, so that a filter of one year keeps half of them.
 struct Books {
   Books() : data(directory.path()) {
-    session.basedir = u"0001\\"_s;
-    session.SkladNames = {u"Склад"_s};
+    session.base_path = u"0001\\"_s;
+    session.warehouses = {u"Склад"_s};
     QDir().mkpath(directory.path() + u"/0001/Склад/UHD"_s);
     for (int i = 0; i < kDocuments; ++i) {
       Document document;

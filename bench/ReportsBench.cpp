@@ -57,9 +57,9 @@ QByteArray Shipment(int i) {
 
 struct Books {
   Books() : data(directory.path()) {
-    session.basedir = u"0001\\"_s;
+    session.base_path = u"0001\\"_s;
     for (int w = 0; w < kWarehouses; ++w) {
-      session.SkladNames << u"Склад %1"_s.arg(w + 1);
+      session.warehouses << u"Склад %1"_s.arg(w + 1);
       QDir().mkpath(Directory(w));
     }
     for (int i = 0; i < kShipments; ++i) {
@@ -73,7 +73,7 @@ struct Books {
   }
 
   QString Directory(int warehouse) const {
-    return directory.path() + u"/0001/"_s + session.SkladNames[warehouse] + u"/UHD"_s;
+    return directory.path() + u"/0001/"_s + session.warehouses[warehouse] + u"/UHD"_s;
   }
 
   QTemporaryDir directory;

@@ -74,7 +74,7 @@ void FillDirectories(const DataDir& data, Session& session) {
              Parties(PartyKind::kSupplier, demo::Suppliers()));
   save.Write(session.Path(PartyPath(PartyKind::kClient)),
              Parties(PartyKind::kClient, demo::Clients()));
-  for (const QString& warehouse : session.SkladNames) AddPriceLists(save, session, warehouse);
+  for (const QString& warehouse : session.warehouses) AddPriceLists(save, session, warehouse);
   save.Commit();
 }
 
@@ -113,12 +113,12 @@ QString WriteDemonstrationBooks(const DataDir& data, QDate today) {
   const QTemporaryDir workshop(WorkshopTemplate());
   const DataDir workshop_data(workshop.path());
   Session session;
-  session.bases_text1 = CreateDatabase(workshop_data, kName.toString());
+  session.chosen_base = CreateDatabase(workshop_data, kName.toString());
   OpenDatabase(session, workshop_data);
   FillDirectories(workshop_data, session);
   OpenDatabase(session, workshop_data);  // picks up the names of the parties
   demo::Trade(workshop_data, session, today);
-  return Adopt(workshop_data, session.basedir, data);
+  return Adopt(workshop_data, session.base_path, data);
 }
 
 }  // namespace kladez

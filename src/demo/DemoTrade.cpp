@@ -90,7 +90,7 @@ class Trader {
     return events;
   }
 
-  const QString& Warehouse(int warehouse) const { return session_.SkladNames[warehouse]; }
+  const QString& Warehouse(int warehouse) const { return session_.warehouses[warehouse]; }
 
   DocumentDraft NewDraft(const Event& event) const {
     return DocumentDraft::New(

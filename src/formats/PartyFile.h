@@ -6,11 +6,14 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <array>
 #include <vector>
 
 namespace kladez {
 
 enum class PartyKind { kFirm, kClient, kSupplier };
+inline constexpr std::array kPartyKinds = {PartyKind::kFirm, PartyKind::kClient,
+                                           PartyKind::kSupplier};
 
 enum class PartyField {
   kName,

@@ -151,8 +151,8 @@ void MainWindow::BuildLayout() {
 
 void MainWindow::Start(int splash_milliseconds) {
   SplashScreen().Run(splash_milliseconds);
-  context_.session.bases_text1 = context_.settings.Read(settings::kBaseName);
-  if (!context_.session.bases_text1.isEmpty()) {
+  context_.session.chosen_base = context_.settings.Read(settings::kBaseName);
+  if (!context_.session.chosen_base.isEmpty()) {
     SetDatabaseTitle(context_.settings.Read(settings::kBaseTitle));
   }
   OpenDatabase();
@@ -360,7 +360,7 @@ void MainWindow::Do(Command command) {
 void MainWindow::OpenFromCatalogue() {
   bases_->Run(CatalogueDialog::Mode::kOpen);
   // A cancelled choice opens the same Database once more.
-  if (context_.session.bases_text1.isEmpty()) {
+  if (context_.session.chosen_base.isEmpty()) {
     Return();
   } else {
     OpenDatabase();

@@ -31,7 +31,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
 
   // The start: title window, catalogue, the Database that was open last.
   void Start(int splash_milliseconds = 2000);
-  // Opens the Database that the session's bases_text1 names, or shows the landing screen.
+  // Opens the Database that the session's chosen_base names, or shows the landing screen.
   void OpenDatabase();
 
   void CloseChildScreens() override;

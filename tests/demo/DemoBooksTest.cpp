@@ -25,7 +25,7 @@ const QDate kToday(2026, 11, 22);
 class DemoBooks : public ::testing::Test {
  protected:
   DemoBooks() {
-    session.bases_text1 = WriteDemonstrationBooks(temp.Data(), kToday);
+    session.chosen_base = WriteDemonstrationBooks(temp.Data(), kToday);
     EXPECT_TRUE(OpenDatabase(session, temp.Data()));
   }
 
@@ -43,7 +43,7 @@ class DemoBooks : public ::testing::Test {
 
 TEST_F(DemoBooks, LedgersAreWhatTheDocumentsLeaveAndNeverNegative) {
   std::map<std::pair<QString, QString>, double> expected;
-  for (const QString& warehouse : session.SkladNames) {
+  for (const QString& warehouse : session.warehouses) {
     for (const auto& receipt :
          Documents(session.Path(warehouse, u"PRH"_s), DocumentKind::kReceipt)) {
       if (!receipt.head.IsClosed()) continue;
@@ -64,7 +64,7 @@ TEST_F(DemoBooks, LedgersAreWhatTheDocumentsLeaveAndNeverNegative) {
     }
   }
   std::map<std::pair<QString, QString>, double> ledgers;
-  for (const QString& warehouse : session.SkladNames) {
+  for (const QString& warehouse : session.warehouses) {
     for (const auto& record :
          ReadLedger(temp.Data().Read(session.Path(warehouse, u"товар.usl"_s)))) {
       ledgers[{warehouse, record.name}] += NumberOr(record.quantity);
@@ -78,10 +78,10 @@ TEST_F(DemoBooks, LedgersAreWhatTheDocumentsLeaveAndNeverNegative) {
 }
 
 TEST_F(DemoBooks, HoldWhatANewcomerNeedsToLookAround) {
-  EXPECT_EQ(session.SkladNames.size(), 2);
-  EXPECT_EQ(session.firma.size(), 2);
-  EXPECT_EQ(session.Post.size(), 8);
-  EXPECT_EQ(session.Klient.size(), 12);
+  EXPECT_EQ(session.warehouses.size(), 2);
+  EXPECT_EQ(session.Parties(PartyKind::kFirm).size(), 2);
+  EXPECT_EQ(session.Parties(PartyKind::kSupplier).size(), 8);
+  EXPECT_EQ(session.Parties(PartyKind::kClient).size(), 12);
   const auto goods = ReadGoods(temp.Data().Read(session.Path(u"spr\\товар.spr"_s)));
   EXPECT_EQ(std::count_if(goods.begin(), goods.end(), [](auto& g) { return g.IsGroup(); }), 8);
   EXPECT_EQ(goods.size(), 68u);
@@ -90,7 +90,7 @@ TEST_F(DemoBooks, HoldWhatANewcomerNeedsToLookAround) {
   int receipts = 0;
   std::map<bool, int> shipments;
   std::set<bool> discounted;
-  for (const QString& warehouse : session.SkladNames) {
+  for (const QString& warehouse : session.warehouses) {
     receipts += static_cast<int>(
         Documents(session.Path(warehouse, u"PRH"_s), DocumentKind::kReceipt).size());
     for (const auto& shipment :
@@ -111,7 +111,7 @@ TEST_F(DemoBooks, HoldWhatANewcomerNeedsToLookAround) {
 }
 
 TEST_F(DemoBooks, SalePricesDifferFromPurchasePricesInEveryList) {
-  for (const QString& warehouse : session.SkladNames) {
+  for (const QString& warehouse : session.warehouses) {
     for (const QString& list : {u"0001"_s, u"0002"_s, u"0003"_s}) {
       const auto rows = ReadPrices(
           temp.Data().Read(session.Path(warehouse, QString(u"PRICE\\"_s + list + u".prc"_s))));

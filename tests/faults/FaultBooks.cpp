@@ -25,7 +25,7 @@ void MakeBooks(const fs::path& root, Beside beside) {
   fs::create_directories(root / "backups");
   const DataDir data(QString::fromStdString(root / "data"));
   Session session;
-  session.bases_text1 = CreateDatabase(data, u"Лавка"_s);
+  session.chosen_base = CreateDatabase(data, u"Лавка"_s);
   OpenDatabase(session, data);
   WarehouseDirectory(data, session).Create(u"Магазин"_s);
   GoodsDirectory goods(data, session, GoodsView::kGroups);
@@ -71,7 +71,7 @@ FaultBooks::FaultBooks(Beside beside)
         fs::copy(Template(beside), Root(), fs::copy_options::recursive);
         return DataDir(root_.path() + u"/data"_s);
       }()) {
-  session_.bases_text1 = u"0001\\"_s;
+  session_.chosen_base = u"0001\\"_s;
   OpenDatabase(session_, data_);
 }
 

@@ -225,7 +225,7 @@ std::vector<WritingCommand> StoreCommands() {
          QFile::remove(books.Data().Resolve(u"0001\\currency.usd"_s));
          return [&books] {
            Session session;
-           session.bases_text1 = u"0001\\"_s;
+           session.chosen_base = u"0001\\"_s;
            OpenDatabase(session, books.Data());
          };
        },

@@ -85,9 +85,9 @@ TEST_F(MainWindowShown, LastDatabaseOpensWithFullRights) {
   StartOpen();
   EXPECT_EQ(window_.windowTitle(), u"Kladez - Первая"_s);
   EXPECT_EQ(ChildName(), u"Main"_s);
-  EXPECT_EQ(TheSession().SkladNames, QStringList{u"Главный склад"_s});
-  EXPECT_EQ(TheSession().rub, u"руб."_s);
-  EXPECT_EQ(TheSession().firma, QStringList{u"Ваша фирма"_s});
+  EXPECT_EQ(TheSession().warehouses, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(TheSession().currency_name, u"руб."_s);
+  EXPECT_EQ(TheSession().Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
   for (const QString& menu : kDatabaseMenus) {
     EXPECT_TRUE(Entry(menu)->isVisible() && Entry(menu)->isEnabled());
   }
@@ -149,7 +149,8 @@ TEST_F(MainWindowShown, ClosedDatabaseStaysClosedAtTheNextStart) {
   Entry(u"mnuFileClose"_s)->trigger();
   ExpectLanding();
   EXPECT_FALSE(TheSession().IsOpen());
-  EXPECT_TRUE(TheSession().SkladNames.isEmpty() && TheSession().firma.isEmpty());
+  EXPECT_TRUE(TheSession().warehouses.isEmpty() &&
+              TheSession().Parties(PartyKind::kFirm).isEmpty());
   MainWindow again(world_.Context());
   again.Start(1);
   EXPECT_EQ(again.windowTitle(), u"Kladez"_s);
@@ -202,7 +203,7 @@ TEST_F(MainWindowShown, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
 TEST_F(MainWindowShown, ALongWarehouseNameWidensNoScreen) {
   StartOpen();
   const QString name = u"Склад "_s.repeated(40);
-  TheSession().SkladNames.append(name);
+  TheSession().warehouses.append(name);
   for (const char* link : {"go0", "go1", "go2", "go3", "go4"}) {
     ClickPanel(link);
     ASSERT_NE(window_.Child(), nullptr);
@@ -380,7 +381,7 @@ TEST_F(MainWindowShown, NewDatabaseIsOpenAtOnce) {
   EXPECT_EQ(ChildName(), u"Main"_s);
   EXPECT_TRUE(Panel("Picture1")->isVisible());
   EXPECT_TRUE(Entry(u"mnuimp"_s)->isEnabled());
-  EXPECT_EQ(TheSession().bases_text1, QString());
+  EXPECT_EQ(TheSession().chosen_base, QString());
 }
 
 TEST_F(MainWindowShown, CancelledChoiceOpensTheSameDatabaseAgain) {
@@ -392,7 +393,7 @@ TEST_F(MainWindowShown, CancelledChoiceOpensTheSameDatabaseAgain) {
     Entry(u"mnuFileOpen"_s)->trigger();
   }
   EXPECT_EQ(ChildName(), u"Main"_s);
-  EXPECT_EQ(TheSession().SkladNames.size(), 2);
+  EXPECT_EQ(TheSession().warehouses.size(), 2);
   ClickPanel("go12");
   {
     ModalAnswers answers{Escape()};

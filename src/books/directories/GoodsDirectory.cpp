@@ -124,7 +124,7 @@ void GoodsDirectory::Write(const std::vector<GoodsRecord>& records) {
 bool IsOnHand(const DataDir& data, const Session& session, const QString& name) {
   const QByteArray encoded = EncodeText(name);
   return std::any_of(
-      session.SkladNames.begin(), session.SkladNames.end(), [&](const QString& warehouse) {
+      session.warehouses.begin(), session.warehouses.end(), [&](const QString& warehouse) {
         return LedgerHolds(data.Read(session.Path(warehouse, u"товар.usl")), encoded);
       });
 }

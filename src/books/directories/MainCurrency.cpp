@@ -13,7 +13,7 @@ void SaveMainCurrency(const DataDir& data, Session& session, const Currency& cur
   SaveSet save(data);
   save.Write(session.Path(u"currency.usd"), WriteCurrency(currency));
   save.Commit();
-  session.rub = currency.ShortForm();
+  session.currency_name = currency.ShortForm();
 }
 
 }  // namespace kladez

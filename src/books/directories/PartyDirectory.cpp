@@ -3,21 +3,6 @@
 #include "books/store/SaveSet.h"
 
 namespace kladez {
-namespace {
-
-QStringList& NamesOf(Session& session, PartyKind kind) {
-  switch (kind) {
-    case PartyKind::kFirm:
-      return session.firma;
-    case PartyKind::kClient:
-      return session.Klient;
-    case PartyKind::kSupplier:
-      return session.Post;
-  }
-  Q_UNREACHABLE();
-}
-
-}  // namespace
 
 PartyDirectory::PartyDirectory(const DataDir& data, Session& session, PartyKind kind)
     : data_(data), session_(session), kind_(kind) {
@@ -32,7 +17,7 @@ void PartyDirectory::Save() {
   save.Commit();
   QStringList names;
   for (const Party& party : rows_) names.append(party.constFirst());
-  NamesOf(session_, kind_) = names;
+  session_.Parties(kind_) = names;
 }
 
 }  // namespace kladez

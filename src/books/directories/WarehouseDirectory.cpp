@@ -40,7 +40,7 @@ bool HoldsForbiddenCharacter(QStringView name) {
 }
 
 WarehouseDirectory::WarehouseDirectory(const DataDir& data, Session& session)
-    : data_(data), session_(session), names_(session.SkladNames) {}
+    : data_(data), session_(session), names_(session.warehouses) {}
 
 void WarehouseDirectory::Create(const QString& name) {
   RefuseAllWarehouses(name);
@@ -89,7 +89,7 @@ void WarehouseDirectory::Save() {
 
 void WarehouseDirectory::TakeOver(const QStringList& names) {
   names_ = names;
-  session_.SkladNames = names;
+  session_.warehouses = names;
 }
 
 }  // namespace kladez

@@ -30,7 +30,7 @@ bool ReportPeriod::Passes(int day_key) const {
 }
 
 QStringList ReportScope::Warehouses(const Session& session) const {
-  return warehouse == kAllWarehouses ? session.SkladNames : QStringList{warehouse};
+  return warehouse == kAllWarehouses ? session.warehouses : QStringList{warehouse};
 }
 
 bool ScanWarehouses(const DataDir& data, const Session& session, const QStringList& warehouses,

@@ -23,7 +23,7 @@ std::optional<SalesFigures> CollectSalesFigures(const DataDir& data, const Sessi
     figures.by_day.Cell(date->day() - 1, 0) += total;
     if (date->day() == today.day()) figures.day += total;
   };
-  if (!ScanWarehouses(data, session, session.SkladNames, DocumentKind::kShipment,
+  if (!ScanWarehouses(data, session, session.warehouses, DocumentKind::kShipment,
                       Unreadable::kPassOver, progress, visit)) {
     return std::nullopt;
   }

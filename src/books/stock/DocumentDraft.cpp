@@ -28,7 +28,7 @@ DocumentDraft DocumentDraft::New(const Place& place, QDate today) {
     draft.head_.party = u"-"_s;
     draft.SetClosed(false);
   } else {
-    const QStringList& warehouses = place.session.SkladNames;
+    const QStringList& warehouses = place.session.warehouses;
     draft.head_.party = warehouses.value(0);
     draft.head_.destination = warehouses.value(warehouses.size() > 1 ? 1 : 0);
   }

@@ -69,9 +69,10 @@ void RequirePlainPath(const DataDir& data, const CatalogueEntry& entry) {
 
 bool IsInUse(const DataDir& data, const Session& session, const CatalogueEntry& entry) {
   if (!session.IsOpen()) return false;
-  bool same = entry.descriptor.path == session.basedir;
-  IgnoreErrors(
-      [&] { same = same || data.Resolve(entry.descriptor.path) == data.Resolve(session.basedir); });
+  bool same = entry.descriptor.path == session.base_path;
+  IgnoreErrors([&] {
+    same = same || data.Resolve(entry.descriptor.path) == data.Resolve(session.base_path);
+  });
   return same;
 }
 

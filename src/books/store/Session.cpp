@@ -36,26 +36,22 @@ QString ShortCurrency(const Session& session, const DataDir& data) {
 }  // namespace
 
 bool OpenDatabase(Session& session, const DataDir& data) {
-  session.basedir = session.bases_text1;
-  if (!IsPlainTreePath(session.basedir) || !data.DirectoryExists(session.basedir)) {
-    session.basedir.clear();  // none is open
+  session.base_path = session.chosen_base;
+  if (!IsPlainTreePath(session.base_path) || !data.DirectoryExists(session.base_path)) {
+    session.base_path.clear();  // none is open
     return false;
   }
   const auto warehouses = data.ReadIfAny(session.Path(u"склад.usd"_s));
-  session.SkladNames = DecodeLines(warehouses.value_or(QByteArray()));
-  session.rub = ShortCurrency(session, data);
-  session.Post = PartyNames(session, data, PartyKind::kSupplier);
-  session.firma = PartyNames(session, data, PartyKind::kFirm);
-  session.Klient = PartyNames(session, data, PartyKind::kClient);
+  session.warehouses = DecodeLines(warehouses.value_or(QByteArray()));
+  session.currency_name = ShortCurrency(session, data);
+  for (const PartyKind kind : kPartyKinds) session.Parties(kind) = PartyNames(session, data, kind);
   return true;
 }
 
 void CloseDatabase(Session& session) {
-  session.basedir.clear();
-  session.SkladNames.clear();
-  session.Post.clear();
-  session.firma.clear();
-  session.Klient.clear();
+  session.base_path.clear();
+  session.warehouses.clear();
+  for (const PartyKind kind : kPartyKinds) session.Parties(kind).clear();
 }
 
 }  // namespace kladez

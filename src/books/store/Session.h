@@ -5,8 +5,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <array>
 
 #include "books/store/DataDir.h"
+#include "formats/PartyFile.h"
 
 namespace kladez {
 
@@ -15,25 +17,28 @@ namespace kladez {
 enum class UserRole { kNone = -1, kSeller = 0, kDirector = 1 };
 
 struct Session {
-  QString basedir;  // "0001\", empty while no Database is open; every path starts with it
-  QString rub;      // short name of the main currency, "руб."
-  QStringList SkladNames;
-  QStringList Post;
-  QStringList firma;
-  QStringList Klient;
-  QString bases_text1;  // path chosen in the catalogue; OpenDatabase makes it the basedir
+  QString base_path;      // "0001\", empty while no Database is open; every path starts with it
+  QString currency_name;  // short name of the main currency, "руб."
+  QStringList warehouses;
+  QString chosen_base;  // path chosen in the catalogue; OpenDatabase makes it the base_path
   UserRole role = UserRole::kNone;
 
-  bool IsOpen() const { return !basedir.isEmpty(); }
+  bool IsOpen() const { return !base_path.isEmpty(); }
   bool IsSeller() const { return role == UserRole::kSeller; }
+  // The names of a kind's parties, in the order of their file.
+  QStringList& Parties(PartyKind kind) { return parties_[static_cast<size_t>(kind)]; }
+  const QStringList& Parties(PartyKind kind) const { return parties_[static_cast<size_t>(kind)]; }
   // A path inside the open Database, inside one of its warehouses.
-  QString Path(QStringView name) const { return basedir + name; }
+  QString Path(QStringView name) const { return base_path + name; }
   QString Path(QStringView warehouse, QStringView name) const {
-    return basedir + warehouse + u'\\' + name;
+    return base_path + warehouse + u'\\' + name;
   }
+
+ private:
+  std::array<QStringList, kPartyKinds.size()> parties_;
 };
 
-// Binds the session to the Database that bases_text1 names, errors ignored step by step; false when
+// Binds the session to the Database that chosen_base names, errors ignored step by step; false when
 // there is none. A missing currency.usd is written anew, a missing list leaves its list empty.
 bool OpenDatabase(Session& session, const DataDir& data);
 

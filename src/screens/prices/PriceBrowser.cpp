@@ -104,7 +104,7 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
   const QString screen = ScreenName(kind_);
   Combo1 = new QComboBox(this);
   Combo1->setObjectName(u"Combo1"_s);
-  Combo1->addItems(session_.SkladNames);
+  Combo1->addItems(session_.warehouses);
   Combo1->setCurrentIndex(-1);
   Combo2 = new QComboBox(this);
   Combo2->setObjectName(u"Combo2"_s);

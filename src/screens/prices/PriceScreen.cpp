@@ -19,7 +19,7 @@ PriceScreen::PriceScreen(AppContext& context, QWidget* parent)
   layout->addWidget(browser_);
   setFocusProxy(browser_);
   connect(browser_, &PriceBrowser::CloseAsked, this, &QWidget::close);
-  browser_->ChooseWarehouse(context.session.SkladNames.value(0));
+  browser_->ChooseWarehouse(context.session.warehouses.value(0));
 }
 
 void PriceScreen::closeEvent(QCloseEvent* event) {

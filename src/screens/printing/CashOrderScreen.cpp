@@ -146,7 +146,8 @@ void CashOrderScreen::Load() {
   CashOrder order;
   // A failure on the way leaves what was filled on the screen.
   const auto show = qScopeGuard([&] { Show(order); });
-  FillCashOrder(Source(), FirstFirm(), parameters, Context().session.rub, TheCurrency(), order);
+  FillCashOrder(Source(), FirstFirm(), parameters, Context().session.currency_name, TheCurrency(),
+                order);
 }
 
 void CashOrderScreen::SaveRates() {

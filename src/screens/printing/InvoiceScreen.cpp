@@ -72,10 +72,10 @@ void InvoiceScreen::Load() {
   Text1->setText(TextOf(kind_).title + u" N "_s + source.number + u" от "_s + source.date);
   Text12->setText(source.number);
   Text13->setText(source.date);
-  SetEntries(seller.name, session.firma);
+  SetEntries(seller.name, session.Parties(PartyKind::kFirm));
   seller.name->setEditText(FirstFirm());
   LoadParty(PartyKind::kFirm);
-  SetEntries(buyer.name, session.Klient);
+  SetEntries(buyer.name, session.Parties(PartyKind::kClient));
   buyer.name->setEditText(source.party);
   LoadParty(PartyKind::kClient);
   LoadTotals();
@@ -89,8 +89,8 @@ void InvoiceScreen::LoadTotals() {
   // A failure on the way leaves what was worked out on the screen.
   const auto show = qScopeGuard([&] { ShowTotals(totals); });
   const PrintParameters parameters = Parameters();
-  FillInvoiceTotals(TheCurrencyOfPage(), source.total, parameters, session.rub, TheCurrency(),
-                    totals);
+  FillInvoiceTotals(TheCurrencyOfPage(), source.total, parameters, session.currency_name,
+                    TheCurrency(), totals);
   rows_ = InvoiceRows(source.lines, InvoiceFactor(TheCurrencyOfPage(), parameters), parameters.vat,
                       Context().data.Read(session.Path(u"spr\\товар.spr")));
   rows_ready_ = true;
@@ -144,7 +144,7 @@ InvoiceForm InvoiceScreen::Form() const {
   form.totals = Totals();
   form.with_vat = Check5->isChecked();
   form.with_sales_tax = Check6->isChecked();
-  form.rub = Context().session.rub;
+  form.rub = Context().session.currency_name;
   form.rows = rows_;
   return form;
 }

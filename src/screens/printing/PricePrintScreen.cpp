@@ -293,7 +293,7 @@ PricePageOptions PricePrintScreen::Options() const {
 void PricePrintScreen::Print() {
   const bool shown = Guarded(this, [this] {
     const QStringList warehouses =
-        Check15->isChecked() ? context_.session.SkladNames : QStringList{source_.warehouse};
+        Check15->isChecked() ? context_.session.warehouses : QStringList{source_.warehouse};
     const StockByName stock = LoadStockByName(context_.data, context_.session, warehouses);
     context_.print_outs.Show(u"price.htm"_s, PricePage(source_.rows, stock, Options()));
   });

@@ -121,7 +121,7 @@ void WaybillScreen::LoadTotals() {
   if (kind_ == DocumentKind::kTransfer) {
     totals.words = AmountInWords(totals.before, TheCurrency());
   } else {
-    FillTotals(Parameters(), {.grouped = true, .currency = u' ' + Context().session.rub},
+    FillTotals(Parameters(), {.grouped = true, .currency = u' ' + Context().session.currency_name},
                TheCurrency(), totals);
   }
 }
@@ -135,16 +135,16 @@ void WaybillScreen::LoadParties() {
   };
   switch (kind_) {
     case DocumentKind::kShipment:
-      fill(Text2, session.firma, FirstFirm());
-      fill(Text3, session.Klient, source.party);
+      fill(Text2, session.Parties(PartyKind::kFirm), FirstFirm());
+      fill(Text3, session.Parties(PartyKind::kClient), source.party);
       break;
     case DocumentKind::kReceipt:
-      fill(Text2, session.Post, source.party);
-      fill(Text3, session.firma, FirstFirm());
+      fill(Text2, session.Parties(PartyKind::kSupplier), source.party);
+      fill(Text3, session.Parties(PartyKind::kFirm), FirstFirm());
       break;
     case DocumentKind::kTransfer:
-      fill(Text2, session.SkladNames, source.party);
-      fill(Text3, session.SkladNames, source.destination);
+      fill(Text2, session.warehouses, source.party);
+      fill(Text3, session.warehouses, source.destination);
       break;
   }
 }
@@ -164,7 +164,7 @@ WaybillForm WaybillScreen::Form() const {
     form.with_vat = Check5->isChecked();
     form.with_sales_tax = Check6->isChecked();
   }
-  form.rub = Context().session.rub;
+  form.rub = Context().session.currency_name;
   form.lines = Source().lines;
   return form;
 }

@@ -20,7 +20,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   setObjectName(texts.name.toString());
   setWindowTitle(texts.caption.toString());
   Combo1 =
-      new TextChoice(context.session.SkladNames + QStringList{kAllWarehouses.toString()}, this);
+      new TextChoice(context.session.warehouses + QStringList{kAllWarehouses.toString()}, this);
   Combo1->setObjectName(u"Combo1"_s);
   BoundByLetters(Combo1, 28);
   Combo1->setCurrentIndex(Combo1->count() - 1);

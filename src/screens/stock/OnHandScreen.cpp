@@ -40,7 +40,7 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
   setObjectName(u"Sklad"_s);
   setWindowTitle(u"Наличие товаров на складе"_s);
   Combo1->setObjectName(u"Combo1"_s);
-  Combo1->addItems(context.session.SkladNames);
+  Combo1->addItems(context.session.warehouses);
   Combo1->addItem(kAllWarehouses.toString());
   StatusBar1->setObjectName(u"StatusBar1"_s);
   StatusBar1->setTextFormat(Qt::PlainText);
@@ -105,7 +105,7 @@ void OnHandScreen::Fill() {
   const int selected = ListView1->CurrentRow();
   const QString name = selected < 0 ? QString() : on_hand_.Rows()[selected].name;
   const QStringList warehouses =
-      AllChosen() ? context_.session.SkladNames : QStringList{Combo1->currentText()};
+      AllChosen() ? context_.session.warehouses : QStringList{Combo1->currentText()};
   OnHandList filled;
   loaded_ = Guarded(this, [&] {
     filled = LoadOnHand(context_.data, context_.session, warehouses, filter_->View());

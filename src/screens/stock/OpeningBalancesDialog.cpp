@@ -37,7 +37,7 @@ OpeningBalancesDialog::OpeningBalancesDialog(AppContext& context, QWidget* paren
   setObjectName(u"ost"_s);
   setWindowTitle(u"Занесение остатков"_s);
   Combo1->setObjectName(u"Combo1"_s);
-  Combo1->addItems(context.session.SkladNames);
+  Combo1->addItems(context.session.warehouses);
   Combo1->setCurrentIndex(-1);
   Combo1->setPlaceholderText(u"Выберите склад"_s);
   BuildList();

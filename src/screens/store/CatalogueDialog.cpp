@@ -124,9 +124,9 @@ void CatalogueDialog::Open() {
     const CatalogueEntry entry = ListView1->Selected();
     RequirePlainPath(context_.data, entry);
     if (!MayEnter()) return;
-    context_.session.bases_text1 = entry.descriptor.path;
+    context_.session.chosen_base = entry.descriptor.path;
     host_.CloseChildScreens();
-    context_.settings.Write(settings::kBaseName, context_.session.bases_text1);
+    context_.settings.Write(settings::kBaseName, context_.session.chosen_base);
     context_.settings.Write(settings::kBaseTitle, Text3->text());
     WriteChoice(ListView1->CurrentRow() + 1);
     accept();
@@ -139,17 +139,17 @@ void CatalogueDialog::reject() {
   if (ListView1->Count() == 0) {
     host_.DisableDatabaseCommands();
     host_.HideDatabaseMenus();
-    context_.session.bases_text1.clear();
+    context_.session.chosen_base.clear();
   }
-  if (!context_.session.IsOpen()) context_.session.bases_text1.clear();
+  if (!context_.session.IsOpen()) context_.session.chosen_base.clear();
   done(Rejected);
 }
 
 void CatalogueDialog::closeEvent(QCloseEvent* event) {
   if (ListView1->Count() == 0) {
     host_.HideDatabaseMenus();
-    context_.settings.Write(settings::kBaseName, context_.session.bases_text1);
-    context_.session.bases_text1.clear();
+    context_.settings.Write(settings::kBaseName, context_.session.chosen_base);
+    context_.session.chosen_base.clear();
   }
   WriteChoice(ListView1->CurrentRow() + 1);
   event->accept();

@@ -1,5 +1,5 @@
 // The catalogue of Databases. It stays loaded for the whole run: its list "Пользователь:" is the
-// role of the session, and what it opened last is the session's bases_text1.
+// role of the session, and what it opened last is the session's chosen_base.
 #pragma once
 
 #include <QDialog>

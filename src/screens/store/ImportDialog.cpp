@@ -86,7 +86,7 @@ void ImportDialog::ShowChoice() {
 
 void ImportDialog::Copy() {
   if (Guarded(this,
-              [this] { ImportAreas(context_.data, Text1, context_.session.basedir, choice_); })) {
+              [this] { ImportAreas(context_.data, Text1, context_.session.base_path, choice_); })) {
     accept();
   }
 }

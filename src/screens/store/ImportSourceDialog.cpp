@@ -41,7 +41,7 @@ void ImportSourceDialog::Choose() {
   Guarded(this, [this] {
     if (!ListView1->HasSelection()) return;
     const CatalogueEntry entry = ListView1->Selected();
-    if (entry.descriptor.path == context_.session.basedir) {
+    if (entry.descriptor.path == context_.session.base_path) {
       ShowMessage(this, u"Нельзя импортировать базу саму в себя"_s);
       return;
     }
@@ -61,7 +61,7 @@ void ImportSourceDialog::WriteChoice() {
 
 void ImportSourceDialog::reject() {
   if (ListView1->Count() == 0) {
-    context_.session.bases_text1.clear();
+    context_.session.chosen_base.clear();
     host_.HideDatabaseMenus();
   }
   done(Rejected);

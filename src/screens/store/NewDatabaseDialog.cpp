@@ -45,8 +45,8 @@ void NewDatabaseDialog::Create() {
     host_.CloseChildScreens();
     // The other lists and the currency keep the rows of the Database open before, and the
     // catalogue keeps its choice, until the next OpenDatabase.
-    context_.session.SkladNames = QStringList{u"Главный склад"_s};
-    context_.session.basedir = base;
+    context_.session.warehouses = QStringList{u"Главный склад"_s};
+    context_.session.base_path = base;
     context_.settings.Write(settings::kBaseName, base);
     context_.settings.Write(settings::kBaseTitle, name);
     context_.settings.Write(settings::kFilePos, QString::number(ListView1->Count()));

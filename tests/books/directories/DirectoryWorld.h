@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 class DirectoryWorld : public ScreenWorld {
  public:
   DirectoryWorld() {
-    TheSession().bases_text1 = CreateDatabase(Temp().Data(), u"Магазин"_s);
+    TheSession().chosen_base = CreateDatabase(Temp().Data(), u"Магазин"_s);
     EXPECT_TRUE(OpenDatabase(TheSession(), Temp().Data()));
   }
 

@@ -195,7 +195,7 @@ TEST_F(GoodsDirectoryTest, OnHandIsAskedOfEveryRecordOfEveryWarehouse) {
       {"a unit is no name", {u"Кофе"_s, u"5"_s, u"Чай"_s, u"3"_s, u"3"_s, u"3"_s}, {}, false},
       {"a longer name", {u"Чай зелёный"_s, u"5"_s, u"пач."_s}, {}, false},
   };
-  world_.TheSession().SkladNames = {u"Главный склад"_s, u"Второй"_s};
+  world_.TheSession().warehouses = {u"Главный склад"_s, u"Второй"_s};
   for (const Case& test : cases) {
     SCOPED_TRACE(test.fault);
     world_.PutLines(u"Главный склад\\товар.usl"_s, test.first);
@@ -205,7 +205,7 @@ TEST_F(GoodsDirectoryTest, OnHandIsAskedOfEveryRecordOfEveryWarehouse) {
 }
 
 TEST_F(GoodsDirectoryTest, MissingLedgerIsNotTakenForAnEmptyOne) {
-  world_.TheSession().SkladNames = {u"Нет такого"_s};
+  world_.TheSession().warehouses = {u"Нет такого"_s};
   EXPECT_THROW(IsOnHand(world_.Data(), world_.TheSession(), u"Чай"_s),
                std::filesystem::filesystem_error);
 }

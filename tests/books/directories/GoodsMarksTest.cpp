@@ -76,7 +76,7 @@ TEST(GoodsMarks, WritesTickedNamesInListOrder) {
 TEST(GoodsMarks, MissingFileTicksNothing) {
   TempData temp;
   Session session;
-  session.basedir = u"0001\\"_s;
+  session.base_path = u"0001\\"_s;
   EXPECT_EQ(ReadMarks(temp.Data(), session), QStringList());
 }
 

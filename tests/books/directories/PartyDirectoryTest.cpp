@@ -22,7 +22,7 @@ TEST(PartyDirectory, FailedSaveLeavesTheNamesOfTheSession) {
   directory.Remove(0);
   world.Protect(u"spr\\firma.spr"_s);
   EXPECT_THROW(directory.Save(), std::filesystem::filesystem_error);
-  EXPECT_EQ(world.TheSession().firma, QStringList{u"Ваша фирма"_s});
+  EXPECT_EQ(world.TheSession().Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
 }
 
 }  // namespace

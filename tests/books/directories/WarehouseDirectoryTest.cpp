@@ -32,7 +32,7 @@ TEST_F(WarehouseDirectoryTest, NewWarehouseIsMadeWithAllThatItHolds) {
       {"0001/Второй/PRICE/0005.prc", {}},
   };
   world_.ExpectChanged(made);
-  EXPECT_EQ(world_.TheSession().SkladNames, (QStringList{u"Главный склад"_s, u"Второй"_s}));
+  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Главный склад"_s, u"Второй"_s}));
 }
 
 TEST_F(WarehouseDirectoryTest, RefusedNamesChangeNeitherListNorDisk) {
@@ -67,10 +67,10 @@ TEST_F(WarehouseDirectoryTest, RenameMovesTheDirectoryAloneUntilItIsSaved) {
   EXPECT_EQ(world_.Lines(u"Третий\\товар.usl"_s), (QStringList{u"Чай"_s, u"1"_s, u"пач."_s}));
   EXPECT_FALSE(world_.Data().DirectoryExists(u"0001\\Второй"_s));
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), (QStringList{u"Главный склад"_s, u"Второй"_s}));
-  EXPECT_EQ(world_.TheSession().SkladNames, (QStringList{u"Главный склад"_s, u"Второй"_s}));
+  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Главный склад"_s, u"Второй"_s}));
   warehouses.Save();
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), (QStringList{u"Главный склад"_s, u"Третий"_s}));
-  EXPECT_EQ(world_.TheSession().SkladNames, (QStringList{u"Главный склад"_s, u"Третий"_s}));
+  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Главный склад"_s, u"Третий"_s}));
 }
 
 TEST_F(WarehouseDirectoryTest, RenameMayChangeLetterCaseOrNothing) {
@@ -88,7 +88,7 @@ TEST_F(WarehouseDirectoryTest, DeleteTakesTheTreeAndTheNameAtOnce) {
   world_.PutLines(u"Второй\\PRH\\0001.prh"_s, {u"1"_s});
   warehouses.Delete(1);
   world_.ExpectUnchanged();
-  EXPECT_EQ(world_.TheSession().SkladNames, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(world_.TheSession().warehouses, QStringList{u"Главный склад"_s});
   warehouses.Delete(0);
   world_.ExpectUnchanged();
 }
@@ -103,7 +103,7 @@ TEST_F(WarehouseDirectoryTest, NameWhoseDirectoryIsGoneCanBeDeleted) {
 
 TEST_F(WarehouseDirectoryTest, DeletingAForeignLineOfTheListKeepsTheDatabase) {
   // A list edited by hand: the paths of these would be the Database itself and the catalogue.
-  world_.TheSession().SkladNames = {u"Главный склад"_s, {}, u".."_s, u"SPR\\.."_s};
+  world_.TheSession().warehouses = {u"Главный склад"_s, {}, u".."_s, u"SPR\\.."_s};
   world_.Remember();
   WarehouseDirectory warehouses = Open();
   for (int row = 1; row <= 3; ++row) EXPECT_THROW(warehouses.Delete(row), FileError);

@@ -14,7 +14,7 @@ const QString kShop = u"Лавка"_s;
 class Prices : public testing::Test {
  protected:
   Prices() : store_(temp_.Data(), session_) {
-    session_.basedir = u"0001\\"_s;
+    session_.base_path = u"0001\\"_s;
     temp_.PutLines(u"0001\\SPR\\товар.spr"_s,
                    {u" Чай"_s, u"Чай"_s, u"Индия"_s, u"-"_s, u"пач."_s, u"45.00"_s});
     temp_.PutLines(u"0001\\marked"_s, {u"Чай"_s});

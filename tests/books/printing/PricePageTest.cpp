@@ -189,7 +189,7 @@ TEST(PricePage, GoodsThatTheDirectoryLacksAreAbsent) {
 TEST(PriceStock, SumsRecordsOfOneNameOverTheGivenWarehousesOnly) {
   TempData temp;
   Session session;
-  session.basedir = u"0001\\"_s;
+  session.base_path = u"0001\\"_s;
   temp.PutLines(u"0001\\spr\\товар.spr"_s, {u" Чай"_s, u"Чай чёрный"_s, u""_s, u""_s, u""_s, u"1"_s,
                                             u"Чай"_s, u""_s, u""_s, u""_s, u"1"_s});
   temp.PutLines(u"0001\\А\\товар.usl"_s, {u"Чай"_s, u"0.1"_s, u""_s, u" Чай"_s, u"Чай"_s,

@@ -65,7 +65,7 @@ TEST_F(Reports, CurrentMonthCountsThatMonthOfEveryYearAndARangeComparesTwoDigits
     for (const auto& row : report->rows) list.append(report->texts.Text(row.name));
     return list;
   };
-  const QString warehouse = session.SkladNames.first();
+  const QString warehouse = session.warehouses.first();
   EXPECT_EQ(names(Scope(warehouse, PeriodKind::kCurrentMonth)),
             (QStringList{u"05.11.2025"_s, u"05.11.2026"_s}));
   EXPECT_EQ(names(Scope(warehouse, PeriodKind::kRange, QDate(2026, 10, 5), QDate(2026, 11, 5))),
@@ -83,7 +83,7 @@ TEST_F(Reports, DamagedShipmentsGiveTheirWholeLinesAndStopNothing) {
   QByteArray noise(100000, '\0');
   for (int i = 0; i < noise.size(); ++i) noise[i] = static_cast<char>(i * 7919 >> 3);
   temp.Put(u"0001\\Главный склад\\UHD\\0004.uhd"_s, noise);
-  const ReportScope scope = Scope(session.SkladNames.first(), PeriodKind::kAll);
+  const ReportScope scope = Scope(session.warehouses.first(), PeriodKind::kAll);
   const auto sales = CollectSales(temp.Data(), session, scope);
   ASSERT_EQ(sales->rows.size(), 1u);
   EXPECT_EQ(sales->texts.Text(sales->rows[0].name), u"Чай"_s);
@@ -161,7 +161,7 @@ TEST_F(Reports, APageIsNotFinishedOnceTheUserEndsIt) {
 }
 
 TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {
-  session.SkladNames.append(u"Стёртый"_s);
+  session.warehouses.append(u"Стёртый"_s);
   const ReportScope scope = Scope(u"Стёртый"_s, PeriodKind::kCurrentMonth);
   const QStringList page =
       PageLines(WriteSalesReport, *CollectSales(temp.Data(), session, scope), scope);

@@ -12,10 +12,10 @@ namespace kladez {
 class DocumentsOnDisk {
  public:
   DocumentsOnDisk(const TempData& data, Session& session) : data_(data), session_(session) {
-    session.basedir = QStringLiteral("0001\\");
-    session.rub = QStringLiteral("руб.");
-    session.SkladNames = {QStringLiteral("Главный склад"), QStringLiteral("Магазин")};
-    for (const QString& name : session.SkladNames) {
+    session.base_path = QStringLiteral("0001\\");
+    session.currency_name = QStringLiteral("руб.");
+    session.warehouses = {QStringLiteral("Главный склад"), QStringLiteral("Магазин")};
+    for (const QString& name : session.warehouses) {
       QDir().mkpath(data.Root() + QStringLiteral("/0001/") + name + QStringLiteral("/UHD"));
       QDir().mkpath(data.Root() + QStringLiteral("/0001/") + name + QStringLiteral("/PRH"));
     }
@@ -26,14 +26,14 @@ class DocumentsOnDisk {
             const QString& net_sum, const QStringList& goods,
             const QString& closed = QStringLiteral("да")) const {
     data_.PutLines(
-        session_.Path(session_.SkladNames[warehouse], QString(QStringLiteral("UHD\\") + file)),
+        session_.Path(session_.warehouses[warehouse], QString(QStringLiteral("UHD\\") + file)),
         QStringList{QStringLiteral("7"), date, QStringLiteral("Клиент"), QStringLiteral("0.00"),
                     discount, net_sum, closed} +
             goods);
   }
   void Receive(int warehouse, const QString& file, const QString& date, const QString& sum) const {
     data_.PutLines(
-        session_.Path(session_.SkladNames[warehouse], QString(QStringLiteral("PRH\\") + file)),
+        session_.Path(session_.warehouses[warehouse], QString(QStringLiteral("PRH\\") + file)),
         {QStringLiteral("1"), date, QStringLiteral("Поставщик"), sum, QStringLiteral("да"),
          QStringLiteral("Чай"), QStringLiteral("1"), QStringLiteral("шт."), sum});
   }

@@ -9,12 +9,12 @@
 namespace kladez {
 
 inline void SeedBooks(const TempData& temp, Session& session) {
-  session.basedir = QStringLiteral("0001\\");
-  session.rub = QStringLiteral("руб.");
-  session.SkladNames = {QStringLiteral("Склад"), QStringLiteral("Магазин")};
-  session.Post = {QStringLiteral("ООО Заря")};
-  session.Klient = {QStringLiteral("ИП Петров"), QStringLiteral("ООО Свет")};
-  for (const QString& name : session.SkladNames) {
+  session.base_path = QStringLiteral("0001\\");
+  session.currency_name = QStringLiteral("руб.");
+  session.warehouses = {QStringLiteral("Склад"), QStringLiteral("Магазин")};
+  session.Parties(PartyKind::kSupplier) = {QStringLiteral("ООО Заря")};
+  session.Parties(PartyKind::kClient) = {QStringLiteral("ИП Петров"), QStringLiteral("ООО Свет")};
+  for (const QString& name : session.warehouses) {
     temp.Put(session.Path(name, u"товар.usl"), {});
     for (const QStringView part : {u"PRH", u"UHD"}) {
       QDir().mkpath(temp.Data().Resolve(session.Path(name, part)));

@@ -138,7 +138,7 @@ class Deletion : public Register {
  protected:
   const QStringList tea_ = {u"Чай"_s, u"10"_s, u"шт."_s};
   void SetUp() override {
-    for (const QString& name : session_.SkladNames)
+    for (const QString& name : session_.warehouses)
       temp_.PutLines(LedgerPath(session_, name), tea_);
   }
 };

@@ -135,7 +135,7 @@ TEST(OnHandIndex, FindsTheFirstRowThatBeginsSo) {
 class OnHandFiles : public testing::Test {
  protected:
   OnHandFiles() {
-    session_.basedir = u"0001\\"_s;
+    session_.base_path = u"0001\\"_s;
     temp_.Put(u"0001\\spr\\товар.spr"_s, Goods({u" Чай"_s, u"Ассам"_s, u"Кимун"_s, u"Пуэр"_s}));
     temp_.PutLines(u"0001\\Лавка\\товар.usl"_s,
                    {u"Пуэр"_s, u"7"_s, u"кор."_s, u" группа"_s, u"Ассам"_s, u"5"_s, u"шт."_s,

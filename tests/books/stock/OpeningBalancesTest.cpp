@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 class Opening : public testing::Test {
  protected:
-  Opening() { session_.basedir = u"0001\\"_s; }
+  Opening() { session_.base_path = u"0001\\"_s; }
 
   static GoodsPick Pick(const QString& name, const QString& quantity, const QString& unit) {
     return {name, quantity, unit, u"1"_s, u"1.00"_s, name.startsWith(u' ')};

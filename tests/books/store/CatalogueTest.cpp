@@ -217,7 +217,7 @@ TEST(Catalogue, OpenTreeIsKnownUnderEverySpelling) {
     return IsInUse(temp.Data(), session, {u"0001.us"_s, {path, u"А"_s}});
   };
   EXPECT_FALSE(in_use({}));
-  session.basedir = u"Лавка\\"_s;
+  session.base_path = u"Лавка\\"_s;
   for (const QString& path : {u"Лавка\\"_s, u"ЛАВКА\\"_s, u"0001\\"_s}) {
     EXPECT_TRUE(in_use(path)) << path.toStdString();
   }
@@ -225,7 +225,7 @@ TEST(Catalogue, OpenTreeIsKnownUnderEverySpelling) {
     EXPECT_FALSE(in_use(path)) << path.toStdString();
   }
   // The open one may have been removed from the disk meanwhile.
-  session.basedir = u"0009\\"_s;
+  session.base_path = u"0009\\"_s;
   EXPECT_TRUE(in_use(u"0009\\"_s));
 }
 

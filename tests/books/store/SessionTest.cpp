@@ -14,7 +14,7 @@ constexpr char kRoubles[] =
 
 Session Opened(const TempData& temp, const QString& path) {
   Session session;
-  session.bases_text1 = path;
+  session.chosen_base = path;
   EXPECT_TRUE(OpenDatabase(session, temp.Data()));
   return session;
 }
@@ -30,12 +30,12 @@ TEST(Session, OpeningFillsTheListsFromTheFirstLinesOfRecords) {
   temp.PutLines(u"0001\\SPR\\klient.spr"_s, QStringList{u"К1"_s} + QStringList(13, u"y"_s));
   temp.PutLines(u"0001\\currency.usd"_s, {u"$"_s});
   const Session session = Opened(temp, u"0001\\"_s);
-  EXPECT_EQ(session.basedir, u"0001\\"_s);
-  EXPECT_EQ(session.rub, u"$"_s);
-  EXPECT_EQ(session.SkladNames, (QStringList{u"Главный склад"_s, u"Лавка"_s}));
-  EXPECT_EQ(session.Post, (QStringList{u"П1"_s, u"П2"_s}));
-  EXPECT_EQ(session.Klient, QStringList{u"К1"_s});
-  EXPECT_EQ(session.firma, QStringList{u"Ваша фирма"_s});
+  EXPECT_EQ(session.base_path, u"0001\\"_s);
+  EXPECT_EQ(session.currency_name, u"$"_s);
+  EXPECT_EQ(session.warehouses, (QStringList{u"Главный склад"_s, u"Лавка"_s}));
+  EXPECT_EQ(session.Parties(PartyKind::kSupplier), (QStringList{u"П1"_s, u"П2"_s}));
+  EXPECT_EQ(session.Parties(PartyKind::kClient), QStringList{u"К1"_s});
+  EXPECT_EQ(session.Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
 }
 
 TEST(Session, AMissingCurrencyIsWrittenAnewAndNothingElse) {
@@ -49,16 +49,16 @@ TEST(Session, AMissingCurrencyIsWrittenAnewAndNothingElse) {
   expected["0001/currency.usd"] = whole.at("0001/currency.usd");
   EXPECT_EQ(expected["0001/currency.usd"], kRoubles);
   const Session session = Opened(temp, u"0001\\"_s);
-  EXPECT_EQ(session.rub, u"руб."_s);
-  EXPECT_TRUE(session.SkladNames.isEmpty());
-  EXPECT_TRUE(session.firma.isEmpty());
+  EXPECT_EQ(session.currency_name, u"руб."_s);
+  EXPECT_TRUE(session.warehouses.isEmpty());
+  EXPECT_TRUE(session.Parties(PartyKind::kFirm).isEmpty());
   EXPECT_EQ(temp.Tree(), expected);
 }
 
 TEST(Session, AnEmptyCurrencyFileIsNotRepaired) {
   TempData temp;
   temp.Put(u"0001\\currency.usd"_s, "");
-  EXPECT_EQ(Opened(temp, u"0001\\"_s).rub, QString());
+  EXPECT_EQ(Opened(temp, u"0001\\"_s).currency_name, QString());
   EXPECT_EQ(temp.Bytes(u"0001\\currency.usd"_s), "");
 }
 
@@ -69,7 +69,7 @@ TEST(Session, WhatIsNoDatabaseIsNotOpened) {
   for (const QString& path : {u""_s, u"0002\\"_s, u"0001"_s, u"0001\\SPR\\"_s, u"..\\"_s, u"/\\"_s,
                               u"0001\\SPR\\post.spr\\"_s}) {
     Session session;
-    session.bases_text1 = path;
+    session.chosen_base = path;
     EXPECT_FALSE(OpenDatabase(session, temp.Data())) << path.toStdString();
   }
   EXPECT_EQ(temp.Tree(), before);
@@ -82,7 +82,7 @@ TEST(Session, ClosingEmptiesTheListsAndLeavesTheRole) {
   session.role = UserRole::kSeller;
   CloseDatabase(session);
   EXPECT_FALSE(session.IsOpen());
-  EXPECT_TRUE(session.SkladNames.isEmpty() && session.firma.isEmpty());
+  EXPECT_TRUE(session.warehouses.isEmpty() && session.Parties(PartyKind::kFirm).isEmpty());
   EXPECT_TRUE(session.IsSeller());
 }
 

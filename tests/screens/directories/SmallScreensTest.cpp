@@ -15,7 +15,7 @@ struct PartyCase {
   const char* form;
   int lines;
   std::unique_ptr<QDialog> (*open)(AppContext& context);
-  QStringList Session::*names;
+  PartyKind kind;
 };
 
 template <typename Screen>
@@ -72,7 +72,7 @@ TEST_P(PartyScreensTest, OkWritesAddedChangedAndDeletedRecords) {
   world_.ExpectUnchanged();
   Click(screen_.get(), "ok");
   world_.ExpectChanged({{GetParam().path, Record(u"Новый"_s) + Record(u"Третий"_s)}});
-  EXPECT_EQ(world_.TheSession().*GetParam().names, (QStringList{u"Новый"_s, u"Третий"_s}));
+  EXPECT_EQ(world_.TheSession().Parties(GetParam().kind), (QStringList{u"Новый"_s, u"Третий"_s}));
 }
 
 TEST_P(PartyScreensTest, CancelLosesTheVisit) {
@@ -106,11 +106,11 @@ TEST_P(PartyScreensTest, FailedSaveLeavesTheScreenOpen) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, PartyScreensTest,
                          testing::Values(PartyCase{"0001/SPR/firma.spr", "sprFirmNew", 15,
-                                                   &Open<sprFirm>, &Session::firma},
+                                                   &Open<sprFirm>, PartyKind::kFirm},
                                          PartyCase{"0001/SPR/klient.spr", "sprklientnew", 14,
-                                                   &Open<sprklient>, &Session::Klient},
+                                                   &Open<sprklient>, PartyKind::kClient},
                                          PartyCase{"0001/SPR/post.spr", "sprpostnew", 14,
-                                                   &Open<sprPost>, &Session::Post}),
+                                                   &Open<sprPost>, PartyKind::kSupplier}),
                          [](const auto& party) { return std::string(party.param.form); });
 
 class sprSkladTest : public testing::Test {
@@ -146,7 +146,7 @@ TEST_F(sprSkladTest, OnlyOkWritesANewNameOfAWarehouse) {
   Click(&screen_, "add");
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), (QStringList{u"Лавка"_s, u"Двор"_s}));
   Click(&screen_, "ok");
-  EXPECT_EQ(world_.TheSession().SkladNames, (QStringList{u"Лавка"_s, u"Двор"_s}));
+  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Лавка"_s, u"Двор"_s}));
 }
 
 TEST_F(sprSkladTest, TheFirstWarehouseIsNotDeletedAnotherIsAtOnce) {
@@ -176,7 +176,7 @@ TEST(currencTest, OkWritesEightLinesAndTheShortForm) {
   }
   Click(&screen, "ok");
   world.ExpectChanged({{"0001/currency.usd", forms}});
-  EXPECT_EQ(world.TheSession().rub, u"тг."_s);
+  EXPECT_EQ(world.TheSession().currency_name, u"тг."_s);
 }
 
 TEST(currencTest, FailedSaveAndCancelChangeNothing) {
@@ -189,7 +189,7 @@ TEST(currencTest, FailedSaveAndCancelChangeNothing) {
   Type(QApplication::focusWidget(), u"долл."_s);
   Click(&screen, "ok");
   EXPECT_TRUE(screen.isVisible());
-  EXPECT_EQ(world.TheSession().rub, u"руб."_s);
+  EXPECT_EQ(world.TheSession().currency_name, u"руб."_s);
   Click(&screen, "cancel");
   world.ExpectUnchanged();
 }

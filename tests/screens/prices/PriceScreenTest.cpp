@@ -24,8 +24,8 @@ class PriceScreens : public testing::Test {
  protected:
   PriceScreens() {
     Session& session = world_.TheSession();
-    session.basedir = u"0001\\"_s;
-    session.SkladNames = {u"Лавка"_s, u"Подвал"_s};
+    session.base_path = u"0001\\"_s;
+    session.warehouses = {u"Лавка"_s, u"Подвал"_s};
     Temp().PutLines(u"0001\\spr\\товар.spr"_s,
                     {u" Чай"_s, u"Улун"_s, u"Китай"_s, u"-"_s, u"пач."_s, u"90"_s, u"Ассам"_s,
                      u"Индия"_s, u"-"_s, u"пач."_s, u"45.00"_s});

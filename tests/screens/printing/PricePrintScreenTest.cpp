@@ -23,8 +23,8 @@ class PricePrinting : public testing::Test {
  protected:
   PricePrinting() {
     Session& session = world_.TheSession();
-    session.basedir = u"0001\\"_s;
-    session.SkladNames = {u"А"_s, u"Б"_s};
+    session.base_path = u"0001\\"_s;
+    session.warehouses = {u"А"_s, u"Б"_s};
     TempData& temp = world_.Temp();
     QStringList firm(15, u"-"_s);
     firm[0] = u"ООО Ромашка"_s;

@@ -16,16 +16,16 @@ class PrintWorld {
   PrintWorld() {
     using namespace Qt::StringLiterals;
     Session& session = world_.TheSession();
-    session.basedir = u"0001\\"_s;
-    session.rub = u"руб."_s;
-    session.firma = {u"Первая"_s, u"Вторая <&>"_s};
-    session.Klient = {u"Ромашка"_s};
-    session.Post = {u"Завод"_s};
-    session.SkladNames = {u"Главный склад"_s, u"Магазин"_s};
+    session.base_path = u"0001\\"_s;
+    session.currency_name = u"руб."_s;
+    session.Parties(PartyKind::kFirm) = {u"Первая"_s, u"Вторая <&>"_s};
+    session.Parties(PartyKind::kClient) = {u"Ромашка"_s};
+    session.Parties(PartyKind::kSupplier) = {u"Завод"_s};
+    session.warehouses = {u"Главный склад"_s, u"Магазин"_s};
     const TempData& temp = world_.Temp();
     temp.Put(u"0001\\currency.usd"_s, WriteCurrency(RoubleCurrency()));
     QStringList firms;
-    for (const QString& name : session.firma) {
+    for (const QString& name : session.Parties(PartyKind::kFirm)) {
       firms << name;
       for (int line = 2; line <= 15; ++line) firms << name.left(6) + QString::number(line);
     }

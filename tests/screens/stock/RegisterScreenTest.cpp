@@ -246,7 +246,7 @@ TEST_F(RegisterScreens, AWarehouseThatIsGoneShowsNoRowsOfAnother) {
 }
 
 TEST_F(RegisterScreens, WithoutWarehousesTheyOpenEmpty) {
-  world_.TheSession().SkladNames.clear();
+  world_.TheSession().warehouses.clear();
   ModalAnswers none({});
   TovPrih screen(world_.Context());
   ShowActive(&screen);
@@ -255,7 +255,7 @@ TEST_F(RegisterScreens, WithoutWarehousesTheyOpenEmpty) {
 
 TEST_F(RegisterScreens, TransfersAreThereWithoutWarehousesToo) {
   world_.Put(DocumentKind::kTransfer);
-  world_.TheSession().SkladNames.clear();
+  world_.TheSession().warehouses.clear();
   ModalAnswers none({});
   vnutr screen(world_.Context());
   ShowActive(&screen);

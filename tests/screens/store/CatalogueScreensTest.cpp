@@ -89,7 +89,7 @@ TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
   })};
   EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen));
   EXPECT_EQ(host_.calls, (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s}));
-  EXPECT_EQ(TheSession().bases_text1, u"0002\\"_s);
+  EXPECT_EQ(TheSession().chosen_base, u"0002\\"_s);
   EXPECT_TRUE(TheSession().IsSeller());
   EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
   EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
@@ -134,7 +134,7 @@ TEST_F(CatalogueScreens, OnlyTheDirectorIsAskedForThePassword) {
 
 TEST_F(CatalogueScreens, OpenDatabaseIsNeitherRenamedNorDeleted) {
   Create({u"Первая"_s});
-  TheSession().basedir = u"0001\\"_s;
+  TheSession().base_path = u"0001\\"_s;
   const auto before = Tree();
   ModalAnswers answers{
       On([](CatalogueDialog* bases) {
@@ -199,8 +199,8 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
     for (const auto& entry : ListDatabases(Data())) DeleteDatabase(Data(), entry);
     if (c.any) Create({u"Первая"_s});
     host_.calls.clear();
-    TheSession().basedir = c.open;
-    TheSession().bases_text1 = u"0001\\"_s;
+    TheSession().base_path = c.open;
+    TheSession().chosen_base = u"0001\\"_s;
     world_.Settings().Write(settings::kFilePos, u"7"_s);
     world_.Settings().Write(settings::kBaseName, u"old"_s);
     ModalAnswers answers{On([&](CatalogueDialog* bases) {
@@ -212,7 +212,7 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
     })};
     EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kOpen));
     const size_t number = size_t(&c - cases.data());
-    EXPECT_EQ(TheSession().bases_text1, c.text1_after) << number;
+    EXPECT_EQ(TheSession().chosen_base, c.text1_after) << number;
     EXPECT_EQ(host_.calls, c.calls) << number;
     EXPECT_EQ(Setting(settings::kFilePos), c.filepos_after) << number;
     EXPECT_EQ(Setting(settings::kBaseName), c.basename_after) << number;
@@ -261,7 +261,7 @@ TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNor
   }
   EXPECT_EQ(host_.calls, QStringList());
   EXPECT_EQ(ListDatabases(Data()).size(), 2u);
-  TheSession().basedir = u"0001\\"_s;
+  TheSession().base_path = u"0001\\"_s;
   ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   SelectRow(&screen, 1);
@@ -310,10 +310,10 @@ TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
 
 TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
   Create({u"Первая"_s});
-  TheSession().basedir = TheSession().bases_text1 = u"0001\\"_s;
-  TheSession().SkladNames = QStringList{u"a"_s, u"b"_s};
-  TheSession().firma = QStringList{u"Прежняя фирма"_s};
-  TheSession().rub = u"тнг"_s;
+  TheSession().base_path = TheSession().chosen_base = u"0001\\"_s;
+  TheSession().warehouses = QStringList{u"a"_s, u"b"_s};
+  TheSession().Parties(PartyKind::kFirm) = QStringList{u"Прежняя фирма"_s};
+  TheSession().currency_name = u"тнг"_s;
   NewDatabaseDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   EXPECT_EQ(Find<QLineEdit>(&screen, "Text3")->text(), u"Первая"_s);
@@ -327,11 +327,11 @@ TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
   EXPECT_FALSE(screen.isVisible());
   EXPECT_EQ(host_.calls,
             (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s, u"ShowNewDatabase"_s}));
-  EXPECT_EQ(TheSession().basedir, u"0002\\"_s);
-  EXPECT_EQ(TheSession().bases_text1, u"0001\\"_s);
-  EXPECT_EQ(TheSession().SkladNames, QStringList{u"Главный склад"_s});
-  EXPECT_EQ(TheSession().firma, QStringList{u"Прежняя фирма"_s});
-  EXPECT_EQ(TheSession().rub, u"тнг"_s);
+  EXPECT_EQ(TheSession().base_path, u"0002\\"_s);
+  EXPECT_EQ(TheSession().chosen_base, u"0001\\"_s);
+  EXPECT_EQ(TheSession().warehouses, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(TheSession().Parties(PartyKind::kFirm), QStringList{u"Прежняя фирма"_s});
+  EXPECT_EQ(TheSession().currency_name, u"тнг"_s);
   EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
   EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
   EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
@@ -355,7 +355,7 @@ TEST_F(CatalogueScreens, FailedCreationTellsWhyAndLeavesTheScreen) {
 
 TEST_F(CatalogueScreens, ImportOfADatabaseIntoItselfIsRefused) {
   Create({u"Первая"_s});
-  TheSession().basedir = u"0001\\"_s;
+  TheSession().base_path = u"0001\\"_s;
   const auto before = Tree();
   ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
@@ -367,7 +367,7 @@ TEST_F(CatalogueScreens, ImportOfADatabaseIntoItselfIsRefused) {
 
 TEST_F(CatalogueScreens, ImportGoesFromSourceToAreasToFiles) {
   Create({u"Первая"_s, u"Вторая"_s});
-  TheSession().basedir = u"0001\\"_s;
+  TheSession().base_path = u"0001\\"_s;
   world_.Temp().PutLines(u"0002\\SPR\\товар.spr"_s, {u" Чай"_s});
   world_.Temp().PutLines(u"0002\\SPR\\firma.spr"_s, {u"не отмечено"_s});
   ImportSourceDialog screen(world_.Context(), host_, nullptr);

@@ -82,7 +82,9 @@ QLayout* DocumentEditor::NewHead() {
   if (BookOf(screens_.kind).has_flag) {
     const bool receipt = screens_.kind == DocumentKind::kReceipt;
     const Session& session = context_.session;
-    party_ = new TextChoice(QStringList{u"-"_s} + (receipt ? session.Post : session.Klient), this);
+    party_ = new TextChoice(QStringList{u"-"_s} + (receipt ? session.Parties(PartyKind::kSupplier)
+                                                           : session.Parties(PartyKind::kClient)),
+                            this);
     party_->Choose(draft_.Head().party);
     AddField(new_part(1), screens_.party_caption, party_, u"party"_s, screens_.party_hint);
   } else {
@@ -95,7 +97,7 @@ QLayout* DocumentEditor::NewHead() {
 }
 
 TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
-  auto* choice = new TextChoice(context_.session.SkladNames, this);
+  auto* choice = new TextChoice(context_.session.warehouses, this);
   BoundByLetters(choice, 14);
   choice->Choose(draft_.Head().*side);
   connect(choice, &QComboBox::currentIndexChanged, this, [=, this] {

@@ -89,7 +89,7 @@ QLayout* DocumentRegisterScreen::NewCommands() {
   return NewCommandRow({Command1, Command2, Command3, Command8, Command9}, {Command7});
 }
 
-bool DocumentRegisterScreen::HasWarehouse() const { return !context_.session.SkladNames.isEmpty(); }
+bool DocumentRegisterScreen::HasWarehouse() const { return !context_.session.warehouses.isEmpty(); }
 
 void DocumentRegisterScreen::Rebuild() {
   // Transfers lie beside the warehouses, whether there are any or not.

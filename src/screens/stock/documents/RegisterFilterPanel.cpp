@@ -33,7 +33,7 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
   head->addWidget(GoldButton1);
   head->addStretch();
   if (BookOf(screens.kind).in_warehouse) {
-    warehouse_ = new TextChoice(context.session.SkladNames, this);
+    warehouse_ = new TextChoice(context.session.warehouses, this);
     warehouse_->setObjectName(u"warehouse"_s);
     BoundByLetters(warehouse_, 14);
     head->addWidget(NewLabel(u"С&клад:"_s, warehouse_, this));
