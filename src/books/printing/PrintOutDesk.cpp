@@ -5,10 +5,20 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryFile>
+#include <cerrno>
+
+#include "books/store/Errors.h"
 
 namespace kladez {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kPieceBytes = 1 << 16;
+
+}  // namespace
 
 PrintOutDesk::PrintOutDesk(const DataDir& data, std::function<void()> start_viewer)
     : data_(data), start_viewer_(std::move(start_viewer)) {}
@@ -19,9 +29,23 @@ void PrintOutDesk::Write(const QString& name, const QByteArray& bytes) const {
   save.Commit();
 }
 
-void PrintOutDesk::WriteInPieces(const QString& name, SaveSet::Contents contents) const {
+void PrintOutDesk::WriteInPieces(const QString& name, const SaveSet::Contents& contents) const {
+  // Made beforehand: making it may take long, and the commit holds the lock of the directory.
+  QTemporaryFile made;
+  const auto check = [&made](bool good) {
+    if (!good) ThrowFileError(u"Не удалось записать"_s, made.fileName(), errno);
+  };
+  check(made.open());
+  contents([&](QByteArrayView piece) { check(made.write(piece.data(), piece.size()) >= 0); });
+  check(made.flush() && made.seek(0));
   SaveSet save(data_);
-  save.WriteInPieces(name, std::move(contents));
+  save.WriteInPieces(name, [&](const ByteSink& sink) {
+    while (!made.atEnd()) {
+      const QByteArray piece = made.read(kPieceBytes);
+      check(!piece.isEmpty());
+      sink(piece);
+    }
+  });
   save.Commit();
 }
 

@@ -20,7 +20,9 @@ class PrintOutDesk {
 
   // Writes a work file ("nakl.htm"); any old one is replaced. Throws filesystem_error.
   void Write(const QString& name, const QByteArray& bytes) const;
-  void WriteInPieces(const QString& name, SaveSet::Contents contents) const;
+  // The same for a page too long to lie in memory. What making it throws goes on to the caller, and
+  // nothing is written then; nobody who saves waits for it to be made.
+  void WriteInPieces(const QString& name, const SaveSet::Contents& contents) const;
 
   // Deletes "out.htm", renames the work file to it, starts the viewer: each step is tried whatever
   // became of the one before, and no failure is told.
