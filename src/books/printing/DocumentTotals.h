@@ -28,6 +28,15 @@ struct TotalTexts {
   bool operator==(const TotalTexts&) const = default;
 };
 
+// The money of a paper as its screen shows it.
+struct PaperSums {
+  PrintParameters parameters;
+  TotalTexts totals;
+  bool with_vat = true;        // told on the paper
+  bool with_sales_tax = true;  // told on the paper
+  QString rub;                 // short name of the currency
+};
+
 // How a form writes its taxes.
 struct TaxStyle {
   bool grouped = true;  // "##,##0.00" rather than "#0.00"

@@ -13,14 +13,15 @@ void WriteFooter(PageWriter& page, const FormFooter& footer) {
   const auto amount = [&](const QString& text) {
     return QString(footer.before_amount + text + footer.after_amount);
   };
-  const TotalTexts& totals = footer.totals;
+  const PaperSums& sums = footer.sums;
+  const TotalTexts& totals = sums.totals;
   if (footer.tells_total) italic(u"Всего: "_s + amount(totals.before));
-  if (footer.tells_discount) italic(u"Скидка: "_s + footer.parameters.discount + u'%');
+  if (footer.tells_discount) italic(u"Скидка: "_s + sums.parameters.discount + u'%');
   if (footer.tells_due) {
-    const QString due = AmountDue(totals.before, footer.parameters.discount);
+    const QString due = AmountDue(totals.before, sums.parameters.discount);
     italic(u"Итого к оплате: "_s + amount(due) + u',');
-    if (footer.with_vat) italic(u"включая НДС: "_s + totals.vat);
-    if (footer.with_sales_tax) italic(u"              НСП: "_s + totals.sales_tax);
+    if (sums.with_vat) italic(u"включая НДС: "_s + totals.vat);
+    if (sums.with_sales_tax) italic(u"              НСП: "_s + totals.sales_tax);
   } else {
     italic(u"Итого: "_s + totals.words);
   }

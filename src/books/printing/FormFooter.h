@@ -12,10 +12,7 @@
 namespace kladez {
 
 struct FormFooter {
-  PrintParameters parameters;
-  TotalTexts totals;
-  bool with_vat = true;
-  bool with_sales_tax = true;
+  const PaperSums& sums;
   QString before_amount;  // "$"
   QString after_amount;   // " руб."
   size_t row_count = 0;

@@ -10,6 +10,7 @@ namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
+using F = PartyField;
 
 constexpr PageFont kTinyFont{.size = 1};
 
@@ -28,16 +29,16 @@ void WriteLegalNote(PageWriter& page) {
 
 void WriteInvoiceParties(PageWriter& page, const InvoiceForm& form) {
   const std::array<QString, 9> lines = {
-      u"Продавец: "_s + form.seller.name.text,
-      u"Адрес: "_s + form.seller.address.text,
-      u"ИНН продавца: "_s + form.seller.tax_number.text,
-      u"Грузоотправитель и его адрес: "_s + form.seller.shipper.text,
-      u"Грузополучатель и его адрес: "_s + form.buyer.shipper.text,
+      u"Продавец: "_s + form.seller[F::kName].text,
+      u"Адрес: "_s + form.seller[F::kLegalAddress].text,
+      u"ИНН продавца: "_s + form.seller[F::kTaxNumber].text,
+      u"Грузоотправитель и его адрес: "_s + form.seller[F::kShipper].text,
+      u"Грузополучатель и его адрес: "_s + form.buyer[F::kShipper].text,
       u"К платежно-расчетному документу N "_s + form.payment_number.text + u" от "_s +
           form.payment_date.text,
-      u"Покупатель: "_s + form.buyer.name.text,
-      u"Адрес: "_s + form.buyer.address.text,
-      u"ИНН Покупателя: "_s + form.buyer.tax_number.text,
+      u"Покупатель: "_s + form.buyer[F::kName].text,
+      u"Адрес: "_s + form.buyer[F::kLegalAddress].text,
+      u"ИНН Покупателя: "_s + form.buyer[F::kTaxNumber].text,
   };
   page.Line(u"<FONT FACE=Arial SIZE=2>"_s + lines.front() + u"<br>"_s);
   for (size_t i = 1; i + 1 < lines.size(); ++i) page.Line(lines[i] + u"<br>"_s);
@@ -97,15 +98,15 @@ void WritePartyLine(PageWriter& page, const QString& label, const TickedText& fi
 // The lines of one party in dollars; they end in who ships or receives.
 void WriteDollarParty(PageWriter& page, const InvoiceParty& party, const QString& name_label,
                       const QString& shipper_label) {
-  WritePartyLine(page, name_label, party.name);
-  WritePartyLine(page, u"Адрес: "_s, party.address);
-  WritePartyLine(page, u"Расч.счет: "_s, party.account, u" в "_s + party.bank);
-  WritePartyLine(page, u"Кор.счет: "_s, party.correspondent);
-  WritePartyLine(page, u"БИК: "_s, party.bank_code);
-  WritePartyLine(page, u"ИНН: "_s, party.tax_number);
-  WritePartyLine(page, u"ОКОНХ: "_s, party.industry_code);
-  WritePartyLine(page, u"ОКПО: "_s, party.firm_code);
-  WritePartyLine(page, shipper_label, party.shipper);
+  WritePartyLine(page, name_label, party[F::kName]);
+  WritePartyLine(page, u"Адрес: "_s, party[F::kLegalAddress]);
+  WritePartyLine(page, u"Расч.счет: "_s, party[F::kAccount], u" в "_s + party[F::kBank].text);
+  WritePartyLine(page, u"Кор.счет: "_s, party[F::kCorrespondent]);
+  WritePartyLine(page, u"БИК: "_s, party[F::kBankCode]);
+  WritePartyLine(page, u"ИНН: "_s, party[F::kTaxNumber]);
+  WritePartyLine(page, u"ОКОНХ: "_s, party[F::kIndustryCode]);
+  WritePartyLine(page, u"ОКПО: "_s, party[F::kFirmCode]);
+  WritePartyLine(page, shipper_label, party[F::kShipper]);
 }
 
 void WriteTitle(PageWriter& page, const QString& title, int size) {
@@ -132,12 +133,9 @@ void WriteNumberedTable(PageWriter& page, const InvoiceForm& form) {
 
 void WriteInvoiceFooter(PageWriter& page, const InvoiceForm& form) {
   const bool dollars = form.currency == InvoiceCurrency::kDollars;
-  WriteFooter(page, {.parameters = form.parameters,
-                     .totals = form.totals,
-                     .with_vat = form.with_vat,
-                     .with_sales_tax = form.with_sales_tax,
+  WriteFooter(page, {.sums = form.sums,
                      .before_amount = dollars ? u"$"_s : QString(),
-                     .after_amount = dollars ? QString() : QString(u' ' + form.rub),
+                     .after_amount = dollars ? QString() : QString(u' ' + form.sums.rub),
                      .row_count = form.rows.size()});
 }
 
@@ -176,18 +174,18 @@ void WriteRoubleBill(PageWriter& page, const InvoiceForm& form) {
   };
   page.Line(u"<TABLE style=border-Collapse:Collapse width=100%>"_s);
   page.Line(u"<TR><TD VALIGN=TOP ALIGN=left>"_s);
-  line(u"<b>Продавец: </b>", form.seller.name.text);
-  line(u"Адрес: ", form.seller.address.text);
-  line(u"ИНН: ", form.seller.tax_number.text);
-  line(u"Расч.счет: ", form.seller.account.text);
-  line(u"Кор.счет: ", form.seller.correspondent.text);
-  line(u"Банк: ", form.seller.bank);
-  line(u"БИК: ", form.seller.bank_code.text);
-  line(u"ОКПО: ", form.seller.firm_code.text);
-  line(u"ОКОНХ: ", form.seller.industry_code.text);
+  line(u"<b>Продавец: </b>", form.seller[F::kName].text);
+  line(u"Адрес: ", form.seller[F::kLegalAddress].text);
+  line(u"ИНН: ", form.seller[F::kTaxNumber].text);
+  line(u"Расч.счет: ", form.seller[F::kAccount].text);
+  line(u"Кор.счет: ", form.seller[F::kCorrespondent].text);
+  line(u"Банк: ", form.seller[F::kBank].text);
+  line(u"БИК: ", form.seller[F::kBankCode].text);
+  line(u"ОКПО: ", form.seller[F::kFirmCode].text);
+  line(u"ОКОНХ: ", form.seller[F::kIndustryCode].text);
   page.Line(u"<p></p>"_s);
-  line(u"<b>Покупатель: </b>", form.buyer.name.text);
-  line(u"Адрес: ", form.buyer.address.text);
+  line(u"<b>Покупатель: </b>", form.buyer[F::kName].text);
+  line(u"Адрес: ", form.buyer[F::kLegalAddress].text);
   page.Line(u"</TD></TR>"_s);
   page.Line(u"</table>"_s);
   WriteTitle(page, form.title, 4);

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <array>
 #include <vector>
 
 #include "books/printing/InvoiceRows.h"
@@ -11,18 +12,17 @@
 
 namespace kladez {
 
-// A seller or buyer as the screen shows it. The boxes matter in dollars only.
-struct InvoiceParty {
-  TickedText name;
-  TickedText address;  // the legal one
-  TickedText account;  // its box stands for the bank too
-  QString bank;
-  TickedText correspondent;
-  TickedText bank_code;
-  TickedText tax_number;
-  TickedText industry_code;
-  TickedText firm_code;
-  TickedText shipper;  // of a buyer: who receives the goods
+// A seller or buyer as the screen shows it. The boxes matter in dollars only; that of the account
+// stands for the bank too. The shipper of a buyer is who receives the goods.
+class InvoiceParty {
+ public:
+  TickedText& operator[](PartyField field) { return fields_[static_cast<size_t>(field)]; }
+  const TickedText& operator[](PartyField field) const {
+    return fields_[static_cast<size_t>(field)];
+  }
+
+ private:
+  std::array<TickedText, static_cast<size_t>(PartyField::kAccountant) + 1> fields_;
 };
 
 enum class InvoiceKind { kTaxInvoice, kBill };
@@ -39,11 +39,7 @@ struct InvoiceForm {
   QString director;
   QString accountant;
   QString trader;  // an individual entrepreneur who sells
-  PrintParameters parameters;
-  TotalTexts totals;
-  bool with_vat = true;
-  bool with_sales_tax = true;
-  QString rub;  // short name of the currency
+  PaperSums sums;
   std::vector<InvoiceRow> rows;
 };
 

@@ -1,5 +1,6 @@
 #include "books/printing/WaybillPage.h"
 
+#include "books/printing/AmountInWords.h"
 #include "books/printing/FormFooter.h"
 #include "books/printing/InputError.h"
 #include "books/printing/PageWriter.h"
@@ -39,9 +40,9 @@ const WaybillKind& KindOf(DocumentKind kind) {
 }
 
 void WriteHead(PageWriter& page, const WaybillForm& form, const WaybillKind& kind) {
-  if (FieldNumber(form.parameters.rate) > 1) {
-    page.Line(u"<FONT FACE=Arial SIZE=1>Курс USD: "_s + form.parameters.rate + u' ' + form.rub +
-              u"</FONT><br><br>"_s);
+  if (FieldNumber(form.sums.parameters.rate) > 1) {
+    page.Line(u"<FONT FACE=Arial SIZE=1>Курс USD: "_s + form.sums.parameters.rate + u' ' +
+              form.sums.rub + u"</FONT><br><br>"_s);
   }
   page.Line(u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>"_s + form.title + kind.after_title);
   if (form.note.ticked) {
@@ -69,8 +70,8 @@ void WriteLines(PageWriter& page, const WaybillForm& form, const WaybillKind& ki
   page.Row({CenterCell(u"N"_s, 5), NameCell(u"Наименование"_s, 65), NumberCell(u"Кол-во"_s, 10),
             NumberCell(u"Цена"_s, 10), NumberCell(u"Сумма"_s, 10)},
            {.size = 4});
-  const double percent = FieldNumber(form.parameters.percent);
-  const double rate = FieldNumber(form.parameters.rate);
+  const double percent = FieldNumber(form.sums.parameters.percent);
+  const double rate = FieldNumber(form.sums.parameters.rate);
   size_t row = 0;
   for (const DocumentLine& line : form.lines) {
     ++row;
@@ -91,6 +92,16 @@ WaybillLabels WaybillLabelsOf(DocumentKind kind) {
   return {KindOf(kind).from.toString(), KindOf(kind).to.toString()};
 }
 
+void FillWaybillTotals(DocumentKind kind, const QString& total, const PrintParameters& parameters,
+                       const QString& rub, const Currency& currency, TotalTexts& totals) {
+  totals.before = TotalBefore(total, parameters);
+  if (KindOf(kind).tells_due) {
+    FillTotals(parameters, {.grouped = true, .currency = u' ' + rub}, currency, totals);
+  } else {
+    totals.words = AmountInWords(totals.before, currency);
+  }
+}
+
 QByteArray WaybillPage(const WaybillForm& form) {
   const WaybillKind& kind = KindOf(form.kind);
   PageWriter page(u"Накладная"_s);
@@ -100,12 +111,9 @@ QByteArray WaybillPage(const WaybillForm& form) {
   page.OpenTable();
   WriteLines(page, form, kind);
   page.Line(u"</center></table><p></p>"_s);
-  WriteFooter(page, {.parameters = form.parameters,
-                     .totals = form.totals,
-                     .with_vat = form.with_vat,
-                     .with_sales_tax = form.with_sales_tax,
+  WriteFooter(page, {.sums = form.sums,
                      .before_amount = {},
-                     .after_amount = u' ' + form.rub,
+                     .after_amount = u' ' + form.sums.rub,
                      .row_count = form.lines.size(),
                      .tells_total = kind.tells_total,
                      .tells_discount = kind.tells_discount,

@@ -20,11 +20,7 @@ struct WaybillForm {
   TickedText to;
   TickedText grounds;
   TickedText warehouse;  // not on a transfer's
-  PrintParameters parameters;
-  TotalTexts totals;
-  bool with_vat = true;
-  bool with_sales_tax = true;
-  QString rub;                      // short name of the currency
+  PaperSums sums;
   std::vector<DocumentLine> lines;  // prices before the discount
 };
 
@@ -34,6 +30,11 @@ struct WaybillLabels {
   QString to;
 };
 WaybillLabels WaybillLabelsOf(DocumentKind kind);
+
+// Works the totals out of the document's sum. Throws InputError for a field that is no number; what
+// was worked out until then stays.
+void FillWaybillTotals(DocumentKind kind, const QString& total, const PrintParameters& parameters,
+                       const QString& rub, const Currency& currency, TotalTexts& totals);
 
 // The page, Windows-1251. Throws InputError, which names the line, for a quantity or price that is
 // no number, and for a percentage, rate, total or discount that is none.

@@ -66,11 +66,9 @@ std::optional<QString> LineAmount(const QString& quantity, const QString& price)
   return FormatMoney(amount);
 }
 
-PrintSource PrintSourceOf(DocumentKind kind, PrintSource::Opener opener, const QString& warehouse,
-                          Document document) {
+PrintSource PrintSourceOf(DocumentKind kind, const QString& warehouse, Document document) {
   const DocumentHead& head = document.head;
   return {.kind = kind,
-          .opener = opener,
           .number = head.number,
           .date = head.date,
           .party = head.party,

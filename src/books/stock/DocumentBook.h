@@ -51,8 +51,7 @@ QString WarehouseOf(const LedgerEffect& effect, const DocumentHead& head, const 
 std::optional<QString> LineAmount(const QString& quantity, const QString& price);
 
 // What a print screen is handed about a document as a screen shows it.
-PrintSource PrintSourceOf(DocumentKind kind, PrintSource::Opener opener, const QString& warehouse,
-                          Document document);
+PrintSource PrintSourceOf(DocumentKind kind, const QString& warehouse, Document document);
 
 // A price or sum after a discount of so many percent, "#0.00".
 QString AfterDiscount(const QString& value, const QString& percent);

@@ -157,8 +157,7 @@ DocumentDraft::Outcome DocumentDraft::Save() {
 PrintSource DocumentDraft::ToPrint() const {
   Document shown{head_, {}};
   for (const DraftLine& draft : lines_) shown.lines.push_back(draft.line);
-  return PrintSourceOf(place_.kind, PrintSource::Opener::kEditor, place_.warehouse,
-                       std::move(shown));
+  return PrintSourceOf(place_.kind, place_.warehouse, std::move(shown));
 }
 
 }  // namespace kladez

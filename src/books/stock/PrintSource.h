@@ -10,11 +10,7 @@
 namespace kladez {
 
 struct PrintSource {
-  // From the editor of a document ("yes") or from its register and properties ("no").
-  enum class Opener { kEditor, kRegister };
-
   DocumentKind kind = DocumentKind::kShipment;
-  Opener opener = Opener::kEditor;
   QString number;
   QString date;
   QString party;        // client, supplier, or the warehouse goods come from

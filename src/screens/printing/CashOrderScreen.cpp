@@ -26,6 +26,14 @@ constexpr double kMmOfInch = 25.4;
 constexpr double kMarginMm = 5;
 constexpr double kMagnified = 1.1;  // on the screen, where small print is hard to read
 
+using P = PrintParameters;
+constexpr ParameterField kOrderParameters[] = {
+    {u"Text45", u"С&умма %:", u"Сумма", &P::percent},
+    {u"DecText1", u"&Курс $:", u"Курс доллара", &P::rate, &settings::kRate},
+    {u"Text44", u"Н&ДС:", u"НДС", &P::vat, &settings::kVat},
+    {u"Text43", u"Н&СП:", u"НСП", &P::sales_tax, &settings::kSalesTax},
+};
+
 // The drawn form under the fields; where there is something to fill in is tinted.
 class SheetView : public QWidget {
  public:
@@ -52,35 +60,12 @@ class SheetView : public QWidget {
 }  // namespace
 
 CashOrderScreen::CashOrderScreen(AppContext& context, const PrintSource& source, QWidget* parent)
-    : PrintScreen(context, source, u"PrihPrint"_s, parent) {
+    : PrintDialog(context, source, u"PrihPrint"_s, parent),
+      parameters_(*this, kOrderParameters, {},
+                  {.reload = [this] { Reload(); }, .recount = [this] { Reload(); }}) {
   setWindowTitle(u"Приходный кассовый ордер"_s);
   Build();
   Reload();
-}
-
-QGroupBox* CashOrderScreen::NewParametersFrame() {
-  const PrintParameters start;
-  Text45 = NewFigure(this, u"Text45"_s, start.percent);
-  Text44 = NewFigure(this, u"Text44"_s, start.vat);
-  Text43 = NewFigure(this, u"Text43"_s, start.sales_tax);
-  WhenLeft(Text45, [this] {
-    if (!Text45->isModified()) return;
-    Text45->setModified(false);
-    Reload();
-  });
-  ReloadWhenLeft(Text44);
-  ReloadWhenLeft(Text43);
-  auto* grid = new QGridLayout;
-  FieldGrid fields(grid, 4);
-  fields.Add(NewCaption(this, u"С&умма %:"_s, Text45), Text45, NewHint(u"Сумма", {Text45}));
-  fields.Add(NewCaption(this, u"&Курс $:"_s, DecText1), DecText1,
-             NewHint(u"Курс доллара", {DecText1}));
-  fields.Add(NewCaption(this, u"Н&ДС:"_s, Text44), Text44, NewHint(u"НДС", {Text44}));
-  fields.Add(NewCaption(this, u"Н&СП:"_s, Text43), Text43, NewHint(u"НСП", {Text43}));
-  auto* frame = new QGroupBox(this);
-  frame->setObjectName(u"Frame1"_s);
-  frame->setLayout(grid);
-  return frame;
 }
 
 QWidget* CashOrderScreen::NewSheet() {
@@ -88,7 +73,6 @@ QWidget* CashOrderScreen::NewSheet() {
   auto* sheet = new SheetView(scale, this);
   QPalette palette = this->palette();
   palette.setColor(QPalette::Base, Qt::transparent);
-  QWidget* before = nullptr;
   for (const SheetField& field : SheetFields()) {
     QWidget* editor = nullptr;
     if (field.pitch > 0) {
@@ -106,10 +90,15 @@ QWidget* CashOrderScreen::NewSheet() {
     editor->setPalette(palette);
     editor->setGeometry(scale.Map(field.place).toRect());
     fields_.insert(field.name.toString(), editor);
-    if (before != nullptr) setTabOrder(before, editor);
-    before = editor;
   }
   return sheet;
+}
+
+QWidget* CashOrderScreen::NewParametersFrame() {
+  auto* frame = new QGroupBox(this);
+  frame->setObjectName(u"Frame1"_s);
+  frame->setLayout(parameters_.NewGrid(4));
+  return frame;
 }
 
 void CashOrderScreen::Build() {
@@ -119,42 +108,32 @@ void CashOrderScreen::Build() {
   scroll->setWidget(NewSheet());
   scroll->setAlignment(Qt::AlignCenter);
   layout->addWidget(scroll, 1);
-  Frame1 = NewParametersFrame();
-  layout->addWidget(Frame1);
-  Command2 = NewCommand(this, u"Command2"_s, u"&Печать"_s, look::IconName::kPrint);
-  Command1 = NewCommand(this, u"Command1"_s, u"&Закрыть"_s);
-  layout->addLayout(NewEndingRow(Command2, Command1));
-  connect(Command2, &QPushButton::clicked, this, &CashOrderScreen::Print);
-  connect(Command1, &QPushButton::clicked, this, &QDialog::reject);
+  layout->addWidget(NewParametersFrame());
+  auto* print = NewCommand(this, u"Command2"_s, u"&Печать"_s, look::IconName::kPrint);
+  auto* close = NewCommand(this, u"Command1"_s, u"&Закрыть"_s);
+  layout->addLayout(NewEndingRow(print, close));
+  connect(print, &QPushButton::clicked, this, &CashOrderScreen::Print);
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
 
   const QSize bars(scroll->verticalScrollBar()->sizeHint().width(), 0);
   const QSize rest = layout->sizeHint() - scroll->sizeHint();
   const QSize size(scroll->widget()->width() + 2 * look::kGrid + 2 * look::kMargin,
                    scroll->widget()->height() + rest.height() + 2 * look::kTight);
   resize((size + bars).boundedTo(screen()->availableSize() * 0.95));
-  SetTabChain({Text45, DecText1, Text44, Text43, Command2, Command1});
-  Command2->setFocus();
+  print->setFocus();
+}
+
+void CashOrderScreen::Reload() {
+  Attempt([this] { Load(); });
 }
 
 void CashOrderScreen::Load() {
-  DecText1->setText(Context().settings.Read(settings::kRate));
-  PrintParameters parameters;
-  parameters.percent = Text45->text();
-  parameters.rate = DecText1->text();
-  parameters.vat = Text44->text();
-  parameters.sales_tax = Text43->text();
+  parameters_.Load();
   CashOrder order;
   // A failure on the way leaves what was filled on the screen.
   const auto show = qScopeGuard([&] { Show(order); });
-  FillCashOrder(Source(), FirstFirm(), parameters, Context().session.currency_name, TheCurrency(),
-                order);
-}
-
-void CashOrderScreen::SaveRates() {
-  SettingsStore& settings = Context().settings;
-  settings.Write(settings::kRate, DecText1->text());
-  settings.Write(settings::kVat, Text44->text());
-  settings.Write(settings::kSalesTax, Text43->text());
+  FillCashOrder(Source(), FirstFirm(), parameters_.Read(), Context().session.currency_name,
+                ReadCurrencyForms(), order);
 }
 
 void CashOrderScreen::Show(const CashOrder& order) {
@@ -187,7 +166,7 @@ void CashOrderScreen::PaintOn(QPrinter& printer) const {
 }
 
 void CashOrderScreen::Print() {
-  if (!LeaveRates()) return;
+  if (!LeaveFields()) return;
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(windowTitle() + u' ' + Texts().value(u"Text5"_s));
   printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,

@@ -5,17 +5,16 @@
 
 #include <QHash>
 
+#include "books/printing/CashOrder.h"
 #include "screens/printing/CashOrderSheet.h"
-#include "screens/printing/PrintScreen.h"
+#include "screens/printing/ParametersBlock.h"
+#include "screens/printing/PrintDialog.h"
 
-class QGroupBox;
 class QPrinter;
 
 namespace kladez {
 
-class TextLine;
-
-class CashOrderScreen : public PrintScreen {
+class CashOrderScreen : public PrintDialog {
   Q_OBJECT
 
  public:
@@ -26,25 +25,17 @@ class CashOrderScreen : public PrintScreen {
   // Draws the form on the printer's page; always one page.
   void PaintOn(QPrinter& printer) const;
 
-  QGroupBox* Frame1;      // the parameters
-  TextLine* Text45;       // "Сумма %:"
-  TextLine* Text44;       // "НДС:"
-  TextLine* Text43;       // "НСП:"
-  QPushButton* Command1;  // "Закрыть"
-  QPushButton* Command2;  // "Печать"
-
- protected:
-  void Load() override;
-  void SaveRates() override;
-
  private:
-  void Build();
-  QGroupBox* NewParametersFrame();
   QWidget* NewSheet();
+  QWidget* NewParametersFrame();
+  void Build();
+  void Reload();
+  void Load();
   void Show(const CashOrder& order);
   void Print();
 
   QHash<QString, QWidget*> fields_;
+  ParametersBlock parameters_;
 };
 
 }  // namespace kladez

@@ -1,5 +1,6 @@
-// How every print command ends: the page is written, the screen closes, the print-out is opened, in
-// this order.
+// How a paper, a report or a chart goes to the viewer: the page is written, the screen closes, the
+// print-out is opened, in this order. The price list and the stock on hand open theirs first
+// (PrintOutDesk::Show).
 #pragma once
 
 #include <QByteArray>

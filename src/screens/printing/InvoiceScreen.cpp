@@ -1,14 +1,21 @@
 #include "screens/printing/InvoiceScreen.h"
 
 #include <QCheckBox>
-#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
 #include <QRadioButton>
-#include <QScopeGuard>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
 
 #include "books/printing/InputError.h"
-#include "books/printing/InvoiceParties.h"
-#include "screens/printing/PrintFields.h"
+#include "ui/Help.h"
+#include "ui/controls/Columns.h"
 #include "ui/controls/Fields.h"
+#include "ui/controls/HintPicture.h"
+#include "ui/controls/Look.h"
 
 namespace kladez {
 namespace {
@@ -17,103 +24,179 @@ using namespace Qt::StringLiterals;
 
 // What tells the two forms apart on their screen.
 struct InvoiceText {
+  QStringView name;
   QStringView title;
-  bool keeps_trader;  // Text35 in the settings
+  bool keeps_trader;  // "ИП:", in the settings
 };
 
 const InvoiceText& TextOf(InvoiceKind kind) {
-  static constexpr InvoiceText kInvoice = {u"Счет-фактура", true};
-  static constexpr InvoiceText kBill = {u"Счет", false};
+  static constexpr InvoiceText kInvoice = {u"chFactPrint", u"Счет-фактура", true};
+  static constexpr InvoiceText kBill = {u"UhodSch", u"Счет", false};
   return kind == InvoiceKind::kBill ? kBill : kInvoice;
 }
 
-TickedText Ticked(const InvoiceScreen::TickedField& field) {
-  return {field.text->text(), field.tick->isChecked()};
+using P = PrintParameters;
+constexpr ParameterField kInvoiceParameters[] = {
+    {u"Text18", u"&Цены:", u"Цены", &P::percent},
+    {u"Text19", u"Скидк&а %:", u"Скидка", &P::discount},
+    {u"DecText1", u"К&урс $:", u"Курс доллара", &P::rate, &settings::kRate},
+    {u"Text7", u"Н&ДС:", u"НДС", &P::vat, &settings::kVat},
+    {u"Text8", u"Н&СП:", u"НСП", &P::sales_tax, &settings::kSalesTax},
+};
+
+PrintParameters InvoiceStart() {
+  PrintParameters start;
+  start.discount = ParametersBlock::kFree.toString();
+  return start;
 }
 
-InvoiceParty PartyOn(const InvoiceScreen::PartyFields& fields) {
-  InvoiceParty party;
-  party.name = {fields.name->currentText(), fields.name_tick->isChecked()};
-  party.address = Ticked(fields.address);
-  party.account = Ticked(fields.account);
-  party.bank = fields.bank->text();
-  party.correspondent = Ticked(fields.correspondent);
-  party.bank_code = Ticked(fields.bank_code);
-  party.tax_number = Ticked(fields.tax_number);
-  party.industry_code = Ticked(fields.industry_code);
-  party.firm_code = Ticked(fields.firm_code);
-  party.shipper = Ticked(fields.shipper);
-  return party;
+TickedField NewTicked(QWidget* parent, const QString& tick, const QString& caption,
+                      const QString& text) {
+  TickedField field{NewTick(parent, tick, caption, true), NewText(parent, text)};
+  field.text->setAccessibleName(QString(caption).remove(u'&'));
+  return field;
 }
 
 }  // namespace
 
-InvoiceScreen::InvoiceScreen(AppContext& context, const PrintSource& source, const QString& name,
-                             InvoiceKind kind, QWidget* parent)
-    : TotalsScreen(context, source, name, Taxes::kShown, kFree.toString(), parent), kind_(kind) {
+InvoiceScreen::InvoiceScreen(AppContext& context, InvoiceKind kind, const PrintSource& source,
+                             QWidget* parent)
+    : PrintDialog(context, source, TextOf(kind).name.toString(), parent),
+      kind_(kind),
+      title_(NewText(this, u"Text1"_s)),
+      in_roubles_(NewOption(u"Option1"_s, u"Печать в &рублях"_s)),
+      in_dollars_(NewOption(u"Option2"_s, u"Пе&чать в USD"_s)),
+      seller_(*this, PartyKind::kFirm,
+              [this](const InvoiceParty& party) {
+                ShowText(director_, party[PartyField::kDirector].text);
+                ShowText(accountant_, party[PartyField::kAccountant].text);
+              }),
+      buyer_(*this, PartyKind::kClient),
+      payment_number_(
+          NewTicked(this, u"Check8"_s, u"К плате&жно-расчетному документу N:"_s, u"Text12"_s)),
+      payment_date_(NewTicked(this, u"Check12"_s, u"от:"_s, u"Text13"_s)),
+      note_(NewText(this, u"Text33"_s)),
+      parameters_(*this, kInvoiceParameters, InvoiceStart(),
+                  {.reload = [this] { Reload(); },
+                   .recount = [this] { Attempt([this] { LoadTotals(); }); }}),
+      totals_(*this, TotalsBlock::Taxes::kShown),
+      director_(NewText(this, u"Text34"_s)),
+      accountant_(NewText(this, u"Text36"_s)),
+      trader_(NewText(this, u"Text35"_s)) {
   setWindowTitle(TextOf(kind).title.toString());
   Build();
   Reload();
 }
 
-InvoiceCurrency InvoiceScreen::TheCurrencyOfPage() const {
-  return Option2->isChecked() ? InvoiceCurrency::kDollars : InvoiceCurrency::kRoubles;
+QRadioButton* InvoiceScreen::NewOption(const QString& name, const QString& caption) {
+  auto* option = new QRadioButton(caption, this);
+  option->setObjectName(name);
+  connect(option, &QRadioButton::clicked, this, &InvoiceScreen::Reload);
+  return option;
+}
+
+QLayout* InvoiceScreen::NewHeadBlock() {
+  title_->setAccessibleName(u"Заголовок"_s);
+  title_->setFont(look::HeadingFont(font()));
+  in_roubles_->setChecked(true);
+  return SideBySide({title_, in_roubles_, NewHint(u"Печатать в рублях", {in_roubles_}), in_dollars_,
+                     NewHint(u"Печатать в USD", {in_dollars_})});
+}
+
+QLayout* InvoiceScreen::NewPaymentBlock() {
+  auto* grid = new QGridLayout;
+  FieldGrid rows(grid);
+  rows.Add(payment_number_.tick,
+           SideBySide({payment_number_.text, payment_date_.tick, payment_date_.text}));
+  rows.Add(NewCaption(this, u"При&мечание:"_s, note_), note_, NewHint(u"Примечание", {note_}));
+  return grid;
+}
+
+QWidget* InvoiceScreen::NewSignatureBlock() {
+  auto* grid = new QGridLayout;
+  FieldGrid rows(grid, 3);
+  rows.Add(NewCaption(this, u"Рук&оводитель:"_s, director_), director_);
+  rows.Add(NewCaption(this, u"Главный &бухгалтер:"_s, accountant_), accountant_);
+  rows.Add(NewCaption(this, u"ИП:"_s, trader_), trader_);
+  return NewBoxOf(this, u"Расшифровка подписей"_s, grid);
+}
+
+void InvoiceScreen::BuildSheet(QWidget* sheet) {
+  auto* parties = new Columns(look::kGrid);
+  parties->Add(seller_.NewBox());
+  parties->Add(buyer_.NewBox());
+  auto* blocks = new QVBoxLayout(sheet);
+  look::SetDialogMargins(blocks);
+  blocks->addLayout(NewHeadBlock());
+  blocks->addLayout(parties);
+  blocks->addLayout(NewPaymentBlock());
+  auto* sums = new Columns(look::kGrid);
+  sums->Add(NewBoxOf(this, u"Параметры"_s, parameters_.NewGrid(2)));
+  sums->Add(NewBoxOf(this, u"Итоги"_s, totals_.NewFiguresGrid()));
+  blocks->addLayout(sums);
+  blocks->addLayout(totals_.NewWordsGrid());
+  blocks->addWidget(NewSignatureBlock());
+  blocks->addStretch(1);
+}
+
+void InvoiceScreen::Build() {
+  auto* sheet = new QWidget(this);
+  BuildSheet(sheet);
+  auto* scroll = new QScrollArea(this);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setWidget(sheet);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, look::kMargin);
+  layout->addWidget(scroll);
+  layout->addWidget(look::NewSeparator(this));
+  QBoxLayout* row = NewCommands(u"П&ечать"_s, [this] { Print(); });
+  row->insertWidget(0, NewHelpCommand(this, Context().data, u"uhodchfakt.htm", u"Command5"));
+  row->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
+  layout->addLayout(row);
+
+  // All of it in sight where the display allows it.
+  QSize size = sheet->sizeHint() + QSize(scroll->verticalScrollBar()->sizeHint().width(), 0);
+  size.rheight() += layout->sizeHint().height() - scroll->sizeHint().height();
+  resize(size.boundedTo(screen()->availableSize() * 0.95));
+}
+
+InvoiceCurrency InvoiceScreen::PageCurrency() const {
+  return in_dollars_->isChecked() ? InvoiceCurrency::kDollars : InvoiceCurrency::kRoubles;
+}
+
+void InvoiceScreen::Reload() {
+  Attempt([this] { Load(); });
 }
 
 void InvoiceScreen::Load() {
   rows_ready_ = false;
   const PrintSource& source = Source();
   const Session& session = Context().session;
-  Text35->clear();
+  trader_->clear();
   if (TextOf(kind_).keeps_trader) {
-    Text35->setText(Context().settings.Read(settings::kInvoiceTrader));
+    trader_->setText(Context().settings.Read(settings::kInvoiceTrader));
   }
-  LoadRates();
-  Text1->setText(TextOf(kind_).title + u" N "_s + source.number + u" от "_s + source.date);
-  Text12->setText(source.number);
-  Text13->setText(source.date);
-  SetEntries(seller.name, session.Parties(PartyKind::kFirm));
-  seller.name->setEditText(FirstFirm());
-  LoadParty(PartyKind::kFirm);
-  SetEntries(buyer.name, session.Parties(PartyKind::kClient));
-  buyer.name->setEditText(source.party);
-  LoadParty(PartyKind::kClient);
+  parameters_.Load();
+  title_->setText(TextOf(kind_).title + u" N "_s + source.number + u" от "_s + source.date);
+  payment_number_.text->setText(source.number);
+  payment_date_.text->setText(source.date);
+  seller_.Load(session.Parties(PartyKind::kFirm), FirstFirm());
+  buyer_.Load(session.Parties(PartyKind::kClient), source.party);
   LoadTotals();
 }
 
 void InvoiceScreen::LoadTotals() {
   rows_ready_ = false;
   const PrintSource& source = Source();
-  const Session& session = Context().session;
-  TotalTexts totals = Totals();
-  // A failure on the way leaves what was worked out on the screen.
-  const auto show = qScopeGuard([&] { ShowTotals(totals); });
-  const PrintParameters parameters = Parameters();
-  FillInvoiceTotals(TheCurrencyOfPage(), source.total, parameters, session.currency_name,
-                    TheCurrency(), totals);
-  rows_ = InvoiceRows(source.lines, InvoiceFactor(TheCurrencyOfPage(), parameters), parameters.vat,
-                      Context().data.Read(session.Path(u"spr\\товар.spr")));
-  rows_ready_ = true;
-}
-
-void InvoiceScreen::LoadParty(PartyKind kind) {
-  const bool firm = kind == PartyKind::kFirm;
-  const PartyFields& fields = firm ? seller : buyer;
-  const QByteArray records = Context().data.Read(Context().session.Path(PartyPath(kind)));
-  const Party record = PartyNamed(kind, records, fields.name->currentText());
-  const InvoiceParty party = InvoicePartyOf(kind, record);
-  ShowText(fields.address.text, party.address.text);
-  ShowText(fields.account.text, party.account.text);
-  ShowText(fields.bank, party.bank);
-  ShowText(fields.correspondent.text, party.correspondent.text);
-  ShowText(fields.bank_code.text, party.bank_code.text);
-  ShowText(fields.tax_number.text, party.tax_number.text);
-  ShowText(fields.industry_code.text, party.industry_code.text);
-  ShowText(fields.firm_code.text, party.firm_code.text);
-  ShowText(fields.shipper.text, party.shipper.text);
-  if (!firm) return;
-  ShowText(Text34, FieldOf(kind, record, PartyField::kDirector));
-  ShowText(Text36, FieldOf(kind, record, PartyField::kAccountant));
+  totals_.Fill([&](TotalTexts& totals) {
+    const PrintParameters parameters = parameters_.Read();
+    FillInvoiceTotals(PageCurrency(), source.total, parameters, Context().session.currency_name,
+                      ReadCurrencyForms(), totals);
+    rows_ = InvoiceRows(source.lines, InvoiceFactor(PageCurrency(), parameters), parameters.vat,
+                        FileOf(u"spr\\товар.spr"_s));
+    rows_ready_ = true;
+  });
 }
 
 void InvoiceScreen::Print() {
@@ -122,7 +205,7 @@ void InvoiceScreen::Print() {
     if (!rows_ready_) throw InputError(u"Ошибка ввода"_s);
     const QByteArray page = InvoicePage(Form());
     if (TextOf(kind_).keeps_trader) {
-      Context().settings.Write(settings::kInvoiceTrader, Text35->text());
+      Context().settings.Write(settings::kInvoiceTrader, trader_->text());
     }
     return page;
   });
@@ -131,20 +214,18 @@ void InvoiceScreen::Print() {
 InvoiceForm InvoiceScreen::Form() const {
   InvoiceForm form;
   form.kind = kind_;
-  form.currency = TheCurrencyOfPage();
-  form.title = Text1->text();
-  form.seller = PartyOn(seller);
-  form.buyer = PartyOn(buyer);
-  form.payment_number = Ticked({Check8, Text12});
-  form.payment_date = Ticked({Check12, Text13});
-  form.director = Text34->text();
-  form.accountant = Text36->text();
-  form.trader = Text35->text();
-  form.parameters = Parameters();
-  form.totals = Totals();
-  form.with_vat = Check5->isChecked();
-  form.with_sales_tax = Check6->isChecked();
-  form.rub = Context().session.currency_name;
+  form.currency = PageCurrency();
+  form.title = title_->text();
+  form.seller = seller_.Read();
+  form.buyer = buyer_.Read();
+  form.payment_number = payment_number_.Read();
+  form.payment_date = payment_date_.Read();
+  form.director = director_->text();
+  form.accountant = accountant_->text();
+  form.trader = trader_->text();
+  form.sums.parameters = parameters_.Read();
+  form.sums.rub = Context().session.currency_name;
+  totals_.ReadInto(form.sums);
   form.rows = rows_;
   return form;
 }

@@ -1,81 +1,55 @@
-// The screen of the tax invoice and of the bill for payment: one machinery, told apart by the form.
-// Seller on the left, buyer on the right, signatures, parameters and totals below; it scrolls where
-// the display is small. The boxes in front of the fields matter in dollars only.
+// The tax invoice ("chFactPrint") and the bill for payment ("UhodSch"): one screen, told apart by
+// the form. Seller on the left, buyer on the right, parameters and totals, signatures; it scrolls
+// where the display is small. The boxes in front of the fields matter in dollars only.
 #pragma once
 
 #include "books/printing/InvoicePage.h"
-#include "screens/printing/TotalsScreen.h"
+#include "screens/printing/ParametersBlock.h"
+#include "screens/printing/PartyBlock.h"
+#include "screens/printing/PrintDialog.h"
+#include "screens/printing/TotalsBlock.h"
 
-class QComboBox;
 class QRadioButton;
-class QVBoxLayout;
 
 namespace kladez {
 
-class InvoiceScreen : public TotalsScreen {
+class InvoiceScreen : public PrintDialog {
   Q_OBJECT
 
  public:
-  struct TickedField {
-    QCheckBox* tick;
-    TextLine* text;
-  };
-  // The fields of one party.
-  struct PartyFields {
-    QCheckBox* name_tick;
-    QComboBox* name;
-    TickedField address;
-    TickedField tax_number;
-    TickedField bank_code;
-    TickedField account;
-    TextLine* bank;
-    TickedField correspondent;
-    TickedField industry_code;
-    TickedField firm_code;
-    TickedField shipper;
-  };
-
-  TextLine* Text1;        // the title
-  QRadioButton* Option1;  // "Печать в рублях"
-  QRadioButton* Option2;  // "Печать в USD"
-  PartyFields seller;     // Text2, Text3 ... with Check1, Check2 ...
-  PartyFields buyer;      // Text14, Text15 ... with Check9, Check10 ...
-  QCheckBox* Check8;      // "К платежно-расчетному документу N:"
-  TextLine* Text12;       // its number
-  QCheckBox* Check12;     // "от:"
-  TextLine* Text13;       // its date
-  TextLine* Text33;       // "Примечание:"
-  TextLine* Text34;       // "Руководитель:"
-  TextLine* Text36;       // "Главный бухгалтер:"
-  TextLine* Text35;       // "ИП:"
-  QPushButton* Command1;  // "Печать"
-  QPushButton* Command2;  // "Отмена"
-  QPushButton* Command5;  // "Справка"
-
- protected:
-  InvoiceScreen(AppContext& context, const PrintSource& source, const QString& name,
-                InvoiceKind kind, QWidget* parent);
-
-  void Load() override;
-  void LoadTotals() override;
+  InvoiceScreen(AppContext& context, InvoiceKind kind, const PrintSource& source,
+                QWidget* parent = nullptr);
 
  private:
-  void Build();
-  void BuildCommands(QVBoxLayout* layout);
-  QWidget* NewHeadBlock();
-  QWidget* NewPartyBlock(PartyKind kind);
-  QWidget* NewPaymentBlock();
+  QRadioButton* NewOption(const QString& name, const QString& caption);
+  QLayout* NewHeadBlock();
+  QLayout* NewPaymentBlock();
   QWidget* NewSignatureBlock();
-  QWidget* NewBox(const QString& title, QLayout* content);
   void BuildSheet(QWidget* sheet);
-  void ChainTabs();
+  void Build();
 
-  void LoadParty(PartyKind kind);
+  void Reload();
+  void Load();
+  void LoadTotals();
   void Print();
-  InvoiceCurrency TheCurrencyOfPage() const;
+  InvoiceCurrency PageCurrency() const;
   InvoiceForm Form() const;
 
   const InvoiceKind kind_;
+  TextLine* const title_;
+  QRadioButton* const in_roubles_;
+  QRadioButton* const in_dollars_;
+  PartyBlock seller_;
+  PartyBlock buyer_;
+  TickedField payment_number_;
+  TickedField payment_date_;
+  TextLine* const note_;
+  ParametersBlock parameters_;
+  TotalsBlock totals_;
+  TextLine* const director_;
+  TextLine* const accountant_;
+  TextLine* const trader_;
+
   std::vector<InvoiceRow> rows_;
   bool rows_ready_ = false;
 };

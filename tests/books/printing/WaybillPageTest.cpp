@@ -17,10 +17,10 @@ WaybillForm Form(DocumentKind kind) {
   form.to = {u"Ромашка"_s, true};
   form.grounds = {u"договор"_s, false};
   form.warehouse = {u"Главный склад"_s, true};
-  form.totals = {u"150.00"_s, u"20.59 руб."_s, u"6.75 руб."_s,
-                 u"Сто тридцать пять рублей 00 копеек"_s};
-  form.parameters.discount = u"10"_s;
-  form.rub = u"руб."_s;
+  form.sums.totals = {u"150.00"_s, u"20.59 руб."_s, u"6.75 руб."_s,
+                      u"Сто тридцать пять рублей 00 копеек"_s};
+  form.sums.parameters.discount = u"10"_s;
+  form.sums.rub = u"руб."_s;
   form.lines = {{u"Чай <чёрный> & \"белый\""_s, u"0.125"_s, u"кг"_s, u"1"_s, u"1.005"_s, {}},
                 {u"Кофе"_s, u"3"_s, u"шт."_s, u"1"_s, u"49.95"_s, {}}};
   return form;
@@ -57,10 +57,10 @@ TEST(WaybillPage, ShipmentPrintsPricesBeforeTheDiscountAndTheAmountAfterIt) {
 
 TEST(WaybillPage, ReceiptAboveRateOneTellsTheRateAndEveryTickedLine) {
   WaybillForm form = Form(DocumentKind::kReceipt);
-  form.parameters.rate = u"31.50"_s;
-  form.parameters.percent = u"50"_s;
+  form.sums.parameters.rate = u"31.50"_s;
+  form.sums.parameters.percent = u"50"_s;
   form.note.ticked = form.grounds.ticked = true;
-  form.with_vat = form.with_sales_tax = false;
+  form.sums.with_vat = form.sums.with_sales_tax = false;
   ExpectPage(WaybillPage(form),
              {PageHead(u"Накладная"_s),
               u"<FONT FACE=Arial SIZE=1>Курс USD: 31.50 руб.</FONT><br><br>"_s,
@@ -90,7 +90,7 @@ TEST(WaybillPage, ReceiptAboveRateOneTellsTheRateAndEveryTickedLine) {
 
 TEST(WaybillPage, TransferWithoutLinesPrintsItsHeadingsAndACountOfZero) {
   WaybillForm form = Form(DocumentKind::kTransfer);
-  form.parameters.rate = u"1"_s;
+  form.sums.parameters.rate = u"1"_s;
   form.to.ticked = false;
   form.lines.clear();
   ExpectPage(

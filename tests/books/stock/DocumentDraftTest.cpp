@@ -261,7 +261,7 @@ TEST_F(Drafts, PrintScreensGetWhatTheEditorShows) {
   draft.SetDiscount(u"5"_s);
   draft.AddLine(Pick(u"Чай"_s, u"3"_s, u"60"_s, u"45"_s));
   const PrintSource source = draft.ToPrint();
-  EXPECT_EQ(source.opener, PrintSource::Opener::kEditor);
+  EXPECT_EQ(source.kind, DocumentKind::kShipment);
   EXPECT_EQ(source.number, u"15/а");
   EXPECT_EQ(source.warehouse, u"Склад");
   EXPECT_EQ(source.total, u"180.00");

@@ -1,6 +1,5 @@
-#include "screens/printing/BillScreen.h"
+#include "screens/printing/InvoiceScreen.h"
 #include "screens/printing/PrintWorld.h"
-#include "screens/printing/TaxInvoiceScreen.h"
 #include "ui/controls/Fields.h"
 
 namespace kladez {
@@ -20,7 +19,7 @@ QStringList From(const QByteArray& page, const QString& beginning) {
 TEST(InvoiceScreens, TheFirstLoadTakesTheDiscountAndFillsTheParties) {
   PrintWorld world;
   world->Settings().Write(settings::kInvoiceTrader, u"Сидоров"_s);
-  TaxInvoiceScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   EXPECT_EQ(screen.windowTitle(), u"Счет-фактура"_s);
   const std::pair<const char*, QString> fields[] = {
       {"Text1", u"Счет-фактура N 5 от 12.03.2026"_s},
@@ -60,7 +59,7 @@ TEST(InvoiceScreens, TheFirstLoadTakesTheDiscountAndFillsTheParties) {
 
 TEST(InvoiceScreens, ThePickOfAPartyFillsItsFieldsAndALoadPutsTheFirstBack) {
   PrintWorld world;
-  TaxInvoiceScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   ShowActive(&screen);
   auto* seller = Find<QComboBox>(&screen, "Text2");
   seller->setFocus();
@@ -75,7 +74,7 @@ TEST(InvoiceScreens, ThePickOfAPartyFillsItsFieldsAndALoadPutsTheFirstBack) {
 
 TEST(InvoiceScreens, PercentagesAreInTheRowsAndThePickedPartyStays) {
   PrintWorld world;
-  TaxInvoiceScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   ShowActive(&screen);
   auto* seller = Find<QComboBox>(&screen, "Text2");
   seller->setFocus();
@@ -92,7 +91,7 @@ TEST(InvoiceScreens, PercentagesAreInTheRowsAndThePickedPartyStays) {
 TEST(InvoiceScreens, DollarsTakeTheDiscountOutOfTheRows) {
   PrintWorld world;
   world->Settings().Write(settings::kRate, u"2"_s);
-  TaxInvoiceScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   ShowActive(&screen);
   EXPECT_EQ(TextOf(&screen, "Text6"), u"2124.00"_s);
   Click(&screen, "Option2");
@@ -129,14 +128,14 @@ TEST(InvoiceScreens, DollarsTakeTheDiscountOutOfTheRows) {
 TEST(InvoiceScreens, ThePrintOfAnInvoiceRemembersTheTraderAndThatOfABillDoesNot) {
   PrintWorld world;
   {
-    BillScreen bill(world.Context(), world.source);
+    InvoiceScreen bill(world.Context(), InvoiceKind::kBill, world.source);
     ShowActive(&bill);
     Enter(&bill, "Text35", u"Чужой"_s);
     Click(&bill, "Command1");
     EXPECT_EQ(world.ViewerStarts(), 1);
     EXPECT_EQ(world->Settings().Read(settings::kInvoiceTrader), u""_s);
   }
-  TaxInvoiceScreen invoice(world.Context(), world.source);
+  InvoiceScreen invoice(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   world.Watch(&invoice);
   ShowActive(&invoice);
   Enter(&invoice, "Text35", u"Сидоров"_s);
@@ -147,9 +146,25 @@ TEST(InvoiceScreens, ThePrintOfAnInvoiceRemembersTheTraderAndThatOfABillDoesNot)
             u"_____________ Сидоров</font></td>"_s);
 }
 
+// A load takes the invoice's trader from the settings and leaves a bill without one.
+TEST(InvoiceScreens, AReloadPutsTheKeptTraderBack) {
+  PrintWorld world;
+  world->Settings().Write(settings::kInvoiceTrader, u"Сидоров"_s);
+  const std::pair<InvoiceKind, QString> cases[] = {{InvoiceKind::kTaxInvoice, u"Сидоров"_s},
+                                                   {InvoiceKind::kBill, u""_s}};
+  for (const auto& [kind, kept] : cases) {
+    InvoiceScreen screen(world.Context(), kind, world.source);
+    ShowActive(&screen);
+    Enter(&screen, "Text35", u"Чужой"_s);
+    Click(&screen, "Option2");
+    EXPECT_EQ(TextOf(&screen, "Text35"), kept);
+  }
+  EXPECT_EQ(world->Settings().Read(settings::kInvoiceTrader), u"Сидоров"_s);
+}
+
 TEST(InvoiceScreens, TheBillInRoublesIsPrintedWhole) {
   PrintWorld world;
-  BillScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kBill, world.source);
   EXPECT_EQ(screen.windowTitle(), u"Счет"_s);
   ShowActive(&screen);
   Click(&screen, "Command1");
@@ -223,7 +238,7 @@ TEST(InvoiceScreens, TheBillInRoublesIsPrintedWhole) {
 
 TEST(InvoiceScreens, RowsThatCouldNotBeWorkedOutAreNotPrinted) {
   PrintWorld world;
-  TaxInvoiceScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   ShowActive(&screen);
   Enter(&screen, "Text7", u"abc"_s);
   {
@@ -244,7 +259,7 @@ TEST(InvoiceScreens, RowsThatCouldNotBeWorkedOutAreNotPrinted) {
 TEST(InvoiceScreens, ADatabaseWithoutGoodsDirectoryIsTold) {
   PrintWorld world;
   QFile::remove(world->Temp().Data().Resolve(u"0001\\spr\\товар.spr"_s));
-  TaxInvoiceScreen screen(world.Context(), world.source);
+  InvoiceScreen screen(world.Context(), InvoiceKind::kTaxInvoice, world.source);
   ModalAnswers answers({[](QWidget* dialog) {
     EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"товар.spr"_s));
     dialog->close();

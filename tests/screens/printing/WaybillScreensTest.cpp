@@ -1,8 +1,6 @@
 #include "books/printing/WaybillParts.h"
 #include "screens/printing/PrintWorld.h"
-#include "screens/printing/ReceiptWaybillScreen.h"
-#include "screens/printing/ShipmentWaybillScreen.h"
-#include "screens/printing/TransferWaybillScreen.h"
+#include "screens/printing/WaybillScreen.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/FoldButton.h"
 
@@ -24,7 +22,7 @@ QStringList OneRow(const char* name, const char* price, const char* sum) {
 
 TEST(WaybillScreens, AShipmentIsPrintedWithItsDiscountAndTheScreenClosesBeforeTheViewerStarts) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   world.Watch(&screen);
   ShowActive(&screen);
   Click(&screen, "Command1");
@@ -57,7 +55,7 @@ TEST(WaybillScreens, AReceiptComesFromItsSupplierAndTellsNoDiscount) {
   world.source.party = u"Завод"_s;
   world.source.discount.clear();
   world->Settings().Write(settings::kRate, u"2"_s);
-  ReceiptWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(TextOf(&screen, "Text19"), u"0"_s);
   Enter(&screen, "Text12", u"срочно"_s);
@@ -91,7 +89,7 @@ TEST(WaybillScreens, ATransferHasNoTaxesAndSavesItsRateOnly) {
   world.source.kind = DocumentKind::kTransfer;
   world.source.party = u"Главный склад"_s;
   world.source.destination = u"Магазин"_s;
-  TransferWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(screen.findChild<QWidget*>(u"Text7"_s), nullptr);
   EXPECT_EQ(screen.findChild<QWidget*>(u"Text5"_s), nullptr);
@@ -119,7 +117,7 @@ TEST(WaybillScreens, ATransferHasNoTaxesAndSavesItsRateOnly) {
 
 TEST(WaybillScreens, LeavingARateSavesItAndLoadsAnewButKeepsTheTypedDiscount) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   EXPECT_EQ(TextOf(&screen, "Text19"), u"10"_s);
   Click(&screen, "GoldButton1");
@@ -138,13 +136,13 @@ TEST(WaybillScreens, LeavingARateSavesItAndLoadsAnewButKeepsTheTypedDiscount) {
   EXPECT_EQ(world->Settings().Read(settings::kSalesTax), u"0"_s);
   EXPECT_EQ(world->Settings().Read(settings::kRate), u"1"_s);
   // The next screen opens with the rate, not with the taxes.
-  ShipmentWaybillScreen next(world.Context(), world.source);
+  WaybillScreen next(world.Context(), world.source);
   EXPECT_EQ(TextOf(&next, "Text7"), u"18"_s);
 }
 
 TEST(WaybillScreens, PercentagesAreInAllOfThePaperAndTheTypedHeadStays) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "Text1", u"Другой заголовок"_s);
@@ -168,7 +166,7 @@ TEST(WaybillScreens, PercentagesAreInAllOfThePaperAndTheTypedHeadStays) {
 // A field that was only passed through changes nothing.
 TEST(WaybillScreens, ATypedTotalStaysWhenNoPercentageWasTyped) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "Text20", u"Тысяча рублей"_s);
@@ -181,7 +179,7 @@ TEST(WaybillScreens, ATypedTotalStaysWhenNoPercentageWasTyped) {
 
 TEST(WaybillScreens, ARateStillBeingTypedIsOnThePaperWhenEnterPrints) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "DecText1", u"3"_s);
@@ -194,7 +192,7 @@ TEST(WaybillScreens, ARateStillBeingTypedIsOnThePaperWhenEnterPrints) {
 
 TEST(WaybillScreens, ATextThatIsNoNumberEndsTheLoadAndThePrintWaitsForItsMessage) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   Click(&screen, "GoldButton1");
   Enter(&screen, "DecText1", u"2"_s);
@@ -215,7 +213,7 @@ TEST(WaybillScreens, ATextThatIsNoNumberEndsTheLoadAndThePrintWaitsForItsMessage
 
 TEST(WaybillScreens, WithoutASelectedDocumentTheLoadFails) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), PrintSource());
+  WaybillScreen screen(world.Context(), PrintSource());
   ModalAnswers answers({InputErrorTold()});
   screen.show();
   LetMessagesCome();
@@ -224,7 +222,7 @@ TEST(WaybillScreens, WithoutASelectedDocumentTheLoadFails) {
 TEST(WaybillScreens, AQuantityThatIsNoNumberLeavesNoPageAndNoClosedScreen) {
   PrintWorld world;
   world.source.lines[0].quantity = u"2,5"_s;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   {
     ModalAnswers answers({Press(QMessageBox::Ok,
@@ -240,7 +238,7 @@ TEST(WaybillScreens, AQuantityThatIsNoNumberLeavesNoPageAndNoClosedScreen) {
 TEST(WaybillScreens, AWorkFileThatCannotBeWrittenIsTold) {
   PrintWorld world;
   world->Temp().Put(u"nakl.htm\\x"_s, "");
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   {
     ModalAnswers answers({[](QWidget* dialog) {
@@ -255,23 +253,42 @@ TEST(WaybillScreens, AWorkFileThatCannotBeWrittenIsTold) {
 
 TEST(WaybillScreens, TheButtonFoldsTheParametersAndEscapeCloses) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   const QLineEdit* rate = Find<QLineEdit>(&screen, "DecText1");
   EXPECT_FALSE(rate->isVisible());
-  EXPECT_TRUE(screen.GoldButton1->text().startsWith(u'+'));
+  const auto* fold = Find<FoldButton>(&screen, "GoldButton1");
+  EXPECT_TRUE(fold->text().startsWith(u'+'));
   Click(&screen, "GoldButton1");
   EXPECT_TRUE(rate->isVisible());
-  EXPECT_TRUE(screen.GoldButton1->text().startsWith(u'-'));
-  EXPECT_TRUE(screen.GoldButton1->text().remove(u'&').endsWith(u"  Параметры"_s));
+  EXPECT_TRUE(fold->text().startsWith(u'-'));
+  EXPECT_TRUE(fold->text().remove(u'&').endsWith(u"  Параметры"_s));
   QTest::keyClick(&screen, Qt::Key_Escape);
   EXPECT_FALSE(screen.isVisible());
   EXPECT_EQ(world.ViewerStarts(), 0);
 }
 
+// Neither a longer name nor one in other letters takes the place of what was typed.
+TEST(WaybillScreens, AFreePartyIsPrintedAsTyped) {
+  PrintWorld world;
+  world->TheSession().Parties(PartyKind::kClient) = {u"ИП Петров-Водкин"_s, u"ИП ПЕТРОВ"_s};
+  WaybillScreen screen(world.Context(), world.source);
+  ShowActive(&screen);
+  auto* line = Find<QComboBox>(&screen, "Text3")->lineEdit();
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return}) {
+    line->setFocus();
+    line->selectAll();
+    Type(line, u"ИП Петров"_s);
+    QTest::keyClick(line, key);
+    EXPECT_EQ(line->text(), u"ИП Петров"_s);
+  }
+  EXPECT_TRUE(DecodeLines(world.PageShown())
+                  .contains(u"<FONT FACE=Arial SIZE=3>Кому:ИП Петров</U></b></FONT><br>"_s));
+}
+
 TEST(WaybillScreens, PartiesAreTypedFreelyButOnlyWhatAFileHolds) {
   PrintWorld world;
-  ShipmentWaybillScreen screen(world.Context(), world.source);
+  WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   auto* party = Find<QComboBox>(&screen, "Text3");
   party->lineEdit()->selectAll();

@@ -101,9 +101,7 @@ void DocumentProperties::AddPrints(QHBoxLayout* row) {
       Document document{head_, {}};
       for (const DraftLine& line : lines_) document.lines.push_back(line.line);
       Guarded(this, [&] {
-        RunPrint(command, context_,
-                 PrintSourceOf(screens_.kind, PrintSource::Opener::kRegister, warehouse_,
-                               std::move(document)),
+        RunPrint(command, context_, PrintSourceOf(screens_.kind, warehouse_, std::move(document)),
                  this);
       });
     });

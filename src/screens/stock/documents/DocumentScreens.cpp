@@ -4,12 +4,9 @@
 
 #include "screens/directories/GoodsPicker.h"
 #include "screens/prices/PricePicker.h"
-#include "screens/printing/BillScreen.h"
 #include "screens/printing/CashOrderScreen.h"
-#include "screens/printing/ReceiptWaybillScreen.h"
-#include "screens/printing/ShipmentWaybillScreen.h"
-#include "screens/printing/TaxInvoiceScreen.h"
-#include "screens/printing/TransferWaybillScreen.h"
+#include "screens/printing/InvoiceScreen.h"
+#include "screens/printing/WaybillScreen.h"
 
 namespace kladez {
 namespace {
@@ -17,9 +14,17 @@ namespace {
 using namespace Qt::StringLiterals;
 using H = DocumentHead;
 
-template <typename PrintScreen>
-QDialog* Open(AppContext& context, const PrintSource& source, QWidget* parent) {
-  return new PrintScreen(context, source, parent);
+QDialog* OpenWaybill(AppContext& context, const PrintSource& source, QWidget* parent) {
+  return new WaybillScreen(context, source, parent);
+}
+
+template <InvoiceKind kind>
+QDialog* OpenInvoice(AppContext& context, const PrintSource& source, QWidget* parent) {
+  return new InvoiceScreen(context, kind, source, parent);
+}
+
+QDialog* OpenCashOrder(AppContext& context, const PrintSource& source, QWidget* parent) {
+  return new CashOrderScreen(context, source, parent);
 }
 
 void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, const TakePick& take) {
@@ -92,7 +97,7 @@ const DocumentScreens& Receipts() {
       .sum_hint = u"Сумма по счету"_s,
       .editor_columns = {NameOf(3100), Quantity(), Unit(), Price(u"Цена"_s), Amount(u"Cумма"_s)},
       .pick = &PickFromDirectory,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<ReceiptWaybillScreen>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &OpenWaybill}},
       .properties_name = u"TovPrih_Ass"_s,
       .properties_caption = u"Свойства накладной прихода товара N "_s,
       .properties_sum_caption = u"Сумма по накладной:"_s,
@@ -127,10 +132,10 @@ const DocumentScreens& Shipments() {
       .editor_columns = {NameOf(3650), Quantity(), Unit(), Cost(true), Price(u"Цена реал"_s),
                          Amount(u"Cумма реал"_s)},
       .pick = &PickFromPrices,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<ShipmentWaybillScreen>},
-                 {u"prs"_s, u"Счет-&фактура"_s, &Open<TaxInvoiceScreen>},
-                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &Open<CashOrderScreen>},
-                 {u"pri"_s, u"С&чет"_s, &Open<BillScreen>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &OpenWaybill},
+                 {u"prs"_s, u"Счет-&фактура"_s, &OpenInvoice<InvoiceKind::kTaxInvoice>},
+                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &OpenCashOrder},
+                 {u"pri"_s, u"С&чет"_s, &OpenInvoice<InvoiceKind::kBill>}},
       .properties_name = u"TovUhod_Ass"_s,
       .properties_caption = u"Свойства накладной ухода товара N "_s,
       .properties_sum_caption = u"Сумма:"_s,
@@ -163,7 +168,7 @@ const DocumentScreens& Transfers() {
       .editor_columns = {NameOf(2280), Quantity(), Unit(), Cost(false), Price(u"Цена реал"_s),
                          Amount(u"Cумма реал"_s)},
       .pick = &PickFromPrices,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &Open<TransferWaybillScreen>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &OpenWaybill}},
       .properties_name = u"vnutr_Ass"_s,
       .properties_caption = u"Свойства накладной перемещения товара N "_s,
       .properties_sum_caption = u"Сумма по накладной:"_s,

@@ -1,0 +1,60 @@
+// The fields under "Параметры": by how much and at which rates a paper is printed. Which of them a
+// paper has is told by its table; what it lacks counts as a new PrintParameters has it.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "books/printing/DocumentTotals.h"
+#include "books/store/SettingsStore.h"
+
+class QGridLayout;
+class QLineEdit;
+
+namespace kladez {
+
+class PrintDialog;
+
+struct ParameterField {
+  QStringView name;  // of the control
+  QStringView caption;
+  QStringView hint;
+  QString PrintParameters::*value;
+  // Where a rate is kept when its field is left; a percentage is kept nowhere.
+  const Setting* setting = nullptr;
+};
+
+class ParametersBlock {
+ public:
+  // Rates are saved when they are left, and `reload` follows; `recount` follows a percentage that
+  // was typed. `start` is what the fields open with; a discount of kFree waits for the document's.
+  struct Follow {
+    std::function<void()> reload;
+    std::function<void()> recount;
+  };
+  ParametersBlock(PrintDialog& dialog, std::span<const ParameterField> table,
+                  const PrintParameters& start, const Follow& follow);
+
+  // The marker that a load replaces by the document's discount, so that one that the user typed
+  // survives.
+  static constexpr QStringView kFree = u"free";
+
+  // Captions, fields and question marks, `groups` side by side.
+  QGridLayout* NewGrid(int groups) const;
+  // What every load begins with: the rate of the settings, the discount of the document.
+  void Load();
+  PrintParameters Read() const;
+
+ private:
+  void Save();
+
+  struct Field {
+    const ParameterField* told;
+    QLineEdit* text;
+  };
+  PrintDialog& dialog_;
+  std::vector<Field> fields_;
+};
+
+}  // namespace kladez
