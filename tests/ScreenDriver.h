@@ -16,6 +16,7 @@
 
 #include "TempData.h"
 #include "ui/AppContext.h"
+#include "ui/controls/RecordList.h"
 
 namespace kladez {
 
@@ -70,6 +71,29 @@ inline void Type(QWidget* control, const QString& text) {
 
 inline void Click(QWidget* screen, const char* name) {
   QTest::mouseClick(Find<QAbstractButton>(screen, name), Qt::LeftButton);
+}
+
+inline RecordList* ListOf(QWidget* screen) { return Find<RecordList>(screen, "ListView1"); }
+
+inline QStringList RowTexts(QWidget* screen, int row) {
+  QStringList texts;
+  const auto* model = ListOf(screen)->Records();
+  for (int column = 0; column < model->columnCount(); ++column) {
+    texts << model->index(row, column).data().toString();
+  }
+  return texts;
+}
+
+inline QString TextOf(QWidget* screen, const char* name) {
+  return Find<QLineEdit>(screen, name)->text();
+}
+
+// Puts a text into a field by typing over what stands there.
+inline void Enter(QWidget* screen, const char* name, const QString& text) {
+  auto* field = Find<QLineEdit>(screen, name);
+  field->setFocus();
+  field->selectAll();
+  Type(field, text);
 }
 
 // Answers the modal dialogs of one command in the order in which they come. Each step gets the

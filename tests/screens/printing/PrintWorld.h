@@ -69,18 +69,6 @@ class PrintWorld {
                       world_.Context().clock, desk_};
 };
 
-// Puts a text into a field by typing over what stands there.
-inline void Enter(QWidget* screen, const char* name, const QString& text) {
-  auto* field = Find<QLineEdit>(screen, name);
-  field->setFocus();
-  field->selectAll();
-  Type(field, text);
-}
-
-inline QString TextOf(QWidget* screen, const char* name) {
-  return Find<QLineEdit>(screen, name)->text();
-}
-
 // The message that a load which fails leaves behind, told after the event at hand.
 inline ModalAnswers::Step InputErrorTold() {
   return [](QWidget* dialog) {

@@ -4,7 +4,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 
-#include "books/stock/DocumentWorld.h"
+#include "DocumentWorld.h"
 #include "screens/directories/QuantityDialog.h"
 #include "screens/stock/LineDialog.h"
 #include "screens/stock/documents/PrihNew.h"

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include "books/stock/DocumentWorld.h"
+#include "DocumentWorld.h"
 #include "screens/stock/documents/TovPrih.h"
 #include "screens/stock/documents/TovUhod.h"
 #include "screens/stock/documents/vnutr.h"

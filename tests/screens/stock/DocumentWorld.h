@@ -7,7 +7,6 @@
 #include "books/stock/Books.h"
 #include "books/stock/DocumentDraft.h"
 #include "formats/CurrencyFile.h"
-#include "ui/controls/RecordList.h"
 
 namespace kladez {
 
@@ -58,27 +57,5 @@ class DocumentWorld : public ScreenWorld {
     return DocumentDraft::Open(In(kind), rows.Rows().at(rows.RowOf(file)));
   }
 };
-
-inline RecordList* ListOf(QWidget* screen) { return Find<RecordList>(screen, "ListView1"); }
-
-inline QStringList RowTexts(QWidget* screen, int row) {
-  QStringList texts;
-  const auto* model = ListOf(screen)->Records();
-  for (int column = 0; column < model->columnCount(); ++column) {
-    texts << model->index(row, column).data().toString();
-  }
-  return texts;
-}
-
-inline QString TextOf(QWidget* screen, const char* name) {
-  return Find<QLineEdit>(screen, name)->text();
-}
-
-inline void Enter(QWidget* screen, const char* name, const QString& text) {
-  auto* field = Find<QLineEdit>(screen, name);
-  field->setFocus();
-  field->selectAll();
-  Type(field, text);
-}
 
 }  // namespace kladez
