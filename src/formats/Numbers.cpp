@@ -290,6 +290,14 @@ double NumberOr(QByteArrayView bytes, double otherwise) {
   return NumberOr(QString::fromLatin1(bytes), otherwise);
 }
 
+QString UngroupedNumber(const QString& text) {
+  QString number;
+  for (const QChar c : text) {
+    if (!c.isSpace()) number += c == u',' ? QChar(u'.') : c;
+  }
+  return ParseStrict(number) ? number : text;
+}
+
 QString FormatMoney(double value) { return WithTwoDecimals(value, false); }
 
 QString MoneyText(const QString& text) {

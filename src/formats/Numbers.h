@@ -26,6 +26,10 @@ QString ToNumberOr(const QString& text, const QString& otherwise = {});
 double NumberOr(QStringView text, double otherwise = 0);
 double NumberOr(QByteArrayView bytes, double otherwise = 0);
 
+// A number as people paste it, "1 234,50": without its blanks, of whatever kind and width, and with
+// the comma as the point. The text itself where that makes no number of the strict parse.
+QString UngroupedNumber(const QString& text);
+
 // The pictures round half away from zero on the decimal digits of the number's text of 15
 // significant digits (1.005 gives "1.01"); what rounds to zero has no sign.
 QString FormatMoney(double value);       // "#0.00"

@@ -4,7 +4,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -76,7 +75,6 @@ QString ShownText(QWidget* control) {
   if (const auto* line = qobject_cast<QLineEdit*>(control)) return line->text();
   if (const auto* combo = qobject_cast<QComboBox*>(control)) return combo->currentText();
   if (const auto* button = qobject_cast<QAbstractButton*>(control)) return button->text();
-  if (const auto* date = qobject_cast<QDateTimeEdit*>(control)) return date->text();
   return control->windowTitle();
 }
 

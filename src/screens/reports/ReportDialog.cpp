@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "screens/printing/CloseAndShow.h"
+#include "ui/controls/DateField.h"
 #include "ui/controls/Forms.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/LongWork.h"
@@ -40,10 +41,10 @@ void ReportDialog::BuildPeriod() {
   range_ = NewOption(u"range"_s, u"&с:"_s);
   all_->setChecked(true);
   const QDate today = Context().clock.Today();
-  from_ = new DateField(today, Frame());
+  from_ = new DateField(today, Context().clock, Frame());
   from_->setObjectName(u"from"_s);
   from_->setAccessibleName(u"с:"_s);
-  to_ = new DateField(today, Frame());
+  to_ = new DateField(today, Context().clock, Frame());
   to_->setObjectName(u"to"_s);
   QLabel* to_label = NewLabel(u"&по:"_s, to_, Frame());
 
@@ -75,6 +76,7 @@ ReportScope ReportDialog::Scope() const {
 }
 
 void ReportDialog::Ok() {
+  if (!FieldsAreSound(this)) return;
   Guarded(this, [this] {
     try {
       LongWork work(this, u"Составляется отчет..."_s);

@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QToolTip>
 #include <QValidator>
 #include <algorithm>
 #include <functional>
@@ -11,6 +10,7 @@
 
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
+#include "ui/controls/FieldNote.h"
 #include "ui/controls/Look.h"
 
 namespace kladez {
@@ -31,8 +31,12 @@ class FileTextValidator : public QValidator {
     int shift = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
       QChar c = text[i];
+      if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
+        if (i < caret) ++shift;
+        continue;  // the line break's second half is its blank
+      }
       if (c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator ||
-          c == u'\t') {
+          c == u'\t' || (c.isSpace() && !CanEncode(c))) {
         c = u' ';
       }
       if (CanEncode(c) && c.unicode() >= u' ') {
@@ -58,6 +62,8 @@ bool IsTyping(const QKeyEvent& event) {
   return !command && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
+QChar PointFor(QChar key) { return key == u',' ? QChar(u'.') : key; }
+
 }  // namespace
 
 TextLine::TextLine(QWidget* parent) : QLineEdit(parent) {
@@ -76,15 +82,28 @@ void TextLine::TellRefused(const QString& characters) {
   const QString text = characters.size() == 1
                            ? u"Знак «%1» нельзя сохранить в файлах базы, он пропущен."_s
                            : u"Знаки «%1» нельзя сохранить в файлах базы, они пропущены."_s;
-  if (isVisible()) {
-    QToolTip::showText(mapToGlobal(QPoint(0, height())), text.arg(characters.toHtmlEscaped()),
-                       this);
-  }
+  Tell(text.arg(characters.left(look::kLongestText)));
+}
+
+void TextLine::Tell(const QString& word) {
+  if (fault_.isEmpty()) FieldNote::Show(this, word, FieldNote::Stays::kForAMoment);
+}
+
+void TextLine::SetFault(const QString& why) {
+  if (why != fault_) update();
+  fault_ = why;
+  FieldNote::Show(this, why);
+}
+
+void TextLine::keyPressEvent(QKeyEvent* event) {
+  Tell({});
+  QLineEdit::keyPressEvent(event);
 }
 
 void TextLine::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   hover_ = false;
+  if (!fault_.isEmpty()) FieldNote::Show(this, fault_);
   // The field's own menu gives back what it only borrowed: its "Вставить" goes where the caret is.
   if (event->reason() == Qt::PopupFocusReason) return;
   // A click would set the caret after this event and undo the selection.
@@ -115,35 +134,65 @@ void TextLine::leaveEvent(QEvent* event) {
 
 void TextLine::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
-  if (!hover_ || !isEnabled()) return;
+  const bool fault = !fault_.isEmpty();
+  if ((!hover_ && !fault) || !isEnabled()) return;
   QPainter painter(this);
-  painter.setPen(look::kAccent);
+  painter.setPen(fault ? QPen(look::kWarning, 2) : QPen(look::kAccent));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 TextLineNumber::TextLineNumber(QWidget* parent) : TextLine(parent) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  connect(this, &QLineEdit::textEdited, this, &TextLineNumber::TidyEdited);
 }
 
 void TextLineNumber::keyPressEvent(QKeyEvent* event) {
-  if (IsTyping(*event) && !Takes(event->text().front())) {
-    event->accept();
-    return;
-  }
-  TextLine::keyPressEvent(event);
+  if (!IsTyping(*event) || isReadOnly()) return TextLine::keyPressEvent(event);
+  const QChar key = event->text().front();
+  event->accept();
+  if (Refuses(key)) return;
+  Tell({});
+  insert(PointFor(key) == u'.' && Unselected().isEmpty() ? u"0."_s : QString(PointFor(key)));
 }
 
 // Dead keys and input methods bring their characters past the keys.
 void TextLineNumber::inputMethodEvent(QInputMethodEvent* event) {
   const QString typed = event->commitString();
-  if (std::all_of(typed.begin(), typed.end(), [this](QChar key) { return Takes(key); })) {
-    TextLine::inputMethodEvent(event);
+  QInputMethodEvent rest;
+  TextLine::inputMethodEvent(typed.isEmpty() ? event : &rest);
+  for (const QChar key : typed) {
+    if (Refuses(key)) return;
+    insert(PointFor(key) == u'.' && Unselected().isEmpty() ? u"0."_s : QString(PointFor(key)));
   }
 }
 
-bool TextLineNumber::Takes(QChar key) const {
-  if (!u"1234567890."_s.contains(key)) return false;
-  return key != u'.' || !text().contains(u'.');
+// The text as the next key meets it: what is selected goes.
+QString TextLineNumber::Unselected() const {
+  return hasSelectedText() ? text().remove(selectionStart(), selectionLength()) : text();
+}
+
+bool TextLineNumber::Refuses(QChar key) {
+  const QString why = Refusal(PointFor(key));
+  if (!why.isEmpty()) Tell(why);
+  return !why.isEmpty();
+}
+
+QString TextLineNumber::Refusal(QChar key) const {
+  if (!u"1234567890."_s.contains(key)) return u"Здесь пишут цифры и точку."_s;
+  if (key == u'.' && Unselected().contains(u'.')) return u"Точка уже стоит."_s;
+  return {};
+}
+
+// A paste is no key: its blanks and comma are taken out here, and what is no number then is told
+// before Repair makes it one.
+void TextLineNumber::TidyEdited() {
+  if (ParseStrict(text()) && !text().contains(u' ')) return;
+  const QString number = UngroupedNumber(text());
+  if (ParseStrict(number)) {
+    setText(number);
+  } else if (text().size() > 1) {
+    Tell(u"«%1» — не число."_s.arg(text().left(look::kLongestText)));
+  }
 }
 
 int TextLineNumber::InsertionPoint() const {
@@ -159,11 +208,21 @@ void TextLineNumber::Repair() {
   if (caret == 0) selectAll();
 }
 
-bool TextLineDecimal::Takes(QChar key) const {
-  if (!TextLineNumber::Takes(key)) return false;
+QString TextLineDecimal::Refusal(QChar key) const {
+  const QString why = TextLineNumber::Refusal(key);
   const qsizetype size = text().size();
   const bool two_decimals = size >= 3 && text()[size - 3] == u'.';
-  return !two_decimals || InsertionPoint() < size - 2;
+  if (!why.isEmpty() || !two_decimals || InsertionPoint() < size - 2) return why;
+  return u"После точки две цифры."_s;
+}
+
+bool FieldsAreSound(QWidget* screen) {
+  for (TextLine* field : screen->findChildren<TextLine*>()) {
+    if (field->IsSound() || !field->isEnabled() || !field->isVisible()) continue;
+    field->setFocus(Qt::OtherFocusReason);
+    return false;
+  }
+  return true;
 }
 
 void ShowText(TextLine* field, const QString& text) {

@@ -1,6 +1,5 @@
 #include "ui/controls/Forms.h"
 
-#include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QLineEdit>
 
@@ -44,18 +43,6 @@ TextChoice::TextChoice(const QStringList& texts, QWidget* parent) : QComboBox(pa
 void TextChoice::Choose(const QString& text) {
   if (findData(text) < 0) addItem(text.left(look::kLongestText), text);
   setCurrentIndex(findData(text));
-}
-
-DateField::DateField(QDate date, QWidget* parent) : QDateEdit(parent) {
-  setDisplayFormat(u"dd.MM.yyyy"_s);
-  setCalendarPopup(true);
-  // Names of months and days in the calendar are Russian whatever the machine speaks.
-  const QLocale russian(QLocale::Russian, QLocale::Russia);
-  setLocale(russian);
-  calendarWidget()->setLocale(russian);
-  calendarWidget()->setFirstDayOfWeek(Qt::Monday);
-  calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  setDate(date);
 }
 
 }  // namespace kladez

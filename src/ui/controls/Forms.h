@@ -1,9 +1,8 @@
-// What forms are made of besides their fields: labels, fields with their question mark, the field
-// of a date, the list of a few texts.
+// What forms are made of besides their fields: labels, fields with their question mark, the list
+// of a few texts.
 #pragma once
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 
 #include "ui/controls/HintPicture.h"
@@ -32,14 +31,6 @@ class TextChoice : public QComboBox {
   void Choose(const QString& text);
   // The whole text, however much of it is shown.
   QString Chosen() const { return currentData().toString(); }
-};
-
-// A date, "dd.MM.yyyy", typed or picked from a Russian calendar on every machine.
-class DateField : public QDateEdit {
-  Q_OBJECT
-
- public:
-  explicit DateField(QDate date, QWidget* parent = nullptr);
 };
 
 }  // namespace kladez

@@ -38,6 +38,7 @@ const char* OutlineOf(IconName name) {
       {IconName::kParty, "M12 4a4 4 0 1 1-.01 0zM4 20q1-6 8-6t8 6"},
       {IconName::kWarehouse, "M3 20V9l9-5 9 5v11M7 20v-8h10v8M7 16h10"},
       {IconName::kCurrency, "M9 20V5h5a4 4 0 0 1 0 8H7M7 16h7"},
+      {IconName::kCalendar, "M4 6h16v14H4zM4 10h16M8 3v5M16 3v5M8 14h2M14 14h2"},
       {IconName::kHome, "M4 11l8-7 8 7M6 9v11h12V9M10 20v-6h4v6"},
       {IconName::kFolder, "M3 6h7l2 2h9v11H3z"},
       {IconName::kOpen, "M3 19V6h7l2 2h7v3M3 19l4-8h15l-4 8z"},
@@ -92,6 +93,13 @@ void SetPanelMargins(QLayout* layout) {
 void MakeQuiet(QWidget* widget) {
   QPalette palette = widget->palette();
   palette.setColor(QPalette::WindowText, kQuiet);
+  widget->setPalette(palette);
+}
+
+void MakeWarning(QWidget* widget) {
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::WindowText, kWarning);
+  palette.setColor(QPalette::Window, palette.color(QPalette::Base));
   widget->setPalette(palette);
 }
 

@@ -37,7 +37,7 @@ inline constexpr QColor kGroupRow{0, 0, 255};          // rows of goods groups
 inline constexpr QColor kQuiet{0x6B, 0x76, 0x7B};      // notes, empty lists
 inline constexpr QColor kLine{0xD5, 0xDC, 0xDF};       // thin separators
 inline constexpr QColor kStripe{0xF6, 0xF9, 0xFA};     // every second row of a list
-inline constexpr QColor kWarning{0xA8, 0x32, 0x1E};    // a refused character, a field at fault
+inline constexpr QColor kWarning{0xA8, 0x32, 0x1E};    // a field at fault, and why
 
 enum class IconName {
   kAdd,
@@ -64,6 +64,7 @@ enum class IconName {
   kParty,
   kWarehouse,
   kCurrency,
+  kCalendar,
   kHome,
   kFolder,
   kOpen,
@@ -82,6 +83,9 @@ void SetPanelMargins(QLayout* layout);
 
 // Notes and examples stand back behind what they are written for.
 void MakeQuiet(QWidget* widget);
+
+// What is amiss: red words on the ground of a field.
+void MakeWarning(QWidget* widget);
 
 // A thin line across a layout.
 QWidget* NewSeparator(QWidget* parent);

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QRadioButton>
 
 #include "ScreenDriver.h"
@@ -10,6 +9,7 @@
 #include "screens/reports/otppr.h"
 #include "screens/reports/otpruh.h"
 #include "screens/reports/otrpt.h"
+#include "ui/controls/DateField.h"
 
 namespace kladez {
 namespace {
@@ -65,13 +65,13 @@ TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {
     EXPECT_EQ(warehouses->itemText(2), u"ВСЕ СКЛАДЫ"_s);
     EXPECT_EQ(warehouses->currentIndex(), 2);
     for (const char* date : {"from", "to"}) {
-      EXPECT_EQ(Find<QDateEdit>(dialog, date)->date(), QDate(2026, 11, 22));
-      EXPECT_FALSE(Find<QDateEdit>(dialog, date)->isEnabled());
+      EXPECT_EQ(Find<DateField>(dialog, date)->date(), QDate(2026, 11, 22));
+      EXPECT_FALSE(Find<DateField>(dialog, date)->isEnabled());
     }
     Find<QRadioButton>(dialog, "range")->click();
-    EXPECT_TRUE(Find<QDateEdit>(dialog, "to")->isEnabled());
+    EXPECT_TRUE(Find<DateField>(dialog, "to")->isEnabled());
     Find<QRadioButton>(dialog, "current_month")->click();
-    EXPECT_FALSE(Find<QDateEdit>(dialog, "from")->isEnabled());
+    EXPECT_FALSE(Find<DateField>(dialog, "from")->isEnabled());
   }
 }
 
@@ -92,7 +92,7 @@ TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
   const auto choose = [](QWidget* screen) {
     Find<QComboBox>(screen, "Combo1")->setCurrentIndex(1);
     Find<QRadioButton>(screen, "range")->click();
-    Find<QDateEdit>(screen, "from")->setDate(QDate(2026, 10, 1));
+    Find<DateField>(screen, "from")->setDate(QDate(2026, 10, 1));
   };
   EXPECT_EQ(Run<otpruh>(choose),
             (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"Магазин"_s,

@@ -14,6 +14,7 @@
 #include "screens/stock/documents/UhodNew.h"
 #include "screens/stock/documents/vnutr.h"
 #include "screens/stock/documents/vnutrNew.h"
+#include "ui/controls/DateField.h"
 #include "ui/controls/Forms.h"
 
 namespace kladez {

@@ -7,7 +7,7 @@
 #include "screens/stock/documents/TovPrih.h"
 #include "screens/stock/documents/TovUhod.h"
 #include "screens/stock/documents/vnutr.h"
-#include "ui/controls/Forms.h"
+#include "ui/controls/DateField.h"
 
 namespace kladez {
 namespace {

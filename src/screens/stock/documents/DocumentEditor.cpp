@@ -12,6 +12,7 @@
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
+#include "ui/controls/DateField.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Forms.h"
 #include "ui/controls/Guard.h"
@@ -77,7 +78,8 @@ QLayout* DocumentEditor::NewHead() {
   number_->setText(draft_.Head().number);
   number_->setFixedWidth(12 * look::kGrid);
   AddField(row, u"&N:"_s, number_, u"number"_s, u"Номер документа"_s);
-  date_ = new DateField(ParseDate(draft_.Head().date).value_or(context_.clock.Today()), this);
+  date_ = new DateField(ParseDate(draft_.Head().date).value_or(context_.clock.Today()),
+                        context_.clock, this);
   AddField(row, u"Д&ата:"_s, date_, u"date"_s, u"Дата создания документа"_s);
   if (BookOf(screens_.kind).has_flag) {
     const bool receipt = screens_.kind == DocumentKind::kReceipt;
@@ -272,12 +274,14 @@ void DocumentEditor::TakeFields() {
 }
 
 void DocumentEditor::Print(const PrintCommand& command) {
+  if (!FieldsAreSound(this)) return;
   TakeFields();
   Guarded(this, [&] { RunPrint(command, context_, draft_.ToPrint(), this); });
 }
 
 void DocumentEditor::Save() {
   using Outcome = DocumentDraft::Outcome;
+  if (!FieldsAreSound(this)) return;
   TakeFields();
   Outcome outcome = Outcome::kNoLines;
   if (!Guarded(this, [&] { outcome = draft_.Save(); })) return;

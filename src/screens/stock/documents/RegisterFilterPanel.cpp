@@ -8,6 +8,7 @@
 #include "formats/Dates.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
+#include "ui/controls/DateField.h"
 #include "ui/controls/FoldButton.h"
 #include "ui/controls/Forms.h"
 #include "ui/controls/Look.h"
@@ -87,7 +88,7 @@ void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
   year_->setObjectName(u"year"_s);
   year_->setMinimumContentsLength(4);
   year_->Choose(QString::number(today.year()));
-  day_ = new DateField(today, options_);
+  day_ = new DateField(today, context_.clock, options_);
   day_->setObjectName(u"day"_s);
 
   const auto add = [&](QRadioButton* option, QWidget* input, QStringView place) {
@@ -105,7 +106,7 @@ void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
   });
   connect(month_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
   connect(year_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
-  connect(day_, &QDateEdit::dateChanged, this, &RegisterFilterPanel::Changed);
+  connect(day_, &DateField::dateChanged, this, &RegisterFilterPanel::Changed);
 }
 
 void RegisterFilterPanel::BuildOrder(WrapRow* row) {
