@@ -57,7 +57,9 @@ void OpenFile(QWidget* parent, const DataDir& data, const QString& file, const Q
 // would only get in the way of.
 class HelpKey : public QObject {
  public:
-  explicit HelpKey(QPushButton* command) : QObject(command), command_(command) {}
+  HelpKey(QWidget* window, std::function<void()> show) : QObject(window), show_(std::move(show)) {
+    window->installEventFilter(this);
+  }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -67,12 +69,12 @@ class HelpKey : public QObject {
     }
     if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents)) return false;
     event->accept();
-    if (press) command_->click();
+    if (press) show_();
     return true;
   }
 
  private:
-  QPushButton* command_;
+  std::function<void()> show_;
 };
 
 }  // namespace
@@ -81,10 +83,15 @@ void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page) {
   OpenFile(parent, data, FindPage(data, page.toString()), u"help\\"_s + page);
 }
 
+void SetHelpPage(QWidget* window, const DataDir& data, QStringView page) {
+  new HelpKey(window,
+              [window, &data, page = page.toString()] { OpenHelpPage(window, data, page); });
+}
+
 QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page,
                             QStringView name) {
   QPushButton* command = NewCommand(screen, name.toString(), u"Справка"_s, look::IconName::kHint);
-  screen->installEventFilter(new HelpKey(command));
+  new HelpKey(screen, [command] { command->click(); });
   QObject::connect(command, &QPushButton::clicked, screen,
                    [screen, &data, page = page.toString()] { OpenHelpPage(screen, data, page); });
   return command;

@@ -23,6 +23,9 @@ inline constexpr QStringView kProductMail = u"mailto:info@kladez.example";
 // A page of the folder "help", such as "workdb.htm": beside the Databases, else as it came with the
 // program.
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page);
+// The help key opens the page while the keyboard is in the window; for one without the command
+// below.
+void SetHelpPage(QWidget* window, const DataDir& data, QStringView page);
 // The command "Справка" of a screen that has a page; the help key gives it too, while the keyboard
 // is in the screen. `name` is the control's name.
 QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page,

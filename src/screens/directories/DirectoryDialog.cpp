@@ -5,6 +5,7 @@
 
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/ListSearch.h"
 
 namespace kladez {
 
@@ -39,6 +40,7 @@ DirectoryDialog::DirectoryDialog(const QString& name, const QString& title, Endi
   layout->addLayout(commands);
   list_->setFocus();
 
+  ShareListKeys(this, list_);
   connect(add_, &QPushButton::clicked, this, [this] { Add(); });
   connect(change_, &QPushButton::clicked, this, [this] { OnRow(&DirectoryDialog::Change); });
   connect(remove_, &QPushButton::clicked, this, [this] { OnRow(&DirectoryDialog::Remove); });

@@ -86,6 +86,7 @@ void GoodsDirectoryScreen::Wire() {
   connect(list, &RecordList::EnterPressed, this, &GoodsDirectoryScreen::ChangeOrChoose);
   connect(list, &RecordList::DoubleClicked, this, &GoodsDirectoryScreen::ChangeOrChoose);
   connect(browser_->Filter(), &GoodsFilter::ViewChosen, this, &GoodsDirectoryScreen::ChooseView);
+  ShareListKeys(this, list);
   auto* refresh = new QShortcut(Qt::Key_F5, this);
   connect(refresh, &QShortcut::activated, this, &GoodsDirectoryScreen::Refresh);
 }

@@ -6,6 +6,7 @@
 
 #include "books/directories/GoodsView.h"
 #include "ui/controls/Fields.h"
+#include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
 
 class QHBoxLayout;

@@ -32,6 +32,7 @@ GoodsPicker::GoodsPicker(AppContext& context, PickFor pick_for, QWidget* parent)
   resize(90 * look::kGrid, 60 * look::kGrid);
   browser_->List()->setFocus();
 
+  ShareListKeys(this, browser_->List());
   connect(Command7, &QPushButton::clicked, this, &GoodsPicker::Choose);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(browser_->List(), &RecordList::EnterPressed, this, &GoodsPicker::Choose);

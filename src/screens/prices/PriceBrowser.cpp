@@ -88,6 +88,7 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceUse kind, QWidget* parent)
   Combo1->setEnabled(kind == PriceUse::kEditor);
   Command6->setVisible(kind == PriceUse::kPicker);
   setFocusProxy(ListView1);
+  ShareListKeys(this, ListView1, Command9);
 
   connect(Combo1, &QComboBox::currentIndexChanged, this, &PriceBrowser::ListLists);
   connect(Combo2, &QComboBox::currentIndexChanged, this, &PriceBrowser::Load);

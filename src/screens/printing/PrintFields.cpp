@@ -34,14 +34,7 @@ QCheckBox* NewTick(QWidget* parent, const QString& name, const QString& caption,
 }
 
 QComboBox* NewTextCombo(QWidget* parent, const QString& name) {
-  auto* combo = new QComboBox(parent);
-  combo->setObjectName(name);
-  combo->setEditable(true);
-  combo->setLineEdit(new TextLine(combo));
-  combo->setCompleter(nullptr);
-  combo->setInsertPolicy(QComboBox::NoInsert);
-  // Else Enter puts an entry that differs in letter case only in the place of what was typed.
-  combo->setDuplicatesEnabled(true);
+  QComboBox* combo = NewFreeChoice(parent, name);
   BoundByLetters(combo, 16);
   return combo;
 }

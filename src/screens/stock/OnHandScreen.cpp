@@ -47,6 +47,7 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
   BuildList();
   BuildLayout();
   setFocusProxy(ListView1);
+  ShareListKeys(this, ListView1, Command2);
 
   connect(Combo1, &QComboBox::currentIndexChanged, this, &OnHandScreen::Fill);
   connect(filter_, &GoodsFilter::ViewChosen, this, &OnHandScreen::Fill);

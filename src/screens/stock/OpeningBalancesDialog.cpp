@@ -10,6 +10,7 @@
 #include "ui/controls/Choice.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -44,6 +45,7 @@ OpeningBalancesDialog::OpeningBalancesDialog(AppContext& context, QWidget* paren
   BuildLayout();
   Combo1->setFocus();
 
+  ShareListKeys(this, ListView1);
   connect(Command1, &QPushButton::clicked, this, &OpeningBalancesDialog::Add);
   connect(Command2, &QPushButton::clicked, this, &OpeningBalancesDialog::Change);
   connect(Command3, &QPushButton::clicked, this, &OpeningBalancesDialog::Remove);

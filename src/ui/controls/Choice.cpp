@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "ui/controls/Fields.h"
 #include "ui/controls/Look.h"
 
 namespace kladez {
@@ -10,6 +11,19 @@ namespace kladez {
 void BoundByLetters(QComboBox* field, int letters) {
   field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   field->setMinimumContentsLength(letters);
+}
+
+QComboBox* NewFreeChoice(QWidget* parent, const QString& name) {
+  auto* combo = new QComboBox(parent);
+  combo->setObjectName(name);
+  combo->setEditable(true);
+  combo->setLineEdit(new TextLine(combo));
+  combo->setInsertPolicy(QComboBox::NoInsert);
+  // The toolkit's would put an entry in the place of what is typed.
+  combo->setCompleter(nullptr);
+  // Else Enter puts an entry that differs in letter case only in the place of what was typed.
+  combo->setDuplicatesEnabled(true);
+  return combo;
 }
 
 void AddChoice(QHBoxLayout* row, const QString& caption, QComboBox* field, const Hint& hint) {

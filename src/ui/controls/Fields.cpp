@@ -1,8 +1,10 @@
 #include "ui/controls/Fields.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 #include <QValidator>
 #include <algorithm>
 #include <functional>
@@ -93,6 +95,17 @@ void TextLine::SetFault(const QString& why) {
   if (why != fault_) update();
   fault_ = why;
   FieldNote::Show(this, why);
+}
+
+// A text longer than its field shows whole under the pointer.
+bool TextLine::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && toolTip().isEmpty() &&
+      fontMetrics().horizontalAdvance(text()) > width() - look::kGrid) {
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       look::PlainToolTip(text().left(look::kLongestText)), this);
+    return true;
+  }
+  return QLineEdit::event(event);
 }
 
 void TextLine::keyPressEvent(QKeyEvent* event) {

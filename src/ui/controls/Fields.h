@@ -36,6 +36,7 @@ class TextLine : public QLineEdit {
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
 
   // What the field makes of a text that it can't leave as it is.
   virtual void Repair() {}

@@ -21,7 +21,6 @@ void FoldButton::SetOpen(bool open) {
   open_ = open;
   setText((open ? u'-' : u'+') + QString(kBlanks, u' ') + what_);
   panel_->setVisible(open);
-  emit Folded(open);
 }
 
 }  // namespace kladez

@@ -18,9 +18,6 @@ class FoldButton : public QPushButton {
   bool IsOpen() const { return open_; }
   void SetOpen(bool open);
 
- signals:
-  void Folded(bool open);
-
  private:
   QString what_;
   QWidget* panel_;

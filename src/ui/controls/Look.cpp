@@ -103,6 +103,11 @@ void MakeWarning(QWidget* widget) {
   widget->setPalette(palette);
 }
 
+QString PlainToolTip(const QString& text) {
+  return text.isEmpty() ? text
+                        : QStringLiteral("<p>") + text.toHtmlEscaped() + QStringLiteral("</p>");
+}
+
 QWidget* NewSeparator(QWidget* parent) {
   auto* line = new QFrame(parent);
   line->setFrameShape(QFrame::HLine);

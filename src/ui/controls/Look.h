@@ -87,6 +87,9 @@ void MakeQuiet(QWidget* widget);
 // What is amiss: red words on the ground of a field.
 void MakeWarning(QWidget* widget);
 
+// The text of a tool tip: as it is, never as markup, in lines that fit a screen.
+QString PlainToolTip(const QString& text);
+
 // A thin line across a layout.
 QWidget* NewSeparator(QWidget* parent);
 

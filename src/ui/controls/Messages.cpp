@@ -26,9 +26,11 @@ QString Shown(const QString& text) {
 
 QMessageBox::StandardButton Run(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                 const QString& title, QMessageBox::StandardButtons buttons,
-                                QMessageBox::StandardButton otherwise) {
+                                QMessageBox::StandardButton otherwise,
+                                const QString& consequence = {}) {
   QMessageBox box(icon, title, Shown(text), buttons, parent);
   box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(Shown(consequence));
   box.setDefaultButton(otherwise);
   // Without a Cancel button Escape and the frame answer No.
   if (buttons == (QMessageBox::Yes | QMessageBox::No)) box.setEscapeButton(QMessageBox::No);
@@ -59,9 +61,19 @@ bool AskYesNo(QWidget* parent, const QString& text, const QString& title, Defaul
          QMessageBox::Yes;
 }
 
-Answer AskYesNoCancel(QWidget* parent, const QString& text, const QString& title) {
+bool AskDelete(QWidget* parent, const QString& question, const QString& title,
+               const QString& consequence) {
+  return Run(parent, QMessageBox::Question, question, title, QMessageBox::Yes | QMessageBox::No,
+             QMessageBox::No, consequence) == QMessageBox::Yes;
+}
+
+Answer AskYesNoCancel(QWidget* parent, const QString& text, const QString& title,
+                      const QString& consequence, Answer otherwise) {
+  const auto button = otherwise == Answer::kYes  ? QMessageBox::Yes
+                      : otherwise == Answer::kNo ? QMessageBox::No
+                                                 : QMessageBox::Cancel;
   switch (Run(parent, QMessageBox::Question, text, title,
-              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes)) {
+              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, button, consequence)) {
     case QMessageBox::Yes:
       return Answer::kYes;
     case QMessageBox::No:

@@ -23,8 +23,14 @@ enum class DefaultAnswer { kYes, kNo };
 bool AskYesNo(QWidget* parent, const QString& text, const QString& title,
               DefaultAnswer otherwise = DefaultAnswer::kYes);
 
+// Before something is deleted: the question, and in a line below it what is meant and what happens
+// to it and the stock. "Нет" is the default: what is deleted does not come back.
+bool AskDelete(QWidget* parent, const QString& question, const QString& title,
+               const QString& consequence);
+
 enum class Answer { kYes, kNo, kCancel };
-Answer AskYesNoCancel(QWidget* parent, const QString& text, const QString& title);
+Answer AskYesNoCancel(QWidget* parent, const QString& text, const QString& title,
+                      const QString& consequence = {}, Answer otherwise = Answer::kYes);
 
 // The input box: nothing when cancelled; callers treat an empty text alike.
 std::optional<QString> AskText(QWidget* parent, const QString& title, const QString& prompt,

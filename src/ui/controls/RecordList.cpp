@@ -1,43 +1,25 @@
 #include "ui/controls/RecordList.h"
 
-#include <QCoreApplication>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 
-#include "formats/Ordering.h"
-#include "ui/controls/Fields.h"
 #include "ui/controls/Look.h"
+#include "ui/controls/TypeAhead.h"
 
 namespace kladez {
 
 using namespace Qt::StringLiterals;
 namespace {
-
-// Up and Down typed in a search field belong to the list.
-class PassToList : public QObject {
- public:
-  PassToList(QObject* parent, RecordList* list) : QObject(parent), list_(list) {}
-
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::KeyPress) {
-      const int key = static_cast<QKeyEvent*>(event)->key();
-      if (key == Qt::Key_Up || key == Qt::Key_Down) {
-        list_->setFocus(Qt::OtherFocusReason);
-        return true;
-      }
-    }
-    return QObject::eventFilter(watched, event);
-  }
-
- private:
-  RecordList* list_;
-};
 
 // Texts of neighbouring columns keep apart, and rows have air for eyes that read them all day.
 class RoomyStyle : public QProxyStyle {
@@ -69,7 +51,11 @@ QStyle* ListStyle() {
 
 }  // namespace
 
-RecordList::RecordList(QWidget* parent) : QTreeView(parent) {
+RecordList::RecordList(QWidget* parent)
+    : QTreeView(parent),
+      type_ahead_(new TypeAhead(this, {.names = [this]() -> const NameSearch& { return Names(); },
+                                       .current = [this] { return CurrentRow(); },
+                                       .select = [this](int row) { SelectRow(row); }})) {
   setStyle(ListStyle());
   header()->setStyle(ListStyle());
   setItemDelegate(new RoomyRows(this));
@@ -109,6 +95,16 @@ void RecordList::SetRecords(RecordModel* model) {
     }
   }
   connect(model, &QAbstractItemModel::modelReset, this, [this] { emit CurrentRowChanged(-1); });
+  connect(model, &QAbstractItemModel::modelReset, this, &RecordList::TakeModelChange);
+  connect(model, &QAbstractItemModel::rowsInserted, this, &RecordList::TakeModelChange);
+  connect(model, &QAbstractItemModel::rowsRemoved, this, &RecordList::TakeModelChange);
+  connect(model, &QAbstractItemModel::dataChanged, this, &RecordList::TakeModelChange);
+  TakeModelChange();
+}
+
+void RecordList::TakeModelChange() {
+  names_.Clear();
+  FitNumbersSoon();
 }
 
 RecordModel* RecordList::Records() const { return qobject_cast<RecordModel*>(model()); }
@@ -145,16 +141,36 @@ void RecordList::SelectRow(int row) {
   scrollTo(index);
 }
 
-bool RecordList::SelectFirstBeginning(const QString& text) {
-  if (model() == nullptr || text.isEmpty()) return false;
-  const QString beginning = FoldCase(text);
-  for (int row = 0; row < model()->rowCount(); ++row) {
-    if (FoldCase(model()->index(row, 0).data().toString()).startsWith(beginning)) {
-      SelectRow(row);
-      return true;
-    }
+const NameSearch& RecordList::Names() {
+  const int count = model() == nullptr ? 0 : model()->rowCount();
+  if (names_.Size() == 0) {
+    for (int row = 0; row < count; ++row) names_.Add(model()->index(row, 0).data().toString());
   }
-  return false;
+  return names_;
+}
+
+bool RecordList::SelectFirst(const QString& text) {
+  const int row = Names().First(text);
+  if (row >= 0) SelectRow(row);
+  return row >= 0;
+}
+
+bool RecordList::SelectNext(const QString& text) {
+  const int row = Names().Next(text, CurrentRow());
+  if (row >= 0) SelectRow(row);
+  return row >= 0;
+}
+
+void RecordList::CopyRows() const {
+  QStringList lines;
+  for (const int row : SelectedRows()) {
+    QStringList cells;
+    for (int column = 0; column < model()->columnCount(); ++column) {
+      if (!isColumnHidden(column)) cells << model()->index(row, column).data().toString();
+    }
+    lines << cells.join(u'\t');
+  }
+  if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }
 
 void RecordList::SetEmptyText(const QString& text) {
@@ -164,7 +180,78 @@ void RecordList::SetEmptyText(const QString& text) {
 
 void RecordList::resizeEvent(QResizeEvent* event) {
   QTreeView::resizeEvent(event);
+  FitNumbersSoon();
   FitStretchedColumn();
+}
+
+void RecordList::scrollContentsBy(int dx, int dy) {
+  QTreeView::scrollContentsBy(dx, dy);
+  if (dy != 0) FitNumbersSoon();
+}
+
+void RecordList::changeEvent(QEvent* event) {
+  QTreeView::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitNumbersSoon();
+}
+
+// Once for all that happens in one turn of the event loop.
+void RecordList::FitNumbersSoon() {
+  if (fit_waits_) return;
+  fit_waits_ = true;
+  QMetaObject::invokeMethod(this, &RecordList::FitNumbers, Qt::QueuedConnection);
+}
+
+void RecordList::FitNumbers() {
+  fit_waits_ = false;
+  if (Records() == nullptr) return;
+  const auto& columns = Records()->Columns();
+  bool wider = false;
+  for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+    if (!columns[i].number || columns[i].stretch || isColumnHidden(i)) continue;
+    const int wanted = NumberWidth(i);
+    if (columnWidth(i) >= wanted) continue;
+    setColumnWidth(i, wanted);
+    wider = true;
+  }
+  if (wider) FitStretchedColumn();
+}
+
+// Of the rows in sight: a hundred thousand rows are not measured for each key.
+int RecordList::NumberWidth(int column) const {
+  int row = std::max(0, indexAt(QPoint(0, 0)).row());
+  const int below = indexAt(viewport()->rect().bottomLeft()).row();
+  const int end = below < 0 ? model()->rowCount() : below + 1;
+  QFont bold(font());
+  bold.setBold(true);
+  int widest = 0;
+  for (; row < end; ++row) {
+    const QString text = model()->index(row, column).data().toString();
+    const QFontMetrics metrics(Records()->IsGroup(row) ? bold : font());
+    widest = std::max(widest, metrics.horizontalAdvance(text));
+  }
+  const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+  return widest + 2 * margin + 1;
+}
+
+bool RecordList::IsCut(const QModelIndex& index) const {
+  const QSize wanted = itemDelegateForIndex(index)->sizeHint(ViewOptions(), index);
+  return wanted.width() > visualRect(index).width();
+}
+
+QStyleOptionViewItem RecordList::ViewOptions() const {
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  return option;
+}
+
+bool RecordList::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const QModelIndex index = indexAt(help->pos());
+  QString text;
+  if (index.isValid() && IsCut(index)) text = look::PlainToolTip(index.data().toString());
+  QToolTip::showText(help->globalPos(), text, viewport());
+  return true;
 }
 
 // The column that takes the room left over keeps half of its told width; beyond that the list
@@ -214,6 +301,11 @@ void RecordList::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Escape:
       event->ignore();  // closes the dialog or screen
       return;
+    case Qt::Key_C:
+      // The toolkit would copy one cell.
+      if (!event->matches(QKeySequence::Copy)) break;
+      CopyRows();
+      return;
     case Qt::Key_Space:
       if (Records() != nullptr && Records()->HasChecks()) {
         QTreeView::keyPressEvent(event);
@@ -230,8 +322,12 @@ void RecordList::keyPressEvent(QKeyEvent* event) {
     default:
       break;
   }
-  if (!command && !event->text().isEmpty() && event->text().front().isPrint()) {
-    emit CharacterTyped(event->text());
+  if (search_field_ != nullptr) {
+    if (!command && !event->text().isEmpty() && event->text().front().isPrint()) {
+      emit CharacterTyped(event->text());
+      return;
+    }
+  } else if (type_ahead_->Takes(*event)) {
     return;
   }
   QTreeView::keyPressEvent(event);
@@ -254,25 +350,6 @@ void RecordList::paintEvent(QPaintEvent* event) {
 void RecordList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
   emit CurrentRowChanged(current.isValid() ? current.row() : -1);
-}
-
-void WireSearch(TextLine* field, RecordList* list, EmptySearch empty) {
-  QObject::connect(field, &TextLine::Change, list, [=] {
-    if (!field->text().isEmpty()) {
-      list->SelectFirstBeginning(field->text());
-    } else if (empty == EmptySearch::kReturnsToList && field->hasFocus()) {
-      list->setFocus(Qt::OtherFocusReason);
-    }
-  });
-  QObject::connect(list, &RecordList::CharacterTyped, field, [=](const QString& text) {
-    // Emptied without the signal: an empty search would give the focus back at once.
-    const bool blocked = field->blockSignals(true);
-    field->clear();
-    field->blockSignals(blocked);
-    field->setFocus(Qt::OtherFocusReason);
-    field->insert(text);
-  });
-  field->installEventFilter(new PassToList(field, list));
 }
 
 }  // namespace kladez

@@ -268,7 +268,8 @@ TEST_F(sprtovar2Test, TicksAreReadWhenActiveAndWrittenWhenClosed) {
 
 TEST_F(sprtovar2Test, ReceiptPickAsksQuantityAndPurchasePrice) {
   Open(PickFor::kReceipt);
-  Type(list_, u"КО"_s);  // searches
+  Type(list_, u"К"_s);  // searches
+  Type(QApplication::focusWidget(), u"О"_s);
   ModalAnswers answers({[](QWidget* dialog) {
     EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), u"1"_s);
     EXPECT_EQ(Find<QLineEdit>(dialog, "Text4")->text(), u"900.50"_s);

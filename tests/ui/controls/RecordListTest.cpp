@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QClipboard>
 #include <QFont>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "ScreenDriver.h"
 #include "ui/controls/Fields.h"
+#include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -25,11 +28,12 @@ class RecordListTest : public ::testing::Test {
   }
 
   std::vector<QString> rows = {u" Чай"_s, u"Ассам"_s, u"ассорти"_s, u"Ёлочный"_s};
+  QString number = u"1"_s;
   std::vector<bool> ticks = {false, false, false, false};
   RecordModel model{
       {{u"Наименование"_s, 3100, false, true}, {u"Кол-во"_s, 1050, true}, {u"Файл"_s, 0}},
       {.count = [this] { return static_cast<int>(rows.size()); },
-       .text = [this](int row, int column) { return column == 0 ? rows[row] : u"1"_s; },
+       .text = [this](int row, int column) { return column == 0 ? rows[row] : number; },
        .is_group = [this](int row) { return rows[row].startsWith(u' '); },
        .checked = [this](int row) { return ticks[row]; },
        .set_checked = [this](int row, bool on) { ticks[row] = on; }}};
@@ -58,13 +62,21 @@ TEST_F(RecordListTest, GroupsAreBoldAndPureBlue) {
 }
 
 TEST_F(RecordListTest, SearchFindsTheFirstRowThatBeginsSoWhateverTheCase) {
-  ASSERT_TRUE(list.SelectFirstBeginning(u"АССО"_s));
+  ASSERT_TRUE(list.SelectFirst(u"АССО"_s));
   EXPECT_EQ(list.CurrentRow(), 2);
-  ASSERT_TRUE(list.SelectFirstBeginning(u"ас"_s));
+  ASSERT_TRUE(list.SelectFirst(u"ас"_s));
   EXPECT_EQ(list.CurrentRow(), 1);
-  ASSERT_TRUE(list.SelectFirstBeginning(u" ч"_s));
+  ASSERT_TRUE(list.SelectFirst(u" ч"_s));
   EXPECT_EQ(list.CurrentRow(), 0);
-  EXPECT_FALSE(list.SelectFirstBeginning(u"чай"_s)) << "the blank of a group counts";
+  ASSERT_TRUE(list.SelectFirst(u"елочн"_s));
+  EXPECT_EQ(list.CurrentRow(), 3);
+  EXPECT_FALSE(list.SelectFirst(u"кофе"_s));
+  EXPECT_EQ(list.CurrentRow(), 3);
+  model.Insert(0, [&] {
+    rows.insert(rows.begin(), u"Кофе"_s);
+    ticks.push_back(false);
+  });
+  ASSERT_TRUE(list.SelectFirst(u"кофе"_s)) << "the names are those of now";
 }
 
 TEST_F(RecordListTest, TypingInTheListStartsANewSearchInTheField) {
@@ -77,6 +89,84 @@ TEST_F(RecordListTest, TypingInTheListStartsANewSearchInTheField) {
   EXPECT_EQ(list.CurrentRow(), 3);
   QTest::keyClick(&field, Qt::Key_Down);
   EXPECT_TRUE(list.hasFocus());
+}
+
+TEST_F(RecordListTest, ASearchThatFindsNothingSaysSoAndSelectsNothing) {
+  WireSearch(&field, &list);
+  list.SelectRow(2);
+  field.setFocus();
+  Type(&field, u"щщщ"_s);
+  EXPECT_EQ(field.Fault(), u"не найдено"_s);
+  EXPECT_EQ(list.CurrentRow(), -1);
+  EXPECT_TRUE(list.SelectedRows().empty());
+  field.clear();
+  EXPECT_EQ(field.Fault(), QString());
+  EXPECT_EQ(list.CurrentRow(), 2);
+  Type(&field, u"fcc"_s);  // "асс" in the other layout
+  EXPECT_EQ(list.CurrentRow(), 1);
+  Type(&field, u"щ"_s);
+  EXPECT_NE(field.Fault(), QString());
+  list.SelectRow(0);
+  EXPECT_EQ(field.Fault(), QString());
+}
+
+TEST_F(RecordListTest, KeysOfTheListWorkInAllOfItsScreen) {
+  WireSearch(&field, &list);
+  QPushButton button(&window);
+  button.show();
+  TextLine other(&window);
+  other.show();
+  int printed = 0;
+  QObject::connect(&button, &QPushButton::clicked, [&] { ++printed; });
+  ShareListKeys(&window, &list, &button);
+  QSignalSpy insert(&list, &RecordList::InsertPressed);
+  QSignalSpy remove(&list, &RecordList::DeletePressed);
+  QSignalSpy enter(&list, &RecordList::EnterPressed);
+  list.SelectRow(1);
+  button.setFocus();
+  for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Delete, Qt::Key_Return})
+    QTest::keyClick(&button, key);
+  QTest::keyClick(&button, Qt::Key_P, Qt::ControlModifier);
+  QTest::keyClick(&button, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), u"Ассам\t1"_s);
+  EXPECT_EQ(insert.count(), 1);
+  EXPECT_EQ(remove.count(), 1);
+  EXPECT_EQ(enter.count(), 1);
+  EXPECT_EQ(printed, 1);
+  QTest::keyClick(&button, Qt::Key_F, Qt::ControlModifier);
+  ASSERT_TRUE(field.hasFocus());
+  Type(&field, u"асс"_s);
+  QTest::keyClick(&field, Qt::Key_F3);
+  EXPECT_EQ(list.CurrentRow(), 2);
+  QTest::keyClick(&field, Qt::Key_F3);
+  EXPECT_EQ(list.CurrentRow(), 1);
+  // A field uses its own keys.
+  QTest::keyClick(&field, Qt::Key_Delete);
+  other.setFocus();
+  QTest::keyClick(&other, Qt::Key_Return);
+  EXPECT_EQ(remove.count(), 1);
+  EXPECT_EQ(enter.count(), 1);
+  field.setFocus();
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(enter.count(), 2);
+}
+
+TEST_F(RecordListTest, AListWithoutASearchFieldGoesToWhatIsTyped) {
+  Type(&list, u"асс"_s);
+  EXPECT_EQ(list.CurrentRow(), 1);
+  Type(&list, u"о"_s);
+  EXPECT_EQ(list.CurrentRow(), 2);
+  QTest::keyClick(&list, Qt::Key_Backspace);
+  EXPECT_EQ(list.CurrentRow(), 1);
+  QTest::keyClick(&list, Qt::Key_F3);
+  EXPECT_EQ(list.CurrentRow(), 2);
+}
+
+TEST_F(RecordListTest, NumbersAreNeverCut) {
+  number = u"123456789012.50"_s;
+  model.Reset();
+  QApplication::processEvents();
+  EXPECT_GE(list.columnWidth(1), list.fontMetrics().horizontalAdvance(number) + 2);
 }
 
 TEST_F(RecordListTest, KeysOfTheListAreCommandsAndNeverSearchText) {
@@ -96,6 +186,7 @@ TEST_F(RecordListTest, KeysOfTheListAreCommandsAndNeverSearchText) {
 }
 
 TEST_F(RecordListTest, ADivideKeyThatIsNoCommandIsSearchText) {
+  list.SetSearchField(&field);
   QSignalSpy typed(&list, &RecordList::CharacterTyped);
   QTest::keyClick(&list, Qt::Key_Slash, Qt::KeypadModifier);
   ASSERT_EQ(typed.count(), 1);

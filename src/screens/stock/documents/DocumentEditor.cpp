@@ -16,6 +16,7 @@
 #include "ui/controls/Fields.h"
 #include "ui/controls/Forms.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
 #include "ui/controls/WrapRow.h"
 
@@ -47,6 +48,7 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentKind kind, DocumentD
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(NewEndingRow(ok_, cancel_));
 
+  ShareListKeys(this, ListView1);
   ShowSums();
   ListView1->SelectRow(0);
   ListView1->setFocus();

@@ -10,6 +10,7 @@
 #include "screens/stock/documents/RegisterFilterPanel.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -40,6 +41,7 @@ DocumentRegisterScreen::DocumentRegisterScreen(AppContext& context, DocumentKind
 
   connect(filter_, &RegisterFilterPanel::Changed, this, &DocumentRegisterScreen::Rebuild);
   setFocusProxy(ListView1);
+  ShareListKeys(this, ListView1, Command9);
   Rebuild();
 }
 
