@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <QFile>
 #include <cerrno>
 #include <cstdio>
 
@@ -121,6 +122,41 @@ TEST(CommandFaults, NoCommandLosesAnythingWhateverTheDiskDoes) {
     all.losses += count.losses;
   }
   std::printf("%8d %8d   in all\n", all.tried, all.losses);
+}
+
+// Somebody adds a line to a file between the reading and the writing of a command: it is in the
+// file afterwards. Only what is there to be replaced is, and a descriptor, which is read anew, has
+// two lines.
+TEST(CommandFaults, NoCommandWritesOverWhatSomebodyElseHasWrittenMeanwhile) {
+  const std::string line = "a line of somebody else\r\n";
+  int tried = 0;
+  for (const WritingCommand& command : WritingCommands()) {
+    if (command.source == "books/store/Import.cpp" ||
+        command.source.find("printing") != command.source.npos)
+      continue;
+    const States states = StatesOf(command);
+    for (const auto& [path, bytes] : states.before) {
+      const auto after = states.after.find(path);
+      const bool replaced = after != states.after.end() && after->second != bytes;
+      if (!replaced || path.ends_with("temp.prc") || path.ends_with(".us")) continue;
+      FaultBooks books(command.beside);
+      const auto run = command.prepare(books);
+      {
+        QFile file(QString::fromStdString((books.Root() / path).string()));
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(line.c_str());
+      }
+      const Tree before = books.Tree();
+      const bool told = IsToldToFail(run, {});
+      const Tree tree = books.Tree();
+      EXPECT_NE(tree.at(path).find(line), std::string::npos) << command.name << ", " << path;
+      if (told) {
+        EXPECT_EQ(tree, before) << command.name << ", " << path;
+      }
+      ++tried;
+    }
+  }
+  EXPECT_GE(tried, 20);
 }
 
 // Directories and files that really have no right to be written, one after the other.

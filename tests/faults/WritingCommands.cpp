@@ -172,9 +172,12 @@ std::vector<WritingCommand> DirectoryCommands() {
        }},
       {"основная валюта", "books/directories/MainCurrency.cpp",
        [](FaultBooks& books) {
-         Currency currency = LoadMainCurrency(books.Data(), books.Opened());
+         FileState file;
+         Currency currency = LoadMainCurrency(books.Data(), books.Opened(), file);
          currency.forms[0] = u"р."_s;
-         return [=, &books] { SaveMainCurrency(books.Data(), books.Opened(), currency); };
+         return [=, &books]() mutable {
+           SaveMainCurrency(books.Data(), books.Opened(), currency, file);
+         };
        }},
   };
 }

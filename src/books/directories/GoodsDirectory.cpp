@@ -38,7 +38,9 @@ GoodsDirectory::GoodsDirectory(const DataDir& data, const Session& session, Good
 bool GoodsDirectory::IsFull() const { return rows_.size() > kMostRows; }
 
 void GoodsDirectory::Reload(GoodsView view) {
-  const QByteArray bytes = data_.Read(path_);
+  FileState file;
+  const QByteArray bytes = ReadWithState(data_, path_, file);
+  file_ = file;
   Load(bytes, view);
   copy_ = view == GoodsView::kGoodsOnly ? ReadGoods(bytes) : std::vector<GoodsRecord>();
 }
@@ -52,7 +54,8 @@ void GoodsDirectory::Load(QByteArrayView bytes, GoodsView view) {
 }
 
 void GoodsDirectory::ShowGoodsOnly() {
-  std::vector<GoodsRecord> copy = ReadGoods(data_.Read(path_));
+  FileState file;
+  std::vector<GoodsRecord> copy = ReadGoods(ReadWithState(data_, path_, file));
   Write(rows_);
   Load(WriteGoods(rows_), GoodsView::kGoodsOnly);
   copy_ = std::move(copy);
@@ -117,7 +120,7 @@ void GoodsDirectory::SaveBeforePick() {
 
 void GoodsDirectory::Write(const std::vector<GoodsRecord>& records) {
   SaveSet save(data_);
-  save.Write(path_, WriteGoods(records));
+  save.Write(path_, WriteGoods(records), file_);
   save.Commit();
 }
 

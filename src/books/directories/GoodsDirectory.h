@@ -7,6 +7,7 @@
 
 #include "books/directories/GoodsView.h"
 #include "books/store/DataDir.h"
+#include "books/store/FileState.h"
 #include "books/store/Session.h"
 #include "formats/GoodsFile.h"
 
@@ -46,6 +47,8 @@ class GoodsDirectory {
   void Save();
   // Writes the file only while the groups are shown, as a pick does.
   void SaveBeforePick();
+  // Whether the file is still what was read or saved last.
+  bool IsCurrent() const { return IsStill(file_, data_, path_); }
 
  private:
   void Load(QByteArrayView bytes, GoodsView view);
@@ -53,6 +56,7 @@ class GoodsDirectory {
 
   const DataDir& data_;
   QString path_;
+  FileState file_;
   GoodsView view_ = GoodsView::kGroups;
   std::vector<GoodsRecord> rows_;
   std::vector<GoodsRecord> copy_;

@@ -3,14 +3,17 @@
 #include <QHash>
 #include <set>
 
+#include "books/store/Errors.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
 
 QString MarksPath(const Session& session) { return session.Path(u"marked"); }
 
-QStringList ReadMarks(const DataDir& data, const Session& session) {
-  return DecodeLines(data.ReadIfAny(MarksPath(session)).value_or(QByteArray()));
+QStringList ReadMarks(const DataDir& data, const Session& session, FileState& file) {
+  QByteArray bytes;
+  IgnoreErrors([&] { bytes = ReadIfThere(data, MarksPath(session), file); });
+  return DecodeLines(bytes);
 }
 
 std::vector<bool> TickRows(const std::vector<GoodsRecord>& rows, const QStringList& names) {

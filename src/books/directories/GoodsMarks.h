@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "books/store/DataDir.h"
+#include "books/store/FileState.h"
 #include "books/store/Session.h"
 #include "formats/GoodsFile.h"
 
@@ -14,8 +15,8 @@ namespace kladez {
 
 QString MarksPath(const Session& session);
 
-// The names of the file; none when it can't be read.
-QStringList ReadMarks(const DataDir& data, const Session& session);
+// The names of the file; none when it can't be read, and then `file` lets nobody write over it.
+QStringList ReadMarks(const DataDir& data, const Session& session, FileState& file);
 
 // The ticks of the rows as the names set them one after the other: each ticks the first row whose
 // text begins with it, and the first name that finds no row ends the ticking.

@@ -4,14 +4,15 @@
 
 namespace kladez {
 
-Currency LoadMainCurrency(const DataDir& data, const Session& session) {
-  const QString path = session.Path(u"currency.usd");
-  return data.FileExists(path) ? ReadCurrency(data.Read(path)) : RoubleCurrency();
+Currency LoadMainCurrency(const DataDir& data, const Session& session, FileState& file) {
+  const QByteArray bytes = ReadIfThere(data, session.Path(u"currency.usd"), file);
+  return file.exists ? ReadCurrency(bytes) : RoubleCurrency();
 }
 
-void SaveMainCurrency(const DataDir& data, Session& session, const Currency& currency) {
+void SaveMainCurrency(const DataDir& data, Session& session, const Currency& currency,
+                      FileState& file) {
   SaveSet save(data);
-  save.Write(session.Path(u"currency.usd"), WriteCurrency(currency));
+  save.Write(session.Path(u"currency.usd"), WriteCurrency(currency), file);
   save.Commit();
   session.currency_name = currency.ShortForm();
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "books/store/DataDir.h"
+#include "books/store/FileState.h"
 #include "books/store/Session.h"
 #include "formats/PartyFile.h"
 
@@ -24,12 +25,19 @@ class PartyDirectory {
 
   // Writes the file whole, and gives the session the names of the kind. Throws filesystem_error.
   void Save();
+  // Reads the file again, and loses what was not saved.
+  void Reload();
+  // Whether the file is still what was read or saved last.
+  bool IsCurrent() const { return IsStill(file_, data_, Path()); }
 
  private:
+  QString Path() const { return session_.Path(PartyPath(kind_)); }
+
   const DataDir& data_;
   Session& session_;
   PartyKind kind_;
   std::vector<Party> rows_;
+  FileState file_;
 };
 
 }  // namespace kladez

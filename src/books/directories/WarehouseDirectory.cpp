@@ -28,10 +28,6 @@ void RefuseAllWarehouses(const QString& name) {
                  EINVAL);
 }
 
-void WriteList(SaveSet& save, const Session& session, const QStringList& names) {
-  save.Write(session.Path(u"склад.usd"), EncodeLines(names));
-}
-
 }  // namespace
 
 bool HoldsForbiddenCharacter(QStringView name) {
@@ -41,6 +37,17 @@ bool HoldsForbiddenCharacter(QStringView name) {
 
 WarehouseDirectory::WarehouseDirectory(const DataDir& data, Session& session)
     : data_(data), session_(session), names_(session.warehouses) {}
+
+void WarehouseDirectory::WriteList(SaveSet& save, const QStringList& names) const {
+  const QString path = session_.Path(u"склад.usd");
+  if (!session_.warehouses_file.known) {
+    ThrowFileError(
+        u"Список складов не удалось прочитать, когда открывалась база; чтобы склады не "
+        u"пропали, он не записан. Верните файл на место и откройте базу заново"_s,
+        path, ENOENT);
+  }
+  save.Write(path, EncodeLines(names), session_.warehouses_file);
+}
 
 void WarehouseDirectory::Create(const QString& name) {
   RefuseAllWarehouses(name);
@@ -52,7 +59,7 @@ void WarehouseDirectory::Create(const QString& name) {
   QStringList names = names_;
   names.append(name);
   SaveSet save(data_);
-  WriteList(save, session_, names);
+  WriteList(save, names);
   AddNewWarehouse(save, path);
   save.Commit();
   TakeOver(names);
@@ -75,14 +82,14 @@ void WarehouseDirectory::Delete(int row) {
   SaveSet save(data_);
   // A rename that was not saved leaves a name without a directory; it must not stay for ever.
   if (data_.DirectoryExists(path)) save.DeleteTree(path);
-  WriteList(save, session_, names);
+  WriteList(save, names);
   save.Commit();
   TakeOver(names);
 }
 
 void WarehouseDirectory::Save() {
   SaveSet save(data_);
-  WriteList(save, session_, names_);
+  WriteList(save, names_);
   save.Commit();
   TakeOver(names_);
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "books/store/DataDir.h"
+#include "books/store/SaveSet.h"
 #include "books/store/Session.h"
 
 namespace kladez {
@@ -38,6 +39,9 @@ class WarehouseDirectory {
 
  private:
   void TakeOver(const QStringList& names);
+
+  // Throws filesystem_error where the list could not be read when the Database was opened.
+  void WriteList(SaveSet& save, const QStringList& names) const;
 
   const DataDir& data_;
   Session& session_;

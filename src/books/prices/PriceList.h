@@ -10,6 +10,7 @@
 
 #include "books/directories/GoodsPick.h"
 #include "books/directories/GoodsView.h"
+#include "books/store/FileState.h"
 #include "formats/PriceFile.h"
 
 namespace kladez {
@@ -48,6 +49,10 @@ class PriceList {
 
   QByteArray PriceBytes() const;   // a .prc, in the order of the rows
   QByteArray MarkedBytes() const;  // `marked`: the names of the ticked rows
+
+  // What the list was read from.
+  FileState price_file = FileState::Missing();
+  FileState marks_file = FileState::Missing();
 
  private:
   std::vector<PriceRow> rows_;

@@ -40,21 +40,27 @@ PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
                            const LoadProgress& progress) const {
   const QStringList files = Files(warehouse);
   const bool has_file = index >= 0 && index < files.size();
-  return {data_.Read(session_.Path(u"spr\\товар.spr")),
-          has_file ? data_.Read(files[index]) : QByteArray(),
-          data_.ReadIfAny(MarksPath(session_)).value_or(QByteArray()), view, progress};
+  FileState price_file, marks_file;
+  const QByteArray prices =
+      has_file ? ReadWithState(data_, files[index], price_file) : QByteArray();
+  QByteArray marks;
+  IgnoreErrors([&] { marks = ReadIfThere(data_, MarksPath(session_), marks_file); });
+  PriceList list(data_.Read(session_.Path(u"spr\\товар.spr")), prices, marks, view, progress);
+  list.price_file = price_file;
+  list.marks_file = marks_file;
+  return list;
 }
 
-void PriceStore::Save(const PriceList& list, const QString& warehouse, int index) const {
+void PriceStore::Save(PriceList& list, const QString& warehouse, int index) const {
   SaveSet save(data_);
-  save.Write(MarksPath(session_), list.MarkedBytes());
-  save.Write(FileOf(warehouse, index), list.PriceBytes());
+  save.Write(MarksPath(session_), list.MarkedBytes(), list.marks_file);
+  save.Write(FileOf(warehouse, index), list.PriceBytes(), list.price_file);
   save.Commit();
 }
 
-void PriceStore::SaveTicks(const PriceList& list) const {
+void PriceStore::SaveTicks(PriceList& list) const {
   SaveSet save(data_);
-  save.Write(MarksPath(session_), list.MarkedBytes());
+  save.Write(MarksPath(session_), list.MarkedBytes(), list.marks_file);
   save.Commit();
 }
 
@@ -69,7 +75,7 @@ bool PriceStore::Paste(PriceList& list, const QString& warehouse, int index) con
   PriceList pasted = list;
   pasted.Paste(data_.Read(kClipboard));
   SaveSet save(data_);
-  save.Write(FileOf(warehouse, index), pasted.PriceBytes());
+  save.Write(FileOf(warehouse, index), pasted.PriceBytes(), pasted.price_file);
   save.Commit();
   list = std::move(pasted);
   return true;

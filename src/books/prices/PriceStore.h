@@ -29,8 +29,8 @@ class PriceStore {
                  const LoadProgress& progress = {}) const;
 
   // Each is one save, all or nothing, and throws filesystem_error.
-  void Save(const PriceList& list, const QString& warehouse, int index) const;  // ticks too
-  void SaveTicks(const PriceList& list) const;
+  void Save(PriceList& list, const QString& warehouse, int index) const;  // ticks too
+  void SaveTicks(PriceList& list) const;
   void Copy(const PriceList& list) const;  // to the clipboard, temp.prc
   // Replaces the rows of `list` by the clipboard's and writes them to the list's file. False, with
   // nothing done, where the clipboard is empty.

@@ -48,7 +48,8 @@ DocumentDraft DocumentDraft::Open(const Place& place, const RegisterRow& row) {
   }
   Document document = ReadDocument(
       place.kind,
-      place.data.Read(DocumentPath(place.session, place.kind, place.warehouse, row.file)));
+      ReadWithState(place.data, DocumentPath(place.session, place.kind, place.warehouse, row.file),
+                    draft.document_file_));
   draft.lines_.reserve(document.lines.size());
   for (DocumentLine& line : document.lines) draft.lines_.push_back(WithAmount(std::move(line)));
   draft.Recompute();
@@ -59,11 +60,23 @@ DocumentDraft DocumentDraft::Open(const Place& place, const RegisterRow& row) {
 void DocumentDraft::TakeLedgers() {
   if (book_.has_flag ? was_closed_ : !is_new_) return;  // no save of it will post
   std::vector<QByteArray> ledgers;
+  std::vector<FileState> files;
   for (const LedgerEffect& effect : book_.effects) {
     const QString warehouse = WarehouseOf(effect, head_, place_.warehouse);
-    ledgers.push_back(place_.data.Read(LedgerPath(place_.session, warehouse)));
+    ledgers.push_back(
+        ReadWithState(place_.data, LedgerPath(place_.session, warehouse), files.emplace_back()));
   }
   ledgers_ = std::move(ledgers);
+  ledger_files_ = std::move(files);
+}
+
+void DocumentDraft::TakeFilesAnew() {
+  TakeLedgers();
+  if (document_file_.exists) ReadWithState(place_.data, DocumentFile(), document_file_);
+}
+
+QString DocumentDraft::DocumentFile() const {
+  return DocumentPath(place_.session, place_.kind, place_.warehouse, file_);
 }
 
 void DocumentDraft::SetDate(QDate date) { head_.date = DateText(date); }
@@ -136,8 +149,7 @@ DocumentDraft::Outcome DocumentDraft::Save() {
   if (book_.has_flag && lines_.empty()) return Outcome::kNoLines;
   if (!book_.has_flag && head_.party == head_.destination) return Outcome::kSameWarehouse;
   SaveSet save(place_.data);
-  save.Write(DocumentPath(place_.session, place_.kind, place_.warehouse, file_),
-             WriteDocument(place_.kind, ToDocument()));
+  save.Write(DocumentFile(), WriteDocument(place_.kind, ToDocument()), document_file_);
   if (Posts()) {
     std::vector<LedgerRecord> records;
     for (const DraftLine& draft : lines_) {
@@ -147,7 +159,7 @@ DocumentDraft::Outcome DocumentDraft::Save() {
       StockLedger ledger(ledgers_[i]);
       ledger.Post(book_.effects[i].posting, records);
       const QString warehouse = WarehouseOf(book_.effects[i], head_, place_.warehouse);
-      save.Write(LedgerPath(place_.session, warehouse), ledger.Bytes());
+      save.Write(LedgerPath(place_.session, warehouse), ledger.Bytes(), ledger_files_[i]);
     }
   }
   save.Commit();

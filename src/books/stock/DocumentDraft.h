@@ -68,8 +68,13 @@ class DocumentDraft {
     kNoLines,        // receipts and shipments: nothing was written
     kSameWarehouse,  // transfers: nothing was written
   };
-  // Throws filesystem_error, nothing written then; the draft may be saved again.
+  // Throws filesystem_error, nothing written then; the draft may be saved again. StaleFile: the
+  // ledgers or the document are no longer as they were taken; EEXIST for a new document whose file
+  // is there by now.
   Outcome Save();
+  // Takes the ledgers anew, and a changed document's file as it is now, so that Save writes over
+  // it. Throws filesystem_error.
+  void TakeFilesAnew();
 
   // What a print screen is handed.
   PrintSource ToPrint() const;
@@ -77,6 +82,7 @@ class DocumentDraft {
  private:
   explicit DocumentDraft(const Place& place) : place_(place), book_(BookOf(place.kind)) {}
 
+  QString DocumentFile() const;
   void TakeLedgers();
   bool Posts() const;
   void Recompute();
@@ -89,6 +95,8 @@ class DocumentDraft {
   std::vector<DraftLine> lines_;
   // The ledgers as they were when the draft was opened, one for each effect: postings go on these.
   std::vector<QByteArray> ledgers_;
+  std::vector<FileState> ledger_files_;
+  FileState document_file_ = FileState::Missing();
   bool is_new_ = false;
   bool was_closed_ = false;
 };

@@ -42,9 +42,13 @@ std::vector<QByteArray> EncodedNames(const std::vector<OnHandRow>& rows) {
   return names;
 }
 
-void SaveLedger(const DataDir& data, const QString& path, QByteArray bytes) {
+QString GoodsPath(const Session& session) { return session.Path(u"spr\\товар.spr"); }
+
+void SaveLedger(OnHandList& list, const DataDir& data, const Session& session,
+                const QString& warehouse, QByteArray bytes) {
   SaveSet save(data);
-  save.Write(path, std::move(bytes));
+  save.Expect(GoodsPath(session), list.goods_file);
+  save.Write(LedgerPath(session, warehouse), std::move(bytes), list.ledger_file);
   save.Commit();
 }
 
@@ -119,19 +123,25 @@ QByteArray OnHandList::ZeroedLedgerBytes() const {
 
 OnHandList LoadOnHand(const DataDir& data, const Session& session, const QStringList& warehouses,
                       GoodsView view) {
-  OnHandJoin join(data.Read(session.Path(u"spr\\товар.spr")), view);
-  for (const QString& warehouse : warehouses) join.Add(data.Read(LedgerPath(session, warehouse)));
-  return join.Take();
+  FileState goods, ledger;
+  OnHandJoin join(ReadWithState(data, GoodsPath(session), goods), view);
+  for (const QString& warehouse : warehouses) {
+    join.Add(ReadWithState(data, LedgerPath(session, warehouse), ledger));
+  }
+  OnHandList list = join.Take();
+  list.goods_file = goods;
+  list.ledger_file = ledger;
+  return list;
 }
 
-void SaveOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+void SaveOnHand(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse) {
-  SaveLedger(data, LedgerPath(session, warehouse), list.LedgerBytes());
+  SaveLedger(list, data, session, warehouse, list.LedgerBytes());
 }
 
-void ZeroOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+void ZeroOnHand(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse) {
-  SaveLedger(data, LedgerPath(session, warehouse), list.ZeroedLedgerBytes());
+  SaveLedger(list, data, session, warehouse, list.ZeroedLedgerBytes());
 }
 
 }  // namespace kladez

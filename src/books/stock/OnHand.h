@@ -11,6 +11,7 @@
 
 #include "books/directories/GoodsView.h"
 #include "books/stock/PrefixIndex.h"
+#include "books/store/FileState.h"
 #include "books/store/Session.h"
 #include "formats/GoodsFile.h"
 
@@ -50,6 +51,10 @@ class OnHandList {
   // The ledger after zeroing: the same items, with "0" for quantity and unit.
   QByteArray ZeroedLedgerBytes() const;
 
+  // What the list was read from: the directory too, as a name that it lacks leaves the ledger.
+  FileState goods_file;
+  FileState ledger_file;  // of the last warehouse named
+
  private:
   std::vector<OnHandRow> rows_;
 };
@@ -78,9 +83,9 @@ OnHandList LoadOnHand(const DataDir& data, const Session& session, const QString
                       GoodsView view);
 
 // Each writes the ledger of one warehouse. Throws filesystem_error; nothing has changed then.
-void SaveOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+void SaveOnHand(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse);
-void ZeroOnHand(const OnHandList& list, const DataDir& data, const Session& session,
+void ZeroOnHand(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse);
 
 }  // namespace kladez

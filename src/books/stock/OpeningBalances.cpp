@@ -26,10 +26,11 @@ void OpeningBalances::Book(const DataDir& data, const Session& session,
     if (!IsGroupName(row.name)) goods.push_back(row);
   }
   const QString path = session.Path(warehouse, u"товар.usl");
-  StockLedger ledger(data.Read(path));
+  FileState file;
+  StockLedger ledger(ReadWithState(data, path, file));
   ledger.Post(Posting::kReceive, goods);
   SaveSet save(data);
-  save.Write(path, ledger.Bytes());
+  save.Write(path, ledger.Bytes(), file);
   save.Commit();
 }
 

@@ -130,7 +130,9 @@ QString CreateDatabase(const DataDir& data, const QString& name) {
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name) {
   SaveSet save(data);
   // Read anew: a descriptor that can't be read is not to lose its path.
-  save.Write(entry.file, WriteDescriptor({ReadDescriptor(data.Read(entry.file)).path, name}));
+  FileState file;
+  const DatabaseDescriptor old = ReadDescriptor(ReadWithState(data, entry.file, file));
+  save.Write(entry.file, WriteDescriptor({old.path, name}), file);
   save.Commit();
 }
 

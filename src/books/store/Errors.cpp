@@ -31,6 +31,7 @@ constexpr std::array kReasons = {
     Reason{EIO, u"ошибка чтения или записи диска"},
     Reason{EBADMSG, u"файл повреждён"},
     Reason{EBUSY, u"занято другой программой"},
+    Reason{ESTALE, u"прочитайте его заново и повторите"},
     Reason{ECANCELED, u"действие не выполнено"},
     Reason{EFBIG, u"файл слишком велик"},
     Reason{EILSEQ, u"знака нет в кодировке файла"},

@@ -38,6 +38,13 @@ void RefuseOtherThanFile(const struct stat& status, const QByteArray& path) {
   Check(syscalls::WriteRefusal(path), path);
 }
 
+void RefuseStale(std::span<const SaveSet::Expectation> expected) {
+  for (const auto& [path, state, written] : expected) {
+    if (IsStill(state, path)) continue;
+    throw StaleFile(QFile::decodeName(path), state.known && !state.exists);
+  }
+}
+
 void SyncParents(std::span<const Change> changes) {
   std::set<QByteArray> parents;
   for (const Change& change : changes) {
@@ -55,7 +62,8 @@ void SyncParents(std::span<const Change> changes) {
 SaveJournal::SaveJournal(const DataDir& data)
     : root_(QFile::encodeName(data.Root())), stage_(root_ + '/' + kStagingName), lock_(root_) {}
 
-void SaveJournal::Commit(std::vector<Change>& changes) {
+void SaveJournal::Commit(std::vector<Change>& changes,
+                         std::span<const SaveSet::Expectation> expected) {
   if (Heal()) {
     ThrowFileError(
         u"Прежняя запись прервалась; её файлы сейчас приведены в порядок. "
@@ -63,7 +71,10 @@ void SaveJournal::Commit(std::vector<Change>& changes) {
         QFile::decodeName(root_), ECANCELED);
   }
   try {
+    RefuseStale(expected);
     Stage(changes);
+    // Staging takes its time, and an editor minds no lock.
+    RefuseStale(expected);
     // One change is all or nothing by itself.
     if (changes.size() > 1) MakeFinal(changes);
   } catch (...) {
@@ -141,6 +152,7 @@ void SaveJournal::StageOne(size_t index, Change& change) {
 void SaveJournal::StageWrite(size_t index, Change& change) {
   const auto status = Status(change.path);
   unsigned mode = 0;
+  if (status && change.only_new) Check(EEXIST, change.path);
   if (status) {
     RefuseOtherThanFile(*status, change.path);
     Check(syscalls::KeepCopy(change.path, Old(index)), change.path);
@@ -175,7 +187,10 @@ void SaveJournal::CarryOut(std::span<const Change> changes) {
 void SaveJournal::MakeOne(size_t index, const Change& change) {
   switch (change.kind) {
     case Kind::kWrite:
-      if (Status(New(index))) Check(syscalls::Rename(New(index), change.path), change.path);
+      if (!Status(New(index))) break;
+      Check(change.only_new ? syscalls::RenameToNew(New(index), change.path)
+                            : syscalls::Rename(New(index), change.path),
+            change.path);
       break;
     case Kind::kDelete:
     case Kind::kDeleteTree:

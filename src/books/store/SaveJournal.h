@@ -18,8 +18,10 @@ class SaveJournal {
   explicit SaveJournal(const DataDir& data);
 
   // All changes or, when it throws, none. Where it first has to heal what a crash left it throws
-  // too ("cancelled"): the caller may have read files that were changed in part only.
-  void Commit(std::vector<SaveSet::Change>& changes);
+  // too ("cancelled"): the caller may have read files that were changed in part only. Throws
+  // StaleFile where a file is not as it is expected.
+  void Commit(std::vector<SaveSet::Change>& changes,
+              std::span<const SaveSet::Expectation> expected = {});
   void Recover();
 
  private:

@@ -41,6 +41,21 @@ void SaveSet::Write(const QString& path, QByteArray bytes) {
   }
 }
 
+void SaveSet::Write(const QString& path, QByteArray bytes, FileState& read) {
+  expected_.push_back({Target(path), read, &read});
+  Write(path, std::move(bytes));
+  LastChangeOf(expected_.back().path)->only_new = read.known && !read.exists;
+}
+
+void SaveSet::WriteNew(const QString& path, QByteArray bytes) {
+  Write(path, std::move(bytes));
+  changes_.back().only_new = true;
+}
+
+void SaveSet::Expect(const QString& path, const FileState& read) {
+  expected_.push_back({Target(path), read});
+}
+
 void SaveSet::WriteInPieces(const QString& path, Contents contents) {
   changes_.push_back({.kind = Kind::kWrite,
                       .path = Target(path),
@@ -51,7 +66,14 @@ void SaveSet::WriteInPieces(const QString& path, Contents contents) {
 
 void SaveSet::Append(const QString& path, QByteArrayView lines) {
   const Change* last = LastChangeOf(Target(path));
-  QByteArray bytes = last != nullptr && last->kind == Kind::kWrite ? last->bytes : data_.Read(path);
+  QByteArray bytes;
+  if (last != nullptr && last->kind == Kind::kWrite) {
+    bytes = last->bytes;
+  } else {
+    FileState read;
+    bytes = ReadWithState(data_, path, read);
+    Expect(path, read);
+  }
   // The last line of a file that was made by hand may lack its end.
   if (!bytes.isEmpty() && !bytes.endsWith("\r\n")) bytes.append("\r\n");
   Write(path, bytes.append(lines));
@@ -92,8 +114,17 @@ void SaveSet::RenameDirectory(const QString& from, const QString& to) {
 
 void SaveSet::Commit() {
   if (changes_.empty()) return;
-  SaveJournal(data_).Commit(changes_);
+  SaveJournal(data_).Commit(changes_, expected_);
+  for (const Expectation& expected : expected_) {
+    if (expected.written == nullptr) continue;
+    const Change* last = LastChangeOf(expected.path);
+    // What can't be looked at now is on the disk all the same; the next save will refuse.
+    *expected.written = {};
+    IgnoreErrors(
+        [&] { *expected.written = StateOfWritten(expected.path, Fingerprint(last->bytes)); });
+  }
   changes_.clear();
+  expected_.clear();
 }
 
 void SaveSet::Recover(const DataDir& data) { SaveJournal(data).Recover(); }

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "books/store/DataDir.h"
+#include "books/store/FileState.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -26,6 +27,13 @@ class SaveSet {
   // looked up on the disk as it is before the commit, so nothing inside a directory that the same
   // set renames may be named by its new path.
   void Write(const QString& path, QByteArray bytes);
+  // The same out of a working copy: the commit throws StaleFile where the file is no longer as it
+  // was read. Afterwards `read` is the state of what was written; it must live until then.
+  void Write(const QString& path, QByteArray bytes, FileState& read);
+  // A file that is not there yet: the commit throws filesystem_error (EEXIST) where one appeared.
+  void WriteNew(const QString& path, QByteArray bytes);
+  // A file that the changes were worked out from, and that is not written itself.
+  void Expect(const QString& path, const FileState& read);
   // Contents too long to lie in memory: made piece by piece during the commit; what making them
   // throws goes on to the caller, and nothing has changed then.
   using Contents = std::function<void(const ByteSink&)>;
@@ -55,6 +63,12 @@ class SaveSet {
     bool fresh = false;  // nothing stood at the path before
     QByteArray bytes;
     Contents contents = {};  // of a write, instead of the bytes
+    bool only_new = false;   // nothing may stand at the path
+  };
+  struct Expectation {
+    QByteArray path;
+    FileState state;
+    FileState* written = nullptr;  // gets the state of what was written
   };
 
  private:
@@ -63,6 +77,7 @@ class SaveSet {
 
   const DataDir& data_;
   std::vector<Change> changes_;
+  std::vector<Expectation> expected_;
 };
 
 }  // namespace kladez

@@ -41,8 +41,12 @@ bool OpenDatabase(Session& session, const DataDir& data) {
     session.base_path.clear();  // none is open
     return false;
   }
-  const auto warehouses = data.ReadIfAny(session.Path(u"склад.usd"_s));
-  session.warehouses = DecodeLines(warehouses.value_or(QByteArray()));
+  // Without the list, a missing one too, no name is known that a new list could be made of.
+  session.warehouses.clear();
+  IgnoreErrors([&] {
+    session.warehouses =
+        DecodeLines(ReadWithState(data, session.Path(u"склад.usd"_s), session.warehouses_file));
+  });
   session.currency_name = ShortCurrency(session, data);
   for (const PartyKind kind : kPartyKinds) session.Parties(kind) = PartyNames(session, data, kind);
   return true;

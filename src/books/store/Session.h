@@ -8,6 +8,7 @@
 #include <array>
 
 #include "books/store/DataDir.h"
+#include "books/store/FileState.h"
 #include "formats/PartyFile.h"
 
 namespace kladez {
@@ -20,7 +21,8 @@ struct Session {
   QString base_path;      // "0001\", empty while no Database is open; every path starts with it
   QString currency_name;  // short name of the main currency, "руб."
   QStringList warehouses;
-  QString chosen_base;  // path chosen in the catalogue; OpenDatabase makes it the base_path
+  FileState warehouses_file;  // склад.usd as the warehouses were read from it
+  QString chosen_base;        // path chosen in the catalogue; OpenDatabase makes it the base_path
   UserRole role = UserRole::kNone;
 
   bool IsOpen() const { return !base_path.isEmpty(); }

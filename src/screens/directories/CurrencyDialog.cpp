@@ -39,7 +39,7 @@ CurrencyDialog::CurrencyDialog(AppContext& context, QWidget* parent)
   layout->addLayout(NewEndingRow(ok, cancel));
   setTabOrder(fields_.back(), ok);
   setTabOrder(ok, cancel);
-  const Currency currency = LoadMainCurrency(context.data, context.session);
+  const Currency currency = LoadMainCurrency(context.data, context.session, file_);
   for (size_t i = 0; i < fields_.size(); ++i) fields_[i]->setText(currency.forms[i]);
   fields_.front()->setFocus();
   connect(ok, &QPushButton::clicked, this, &CurrencyDialog::Ok);
@@ -73,7 +73,7 @@ void CurrencyDialog::Ok() {
   Currency currency;
   for (size_t i = 0; i < fields_.size(); ++i) currency.forms[i] = fields_[i]->text();
   const bool saved =
-      Guarded(this, [&] { SaveMainCurrency(context_.data, context_.session, currency); });
+      Guarded(this, [&] { SaveMainCurrency(context_.data, context_.session, currency, file_); });
   if (saved) accept();
 }
 

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <array>
 
+#include "books/store/FileState.h"
 #include "ui/AppContext.h"
 
 class QGroupBox;
@@ -24,6 +25,7 @@ class CurrencyDialog : public QDialog {
   void Ok();
 
   AppContext& context_;
+  FileState file_;
   std::array<TextLine*, 8> fields_;  // in the order of the file
 };
 

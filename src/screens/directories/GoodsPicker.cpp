@@ -46,7 +46,8 @@ void GoodsPicker::showEvent(QShowEvent* event) {
 }
 
 void GoodsPicker::TickAnew() {
-  ticks_ = TickRows(browser_->Directory().Rows(), ReadMarks(context_.data, context_.session));
+  ticks_ =
+      TickRows(browser_->Directory().Rows(), ReadMarks(context_.data, context_.session, marks_));
   browser_->List()->viewport()->update();
 }
 
@@ -81,7 +82,8 @@ void GoodsPicker::done(int result) {
   // A medium that can't be written must not keep the user in the picker.
   Guarded(this, [this] {
     SaveSet save(context_.data);
-    save.Write(MarksPath(context_.session), WriteMarks(browser_->Directory().Rows(), ticks_));
+    save.Write(MarksPath(context_.session), WriteMarks(browser_->Directory().Rows(), ticks_),
+               marks_);
     save.Commit();
   });
   browser_->Filter()->Remember();

@@ -39,6 +39,7 @@ class GoodsPicker : public QDialog {
   const PickFor pick_for_;
   GoodsBrowser* browser_;
   QPushButton* Command7;  // "Выбрать"
+  FileState marks_;
   std::vector<bool> ticks_;
   std::optional<GoodsPick> pick_;
 };

@@ -77,7 +77,8 @@ TEST(GoodsMarks, MissingFileTicksNothing) {
   TempData temp;
   Session session;
   session.base_path = u"0001\\"_s;
-  EXPECT_EQ(ReadMarks(temp.Data(), session), QStringList());
+  FileState file;
+  EXPECT_EQ(ReadMarks(temp.Data(), session, file), QStringList());
 }
 
 }  // namespace

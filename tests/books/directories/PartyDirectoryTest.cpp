@@ -12,8 +12,8 @@ TEST(PartyDirectory, UnreadableFileIsNotTakenForAnEmptyList) {
       PartyDirectory(world.Data(), world.TheSession(), PartyKind::kSupplier).Rows().empty());
   // What leads out of the tree is refused rather than read or replaced.
   ASSERT_TRUE(QFile::link(u"/etc/hostname"_s, file));
-  PartyDirectory directory(world.Data(), world.TheSession(), PartyKind::kSupplier);
-  EXPECT_THROW(directory.Save(), std::filesystem::filesystem_error);
+  EXPECT_THROW(PartyDirectory(world.Data(), world.TheSession(), PartyKind::kSupplier),
+               std::filesystem::filesystem_error);
 }
 
 TEST(PartyDirectory, FailedSaveLeavesTheNamesOfTheSession) {

@@ -60,7 +60,8 @@ TEST_F(Prices, SavingWritesTicksAndTheListOfThatPlaceOnly) {
 }
 
 TEST_F(Prices, SavingInGoodsOnlyDropsTheGroupRows) {
-  store_.Save(store_.Load(kShop, 0, GoodsView::kGoodsOnly), kShop, 0);
+  PriceList list = store_.Load(kShop, 0, GoodsView::kGoodsOnly);
+  store_.Save(list, kShop, 0);
   EXPECT_EQ(temp_.Lines(u"0001\\Лавка\\PRICE\\0001.prc"_s),
             (QStringList{u"Чай"_s, u"пач."_s, u"45.00"_s, u"1.00"_s}));
 }

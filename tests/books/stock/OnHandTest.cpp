@@ -166,7 +166,8 @@ TEST_F(OnHandFiles, OnlyTheTextZeroDropsARow) {
 }
 
 TEST_F(OnHandFiles, ZeroingKeepsTheRowsThatHadStock) {
-  ZeroOnHand(Load(), temp_.Data(), session_, u"Лавка"_s);
+  OnHandList list = Load();
+  ZeroOnHand(list, temp_.Data(), session_, u"Лавка"_s);
   EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"0"_s, u"0"_s, u"Пуэр"_s, u"0"_s, u"0"_s}));
   EXPECT_EQ(Load().StatusText(), u"Итого наименований: 0     на сумму: 0.00"_s);
 }

@@ -100,6 +100,59 @@ TEST(SaveSet, WhatCannotBeDoneIsRefusedBeforeAnythingChanges) {
   }
 }
 
+// A working copy keeps what it read; whoever has written meanwhile is not written over.
+TEST(SaveSet, OnlyTheFileThatWasReadIsWrittenOver) {
+  using Step = std::function<void(const TempData&)>;
+  const Step nothing = [](auto&) {};
+  const struct {
+    const char* name;
+    int error;
+    bool missing;  // when the working copy is read
+    Step meanwhile;
+  } cases[] = {
+      {"untouched", 0, false, nothing},
+      {"written with the same bytes", 0, false, [](auto& t) { t.Put(u"a"_s, "old"); }},
+      {"changed", ESTALE, false, [](auto& t) { t.Put(u"a"_s, "newer"); }},
+      {"changed, as long as before", ESTALE, false, [](auto& t) { t.Put(u"a"_s, "OLD"); }},
+      {"gone", ESTALE, false, [](auto& t) { QFile::remove(t.Root() + u"/a"_s); }},
+      {"still missing", 0, true, nothing},
+      {"appeared", EEXIST, true, [](auto& t) { t.Put(u"a"_s, "newer"); }},
+  };
+  for (const bool expected_only : {false, true}) {
+    for (const auto& c : cases) {
+      TempData temp;
+      temp.Put(u"b"_s, "old");
+      if (!c.missing) temp.Put(u"a"_s, "old");
+      FileState read;
+      ReadIfThere(temp.Data(), u"a"_s, read);
+      c.meanwhile(temp);
+      const auto before = temp.Tree();
+      const auto save = [&](SaveSet& set) {
+        set.Write(u"b"_s, "new");
+        if (expected_only) {
+          set.Expect(u"a"_s, read);
+        } else {
+          set.Write(u"a"_s, "new", read);
+        }
+      };
+      EXPECT_EQ(CommitFailure(temp, save).error, c.error) << c.name;
+      if (c.error != 0) {
+        EXPECT_EQ(temp.Tree(), before) << c.name;
+        continue;
+      }
+      EXPECT_EQ(temp.Bytes(u"b"_s), "new");
+      EXPECT_EQ(CommitFailure(temp, save).error, 0) << c.name << ", saved a second time";
+    }
+  }
+}
+
+TEST(SaveSet, ANewFileIsWrittenAsNewOnly) {
+  TempData temp;
+  const auto save = [](SaveSet& set) { set.WriteNew(u"a"_s, "1"); };
+  EXPECT_EQ(CommitFailure(temp, save).error, 0);
+  EXPECT_EQ(CommitFailure(temp, save).error, EEXIST);
+}
+
 TEST(SaveSet, ReplacedFilesKeepTheirMode) {
   TempData temp;
   temp.Put(u"a"_s, "1");
