@@ -12,6 +12,7 @@
 #include "formats/LedgerFile.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
+#include "formats/TaxRatesFile.h"
 #include "formats/TextLines.h"
 
 using namespace kladez;
@@ -57,6 +58,7 @@ std::vector<Seed> Seeds() {
       {"shipments", WriteDocument(DocumentKind::kShipment, SampleDocument({}))},
       {"transfers", WriteDocument(DocumentKind::kTransfer, SampleDocument(u"Лавка"_s))},
       {"currency", WriteCurrency(RoubleCurrency())},
+      {"taxrates", WriteTaxRates({u"20"_s, u"5"_s})},
       {"descriptor", WriteDescriptor({u"0001\\"_s, u"Магазин"_s})},
       {"backup", WriteBackupIndex({{u"0001.us"_s, {u"0001\\"_s, u"Магазин"_s}}})},
       {"manifest", ManifestBytes(changes, "/d")},

@@ -18,6 +18,7 @@
 #include "formats/Ordering.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
+#include "formats/TaxRatesFile.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -86,6 +87,12 @@ void Documents(QByteArrayView bytes) {
 }
 
 void Currencies(QByteArrayView bytes) { RequireStable(bytes, ReadCurrency, WriteCurrency); }
+
+void TaxRateFiles(QByteArrayView bytes) {
+  const auto rates = ReadTaxRates(bytes);
+  Require(!rates || ReadTaxRates(WriteTaxRates(*rates)) == rates,
+          "rates that were read are written and read as the same");
+}
 
 void Descriptors(QByteArrayView bytes) { RequireStable(bytes, ReadDescriptor, WriteDescriptor); }
 
@@ -176,6 +183,7 @@ constexpr FuzzTarget kTargets[] = {
     {"shipments", Documents<DocumentKind::kShipment>},
     {"transfers", Documents<DocumentKind::kTransfer>},
     {"currency", Currencies},
+    {"taxrates", TaxRateFiles},
     {"descriptor", Descriptors},
     {"backup", Backups},
     {"manifest", Manifests},

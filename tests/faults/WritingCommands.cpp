@@ -175,8 +175,11 @@ std::vector<WritingCommand> DirectoryCommands() {
          FileState file;
          Currency currency = LoadMainCurrency(books.Data(), books.Opened(), file);
          currency.forms[0] = u"р."_s;
+         FileState rates_file;
+         LoadTaxRates(books.Data(), books.Opened(), rates_file);
          return [=, &books]() mutable {
-           SaveMainCurrency(books.Data(), books.Opened(), currency, file);
+           SaveMainCurrency(books.Data(), books.Opened(), currency, file, {u"20"_s, {}},
+                            rates_file);
          };
        }},
   };

@@ -11,6 +11,7 @@
 #include "formats/LedgerFile.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
+#include "formats/TaxRatesFile.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -62,6 +63,8 @@ TEST(FileFormats, WellFormedFilesKeepEveryByte) {
       {"document without lines", document(DocumentKind::kReceipt), File("1\n\n\n0.00\nда\n")},
       {"currency", [](auto& b) { return WriteCurrency(ReadCurrency(b)); },
        WriteCurrency(RoubleCurrency())},
+      {"tax rates", [](auto& b) { return WriteTaxRates(*ReadTaxRates(b)); },
+       File("НДС, %\n20\nНСП, %\n\n")},
       {"descriptor", [](auto& b) { return WriteDescriptor(ReadDescriptor(b)); },
        File("0001\\\nМагазин на Садовой\n")},
       {"backup", [](auto& b) { return WriteBackupIndex(ReadBackupIndex(b)); },
@@ -73,6 +76,14 @@ TEST(FileFormats, WellFormedFilesKeepEveryByte) {
       {"empty backup", [](auto& b) { return WriteBackupIndex(ReadBackupIndex(b)); }, {}},
   };
   for (const auto& c : cases) EXPECT_EQ(c.rewrite(c.bytes), c.bytes) << c.name;
+}
+
+TEST(FileFormats, TaxRatesThatAreCutOrNoNumbersAreNone) {
+  EXPECT_EQ(ReadTaxRates(File("Акциз\n3\nНСП, %\n5\nНДС, %\n20\n")), (TaxRates{u"20"_s, u"5"_s}));
+  for (const char* damaged :
+       {"", "НДС, %\n20\nНСП, %", "НДС, %\n20\n", "НДС, %\nмного\nНСП, %\n0\n"}) {
+    EXPECT_EQ(ReadTaxRates(File(damaged)), std::nullopt) << damaged;
+  }
 }
 
 TEST(FileFormats, GoodsStandUnderTheirGroupsWithAReadablePrice) {

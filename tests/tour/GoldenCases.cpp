@@ -194,6 +194,12 @@ std::vector<GoldenCase> DirectoryCases() {
        Click(u"ok"_s),
        Changed(kBase + "currency.usd",
                u"р.\nрубль\nрубля\nрублей\nкоп.\nкопейка\nкопейки\nкопеек"_s)},
+      {"currenc", "валюта: ставки налогов",
+       Menu(u"mnu_Sprav_OV"_s, u"currenc"_s) >>
+           [](Robot& robot) { robot.Type(u"vat"_s, u"20,5"_s); },
+       Click(u"ok"_s),
+       Empty(kBase + "kladez/") +
+           Changed(kBase + "kladez/ставки.usd", u"НДС, %\n20.5\nНСП, %\n"_s)},
   };
 }
 

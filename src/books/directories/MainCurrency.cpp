@@ -1,5 +1,6 @@
 #include "books/directories/MainCurrency.h"
 
+#include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
 
 namespace kladez {
@@ -9,10 +10,24 @@ Currency LoadMainCurrency(const DataDir& data, const Session& session, FileState
   return file.exists ? ReadCurrency(bytes) : RoubleCurrency();
 }
 
+std::optional<TaxRates> LoadTaxRates(const DataDir& data, const Session& session, FileState& file) {
+  std::optional<TaxRates> rates;
+  IgnoreErrors([&] {
+    const QByteArray bytes = ReadIfThere(data, session.Path(kTaxRatesPath), file);
+    rates = file.exists ? ReadTaxRates(bytes) : TaxRates();
+  });
+  return rates;
+}
+
 void SaveMainCurrency(const DataDir& data, Session& session, const Currency& currency,
-                      FileState& file) {
+                      FileState& file, const TaxRates& rates, FileState& rates_file) {
   SaveSet save(data);
   save.Write(session.Path(u"currency.usd"), WriteCurrency(currency), file);
+  FileState now;
+  if (LoadTaxRates(data, session, now) != rates) {
+    save.MakeDirectory(session.Path(kOwnDirectory));
+    save.Write(session.Path(kTaxRatesPath), WriteTaxRates(rates), rates_file);
+  }
   save.Commit();
   session.currency_name = currency.ShortForm();
 }

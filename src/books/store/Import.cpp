@@ -11,6 +11,7 @@
 #include "formats/CurrencyFile.h"
 #include "formats/Ordering.h"
 #include "formats/PartyFile.h"
+#include "formats/TaxRatesFile.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -37,6 +38,10 @@ class Gathering {
       CopyFile(u"currency.spr"_s);
     } else {
       IgnoreErrors([&] { Write(u"currency.usd"_s, WriteCurrency(RoubleCurrency())); });
+    }
+    if (data_.FileExists(source_ + kTaxRatesPath)) {
+      MakeDirectory(kOwnDirectory.toString());
+      CopyFile(kTaxRatesPath.toString());
     }
   }
 

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "books/directories/MainCurrency.h"
+#include "books/printing/DocumentTotals.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Guard.h"
@@ -35,9 +36,10 @@ CurrencyDialog::CurrencyDialog(AppContext& context, QWidget* parent)
   look::SetDialogMargins(layout);
   layout->addWidget(NewFrame(u"Старшая часть"_s, u"major"_s, 0));
   layout->addWidget(NewFrame(u"Младшая часть"_s, u"minor"_s, kFormsOfUnit));
+  layout->addWidget(NewTaxes());
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
-  setTabOrder(fields_.back(), ok);
+  setTabOrder(sales_tax_, ok);
   setTabOrder(ok, cancel);
   const Currency currency = LoadMainCurrency(context.data, context.session, file_);
   for (size_t i = 0; i < fields_.size(); ++i) fields_[i]->setText(currency.forms[i]);
@@ -69,11 +71,59 @@ QGroupBox* CurrencyDialog::NewFrame(const QString& title, const QString& name, i
   return frame;
 }
 
+QGroupBox* CurrencyDialog::NewTaxes() {
+  auto* frame = new QGroupBox(u"Налоги в печатных формах"_s, this);
+  frame->setObjectName(u"taxes"_s);
+  auto* grid = new QGridLayout(frame);
+  look::SetDialogMargins(grid);
+  grid->setColumnStretch(3, 1);
+  const std::optional<TaxRates> rates = LoadTaxRates(context_.data, context_.session, rates_file_);
+  const TaxRates known = rates.value_or(TaxRates());
+  const PrintParameters papers;
+  const auto add = [&](const QString& name, const QString& caption, const QString& percent,
+                       const QString& otherwise) {
+    auto* field = new TextLine(frame);
+    field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    field->setFixedWidth(8 * look::kGrid);
+    field->setObjectName(name);
+    field->setText(percent);
+    auto* label = new QLabel(caption, frame);
+    label->setBuddy(field);
+    auto* example = new QLabel(u"(пусто: "_s + otherwise + u')', frame);
+    look::MakeQuiet(example);
+    const int row = grid->rowCount();
+    grid->addWidget(label, row, 0);
+    grid->addWidget(field, row, 1);
+    grid->addWidget(example, row, 2);
+    return field;
+  };
+  vat_ = add(u"vat"_s, u"Н&ДС, %:"_s, known.vat, papers.vat);
+  sales_tax_ = add(u"sales_tax"_s, u"Н&СП, %:"_s, known.sales_tax, papers.sales_tax);
+  if (!rates) {
+    auto* damaged = new QLabel(u"Файл ставок повреждён: запишите их снова."_s, frame);
+    damaged->setObjectName(u"no_taxes"_s);
+    look::MakeWarning(damaged);
+    grid->addWidget(damaged, grid->rowCount(), 0, 1, -1);
+  }
+  return frame;
+}
+
 void CurrencyDialog::Ok() {
   Currency currency;
   for (size_t i = 0; i < fields_.size(); ++i) currency.forms[i] = fields_[i]->text();
-  const bool saved =
-      Guarded(this, [&] { SaveMainCurrency(context_.data, context_.session, currency, file_); });
+  TaxRates rates;
+  const struct {
+    const TextLine* field;
+    QString TaxRates::*percent;
+  } taxes[] = {{vat_, &TaxRates::vat}, {sales_tax_, &TaxRates::sales_tax}};
+  for (const auto& [field, percent] : taxes) {
+    const std::optional<QString> kept = TaxPercent(field->text());
+    if (!kept) return ShowError(this, u"Ставка налога «"_s + field->text() + u"» - не число."_s);
+    rates.*percent = *kept;
+  }
+  const bool saved = Guarded(this, [&] {
+    SaveMainCurrency(context_.data, context_.session, currency, file_, rates, rates_file_);
+  });
   if (saved) accept();
 }
 

@@ -1,4 +1,5 @@
-// "Основная валюта": the words of the main currency.
+// "Основная валюта" ("currenc"): the words of the main currency, and the tax rates that papers open
+// with.
 #pragma once
 
 #include <QDialog>
@@ -22,11 +23,15 @@ class CurrencyDialog : public QDialog {
 
  private:
   QGroupBox* NewFrame(const QString& title, const QString& name, int first);
+  QGroupBox* NewTaxes();
   void Ok();
 
   AppContext& context_;
   FileState file_;
+  FileState rates_file_;
   std::array<TextLine*, 8> fields_;  // in the order of the file
+  TextLine* vat_;
+  TextLine* sales_tax_;
 };
 
 }  // namespace kladez

@@ -101,6 +101,15 @@ TEST_F(ImportTest, CurrencyOfTheSourceIsNeverCopied) {
                                       .toStdString()}}));
 }
 
+TEST_F(ImportTest, TaxRatesComeWithTheCurrency) {
+  temp_.PutLines(u"0002\\kladez\\ставки.usd"_s, {u"НДС, %"_s, u"20"_s});
+  const Tree before = temp_.Tree();
+  Import({Area::kGoods, Area::kCurrency});
+  EXPECT_EQ(Changed(before), (Tree{{"0001/SPR/товар.spr", Foreign(u"товары"_s)},
+                                   {"0001/kladez/", ""},
+                                   {"0001/kladez/ставки.usd", "\xCD\xC4\xD1, %\r\n20\r\n"}}));
+}
+
 TEST_F(ImportTest, StockBringsTheSourcesWarehousesWithTheirDirectories) {
   temp_.PutLines(u"0002\\склад.usd"_s, {u"Главный склад"_s, u"Киоск"_s, u"Без остатков"_s});
   temp_.PutLines(u"0002\\Главный склад\\товар.usl"_s, {u"Чай"_s, u"5"_s, u"шт"_s});

@@ -1,5 +1,6 @@
 // Parties, warehouses and the main currency.
 #include "books/directories/DirectoryWorld.h"
+#include "books/directories/MainCurrency.h"
 #include "screens/directories/CurrencyDialog.h"
 #include "screens/directories/WarehousesDialog.h"
 #include "screens/directories/sprFirm.h"
@@ -177,6 +178,32 @@ TEST(currencTest, OkWritesEightLinesAndTheShortForm) {
   Click(&screen, "ok");
   world.ExpectChanged({{"0001/currency.usd", forms}});
   EXPECT_EQ(world.TheSession().currency_name, u"тг."_s);
+}
+
+TEST(currencTest, TaxRatesAreKeptBesideTheCurrencyAndEmptiedAgain) {
+  DirectoryWorld world;
+  const auto type = [&](const QString& vat) {
+    CurrencyDialog screen(world.Context());
+    ShowActive(&screen);
+    auto* field = Find<QLineEdit>(&screen, "vat");
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete);
+    Type(field, vat);
+    Click(&screen, "ok");
+    return !screen.isVisible();
+  };
+  const auto kept = [&] {
+    FileState file;
+    return LoadTaxRates(world.Context().data, world.TheSession(), file);
+  };
+  EXPECT_TRUE(type(u"20,5"_s));
+  EXPECT_EQ(kept(), (TaxRates{u"20.5"_s, {}}));
+  {
+    ModalAnswers answers({Press(QMessageBox::Ok, u"Ставка налога «много» - не число."_s)});
+    EXPECT_FALSE(type(u"много"_s));
+  }
+  EXPECT_TRUE(type({}));
+  EXPECT_EQ(kept(), TaxRates());
 }
 
 TEST(currencTest, FailedSaveAndCancelChangeNothing) {
