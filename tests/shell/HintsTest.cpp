@@ -78,7 +78,7 @@ TEST(Hints, NoPlaceOfTheTableIsLostOrDoubled) {
     }
   }
   EXPECT_EQ(ScreensWithHints().size(), 28);
-  EXPECT_EQ(different.size(), 85u);
+  EXPECT_EQ(different.size(), 87u);
   EXPECT_EQ(HintPlaces(u"Main").size(), 20);
   EXPECT_GE(places, 145);
 }

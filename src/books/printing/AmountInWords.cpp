@@ -57,6 +57,16 @@ int FormAfter(QChar tens, QChar ones) {
   return ones >= u'2' && ones <= u'4' ? 1 : 2;
 }
 
+// The blank in the place of a sign makes two characters of an amount under ten kopecks.
+QString KopecksOf(const QString& amount) {
+  const QString kopecks = GeneralText(ParseLenient(amount) * 100);
+  return kopecks.startsWith(u'-') ? kopecks : u' ' + kopecks;
+}
+
+QString WholeOf(const QString& kopecks) { return kopecks.chopped(2).trimmed(); }
+
+constexpr int kSpelledDigits = 9;
+
 }  // namespace
 
 QString GroupToWords(QStringView group, int position, const Currency& currency) {
@@ -77,11 +87,9 @@ QString GroupToWords(QStringView group, int position, const Currency& currency) 
 }
 
 QString AmountInWords(const QString& amount, const Currency& currency) {
-  QString kopecks = GeneralText(ParseLenient(amount) * 100);
-  // The blank in the place of a sign makes two characters of an amount under ten kopecks.
-  if (!kopecks.startsWith(u'-')) kopecks.prepend(u' ');
+  const QString kopecks = KopecksOf(amount);
   const QString fraction = kopecks.right(2);
-  const QString whole = kopecks.chopped(2).trimmed().rightJustified(9, u'0');
+  const QString whole = WholeOf(kopecks).rightJustified(kSpelledDigits, u'0');
 
   QString words;
   for (int position = 1; position <= 3; ++position) {
@@ -93,6 +101,11 @@ QString AmountInWords(const QString& amount, const Currency& currency) {
   // currency of another first letter the name stays.
   if (words.startsWith(u'Р')) words.clear();
   return words + fraction + u' ' + unit;
+}
+
+bool WordsAreCut(const QString& amount) {
+  // A sign stands among the digits and pushes the last of them out.
+  return WholeOf(KopecksOf(amount)).size() > kSpelledDigits;
 }
 
 }  // namespace kladez

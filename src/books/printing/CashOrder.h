@@ -19,9 +19,14 @@ struct CashOrder {
   QString included;  // "НДС: 180.00 руб. НСП: 0.00 руб."
 };
 
-// Fills the order for a document; the discount of the parameters takes no part. Throws InputError
-// for a total or parameter that is no number; what was filled until then stays.
-void FillCashOrder(const PrintSource& source, const QString& firm, PrintParameters parameters,
-                   const QString& rub, const Currency& currency, CashOrder& order);
+// The discount in an order for a document: none, unless it is asked for.
+enum class OrderDiscount { kNone, kOfDocument };
+QString DiscountOf(const PrintSource& source, OrderDiscount discount);
+
+// Fills the order for a document; the discount of the parameters is that of DiscountOf. Throws
+// InputError for a total or parameter that is no number; what was filled until then stays.
+void FillCashOrder(const PrintSource& source, const QString& firm,
+                   const PrintParameters& parameters, const QString& rub, const Currency& currency,
+                   CashOrder& order);
 
 }  // namespace kladez

@@ -8,9 +8,10 @@ namespace kladez {
 namespace {
 
 // The amount that taxes are taken from, not rounded.
-double LessDiscount(const QString& before, const QString& discount) {
+double LessDiscount(const QString& before, const PrintParameters& parameters) {
   const double amount = FieldNumber(before);
-  return amount - amount * FieldNumber(discount) / 100;
+  const double discount = TypedNumber(parameters.discount);
+  return parameters.discount_in_prices ? amount : amount - amount * discount / 100;
 }
 
 QString TaxText(double tax, const TaxStyle& style) {
@@ -20,21 +21,21 @@ QString TaxText(double tax, const TaxStyle& style) {
 }  // namespace
 
 QString TotalBefore(const QString& total, const PrintParameters& parameters) {
-  return FormatMoney(FieldNumber(total) * FieldNumber(parameters.percent) / 100 *
-                     FieldNumber(parameters.rate));
+  return FormatMoney(FieldNumber(total) * TypedNumber(parameters.percent) / 100 *
+                     TypedNumber(parameters.rate));
 }
 
-QString AmountDue(const QString& before, const QString& discount) {
-  return FormatMoney(LessDiscount(before, discount));
+QString AmountDue(const QString& before, const PrintParameters& parameters) {
+  return FormatMoney(LessDiscount(before, parameters));
 }
 
 void FillTotals(const PrintParameters& parameters, const TaxStyle& style, const Currency& currency,
                 TotalTexts& totals) {
-  totals.words = AmountDue(totals.before, parameters.discount);
-  const double amount = LessDiscount(totals.before, parameters.discount);
-  const double vat = FieldNumber(parameters.vat);
+  totals.words = AmountDue(totals.before, parameters);
+  const double amount = LessDiscount(totals.before, parameters);
+  const double vat = TypedNumber(parameters.vat);
   totals.vat = TaxText(amount / (vat + 100) * vat, style);
-  totals.sales_tax = TaxText(amount * FieldNumber(parameters.sales_tax) / 100, style);
+  totals.sales_tax = TaxText(amount * TypedNumber(parameters.sales_tax) / 100, style);
   totals.words = AmountInWords(totals.words, currency);
 }
 

@@ -8,14 +8,17 @@
 
 namespace kladez {
 
-// The fields under "Параметры", as typed. A screen opens with these values; its rate comes from the
-// settings, and its discount is the document's where it has one.
+// The fields under "Параметры", as typed; a comma in them is a point. A screen opens with these
+// values; its rate comes from the settings, its discount is the document's where it has one, and
+// its taxes are those of the Database where that has some.
 struct PrintParameters {
   QString percent = QStringLiteral("100");  // of the document's prices
   QString rate = QStringLiteral("1");       // of the dollar: multiplies every amount
   QString discount = QStringLiteral("0");   // percent
   QString vat = QStringLiteral("18");       // percent, contained in the amount
   QString sales_tax = QStringLiteral("0");  // percent
+  // The discount is taken once, in the prices of the lines, and not off their total again.
+  bool discount_in_prices = false;
 };
 
 // The texts that the screens show and the pages print.
@@ -53,7 +56,7 @@ struct TickedText {
 QString TotalBefore(const QString& total, const PrintParameters& parameters);
 
 // "Итого к оплате:" in figures: "Всего:" less the discount, "#0.00". Throws InputError.
-QString AmountDue(const QString& before, const QString& discount);
+QString AmountDue(const QString& before, const PrintParameters& parameters);
 
 // Fills the taxes and the words from `totals.before`. Throws InputError for a field that is no
 // number; what was worked out until then stays.

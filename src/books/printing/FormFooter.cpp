@@ -16,9 +16,12 @@ void WriteFooter(PageWriter& page, const FormFooter& footer) {
   const PaperSums& sums = footer.sums;
   const TotalTexts& totals = sums.totals;
   if (footer.tells_total) italic(u"Всего: "_s + amount(totals.before));
-  if (footer.tells_discount) italic(u"Скидка: "_s + sums.parameters.discount + u'%');
+  if (footer.tells_discount) {
+    const QString where = sums.parameters.discount_in_prices ? u" (учтена в ценах)"_s : QString();
+    italic(u"Скидка: "_s + sums.parameters.discount + u'%' + where);
+  }
   if (footer.tells_due) {
-    const QString due = AmountDue(totals.before, sums.parameters.discount);
+    const QString due = AmountDue(totals.before, sums.parameters);
     italic(u"Итого к оплате: "_s + amount(due) + u',');
     if (sums.with_vat) italic(u"включая НДС: "_s + totals.vat);
     if (sums.with_sales_tax) italic(u"              НСП: "_s + totals.sales_tax);

@@ -12,4 +12,6 @@ double FieldNumber(QStringView text) {
   return *number;
 }
 
+double TypedNumber(const QString& text) { return FieldNumber(UngroupedNumber(text)); }
+
 }  // namespace kladez

@@ -14,5 +14,7 @@ class InputError : public std::runtime_error {
 
 // The strict parse of a field; throws InputError. An empty field is no number.
 double FieldNumber(QStringView text);
+// The same for what a person types into a free field, where a comma is the point.
+double TypedNumber(const QString& text);
 
 }  // namespace kladez

@@ -10,7 +10,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 InvoiceRow RowOf(const DocumentLine& line, double factor, const QString& vat) {
-  const double rate = FieldNumber(vat);
+  const double rate = TypedNumber(vat);
   const double price = FieldNumber(line.price) * factor;
   InvoiceRow row;
   row.name = line.name;
@@ -39,10 +39,10 @@ void FindOrigin(const QStringList& goods, InvoiceRow& row) {
 }  // namespace
 
 double InvoiceFactor(InvoiceCurrency currency, const PrintParameters& parameters) {
-  const double percent = FieldNumber(parameters.percent);
-  const double rate = FieldNumber(parameters.rate);
+  const double percent = TypedNumber(parameters.percent);
+  const double rate = TypedNumber(parameters.rate);
   if (currency == InvoiceCurrency::kDollars) return percent / 100 * rate;
-  return (percent - FieldNumber(parameters.discount)) / 100 * rate;
+  return (percent - TypedNumber(parameters.discount)) / 100 * rate;
 }
 
 void FillInvoiceTotals(InvoiceCurrency currency, const QString& total,

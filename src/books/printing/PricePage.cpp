@@ -114,6 +114,19 @@ StockByName LoadStockByName(const DataDir& data, const Session& session,
   return stock;
 }
 
+QString PriceEffectText(const PricePageOptions& options) {
+  QStringList effects;
+  if (options.purchase && options.purchase_percent != 100) {
+    effects.append(u"цена закупа "_s + GeneralText(options.purchase_percent) + u'%');
+  }
+  if (options.sale && options.sale_percent != 100) {
+    effects.append(u"цена реализации "_s + GeneralText(options.sale_percent) + u'%');
+  }
+  QString text = effects.join(u", "_s);
+  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  return text;
+}
+
 QByteArray PricePage(const PricePageRows& rows, const StockByName& stock,
                      const PricePageOptions& options) {
   PageWriter page(u"Прайс-лист"_s);

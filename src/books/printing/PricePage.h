@@ -54,6 +54,10 @@ using StockByName = QHash<QString, QString>;
 StockByName LoadStockByName(const DataDir& data, const Session& session,
                             const QStringList& warehouses);
 
+// The prices that are printed at another percentage than 100: "Цена закупа 150%, цена реализации
+// 50%"; nothing where there are none.
+QString PriceEffectText(const PricePageOptions& options);
+
 QByteArray PricePage(const PricePageRows& rows, const StockByName& stock,
                      const PricePageOptions& options);
 

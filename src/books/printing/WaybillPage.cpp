@@ -40,7 +40,7 @@ const WaybillKind& KindOf(DocumentKind kind) {
 }
 
 void WriteHead(PageWriter& page, const WaybillForm& form, const WaybillKind& kind) {
-  if (FieldNumber(form.sums.parameters.rate) > 1) {
+  if (TypedNumber(form.sums.parameters.rate) > 1) {
     page.Line(u"<FONT FACE=Arial SIZE=1>Курс USD: "_s + form.sums.parameters.rate + u' ' +
               form.sums.rub + u"</FONT><br><br>"_s);
   }
@@ -70,8 +70,8 @@ void WriteLines(PageWriter& page, const WaybillForm& form, const WaybillKind& ki
   page.Row({CenterCell(u"N"_s, 5), NameCell(u"Наименование"_s, 65), NumberCell(u"Кол-во"_s, 10),
             NumberCell(u"Цена"_s, 10), NumberCell(u"Сумма"_s, 10)},
            {.size = 4});
-  const double percent = FieldNumber(form.sums.parameters.percent);
-  const double rate = FieldNumber(form.sums.parameters.rate);
+  const double percent = TypedNumber(form.sums.parameters.percent);
+  const double rate = TypedNumber(form.sums.parameters.rate);
   size_t row = 0;
   for (const DocumentLine& line : form.lines) {
     ++row;

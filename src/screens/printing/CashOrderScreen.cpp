@@ -1,5 +1,6 @@
 #include "screens/printing/CashOrderScreen.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -61,8 +62,11 @@ class SheetView : public QWidget {
 
 CashOrderScreen::CashOrderScreen(AppContext& context, const PrintSource& source, QWidget* parent)
     : PrintDialog(context, source, u"PrihPrint"_s, parent),
-      parameters_(*this, kOrderParameters, {},
-                  {.reload = [this] { Reload(); }, .recount = [this] { Reload(); }}) {
+      parameters_(*this, kOrderParameters, Start(),
+                  {.reload = [this] { Reload(); }, .recount = [this] { Reload(); }}),
+      with_discount_(NewKeptTick(u"with_discount"_s, u"С&о скидкой"_s, settings::kOrderDiscount,
+                                 [this] { Reload(); })),
+      notes_(*this, parameters_) {
   setWindowTitle(u"Приходный кассовый ордер"_s);
   Build();
   Reload();
@@ -97,7 +101,10 @@ QWidget* CashOrderScreen::NewSheet() {
 QWidget* CashOrderScreen::NewParametersFrame() {
   auto* frame = new QGroupBox(this);
   frame->setObjectName(u"Frame1"_s);
-  frame->setLayout(parameters_.NewGrid(4));
+  QGridLayout* grid = parameters_.NewGrid(4);
+  grid->addLayout(SideBySide({with_discount_, NewHint(u"Со скидкой", {with_discount_})}), 1, 0, 1,
+                  -1, Qt::AlignLeft);
+  frame->setLayout(grid);
   return frame;
 }
 
@@ -109,8 +116,10 @@ void CashOrderScreen::Build() {
   scroll->setAlignment(Qt::AlignCenter);
   layout->addWidget(scroll, 1);
   layout->addWidget(NewParametersFrame());
+  layout->addWidget(notes_.WordsNote());
   auto* print = NewCommand(this, u"Command2"_s, u"&Печать"_s, look::IconName::kPrint);
   auto* close = NewCommand(this, u"Command1"_s, u"&Закрыть"_s);
+  layout->addLayout(notes_.NewRows());
   layout->addLayout(NewEndingRow(print, close));
   connect(print, &QPushButton::clicked, this, &CashOrderScreen::Print);
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -129,11 +138,22 @@ void CashOrderScreen::Reload() {
 
 void CashOrderScreen::Load() {
   parameters_.Load();
+  notes_.Clear();
   CashOrder order;
   // A failure on the way leaves what was filled on the screen.
   const auto show = qScopeGuard([&] { Show(order); });
-  FillCashOrder(Source(), FirstFirm(), parameters_.Read(), Context().session.currency_name,
+  PrintParameters parameters = parameters_.Read();
+  const auto discount_of = [this](bool with) {
+    return DiscountOf(Source(), with ? OrderDiscount::kOfDocument : OrderDiscount::kNone);
+  };
+  parameters.discount = discount_of(with_discount_->isChecked());
+  FillCashOrder(Source(), FirstFirm(), parameters, Context().session.currency_name,
                 ReadCurrencyForms(), order);
+  notes_.Show({.total = Source().total,
+               .parameters = parameters,
+               .due = order.sum,
+               .waybill_discount = discount_of(true)},
+              true);
 }
 
 void CashOrderScreen::Show(const CashOrder& order) {

@@ -7,9 +7,11 @@
 
 #include "books/printing/CashOrder.h"
 #include "screens/printing/CashOrderSheet.h"
+#include "screens/printing/NoteBlock.h"
 #include "screens/printing/ParametersBlock.h"
 #include "screens/printing/PrintDialog.h"
 
+class QCheckBox;
 class QPrinter;
 
 namespace kladez {
@@ -36,6 +38,8 @@ class CashOrderScreen : public PrintDialog {
 
   QHash<QString, QWidget*> fields_;
   ParametersBlock parameters_;
+  QCheckBox* const with_discount_;
+  NoteBlock notes_;
 };
 
 }  // namespace kladez

@@ -44,8 +44,8 @@ constexpr ParameterField kInvoiceParameters[] = {
     {u"Text8", u"Н&СП:", u"НСП", &P::sales_tax, &settings::kSalesTax},
 };
 
-PrintParameters InvoiceStart() {
-  PrintParameters start;
+PrintParameters InvoiceStart(const PrintDialog& dialog) {
+  PrintParameters start = dialog.Start();
   start.discount = ParametersBlock::kFree.toString();
   return start;
 }
@@ -76,13 +76,16 @@ InvoiceScreen::InvoiceScreen(AppContext& context, InvoiceKind kind, const PrintS
           NewTicked(this, u"Check8"_s, u"К плате&жно-расчетному документу N:"_s, u"Text12"_s)),
       payment_date_(NewTicked(this, u"Check12"_s, u"от:"_s, u"Text13"_s)),
       note_(NewText(this, u"Text33"_s)),
-      parameters_(*this, kInvoiceParameters, InvoiceStart(),
+      parameters_(*this, kInvoiceParameters, InvoiceStart(*this),
                   {.reload = [this] { Reload(); },
                    .recount = [this] { Attempt([this] { LoadTotals(); }); }}),
+      discount_once_(NewKeptTick(u"discount_once"_s, u"С&кидка один раз"_s, settings::kDiscountOnce,
+                                 [this] { Attempt([this] { LoadTotals(); }); })),
       totals_(*this, TotalsBlock::Taxes::kShown),
       director_(NewText(this, u"Text34"_s)),
       accountant_(NewText(this, u"Text36"_s)),
-      trader_(NewText(this, u"Text35"_s)) {
+      trader_(NewText(this, u"Text35"_s)),
+      notes_(*this, parameters_) {
   setWindowTitle(TextOf(kind).title.toString());
   Build();
   Reload();
@@ -131,10 +134,15 @@ void InvoiceScreen::BuildSheet(QWidget* sheet) {
   blocks->addLayout(parties);
   blocks->addLayout(NewPaymentBlock());
   auto* sums = new Columns(look::kGrid);
-  sums->Add(NewBoxOf(this, u"Параметры"_s, parameters_.NewGrid(2)));
+  auto* parameters = new QVBoxLayout;
+  parameters->addLayout(parameters_.NewGrid(2));
+  parameters->addLayout(
+      SideBySide({discount_once_, NewHint(u"Скидка один раз", {discount_once_})}));
+  sums->Add(NewBoxOf(this, u"Параметры"_s, parameters));
   sums->Add(NewBoxOf(this, u"Итоги"_s, totals_.NewFiguresGrid()));
   blocks->addLayout(sums);
   blocks->addLayout(totals_.NewWordsGrid());
+  blocks->addWidget(notes_.WordsNote());
   blocks->addWidget(NewSignatureBlock());
   blocks->addStretch(1);
 }
@@ -150,6 +158,9 @@ void InvoiceScreen::Build() {
   layout->setContentsMargins(0, 0, 0, look::kMargin);
   layout->addWidget(scroll);
   layout->addWidget(look::NewSeparator(this));
+  QLayout* notes = notes_.NewRows();
+  notes->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
+  layout->addLayout(notes);
   QBoxLayout* row = NewCommands(u"П&ечать"_s, [this] { Print(); });
   row->insertWidget(0, NewHelpCommand(this, Context().data, u"uhodchfakt.htm", u"Command5"));
   row->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
@@ -163,6 +174,12 @@ void InvoiceScreen::Build() {
 
 InvoiceCurrency InvoiceScreen::PageCurrency() const {
   return in_dollars_->isChecked() ? InvoiceCurrency::kDollars : InvoiceCurrency::kRoubles;
+}
+
+PrintParameters InvoiceScreen::Parameters() const {
+  PrintParameters parameters = parameters_.Read();
+  parameters.discount_in_prices = discount_once_->isChecked() && !in_dollars_->isChecked();
+  return parameters;
 }
 
 void InvoiceScreen::Reload() {
@@ -188,14 +205,21 @@ void InvoiceScreen::Load() {
 
 void InvoiceScreen::LoadTotals() {
   rows_ready_ = false;
+  notes_.Clear();
+  discount_once_->setEnabled(PageCurrency() == InvoiceCurrency::kRoubles);
   const PrintSource& source = Source();
   totals_.Fill([&](TotalTexts& totals) {
-    const PrintParameters parameters = parameters_.Read();
+    const PrintParameters parameters = Parameters();
     FillInvoiceTotals(PageCurrency(), source.total, parameters, Context().session.currency_name,
                       ReadCurrencyForms(), totals);
     rows_ = InvoiceRows(source.lines, InvoiceFactor(PageCurrency(), parameters), parameters.vat,
                         FileOf(u"spr\\товар.spr"_s));
     rows_ready_ = true;
+    notes_.Show({.total = source.total,
+                 .parameters = parameters,
+                 .due = AmountDue(totals.before, parameters),
+                 .waybill_discount = parameters.discount},
+                PageCurrency() == InvoiceCurrency::kRoubles);
   });
 }
 
@@ -223,7 +247,7 @@ InvoiceForm InvoiceScreen::Form() const {
   form.director = director_->text();
   form.accountant = accountant_->text();
   form.trader = trader_->text();
-  form.sums.parameters = parameters_.Read();
+  form.sums.parameters = Parameters();
   form.sums.rub = Context().session.currency_name;
   totals_.ReadInto(form.sums);
   form.rows = rows_;

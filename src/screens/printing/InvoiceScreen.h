@@ -4,6 +4,7 @@
 #pragma once
 
 #include "books/printing/InvoicePage.h"
+#include "screens/printing/NoteBlock.h"
 #include "screens/printing/ParametersBlock.h"
 #include "screens/printing/PartyBlock.h"
 #include "screens/printing/PrintDialog.h"
@@ -33,6 +34,7 @@ class InvoiceScreen : public PrintDialog {
   void LoadTotals();
   void Print();
   InvoiceCurrency PageCurrency() const;
+  PrintParameters Parameters() const;
   InvoiceForm Form() const;
 
   const InvoiceKind kind_;
@@ -45,10 +47,12 @@ class InvoiceScreen : public PrintDialog {
   TickedField payment_date_;
   TextLine* const note_;
   ParametersBlock parameters_;
+  QCheckBox* const discount_once_;
   TotalsBlock totals_;
   TextLine* const director_;
   TextLine* const accountant_;
   TextLine* const trader_;
+  NoteBlock notes_;
 
   std::vector<InvoiceRow> rows_;
   bool rows_ready_ = false;

@@ -13,12 +13,15 @@ using namespace Qt::StringLiterals;
 
 ParametersBlock::ParametersBlock(PrintDialog& dialog, std::span<const ParameterField> table,
                                  const PrintParameters& start, const Follow& follow)
-    : dialog_(dialog) {
+    : dialog_(dialog),
+      remembered_rate_(dialog.Context().settings.Read(settings::kRate)),
+      recount_(follow.recount) {
   for (const ParameterField& told : table) {
     QLineEdit* text = nullptr;
     if (told.value == &PrintParameters::rate) {
       text = new TextLineDecimal(&dialog);
       text->setObjectName(told.name.toString());
+      rate_ = text;
     } else {
       text = NewFigure(&dialog, told.name.toString(), start.*told.value);
     }
@@ -26,7 +29,8 @@ ParametersBlock::ParametersBlock(PrintDialog& dialog, std::span<const ParameterF
     if (told.setting == nullptr) {
       dialog.WhenTypedAndLeft(text, follow.recount);
     } else {
-      dialog.WhenLeft(text, [this, reload = follow.reload] {
+      dialog.WhenLeft(text, [this, text, reload = follow.reload] {
+        if (text == rate_ && text->text() != own_rate_) own_rate_.reset();
         Save();
         reload();
       });
@@ -47,7 +51,7 @@ QGridLayout* ParametersBlock::NewGrid(int groups) const {
 void ParametersBlock::Load() {
   for (const Field& field : fields_) {
     if (field.told->value == &PrintParameters::rate) {
-      field.text->setText(dialog_.Context().settings.Read(settings::kRate));
+      field.text->setText(own_rate_.value_or(dialog_.Context().settings.Read(settings::kRate)));
     } else if (field.text->text() == kFree) {
       field.text->setText(dialog_.Source().discount);
     }
@@ -60,9 +64,17 @@ PrintParameters ParametersBlock::Read() const {
   return parameters;
 }
 
+void ParametersBlock::SetOwnRate(const QString& rate) {
+  own_rate_ = rate;
+  rate_->setText(rate);
+  recount_();
+}
+
+bool ParametersBlock::RateIsRemembered() const { return rate_->text() == remembered_rate_; }
+
 void ParametersBlock::Save() {
   for (const Field& field : fields_) {
-    if (field.told->setting == nullptr) continue;
+    if (field.told->setting == nullptr || (field.text == rate_ && own_rate_)) continue;
     dialog_.Context().settings.Write(*field.told->setting, field.text->text());
   }
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -46,6 +47,11 @@ class ParametersBlock {
   void Load();
   PrintParameters Read() const;
 
+  // A rate for this paper alone: it is kept nowhere, and stays until another one is typed.
+  void SetOwnRate(const QString& rate);
+  // The rate is the one that the paper opened with.
+  bool RateIsRemembered() const;
+
  private:
   void Save();
 
@@ -55,6 +61,10 @@ class ParametersBlock {
   };
   PrintDialog& dialog_;
   std::vector<Field> fields_;
+  QLineEdit* rate_ = nullptr;
+  std::optional<QString> own_rate_;
+  QString remembered_rate_;
+  const std::function<void()> recount_;
 };
 
 }  // namespace kladez

@@ -45,6 +45,12 @@ PricePrintScreen::PricePrintScreen(AppContext& context, const PricePrintSource& 
   auto* cancel = NewCommand(this, u"Command2"_s, u"&Отмена"_s);
   BuildLayout(print, cancel);
   FollowGroups();
+  for (TextLineNumber* percent : {purchase_percent_, sale_percent_}) {
+    connect(percent, &TextLine::Change, this, &PricePrintScreen::ShowEffect);
+  }
+  for (const ChoiceField& choice : choices_) {
+    connect(choice.field.tick, &QCheckBox::toggled, this, &PricePrintScreen::ShowEffect);
+  }
   print->setFocus();
   connect(by_groups_, &QCheckBox::toggled, this, &PricePrintScreen::FollowGroups);
   connect(with_gap_, &QCheckBox::toggled, this, &PricePrintScreen::FollowGroups);
@@ -216,6 +222,9 @@ void PricePrintScreen::BuildLayout(QPushButton* print, QPushButton* cancel) {
   auto* fold = new FoldButton(u"GoldButton1"_s, u"В&ид"_s, panel, true, this);
   auto* ending = NewEndingRow(print, cancel);
   ending->insertWidget(0, NewHelpCommand(this, context_.data, u"priceprint.htm"));
+  effect_ = new QLabel(this);
+  effect_->setObjectName(u"effect"_s);
+  effect_->hide();
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->setSizeConstraint(QLayout::SetFixedSize);
@@ -224,6 +233,7 @@ void PricePrintScreen::BuildLayout(QPushButton* print, QPushButton* cancel) {
   layout->addWidget(fold, 0, Qt::AlignLeft);
   layout->addWidget(panel);
   layout->addWidget(look::NewSeparator(this));
+  layout->addWidget(effect_);
   layout->addLayout(ending);
   // An address is long: the fields of the head take what the screen leaves, up to its whole.
   const int spare = screen()->availableSize().width() - sizeHint().width() - look::kGap;
@@ -234,6 +244,16 @@ void PricePrintScreen::BuildLayout(QPushButton* print, QPushButton* cancel) {
 void PricePrintScreen::FollowGroups() {
   with_gap_->setEnabled(!by_groups_->isChecked());
   gap_->setEnabled(!by_groups_->isChecked() && with_gap_->isChecked());
+}
+
+// In sight even when the prices are folded away.
+void PricePrintScreen::ShowEffect() {
+  try {
+    effect_->setText(PriceEffectText(Options()));
+  } catch (const InputError&) {
+    effect_->clear();  // a field that was just emptied, before it repairs itself
+  }
+  effect_->setVisible(!effect_->text().isEmpty());
 }
 
 PricePageOptions PricePrintScreen::Options() const {

@@ -64,6 +64,7 @@ class PricePrintScreen : public QDialog {
   QWidget* NewOrder();
   void BuildLayout(QPushButton* print, QPushButton* cancel);
   void FollowGroups();
+  void ShowEffect();
 
   PricePageOptions Options() const;
   void Print();
@@ -83,6 +84,7 @@ class PricePrintScreen : public QDialog {
   QCheckBox* by_groups_;
   QCheckBox* with_gap_;
   TextLineNumber* gap_;  // rows
+  QLabel* effect_;
 };
 
 }  // namespace kladez

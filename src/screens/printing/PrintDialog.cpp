@@ -1,13 +1,16 @@
 #include "screens/printing/PrintDialog.h"
 
+#include <QCheckBox>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QTimer>
 
+#include "books/directories/MainCurrency.h"
 #include "books/printing/InputError.h"
 #include "formats/PartyFile.h"
 #include "formats/TextLines.h"
 #include "screens/printing/CloseAndShow.h"
+#include "screens/printing/PrintFields.h"
 #include "ui/Hints.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
@@ -16,9 +19,18 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+std::optional<TaxRates> TaxesOf(const AppContext& context) {
+  FileState file;
+  return LoadTaxRates(context.data, context.session, file);
+}
+
+}  // namespace
+
 PrintDialog::PrintDialog(AppContext& context, const PrintSource& source, const QString& name,
                          QWidget* parent)
-    : QDialog(parent), context_(context), source_(source) {
+    : QDialog(parent), context_(context), source_(source), taxes_(TaxesOf(context)) {
   setObjectName(name);
 }
 
@@ -33,8 +45,26 @@ QString PrintDialog::FirstFirm() const {
   return LineReader(firms).Next();
 }
 
+PrintParameters PrintDialog::Start() const {
+  PrintParameters start;
+  const TaxRates taxes = taxes_.value_or(TaxRates());
+  if (!taxes.vat.isEmpty()) start.vat = taxes.vat;
+  if (!taxes.sales_tax.isEmpty()) start.sales_tax = taxes.sales_tax;
+  return start;
+}
+
 HintPicture* PrintDialog::NewHint(QStringView place, std::initializer_list<QWidget*> about) {
   return new HintPicture(HintFor(objectName(), place), about, this);
+}
+
+QCheckBox* PrintDialog::NewKeptTick(const QString& name, const QString& caption,
+                                    const Setting& setting, const std::function<void()>& follow) {
+  QCheckBox* tick = NewTick(this, name, caption, context_.settings.ReadBool(setting));
+  connect(tick, &QCheckBox::clicked, this, [this, setting, follow](bool on) {
+    context_.settings.WriteBool(setting, on);
+    follow();
+  });
+  return tick;
 }
 
 void PrintDialog::Attempt(const std::function<void()>& load) {

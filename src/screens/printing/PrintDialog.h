@@ -6,12 +6,16 @@
 #include <QDialog>
 #include <functional>
 #include <map>
+#include <optional>
 
+#include "books/printing/DocumentTotals.h"
 #include "books/stock/PrintSource.h"
 #include "formats/CurrencyFile.h"
+#include "formats/TaxRatesFile.h"
 #include "ui/AppContext.h"
 
 class QBoxLayout;
+class QCheckBox;
 class QLineEdit;
 
 namespace kladez {
@@ -31,7 +35,15 @@ class PrintDialog : public QDialog {
   QByteArray FileOf(const QString& path) const;
   Currency ReadCurrencyForms() const;
   QString FirstFirm() const;  // first line of the firms' directory
+  // What "Параметры" opens with: the taxes are those of the Database. Where their file is damaged
+  // they are the program's, and the person is told.
+  PrintParameters Start() const;
+  bool TaxesWereRead() const { return taxes_.has_value(); }
   HintPicture* NewHint(QStringView place, std::initializer_list<QWidget*> about);
+
+  // A tick that is kept in the settings; `follow` follows a click.
+  QCheckBox* NewKeptTick(const QString& name, const QString& caption, const Setting& setting,
+                         const std::function<void()>& follow);
 
   // Runs a load, or a part of it, which throws InputError for a field that is no number; what was
   // filled until then stays. A failure is told as soon as the event at hand is over, so that the
@@ -59,6 +71,7 @@ class PrintDialog : public QDialog {
 
   AppContext& context_;
   const PrintSource source_;
+  const std::optional<TaxRates> taxes_;
   std::map<QObject*, std::function<void()>> when_left_;
   bool untold_failure_ = false;
 };

@@ -78,9 +78,9 @@ const WaybillKindText& TextOf(DocumentKind kind) {
   }
 }
 
-PrintParameters StartOf(DocumentKind kind) {
-  PrintParameters start;
-  start.discount = TextOf(kind).discount.toString();
+PrintParameters StartOf(const PrintDialog& dialog) {
+  PrintParameters start = dialog.Start();
+  start.discount = TextOf(dialog.Source().kind).discount.toString();
   return start;
 }
 
@@ -91,9 +91,10 @@ WaybillScreen::WaybillScreen(AppContext& context, const PrintSource& source, QWi
       title_(NewText(this, u"Text1"_s)),
       head_(NewHead()),
       totals_(*this, TextOf(source.kind).taxes),
-      parameters_(*this, TextOf(source.kind).parameters, StartOf(source.kind),
+      parameters_(*this, TextOf(source.kind).parameters, StartOf(*this),
                   {.reload = [this] { Attempt([this] { Load(); }); },
-                   .recount = [this] { Attempt([this] { LoadTotals(); }); }}) {
+                   .recount = [this] { Attempt([this] { LoadTotals(); }); }}),
+      notes_(*this, parameters_) {
   Build();
   Attempt([this] { Load(); });
 }
@@ -147,6 +148,7 @@ void WaybillScreen::Build() {
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(totals_.NewFiguresGrid());
   layout->addLayout(totals_.NewWordsGrid());
+  layout->addWidget(notes_.WordsNote());
 
   auto* panel = new QWidget(this);
   QGridLayout* parameters = parameters_.NewGrid(TextOf(Source().kind).parameters_a_row);
@@ -157,6 +159,7 @@ void WaybillScreen::Build() {
   layout->addWidget(fold);
   layout->addWidget(panel);
   layout->addSpacing(look::kGrid);
+  layout->addLayout(notes_.NewRows());
   layout->addLayout(NewCommands(u"&Печать"_s, [this] { Print(); }));
 }
 
@@ -187,9 +190,16 @@ void WaybillScreen::Load() {
 }
 
 void WaybillScreen::LoadTotals() {
+  notes_.Clear();
   totals_.Fill([this](TotalTexts& totals) {
-    FillWaybillTotals(Source().kind, Source().total, parameters_.Read(),
-                      Context().session.currency_name, ReadCurrencyForms(), totals);
+    const PrintParameters parameters = parameters_.Read();
+    FillWaybillTotals(Source().kind, Source().total, parameters, Context().session.currency_name,
+                      ReadCurrencyForms(), totals);
+    notes_.Show({.total = Source().total,
+                 .parameters = parameters,
+                 .due = AmountDue(totals.before, parameters),
+                 .waybill_discount = parameters.discount},
+                true);
   });
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "books/printing/WaybillPage.h"
+#include "screens/printing/NoteBlock.h"
 #include "screens/printing/ParametersBlock.h"
 #include "screens/printing/PrintDialog.h"
 #include "screens/printing/PrintFields.h"
@@ -38,6 +39,7 @@ class WaybillScreen : public PrintDialog {
   const std::vector<HeadField> head_;
   TotalsBlock totals_;
   ParametersBlock parameters_;
+  NoteBlock notes_;
 };
 
 }  // namespace kladez

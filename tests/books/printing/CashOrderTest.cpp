@@ -19,9 +19,11 @@ PrintSource Source(const QString& total) {
 }
 
 TEST(CashOrder, TakesTheTotalBeforeTheDiscountAndItsTaxes) {
-  const PrintParameters parameters{u"50"_s, u"2"_s, u"10"_s, u"18"_s, u"5"_s};
+  const PrintSource source = Source(u"1180.00"_s);
+  PrintParameters parameters{u"50"_s, u"2"_s, DiscountOf(source, OrderDiscount::kNone), u"18"_s,
+                             u"5"_s};
   CashOrder order;
-  FillCashOrder(Source(u"1180.00"_s), u"Фирма"_s, parameters, u"руб."_s, RoubleCurrency(), order);
+  FillCashOrder(source, u"Фирма"_s, parameters, u"руб."_s, RoubleCurrency(), order);
   EXPECT_EQ(order.firm, u"Фирма"_s);
   EXPECT_EQ(order.number, u"7"_s);
   EXPECT_EQ(order.date, u"12.03.2026"_s);
@@ -30,6 +32,11 @@ TEST(CashOrder, TakesTheTotalBeforeTheDiscountAndItsTaxes) {
   EXPECT_EQ(order.sum.toStdString(), "1180.00");
   EXPECT_EQ(order.words.toStdString(), "Одна тысяча сто восемьдесят рублей 00 копеек");
   EXPECT_EQ(order.included.toStdString(), "НДС: 180.00 руб. НСП: 59.00 руб.");
+  parameters.discount = DiscountOf(source, OrderDiscount::kOfDocument);
+  FillCashOrder(source, u"Фирма"_s, parameters, u"руб."_s, RoubleCurrency(), order);
+  EXPECT_EQ(order.sum.toStdString(), "1062.00");
+  EXPECT_EQ(order.words.toStdString(), "Одна тысяча шестьдесят два рубля 00 копеек");
+  EXPECT_EQ(order.included.toStdString(), "НДС: 162.00 руб. НСП: 53.10 руб.");
 }
 
 TEST(CashOrder, AFailureKeepsWhatWasFilledAndNothingOfTheOrderBefore) {

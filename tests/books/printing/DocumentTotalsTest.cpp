@@ -40,9 +40,9 @@ TEST(DocumentTotals, EachStepTakesTheTextBeforeIt) {
        Parameters(u"100"_s, u"1"_s, u"10"_s, u"20"_s, u"5"_s),
        {u"100000.00"_s, u"15 000.00 руб."_s, u"4 500.00 руб."_s,
         u"Девяносто тысяч рублей 00 копеек"_s}},
-      {"percentage and rate",
+      {"percentage and rate, with a decimal comma too",
        u"50.10"_s,
-       Parameters(u"50"_s, u"31.5"_s, u"0"_s, u"0"_s, u"0"_s),
+       Parameters(u"50,0"_s, u"31,5"_s, u"0"_s, u"0"_s, u"0"_s),
        {u"789.08"_s, u"0.00 руб."_s, u"0.00 руб."_s,
         u"Семьсот восемьдесят девять  рублей 08 копеек"_s}},
       {"half a kopeck goes up on the decimal digits",
@@ -86,7 +86,7 @@ TEST(DocumentTotals, AFailureKeepsWhatWasFilled) {
 }
 
 TEST(DocumentTotals, NoNumberAnywhereIsPassedOver) {
-  for (const QString& wrong : {u""_s, u"free"_s, u"1,5"_s, u"18%"_s}) {
+  for (const QString& wrong : {u""_s, u"free"_s, u"1,5,0"_s, u"18%"_s}) {
     EXPECT_THROW(TotalBefore(wrong, {}), InputError);
     PrintParameters percent;
     percent.percent = wrong;
@@ -94,8 +94,12 @@ TEST(DocumentTotals, NoNumberAnywhereIsPassedOver) {
     PrintParameters rate;
     rate.rate = wrong;
     EXPECT_THROW(TotalBefore(u"1"_s, rate), InputError);
-    EXPECT_THROW(AmountDue(u"1.00"_s, wrong), InputError);
+    PrintParameters discount;
+    discount.discount = wrong;
+    EXPECT_THROW(AmountDue(u"1.00"_s, discount), InputError);
   }
+  // Only what is typed into a free field has a comma; a document's total has none.
+  EXPECT_THROW(TotalBefore(u"1,5"_s, {}), InputError);
 }
 
 }  // namespace

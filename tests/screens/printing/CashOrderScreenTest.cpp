@@ -1,3 +1,5 @@
+#include <QCheckBox>
+#include <QLabel>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
@@ -92,6 +94,20 @@ TEST(CashOrderScreen, ThePercentageIsInTheSumAsSoonAsItIsLeft) {
   EXPECT_EQ(screen.Texts().value(u"Text12"_s), u"590.00"_s);
   EXPECT_EQ(screen.Texts().value(u"Words"_s), u"Пятьсот девяносто рублей 00 копеек"_s);
   EXPECT_EQ(screen.Texts().value(u"Included"_s), u"НДС: 90.00 руб. НСП: 0.00 руб."_s);
+}
+
+TEST(CashOrderScreen, TheDiscountOfTheDocumentIsInTheSumWhereThatIsTicked) {
+  PrintWorld world;
+  {
+    CashOrderScreen screen(world.Context(), world.source);
+    ShowActive(&screen);
+    EXPECT_EQ(Find<QLabel>(&screen, "difference")->text(), u"На 118.00 больше, чем в накладной"_s);
+    QTest::keyClick(Find<QCheckBox>(&screen, "with_discount"), Qt::Key_Space);
+    EXPECT_FALSE(Find<QLabel>(&screen, "difference")->isVisible());
+  }
+  CashOrderScreen screen(world.Context(), world.source);
+  EXPECT_EQ(screen.Texts().value(u"Text12"_s), u"1062.00"_s);
+  EXPECT_EQ(screen.Texts().value(u"Words"_s), u"Одна тысяча шестьдесят два рубля 00 копеек"_s);
 }
 
 TEST(CashOrderScreen, AParameterThatIsNoNumberIsTold) {

@@ -1,3 +1,6 @@
+#include <QCheckBox>
+#include <QLabel>
+
 #include "screens/printing/InvoiceScreen.h"
 #include "screens/printing/PrintWorld.h"
 #include "ui/controls/Fields.h"
@@ -160,6 +163,36 @@ TEST(InvoiceScreens, AReloadPutsTheKeptTraderBack) {
     EXPECT_EQ(TextOf(&screen, "Text35"), kept);
   }
   EXPECT_EQ(world->Settings().Read(settings::kInvoiceTrader), u"Сидоров"_s);
+}
+
+// The lines of a page in roubles have the discount in their prices.
+TEST(InvoiceScreens, TheDiscountIsTakenOnceWhereThatIsTicked) {
+  PrintWorld world;
+  for (const InvoiceKind kind : {InvoiceKind::kTaxInvoice, InvoiceKind::kBill}) {
+    world->Settings().WriteBool(settings::kDiscountOnce, false);
+    InvoiceScreen screen(world.Context(), kind, world.source);
+    ShowActive(&screen);
+    const auto* difference = Find<QLabel>(&screen, "difference");
+    EXPECT_EQ(difference->text(), u"На 106.20 меньше, чем в накладной"_s);
+    EXPECT_TRUE(difference->isVisible());
+    Enter(&screen, "Text1", u"Счёт"_s);
+    QTest::keyClick(Find<QCheckBox>(&screen, "discount_once"), Qt::Key_Space);
+    EXPECT_FALSE(difference->isVisible());
+    EXPECT_EQ(TextOf(&screen, "Text20"), u"Одна тысяча шестьдесят два рубля 00 копеек"_s);
+    EXPECT_EQ(TextOf(&screen, "Text1"), u"Счёт"_s);
+    EXPECT_TRUE(world->Settings().ReadBool(settings::kDiscountOnce));
+    Click(&screen, "Option2");
+    EXPECT_FALSE(Find<QCheckBox>(&screen, "discount_once")->isEnabled());
+    EXPECT_EQ(TextOf(&screen, "Text20"), u"Одна тысяча шестьдесят два рубля 00 копеек"_s);
+  }
+  InvoiceScreen bill(world.Context(), InvoiceKind::kBill, world.source);
+  ShowActive(&bill);
+  Click(&bill, "Command1");
+  const QStringList lines = DecodeLines(world.PageShown());
+  EXPECT_TRUE(
+      lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Скидка: 10% (учтена в ценах)</FONT></i>"_s));
+  EXPECT_TRUE(
+      lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Итого к оплате: 1062.00 руб.,</FONT></i>"_s));
 }
 
 TEST(InvoiceScreens, TheBillInRoublesIsPrintedWhole) {

@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QLabel>
 #include <QRadioButton>
 
 #include "ScreenDriver.h"
@@ -113,6 +114,9 @@ TEST_F(PricePrinting, EveryOptionReachesThePage) {
     SetText(screen, "Text7", u"150"_s);
     SetText(screen, "Text11", u"Продажа"_s);
     SetText(screen, "Text8", u"50"_s);
+    const auto* effect = Find<QLabel>(screen, "effect");
+    EXPECT_TRUE(effect->isVisible());
+    EXPECT_EQ(effect->text(), u"Цена закупа 150%, цена реализации 50%"_s);
     SetText(screen, "Text12", u"3"_s);
     SetText(screen, "Text14", u"7"_s);
   });

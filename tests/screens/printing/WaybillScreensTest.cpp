@@ -1,3 +1,5 @@
+#include <QLabel>
+
 #include "books/printing/WaybillParts.h"
 #include "screens/printing/PrintWorld.h"
 #include "screens/printing/WaybillScreen.h"
@@ -188,6 +190,68 @@ TEST(WaybillScreens, ARateStillBeingTypedIsOnThePaperWhenEnterPrints) {
   EXPECT_TRUE(lines.contains(u"<FONT FACE=Arial SIZE=1>Курс USD: 3 руб.</FONT><br><br>"_s));
   EXPECT_TRUE(
       lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Итого к оплате: 3186.00 руб.,</FONT></i>"_s));
+}
+
+bool IsShown(QWidget* screen, const char* name) { return Find<QWidget>(screen, name)->isVisible(); }
+
+QString NoteOf(QWidget* screen, const char* name) { return Find<QLabel>(screen, name)->text(); }
+
+TEST(WaybillScreens, ARateOfLastTimeIsToldAndOneClickSetsItForThisPaperOnly) {
+  PrintWorld world;
+  world->Settings().Write(settings::kRate, u"2"_s);
+  WaybillScreen screen(world.Context(), world.source);
+  ShowActive(&screen);
+  EXPECT_EQ(NoteOf(&screen, "effect"), u"Курс $ 2, скидка 10%: сумма 1180.00, на бумаге 2124.00"_s);
+  EXPECT_TRUE(IsShown(&screen, "rate_note"));
+  Click(&screen, "rate_one");
+  EXPECT_FALSE(IsShown(&screen, "rate_note"));
+  EXPECT_EQ(NoteOf(&screen, "effect"), u"Скидка 10%: сумма 1180.00, на бумаге 1062.00"_s);
+  // Another rate that is left loads anew, with the paper's own rate, and does not keep it.
+  Click(&screen, "GoldButton1");
+  Enter(&screen, "Text7", u"20"_s);
+  QTest::keyClick(Find<QLineEdit>(&screen, "Text7"), Qt::Key_Tab);
+  EXPECT_EQ(TextOf(&screen, "Text6"), u"1180.00"_s);
+  EXPECT_EQ(world->Settings().Read(settings::kRate), u"2"_s);
+  // A typed one is meant, and kept.
+  Enter(&screen, "DecText1", u"3"_s);
+  QTest::keyClick(Find<QLineEdit>(&screen, "DecText1"), Qt::Key_Tab);
+  EXPECT_EQ(world->Settings().Read(settings::kRate), u"3"_s);
+  EXPECT_EQ(TextOf(&screen, "Text6"), u"3540.00"_s);
+  EXPECT_FALSE(IsShown(&screen, "rate_note"));
+}
+
+TEST(WaybillScreens, ADecimalCommaIsThePointInThePercentages) {
+  PrintWorld world;
+  WaybillScreen screen(world.Context(), world.source);
+  ShowActive(&screen);
+  Click(&screen, "GoldButton1");
+  Enter(&screen, "Text18", u"50,5"_s);
+  Enter(&screen, "Text19", u"0,5"_s);
+  Click(&screen, "Command1");
+  const QStringList lines = DecodeLines(world.PageShown());
+  EXPECT_TRUE(lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Скидка: 0,5%</FONT></i>"_s));
+  EXPECT_TRUE(
+      lines.contains(u"<br><FONT FACE=Arial SIZE=2><i>Итого к оплате: 592.92 руб.,</FONT></i>"_s));
+}
+
+TEST(WaybillScreens, TheTaxesAreThoseOfTheDatabaseAndCutWordsAreTold) {
+  PrintWorld world;
+  world.source.total = u"1000000000.00"_s;
+  const std::pair<const char*, QString> cases[] = {
+      {"\xCD\xC4\xD1, %\r\n20\r\n\xCD\xD1\xCF, %\r\n\r\n", u"20"_s}, {"damaged", u"18"_s}};
+  for (const auto& [bytes, vat] : cases) {
+    world->Temp().Put(u"0001\\kladez\\ставки.usd"_s, bytes);
+    WaybillScreen screen(world.Context(), world.source);
+    ShowActive(&screen);
+    EXPECT_EQ(TextOf(&screen, "Text7"), vat);
+    EXPECT_EQ(TextOf(&screen, "Text8"), u"0"_s);
+    EXPECT_EQ(IsShown(&screen, "no_taxes"), vat == u"18");
+    EXPECT_FALSE(IsShown(&screen, "words_cut"));
+    Click(&screen, "GoldButton1");
+    Enter(&screen, "Text19", u"0"_s);
+    QTest::keyClick(Find<QLineEdit>(&screen, "Text19"), Qt::Key_Tab);
+    EXPECT_TRUE(IsShown(&screen, "words_cut"));
+  }
 }
 
 TEST(WaybillScreens, ATextThatIsNoNumberEndsTheLoadAndThePrintWaitsForItsMessage) {
