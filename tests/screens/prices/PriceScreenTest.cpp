@@ -281,5 +281,19 @@ TEST_F(PriceScreens, TypingInTheListSearchesByTheBeginningOfAName) {
   EXPECT_TRUE(Find<QLineEdit>(&screen, "search")->hasFocus());
 }
 
+TEST_F(PriceScreens, EnterInAnEmptyListPicksNothingAndThePickerStays) {
+  Temp().PutLines(u"0001\\spr\\товар.spr"_s, {});
+  PricePicker picker(world_.Context(), u"Лавка"_s);
+  int picks = 0;
+  QObject::connect(&picker, &PricePicker::Picked, [&] { ++picks; });
+  ShowActive(&picker);
+  Find<QComboBox>(&picker, "Combo2")->setCurrentIndex(1);
+  ASSERT_EQ(List(&picker)->model()->rowCount(), 0);
+  const ModalAnswers none({});
+  QTest::keyClick(List(&picker), Qt::Key_Return);
+  EXPECT_TRUE(picker.isVisible());
+  EXPECT_EQ(picks, 0);
+}
+
 }  // namespace
 }  // namespace kladez
