@@ -1,16 +1,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 #include <memory>
 
+#include "ui/base/Toolkit.h"
 #include "viewer/window/ViewerWindow.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
+using kladez::RussianToolkit;
 using kladez::viewer::PageKind;
 using kladez::viewer::ViewerWindow;
 
@@ -29,11 +28,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(u"kladez-report"_s);
   QApplication::setApplicationDisplayName(QString());
-  QLocale::setDefault(QLocale(QLocale::Russian, QLocale::Russia));
-  QTranslator toolkit;
-  if (toolkit.load(u"qtbase_ru"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&toolkit);
-  }
+  const RussianToolkit russian;
   const std::unique_ptr<ViewerWindow> window = WindowFor(QApplication::arguments());
   if (!window->Load()) {
     return 1;

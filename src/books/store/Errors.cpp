@@ -1,48 +1,13 @@
 #include "books/store/Errors.h"
 
 #include <QFile>
-#include <array>
-#include <cerrno>
+
+#include "formats/SystemReasons.h"
 
 namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-struct Reason {
-  int number;
-  QStringView text;
-};
-
-constexpr std::array kReasons = {
-    Reason{ENOENT, u"нет такого файла или каталога"},
-    Reason{EACCES, u"нет доступа"},
-    Reason{EPERM, u"действие не разрешено"},
-    Reason{EROFS, u"диск доступен только для чтения"},
-    Reason{ENOSPC, u"на диске нет места"},
-    Reason{EDQUOT, u"исчерпана квота диска"},
-    Reason{EEXIST, u"такое имя уже есть"},
-    Reason{ENOTEMPTY, u"каталог не пуст"},
-    Reason{ENOTDIR, u"на этом пути лежит файл, а не каталог"},
-    Reason{EISDIR, u"на этом месте лежит каталог, а не файл"},
-    Reason{ENAMETOOLONG, u"слишком длинное имя"},
-    Reason{EINVAL, u"недопустимое имя"},
-    Reason{ELOOP, u"ссылка ведёт за пределы каталога данных"},
-    Reason{EIO, u"ошибка чтения или записи диска"},
-    Reason{EBADMSG, u"файл повреждён"},
-    Reason{EBUSY, u"занято другой программой"},
-    Reason{ESTALE, u"прочитайте его заново и повторите"},
-    Reason{ECANCELED, u"действие не выполнено"},
-    Reason{EFBIG, u"файл слишком велик"},
-    Reason{EILSEQ, u"знака нет в кодировке файла"},
-};
-
-QString ReasonText(const std::error_code& code) {
-  for (const Reason& reason : kReasons) {
-    if (code.value() == reason.number) return reason.text.toString();
-  }
-  return QString::fromLocal8Bit(code.message());
-}
 
 // The message of a system_error ends in the system's own reason; only what stands before is ours.
 QString Doing(const std::system_error& error) {

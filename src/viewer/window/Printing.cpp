@@ -7,6 +7,7 @@
 #include <numeric>
 #include <system_error>
 
+#include "formats/SystemReasons.h"
 #include "viewer/paper/Output.h"
 #include "viewer/window/FileColumns.h"
 #include "viewer/window/ViewerMessages.h"
@@ -66,7 +67,7 @@ bool SavePdfFile(const PaperLayout& layout, const QString& title, const QString&
     return WritePdf(layout, title, path, work.Function());
   } catch (const std::system_error& error) {
     ShowError(parent, u"Файл\n%1\nзаписать не удалось (%2). Выберите другую папку или имя."_s.arg(
-                          QDir::toNativeSeparators(path), ReasonOf(error.code())));
+                          QDir::toNativeSeparators(path), ReasonText(error.code())));
     return false;
   }
 }

@@ -11,9 +11,6 @@ class QWidget;
 
 namespace kladez::viewer {
 
-// Why a command on a file failed: "нет прав", "на диске нет места".
-QString ReasonOf(const std::error_code& code);
-
 // The text for a page `name` of `directory` that can't be shown, and what can be done.
 QString ReadErrorText(const QDir& directory, const QString& name, PageKind kind,
                       const std::error_code& code);
