@@ -82,10 +82,4 @@ QString LongDateText(QDate date) {
 
 QString MonthName(int month) { return kMonths.at(month - 1).name.toString(); }
 
-QString DayKey(QDate date) {
-  return Padded(date.year() % 100, 2) + Padded(date.month(), 2) + Padded(date.day(), 2);
-}
-
-QString MonthKey(QDate date) { return Padded(date.year(), 4) + Padded(date.month(), 2); }
-
 }  // namespace kladez

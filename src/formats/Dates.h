@@ -18,7 +18,5 @@ QString ShortDateText(QDate date);   // "dd.mm.yy": report rows, the register's 
 QString BackupDateText(QDate date);  // "dd-mm-yy"
 QString LongDateText(QDate date);    // "dd mmmm yyyy": "05 марта 2026"
 QString MonthName(int month);        // "Март", 1 to 12
-QString DayKey(QDate date);          // "yymmdd"
-QString MonthKey(QDate date);        // "yyyymm"
 
 }  // namespace kladez

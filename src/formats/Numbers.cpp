@@ -62,7 +62,6 @@ class Cursor {
       return static_cast<unsigned char>(*at_);
     }
   }
-  char16_t Ahead() const { return at_ + 1 < end_ ? Cursor(at_ + 1, end_).Now() : u'\0'; }
   void Step() { ++at_; }
   void SkipBlanks() {
     while (!AtEnd() && Now() == u' ') Step();

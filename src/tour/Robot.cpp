@@ -164,22 +164,6 @@ void Robot::Settle() {
   for (int i = 0; i < 3; ++i) InWindow([] {});
 }
 
-void Robot::AnswerMessage(const QString& button, const QString& text) {
-  WaitForMessage();
-  InWindow([=] {
-    auto* box = qobject_cast<QMessageBox*>(Front());
-    if (!text.isEmpty() && box->text() != text) {
-      Fail(u"Другое сообщение: "_s + box->text() + u" вместо "_s + text);
-    }
-    for (QAbstractButton* choice : box->buttons()) {
-      if (choice->text().remove(u'&') != button) continue;
-      QTest::mouseClick(choice, Qt::LeftButton);
-      return;
-    }
-    Fail(u"Нет кнопки "_s + button);
-  });
-}
-
 void Robot::Click(const QString& control) {
   WaitUntil(control, [control] {
     QWidget* widget = FindVisible(control);
@@ -206,15 +190,6 @@ void Robot::SelectRow(const QString& list, const QString& first_column) {
     view->scrollTo(index);
     view->setFocus();
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
-  });
-}
-
-void Robot::DoubleClickRow(const QString& list, const QString& first_column) {
-  SelectRow(list, first_column);
-  InWindow([=] {
-    auto* view = ControlOf<QAbstractItemView>(list);
-    const QPoint at = view->visualRect(RowOf(view, first_column)).center();
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
   });
 }
 
@@ -329,11 +304,6 @@ void Robot::Check(const QString& control, bool on) {
 
 QString Robot::TextOf(const QString& control) {
   return Ask<QString>([control] { return ShownText(Control(control)); });
-}
-
-void Robot::Expect(const QString& control, const QString& text) {
-  const QString shown = TextOf(control);
-  if (shown != text) Fail(u"В "_s + control + u" стоит "_s + shown + u" вместо "_s + text);
 }
 
 void Robot::Picture(const QString& name) {

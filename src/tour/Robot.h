@@ -29,13 +29,10 @@ class Robot {
   void WaitForMessage();
   // Waits until all that the last step set off has been done.
   void Settle();
-  // Waits for a message box, checks its text where one is given, presses the button so called.
-  void AnswerMessage(const QString& button, const QString& text = {});
 
   void Click(const QString& control);
   // Clicks the question mark beside a control or in a frame, by what its hint is headed.
   void ClickHint(const QString& heading);
-  void DoubleClickRow(const QString& list, const QString& first_column);
   void SelectRow(const QString& list, const QString& first_column);
   void Type(const QString& control, const QString& text);  // replaces what stands there
   void TypeHere(const QString& text);                      // into the control with the focus
@@ -51,7 +48,6 @@ class Robot {
   void Check(const QString& control, bool on);
 
   QString TextOf(const QString& control);
-  void Expect(const QString& control, const QString& text);
 
   // Saves a picture of the window in front under the name.
   void Picture(const QString& name);

@@ -19,8 +19,6 @@ class Stage {
   // Starts the main window as at a start of the program, and runs the script on it.
   void Play(Robot& robot, const std::function<void(Robot&)>& script);
 
-  const DataDir& Data() const { return data_; }
-  Session& OpenSession() { return session_; }
   MainWindow& Window() { return window_; }
 
  private:

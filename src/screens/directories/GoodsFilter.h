@@ -38,8 +38,6 @@ class GoodsFilter : public QWidget {
   // The panel's one row, for what a screen has besides.
   QHBoxLayout* Row() const { return row_; }
   QRadioButton* Groups() const { return groups_; }
-  QRadioButton* GoodsOnly() const { return goods_only_; }
-  TextLine* Search() const { return search_; }
 
  signals:
   void ViewChosen(GoodsView view);
