@@ -9,6 +9,7 @@
 #include "books/store/SaveSet.h"
 #include "demo/DemoGoods.h"
 #include "demo/DemoTrade.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/GoodsFile.h"
 #include "formats/Numbers.h"
 #include "formats/PriceFile.h"
@@ -58,17 +59,17 @@ void AddPriceLists(SaveSet& save, const Session& session, const QString& warehou
         rows.back().sale = demo::SalePrice(NumberOr(goods.price), static_cast<int>(list));
       }
     }
-    save.Write(
-        session.Path(warehouse,
-                     QString(u"PRICE\\"_s + NumberedName(static_cast<int>(list) + 1) + u".prc"_s)),
-        WritePrices(rows));
+    save.Write(session.Path(warehouse, QString(files::kPrices + u'\\' +
+                                               NumberedName(static_cast<int>(list) + 1) +
+                                               files::kPriceExtension)),
+               WritePrices(rows));
   }
 }
 
 void FillDirectories(const DataDir& data, Session& session) {
   WarehouseDirectory(data, session).Create(kShop.toString());
   SaveSet save(data);
-  save.Write(session.Path(u"spr\\товар.spr"_s), WriteGoods(GoodsRecords()));
+  save.Write(session.Path(files::kGoods), WriteGoods(GoodsRecords()));
   save.Write(session.Path(PartyPath(PartyKind::kFirm)), Parties(PartyKind::kFirm, demo::Firms()));
   save.Write(session.Path(PartyPath(PartyKind::kSupplier)),
              Parties(PartyKind::kSupplier, demo::Suppliers()));
@@ -80,11 +81,12 @@ void FillDirectories(const DataDir& data, Session& session) {
 
 // Puts a finished tree and its descriptor under another number, all of it or nothing.
 QString Adopt(const DataDir& from, const QString& base, const DataDir& data) {
-  const int number = NextDatabaseNumber(data);
+  const qint64 number = NextDatabaseNumber(data);
   const QString adopted = NumberedName(number) + u'\\';
   const QString source = from.Resolve(base);
   SaveSet save(data);
-  save.Write(NumberedName(number) + u".us"_s, WriteDescriptor({adopted, kName.toString()}));
+  save.Write(NumberedName(number) + files::kDescriptorExtension,
+             WriteDescriptor({adopted, kName.toString()}));
   save.MakeDirectory(adopted);
   QDirIterator walk(source, QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "formats/DatabaseFiles.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -20,14 +21,14 @@ const std::vector<PartyField>& FieldsOf(PartyKind kind) {
   return kind == PartyKind::kFirm ? firm : partner;
 }
 
-QString PartyPath(PartyKind kind) {
+QStringView PartyPath(PartyKind kind) {
   switch (kind) {
     case PartyKind::kFirm:
-      return u"spr\\firma.spr"_s;
+      return files::kFirms;
     case PartyKind::kClient:
-      return u"spr\\klient.spr"_s;
+      return files::kClients;
     case PartyKind::kSupplier:
-      return u"spr\\post.spr"_s;
+      return files::kSuppliers;
   }
   Q_UNREACHABLE();
 }

@@ -41,7 +41,7 @@ using Party = QStringList;
 // The fields of a kind in the order of its file's lines.
 const std::vector<PartyField>& FieldsOf(PartyKind kind);
 // The path of the kind's file inside a Database.
-QString PartyPath(PartyKind kind);
+QStringView PartyPath(PartyKind kind);
 // A field of a record, empty where the kind has no such field.
 QString FieldOf(PartyKind kind, const Party& party, PartyField field);
 

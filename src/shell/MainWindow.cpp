@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "books/store/SaveSet.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/Dates.h"
 #include "screens/store/BackupWizard.h"
 #include "screens/store/CatalogueDialog.h"
@@ -380,7 +381,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   CloseChildScreens();
   IgnoreErrors([this] {
     SaveSet save(context_.data);
-    save.Delete(u"temp.prc"_s);
+    save.Delete(files::kPriceClipboard.toString());
     save.Commit();
   });
   event->accept();

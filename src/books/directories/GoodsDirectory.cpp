@@ -4,6 +4,7 @@
 
 #include "books/directories/GoodsOrder.h"
 #include "books/store/SaveSet.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
 
@@ -31,7 +32,7 @@ bool LedgerHolds(QByteArrayView bytes, QByteArrayView name) {
 }  // namespace
 
 GoodsDirectory::GoodsDirectory(const DataDir& data, const Session& session, GoodsView view)
-    : data_(data), path_(session.Path(u"spr\\товар.spr")) {
+    : data_(data), path_(session.Path(files::kGoods)) {
   Reload(view);
 }
 
@@ -126,10 +127,10 @@ void GoodsDirectory::Write(const std::vector<GoodsRecord>& records) {
 
 bool IsOnHand(const DataDir& data, const Session& session, const QString& name) {
   const QByteArray encoded = EncodeText(name);
-  return std::any_of(
-      session.warehouses.begin(), session.warehouses.end(), [&](const QString& warehouse) {
-        return LedgerHolds(data.Read(session.Path(warehouse, u"товар.usl")), encoded);
-      });
+  return std::any_of(session.warehouses.begin(), session.warehouses.end(),
+                     [&](const QString& warehouse) {
+                       return LedgerHolds(data.Read(LedgerPath(session, warehouse)), encoded);
+                     });
 }
 
 }  // namespace kladez

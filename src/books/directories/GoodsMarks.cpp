@@ -4,11 +4,12 @@
 #include <set>
 
 #include "books/store/Errors.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
 
-QString MarksPath(const Session& session) { return session.Path(u"marked"); }
+QString MarksPath(const Session& session) { return session.Path(files::kMarks); }
 
 QStringList ReadMarks(const DataDir& data, const Session& session, FileState& file) {
   QByteArray bytes;

@@ -2,11 +2,12 @@
 
 #include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
+#include "formats/DatabaseFiles.h"
 
 namespace kladez {
 
 Currency LoadMainCurrency(const DataDir& data, const Session& session, FileState& file) {
-  const QByteArray bytes = ReadIfThere(data, session.Path(u"currency.usd"), file);
+  const QByteArray bytes = ReadIfThere(data, session.Path(files::kCurrency), file);
   return file.exists ? ReadCurrency(bytes) : RoubleCurrency();
 }
 
@@ -22,7 +23,7 @@ std::optional<TaxRates> LoadTaxRates(const DataDir& data, const Session& session
 void SaveMainCurrency(const DataDir& data, Session& session, const Currency& currency,
                       FileState& file, const TaxRates& rates, FileState& rates_file) {
   SaveSet save(data);
-  save.Write(session.Path(u"currency.usd"), WriteCurrency(currency), file);
+  save.Write(session.Path(files::kCurrency), WriteCurrency(currency), file);
   FileState now;
   if (LoadTaxRates(data, session, now) != rates) {
     save.MakeDirectory(session.Path(kOwnDirectory));

@@ -6,6 +6,7 @@
 #include "books/store/Catalogue.h"
 #include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -39,7 +40,7 @@ WarehouseDirectory::WarehouseDirectory(const DataDir& data, Session& session)
     : data_(data), session_(session), names_(session.warehouses) {}
 
 void WarehouseDirectory::WriteList(SaveSet& save, const QStringList& names) const {
-  const QString path = session_.Path(u"склад.usd");
+  const QString path = session_.Path(files::kWarehouses);
   if (!session_.warehouses_file.known) {
     ThrowFileError(
         u"Список складов не удалось прочитать, когда открывалась база; чтобы склады не "

@@ -5,6 +5,7 @@
 #include "books/directories/GoodsMarks.h"
 #include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -12,18 +13,18 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const QString kClipboard = u"temp.prc"_s;
+const QString kClipboard = files::kPriceClipboard.toString();
 
 }  // namespace
 
 QStringList PriceStore::Names(const QString& warehouse) const {
-  const auto bytes = data_.ReadIfAny(session_.Path(warehouse, u"price.usd"));
+  const auto bytes = data_.ReadIfAny(session_.Path(warehouse, files::kPriceNames));
   return DecodeLines(bytes.value_or(QByteArray()));
 }
 
 QStringList PriceStore::Files(const QString& warehouse) const {
-  QStringList files = data_.List(session_.Path(warehouse, u"PRICE"), u".prc");
-  for (QString& file : files) file = session_.Path(warehouse, u"PRICE\\") + file;
+  QStringList files = data_.List(session_.Path(warehouse, files::kPrices), files::kPriceExtension);
+  for (QString& file : files) file = session_.Path(warehouse, files::kPrices) + u'\\' + file;
   return files;
 }
 
@@ -31,7 +32,7 @@ QString PriceStore::FileOf(const QString& warehouse, int index) const {
   const QStringList files = Files(warehouse);
   if (index < 0 || index >= files.size()) {
     ThrowFileError(u"У этого прайс-листа нет файла: имён прайс-листов больше, чем файлов .prc"_s,
-                   session_.Path(warehouse, u"PRICE"), ENOENT);
+                   session_.Path(warehouse, files::kPrices), ENOENT);
   }
   return files[index];
 }
@@ -45,7 +46,7 @@ PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
       has_file ? ReadWithState(data_, files[index], price_file) : QByteArray();
   QByteArray marks;
   IgnoreErrors([&] { marks = ReadIfThere(data_, MarksPath(session_), marks_file); });
-  PriceList list(data_.Read(session_.Path(u"spr\\товар.spr")), prices, marks, view, progress);
+  PriceList list(data_.Read(session_.Path(files::kGoods)), prices, marks, view, progress);
   list.price_file = price_file;
   list.marks_file = marks_file;
   return list;

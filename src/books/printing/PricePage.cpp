@@ -1,6 +1,7 @@
 #include "books/printing/PricePage.h"
 
 #include "books/directories/GoodsOrder.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 
@@ -93,13 +94,13 @@ QStringList Texts(const PrintRow& row, const StockByName& stock, const PricePage
 
 StockByName LoadStockByName(const DataDir& data, const Session& session,
                             const QStringList& warehouses) {
-  const QByteArray goods = data.Read(session.Path(u"spr\\товар.spr"));
+  const QByteArray goods = data.Read(session.Path(files::kGoods));
   QHash<QByteArrayView, double> sums;
   ForEachGoods(goods, [&](const RawGoods& record) {
     if (!record.IsGroup()) sums.insert(record.name, 0);
   });
   for (const QString& warehouse : warehouses) {
-    const QByteArray ledger = data.Read(session.Path(warehouse, u"товар.usl"));
+    const QByteArray ledger = data.Read(LedgerPath(session, warehouse));
     ForEachLedgerRecord(ledger,
                         [&](QByteArrayView name, QByteArrayView quantity, QByteArrayView /*unit*/) {
                           const auto sum = sums.find(name);

@@ -9,6 +9,7 @@
 #include <cerrno>
 
 #include "books/store/Errors.h"
+#include "formats/DatabaseFiles.h"
 
 namespace kladez {
 
@@ -50,7 +51,7 @@ void PrintOutDesk::WriteInPieces(const QString& name, const SaveSet::Contents& c
 }
 
 void PrintOutDesk::OpenPrintOut(const QString& name) const {
-  const QString out = data_.Root() + u"/out.htm"_s;
+  const QString out = data_.Root() + u'/' + files::kPrintOut;
   QFile::remove(out);
   QFile::rename(data_.Root() + u'/' + name, out);
   if (start_viewer_) start_viewer_();

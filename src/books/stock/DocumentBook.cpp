@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "formats/DatabaseFiles.h"
 #include "formats/Numbers.h"
 
 namespace kladez {
@@ -13,19 +14,13 @@ using H = DocumentHead;
 }  // namespace
 
 const DocumentBook& BookOf(DocumentKind kind) {
-  static const DocumentBook receipts = {DocumentKind::kReceipt,
-                                        u"PRH"_s,
-                                        true,
-                                        settings::kSort,
-                                        &H::sum,
-                                        true,
-                                        {{nullptr, Posting::kReceive, u"- "_s}}};
-  static const DocumentBook shipments = {
-      DocumentKind::kShipment,         u"UHD"_s, true, settings::kSort, &H::net_sum, true,
-      {{nullptr, Posting::kIssue, {}}}};
+  static const DocumentBook receipts = {
+      files::kReceipts, true, settings::kSort,
+      &H::sum,          true, {{nullptr, Posting::kReceive, u"- "_s}}};
+  static const DocumentBook shipments = {files::kShipments, true, settings::kSort,
+                                         &H::net_sum,       true, {{nullptr, Posting::kIssue, {}}}};
   static const DocumentBook transfers = {
-      DocumentKind::kTransfer,
-      u"ВНПЕР"_s,
+      files::kTransfers,
       false,
       settings::kTransferSort,
       &H::sum,
@@ -50,10 +45,6 @@ QString DocumentDirectory(const Session& session, DocumentKind kind, const QStri
 QString DocumentPath(const Session& session, DocumentKind kind, const QString& warehouse,
                      const QString& file) {
   return DocumentDirectory(session, kind, warehouse) + u'\\' + file;
-}
-
-QString LedgerPath(const Session& session, const QString& warehouse) {
-  return session.Path(warehouse, u"товар.usl");
 }
 
 QString WarehouseOf(const LedgerEffect& effect, const DocumentHead& head, const QString& home) {

@@ -24,8 +24,7 @@ struct LedgerEffect {
 };
 
 struct DocumentBook {
-  DocumentKind kind;
-  QString directory;             // "PRH"
+  QStringView directory;         // "PRH"
   bool in_warehouse;             // else the directory lies beside the warehouses
   Setting sort;                  // "AZ" or "ZA"
   QString DocumentHead::*total;  // the sum that the register adds up
@@ -42,8 +41,6 @@ QString DocumentDirectory(const Session& session, DocumentKind kind, const QStri
 QString DocumentPath(const Session& session, DocumentKind kind, const QString& warehouse,
                      const QString& file);
 
-// "0001\Главный склад\товар.usl".
-QString LedgerPath(const Session& session, const QString& warehouse);
 // The warehouse whose ledger an effect of a document changes; `home` is where the document lies.
 QString WarehouseOf(const LedgerEffect& effect, const DocumentHead& head, const QString& home);
 

@@ -1,8 +1,5 @@
 #include "books/stock/DocumentNumbers.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "books/store/Catalogue.h"
 #include "formats/Numbers.h"
 
@@ -18,9 +15,7 @@ NewDocumentNumbers NumbersForNew(const DataDir& data, DocumentKind kind, const Q
     file = NumberOr(last.chopped(extension.size()));
     number = ParseLenient(ReadDocumentHead(kind, data.Read(directory + u'\\' + last)).number);
   }
-  constexpr double kMost = 1e15;  // beyond it, adding 1 means nothing any more
-  return {NumberedName(std::llround(std::clamp(file, -kMost, kMost) + 1)) + extension,
-          GeneralText(number + 1)};
+  return {NumberedName(NumberAbove(file)) + extension, GeneralText(number + 1)};
 }
 
 }  // namespace kladez

@@ -3,6 +3,7 @@
 #include "books/directories/GoodsOrder.h"
 #include "books/stock/DocumentBook.h"
 #include "books/store/SaveSet.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
@@ -42,7 +43,7 @@ std::vector<QByteArray> EncodedNames(const std::vector<OnHandRow>& rows) {
   return names;
 }
 
-QString GoodsPath(const Session& session) { return session.Path(u"spr\\товар.spr"); }
+QString GoodsPath(const Session& session) { return session.Path(files::kGoods); }
 
 void SaveLedger(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse, QByteArray bytes) {

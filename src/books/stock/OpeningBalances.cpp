@@ -25,7 +25,7 @@ void OpeningBalances::Book(const DataDir& data, const Session& session,
   for (const LedgerRecord& row : rows_) {
     if (!IsGroupName(row.name)) goods.push_back(row);
   }
-  const QString path = session.Path(warehouse, u"товар.usl");
+  const QString path = LedgerPath(session, warehouse);
   FileState file;
   StockLedger ledger(ReadWithState(data, path, file));
   ledger.Post(Posting::kReceive, goods);

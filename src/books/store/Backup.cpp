@@ -9,6 +9,7 @@
 #include "books/store/SaveSet.h"
 #include "books/store/SystemCalls.h"
 #include "books/store/TreeCopy.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/Dates.h"
 
 namespace kladez {
@@ -16,7 +17,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr QStringView kIndex = u"archive.idb";
 // In the data directory, beside the Databases.
 constexpr QStringView kUnfinishedRestore = u".kladez-restore";
 
@@ -91,7 +91,7 @@ bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
   const Unfinished unfinished(partial);
   Check(syscalls::MakeDirectory(partial), u"Не удалось создать каталог"_s, partial);
   if (!copy.Run(Part(progress, 0, copy.Size()))) return false;
-  const QByteArray index_file = partial + '/' + QFile::encodeName(kIndex.toString());
+  const QByteArray index_file = partial + '/' + QFile::encodeName(files::kBackupIndex.toString());
   Check(syscalls::WriteNewFile(index_file, WriteBackupIndex(index), 0),
         u"Не удалось записать файл"_s, index_file);
   Check(syscalls::SyncFileSystem(partial), u"Не удалось записать копию на диск"_s, partial);
@@ -102,7 +102,7 @@ bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
 
 bool IsBackupFolder(const QString& folder) {
   bool found = false;
-  IgnoreErrors([&] { found = DataDir(folder).FileExists(kIndex.toString()); });
+  IgnoreErrors([&] { found = DataDir(folder).FileExists(files::kBackupIndex.toString()); });
   return found;
 }
 
@@ -123,7 +123,7 @@ bool RestoreDatabases(const DataDir& data, const DataDir& backup,
     Check(syscalls::SyncFileSystem(aside), u"Не удалось записать копию на диск"_s, aside);
     const QString number = NumberedName(FreeDatabaseNumber(data));
     SaveSet save(data);
-    save.Write(number + u".us"_s,
+    save.Write(number + files::kDescriptorExtension,
                WriteDescriptor({number + u'\\', chosen[i].descriptor.name + u" (копия)"_s}));
     save.RenameDirectory(kUnfinishedRestore.toString(), number);
     save.Commit();

@@ -1,11 +1,13 @@
 #include "books/store/Catalogue.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
 
 #include "books/store/Errors.h"
 #include "formats/CurrencyFile.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/Numbers.h"
 #include "formats/TextLines.h"
 
@@ -14,15 +16,19 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr QStringView kExtension = u".us";
 // Two lines are never as long; a file that is was damaged, and no screen could show its name.
 constexpr qsizetype kLargestDescriptor = 1 << 16;
+
+// The number before the extension of a descriptor's name, 0 where there is none.
+double NumberOfName(const QString& file) {
+  return NumberOr(file.chopped(files::kDescriptorExtension.size()));
+}
 
 }  // namespace
 
 std::vector<CatalogueEntry> ListDatabases(const DataDir& data) {
   std::vector<CatalogueEntry> entries;
-  data.ForEachFile({}, kExtension, [&](const DataDir::ListedFile& file) {
+  data.ForEachFile({}, files::kDescriptorExtension, [&](const DataDir::ListedFile& file) {
     const bool good = file.bytes && file.bytes->size() <= kLargestDescriptor;
     entries.push_back({file.name, good ? ReadDescriptor(*file.bytes) : DatabaseDescriptor{}});
     return true;
@@ -35,21 +41,30 @@ QString NumberedName(qint64 number) {
   return number < 0 ? QString(u'-' + digits) : digits;
 }
 
-int NextDatabaseNumber(const DataDir& data) {
-  const QStringList files = data.List({}, kExtension);
-  if (files.isEmpty()) return 1;
-  const double last = NumberOr(files.constLast().chopped(kExtension.size()));
-  return std::fabs(last) < 1e9 ? static_cast<int>(last) + 1 : 1;
+qint64 NumberAbove(double number) {
+  constexpr double kMost = 1e15;  // beyond it, adding 1 means nothing any more
+  return std::llround(std::clamp(number, -kMost, kMost) + 1);
 }
 
-int FreeDatabaseNumber(const DataDir& data) {
-  const int number = NextDatabaseNumber(data);
-  const QString name = NumberedName(number);
-  for (const QString& path : {name, QString(name + kExtension)}) {
-    if (data.FileExists(path) || data.DirectoryExists(path)) {
-      ThrowFileError(u"Не удалось создать базу"_s, path, EEXIST);
-    }
+qint64 NextDatabaseNumber(const DataDir& data) {
+  const QStringList files = data.List({}, files::kDescriptorExtension);
+  return files.isEmpty() ? 1 : NumberAbove(NumberOfName(files.constLast()));
+}
+
+qint64 FreeDatabaseNumber(const DataDir& data) {
+  const auto is_taken = [&](qint64 number) {
+    const QString name = NumberedName(number);
+    const QString descriptor = name + files::kDescriptorExtension;
+    return data.FileExists(name) || data.DirectoryExists(name) || data.FileExists(descriptor) ||
+           data.DirectoryExists(descriptor);
+  };
+  qint64 number = NextDatabaseNumber(data);
+  if (!is_taken(number)) return number;
+  double highest = 0;
+  for (const QString& file : data.List({}, files::kDescriptorExtension)) {
+    highest = std::max(highest, NumberOfName(file));
   }
+  for (number = NumberAbove(highest); is_taken(number);) ++number;
   return number;
 }
 
@@ -86,23 +101,21 @@ int ImportRowAtPosition(int position, int rows) {
   return row >= 0 && row < rows ? row : rows > 0 ? 0 : -1;
 }
 
-QString AddNewDatabase(SaveSet& save, int number, const QString& name) {
+QString AddNewDatabase(SaveSet& save, qint64 number, const QString& name) {
   const QString base = NumberedName(number) + u'\\';
-  save.Write(NumberedName(number) + kExtension, WriteDescriptor({base, name}));
+  save.Write(NumberedName(number) + files::kDescriptorExtension, WriteDescriptor({base, name}));
   save.MakeNewDirectory(base);
-  for (const char16_t* directory : {u"KASS", u"KASS\\PRH", u"KASS\\UHD", u"SPR", u"ВНПЕР"}) {
-    save.MakeDirectory(base + QStringView(directory));
-  }
+  for (const QStringView directory : files::kDirectories) save.MakeDirectory(base + directory);
   const QString warehouse = u"Главный склад"_s;
-  save.Write(base + u"marked", {});
-  save.Write(base + u"склад.usd", EncodeLines({warehouse}));
-  save.Write(base + u"currency.usd", WriteCurrency(RoubleCurrency()));
+  save.Write(base + files::kMarks, {});
+  save.Write(base + files::kWarehouses, EncodeLines({warehouse}));
+  save.Write(base + files::kCurrency, WriteCurrency(RoubleCurrency()));
   AddNewWarehouse(save, base + warehouse);
   QStringList firm(15, u"-"_s);
   firm.first() = u"Ваша фирма"_s;
-  save.Write(base + u"SPR\\firma.spr", EncodeLines(firm));
-  for (const char16_t* file : {u"SPR\\klient.spr", u"SPR\\post.spr", u"SPR\\товар.spr"}) {
-    save.Write(base + QStringView(file), {});
+  save.Write(base + files::kFirms, EncodeLines(firm));
+  for (const QStringView file : {files::kClients, files::kSuppliers, files::kGoods}) {
+    save.Write(base + file, {});
   }
   return base;
 }
@@ -110,13 +123,15 @@ QString AddNewDatabase(SaveSet& save, int number, const QString& name) {
 void AddNewWarehouse(SaveSet& save, const QString& path) {
   // Names that differ in letter case only are one directory: it must not be filled anew.
   save.MakeNewDirectory(path);
-  for (const char16_t* directory : {u"\\OPR", u"\\PRH", u"\\PRICE", u"\\UHD"}) {
-    save.MakeDirectory(path + QStringView(directory));
+  for (const QStringView directory : files::kWarehouseDirectories) {
+    save.MakeDirectory(path + u'\\' + directory);
   }
-  save.Write(path + u"\\price.usd", EncodeLines({u"Розница"_s, u"Мелкий опт"_s, u"Опт"_s}));
-  save.Write(path + u"\\товар.usl", {});
+  save.Write(path + u'\\' + files::kPriceNames,
+             EncodeLines({u"Розница"_s, u"Мелкий опт"_s, u"Опт"_s}));
+  save.Write(path + u'\\' + files::kLedger, {});
   for (int number = 1; number <= 5; ++number) {
-    save.Write(path + u"\\PRICE\\" + NumberedName(number) + u".prc", {});
+    save.Write(
+        path + u'\\' + files::kPrices + u'\\' + NumberedName(number) + files::kPriceExtension, {});
   }
 }
 
@@ -145,7 +160,7 @@ void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
 }
 
 QString DirectorPassword(const DataDir& data) {
-  const QByteArray bytes = data.ReadIfAny(u"bases.psw"_s).value_or(QByteArray());
+  const QByteArray bytes = data.ReadIfAny(files::kPassword.toString()).value_or(QByteArray());
   const QString line = LineReader(bytes).Next();
   return line.left(line.indexOf(u'\n'));
 }

@@ -24,20 +24,25 @@ std::vector<CatalogueEntry> ListDatabases(const DataDir& data);
 
 // A number as files are named by it: "0###", "0012".
 QString NumberedName(qint64 number);
+// The number above one that was read from a name, rounded as the picture "0###" rounds: half away
+// from zero. Up to 15 digits count; a larger number is taken for the largest of these.
+qint64 NumberAbove(double number);
 
 // The number for a new Database: one above the number of the last descriptor by name, 1 when there
 // is none. A gap in the middle is not filled.
-int NextDatabaseNumber(const DataDir& data);
+qint64 NextDatabaseNumber(const DataDir& data);
 
 // Adds the descriptor and the whole tree of a new Database to a save; gives its path, "0001\".
-QString AddNewDatabase(SaveSet& save, int number, const QString& name);
+QString AddNewDatabase(SaveSet& save, qint64 number, const QString& name);
 // Adds the directories and files of a new warehouse, `path` being its directory; the save fails
 // where something of that name, whatever its letter case, is there already.
 void AddNewWarehouse(SaveSet& save, const QString& path);
 
-// The number for a new Database, once it is certain that nothing stands under it. Throws
-// filesystem_error (EEXIST) where a directory or a descriptor does.
-int FreeDatabaseNumber(const DataDir& data);
+// The number for a new Database under which nothing stands: NextDatabaseNumber, or where a
+// directory or a descriptor has that one (9999 lies behind 10000 in a listing), the next free one
+// above the highest number of a descriptor. Throws filesystem_error when the directory can't be
+// listed.
+qint64 FreeDatabaseNumber(const DataDir& data);
 
 // Throws filesystem_error for an entry whose path is not one plain directory name (see
 // IsPlainTreePath), or is a link that leads out of the directory of the descriptor: it is listed,

@@ -9,6 +9,7 @@
 #include "books/store/SaveSet.h"
 #include "books/store/SystemCalls.h"
 #include "formats/CurrencyFile.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/Ordering.h"
 #include "formats/PartyFile.h"
 #include "formats/TaxRatesFile.h"
@@ -34,10 +35,10 @@ class Gathering {
   // A source without a currency gives back the rouble. One that has it copies a file which no
   // Database holds, so that the destination keeps its own: the currency itself is never copied.
   void CopyCurrency() {
-    if (data_.FileExists(source_ + u"currency.usd")) {
+    if (data_.FileExists(source_ + files::kCurrency)) {
       CopyFile(u"currency.spr"_s);
     } else {
-      IgnoreErrors([&] { Write(u"currency.usd"_s, WriteCurrency(RoubleCurrency())); });
+      IgnoreErrors([&] { Write(files::kCurrency.toString(), WriteCurrency(RoubleCurrency())); });
     }
     if (data_.FileExists(source_ + kTaxRatesPath)) {
       MakeDirectory(kOwnDirectory.toString());
@@ -48,30 +49,31 @@ class Gathering {
   void CopyStock() {
     for (const QString& warehouse : SourceWarehouses()) {
       MakeWarehouse(warehouse);
-      CopyFile(warehouse + u"\\товар.usl");
+      CopyFile(warehouse + u'\\' + files::kLedger);
     }
   }
 
   void CopyPrices() {
     for (const QString& warehouse : SourceWarehouses()) {
       MakeWarehouse(warehouse);
-      CopyFile(warehouse + u"\\price.usd");
-      const QString lists = warehouse + u"\\PRICE\\";
+      CopyFile(warehouse + u'\\' + files::kPriceNames);
+      const QString lists = warehouse + u'\\' + files::kPrices + u'\\';
       IgnoreErrors([&] {
-        for (const QString& file : data_.List(source_ + lists, u".prc")) CopyFile(lists + file);
+        for (const QString& file : data_.List(source_ + lists, files::kPriceExtension))
+          CopyFile(lists + file);
       });
     }
   }
 
  private:
   QStringList SourceWarehouses() const {
-    return DecodeLines(data_.ReadIfAny(source_ + u"склад.usd").value_or(QByteArray()));
+    return DecodeLines(data_.ReadIfAny(source_ + files::kWarehouses).value_or(QByteArray()));
   }
 
   void MakeWarehouse(const QString& name) {
     MakeDirectory(name);
-    for (const char16_t* directory : {u"\\OPR", u"\\PRH", u"\\UHD", u"\\PRICE"}) {
-      MakeDirectory(name + QStringView(directory));
+    for (const QStringView directory : files::kWarehouseDirectories) {
+      MakeDirectory(name + u'\\' + directory);
     }
   }
 
@@ -136,20 +138,21 @@ void ImportChoice::Tick(ImportArea area, bool on) {
 void ImportAreas(const DataDir& data, const QString& source, const QString& destination,
                  const ImportChoice& choice) {
   Gathering gathering(data, source, destination);
-  const auto copy_file = [&](const QString& name) {
-    return [&, name] { gathering.CopyFile(name); };
+  const auto copy_file = [&](QStringView name) {
+    return [&, name] { gathering.CopyFile(name.toString()); };
   };
-  const std::array<std::function<void()>, kImportAreas> steps = {
-      copy_file(u"spr\\товар.spr"_s),
+  const std::function<void()> steps[] = {
+      copy_file(files::kGoods),
       [&] { gathering.CopyCurrency(); },
-      copy_file(u"склад.usd"_s),
+      copy_file(files::kWarehouses),
       copy_file(PartyPath(PartyKind::kFirm)),
       copy_file(PartyPath(PartyKind::kSupplier)),
       copy_file(PartyPath(PartyKind::kClient)),
       [&] { gathering.CopyStock(); },
       [&] { gathering.CopyPrices(); },
-      copy_file(u"post.ras"_s),
+      copy_file(u"post.ras"),
   };
+  static_assert(std::size(steps) == kImportAreas);
   for (int area = 0; area < kImportAreas; ++area) {
     if (choice.IsTicked(static_cast<ImportArea>(area))) steps[static_cast<size_t>(area)]();
   }

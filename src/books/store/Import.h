@@ -21,7 +21,7 @@ enum class ImportArea {
   kPrices,    // each warehouse's price lists and their names
   kAccounts,  // with suppliers; no screen of the system writes them
 };
-inline constexpr int kImportAreas = 9;
+inline constexpr int kImportAreas = static_cast<int>(ImportArea::kAccounts) + 1;
 
 // What is ticked. Stock and price lists are of no use without the goods and the warehouses, nor
 // accounts without the suppliers: ticking them ticks and locks those. What was ticked so stays

@@ -3,6 +3,7 @@
 #include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
 #include "formats/CurrencyFile.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/PartyFile.h"
 #include "formats/TextLines.h"
 
@@ -21,7 +22,7 @@ QStringList PartyNames(const Session& session, const DataDir& data, PartyKind ki
 }
 
 QString ShortCurrency(const Session& session, const DataDir& data) {
-  const QString path = session.Path(u"currency.usd"_s);
+  const QString path = session.Path(files::kCurrency);
   if (!data.FileExists(path)) {
     IgnoreErrors([&] {
       SaveSet save(data);
@@ -45,11 +46,15 @@ bool OpenDatabase(Session& session, const DataDir& data) {
   session.warehouses.clear();
   IgnoreErrors([&] {
     session.warehouses =
-        DecodeLines(ReadWithState(data, session.Path(u"склад.usd"_s), session.warehouses_file));
+        DecodeLines(ReadWithState(data, session.Path(files::kWarehouses), session.warehouses_file));
   });
   session.currency_name = ShortCurrency(session, data);
   for (const PartyKind kind : kPartyKinds) session.Parties(kind) = PartyNames(session, data, kind);
   return true;
+}
+
+QString LedgerPath(const Session& session, const QString& warehouse) {
+  return session.Path(warehouse, files::kLedger);
 }
 
 void CloseDatabase(Session& session) {

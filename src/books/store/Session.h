@@ -44,6 +44,9 @@ struct Session {
 // there is none. A missing currency.usd is written anew, a missing list leaves its list empty.
 bool OpenDatabase(Session& session, const DataDir& data);
 
+// The stock ledger of a warehouse, "0001\Главный склад\товар.usl".
+QString LedgerPath(const Session& session, const QString& warehouse);
+
 // Empties the session, as the command that closes a Database does; the role stays.
 void CloseDatabase(Session& session);
 

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "books/printing/InputError.h"
+#include "formats/DatabaseFiles.h"
 #include "ui/Help.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Fields.h"
@@ -213,7 +214,7 @@ void InvoiceScreen::LoadTotals() {
     FillInvoiceTotals(PageCurrency(), source.total, parameters, Context().session.currency_name,
                       ReadCurrencyForms(), totals);
     rows_ = InvoiceRows(source.lines, InvoiceFactor(PageCurrency(), parameters), parameters.vat,
-                        FileOf(u"spr\\товар.spr"_s));
+                        FileOf(files::kGoods));
     rows_ready_ = true;
     notes_.Show({.total = source.total,
                  .parameters = parameters,

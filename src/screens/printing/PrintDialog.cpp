@@ -7,6 +7,7 @@
 
 #include "books/directories/MainCurrency.h"
 #include "books/printing/InputError.h"
+#include "formats/DatabaseFiles.h"
 #include "formats/PartyFile.h"
 #include "formats/TextLines.h"
 #include "screens/printing/CloseAndShow.h"
@@ -34,11 +35,11 @@ PrintDialog::PrintDialog(AppContext& context, const PrintSource& source, const Q
   setObjectName(name);
 }
 
-QByteArray PrintDialog::FileOf(const QString& path) const {
+QByteArray PrintDialog::FileOf(QStringView path) const {
   return context_.data.Read(context_.session.Path(path));
 }
 
-Currency PrintDialog::ReadCurrencyForms() const { return ReadCurrency(FileOf(u"currency.usd"_s)); }
+Currency PrintDialog::ReadCurrencyForms() const { return ReadCurrency(FileOf(files::kCurrency)); }
 
 QString PrintDialog::FirstFirm() const {
   const QByteArray firms = FileOf(PartyPath(PartyKind::kFirm));

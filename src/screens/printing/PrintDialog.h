@@ -32,7 +32,7 @@ class PrintDialog : public QDialog {
   AppContext& Context() const { return context_; }
   const PrintSource& Source() const { return source_; }
   // The file of the open Database as it is now. Throws filesystem_error.
-  QByteArray FileOf(const QString& path) const;
+  QByteArray FileOf(QStringView path) const;
   Currency ReadCurrencyForms() const;
   QString FirstFirm() const;  // first line of the firms' directory
   // What "Параметры" opens with: the taxes are those of the Database. Where their file is damaged

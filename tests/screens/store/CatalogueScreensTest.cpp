@@ -6,6 +6,7 @@
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
+#include "books/store/SystemCalls.h"
 #include "screens/store/CatalogueDialog.h"
 #include "screens/store/CatalogueHost.h"
 #include "screens/store/CatalogueList.h"
@@ -339,15 +340,16 @@ TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
 }
 
 TEST_F(CatalogueScreens, FailedCreationTellsWhyAndLeavesTheScreen) {
-  world_.Temp().Put(u"0001\\чужое"_s, {});
   NewDatabaseDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   Type(Find<QLineEdit>(&screen, "Text3"), u"Первая"_s);
   ModalAnswers answers{[](QWidget* dialog) {
-    EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"такое имя уже есть"_s));
+    EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"на диске нет места"_s));
     dialog->close();
   }};
+  syscalls::SetFaultHook([](std::string_view, const QByteArray&) { return ENOSPC; });
   Click(&screen, "Command1");
+  syscalls::SetFaultHook({});
   EXPECT_TRUE(screen.isVisible());
   EXPECT_TRUE(host_.calls.isEmpty());
   EXPECT_FALSE(TheSession().IsOpen());
