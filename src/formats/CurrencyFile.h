@@ -12,6 +12,7 @@ struct Currency {
   // Short form, nominative singular, genitive singular, genitive plural; then the minor unit's.
   std::array<QString, 8> forms;
 
+  // "руб."
   const QString& ShortForm() const { return forms[0]; }
   bool operator==(const Currency&) const = default;
 };

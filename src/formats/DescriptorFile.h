@@ -18,6 +18,7 @@ struct DatabaseDescriptor {
   bool operator==(const DatabaseDescriptor&) const = default;
 };
 
+// NNNN.us; missing lines read as empty, lines after the second are passed over.
 DatabaseDescriptor ReadDescriptor(QByteArrayView bytes);
 QByteArray WriteDescriptor(const DatabaseDescriptor& descriptor);
 
@@ -29,6 +30,7 @@ struct BackupEntry {
   bool operator==(const BackupEntry&) const = default;
 };
 
+// archive.idb; the last entry of a cut file has empty texts.
 std::vector<BackupEntry> ReadBackupIndex(QByteArrayView bytes);
 QByteArray WriteBackupIndex(const std::vector<BackupEntry>& entries);
 

@@ -58,6 +58,7 @@ struct DocumentFormat {
   std::vector<QString DocumentLine::*> line;
 };
 
+// Which fields stand in which line of a kind.
 const DocumentFormat& FormatOf(DocumentKind kind);
 
 // A document that was cut reads on with empty fields; the blank behind a date is cut off.

@@ -26,6 +26,7 @@ struct GoodsRecord {
   QString unit;
   QString price;  // number text of the purchase price
 
+  // A group has a name only.
   bool IsGroup() const { return IsGroupName(name); }
   bool operator==(const GoodsRecord&) const = default;
 };
@@ -38,9 +39,12 @@ struct RawGoods {
   QByteArrayView unit;
   QByteArrayView price;  // as it stands, number or not
 
+  // The same of the bytes.
   bool IsGroup() const { return name.startsWith(' '); }
 };
 
+// Calls visit(goods) with each record in the order of the file; fields that a cut file lacks are
+// empty.
 template <typename Visit>
 void ForEachGoods(QByteArrayView bytes, Visit&& visit) {
   for (LineReader reader(bytes); !reader.AtEnd();) {

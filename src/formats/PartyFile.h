@@ -45,6 +45,7 @@ QStringView PartyPath(PartyKind kind);
 // A field of a record, empty where the kind has no such field.
 QString FieldOf(PartyKind kind, const Party& party, PartyField field);
 
+// The last record of a cut file has its missing fields empty.
 std::vector<Party> ReadParties(PartyKind kind, QByteArrayView bytes);
 QByteArray WriteParties(const std::vector<Party>& parties);
 

@@ -22,6 +22,7 @@ struct PriceRecord {
   QString purchase;
   QString sale;
 
+  // A group has a name only.
   bool IsGroup() const { return IsGroupName(name); }
   bool operator==(const PriceRecord&) const = default;
 };
@@ -42,6 +43,7 @@ void ForEachPrice(QByteArrayView bytes, Visit&& visit) {
   }
 }
 
+// All texts as they stand, number or not; the last record of a cut file has empty fields.
 std::vector<PriceRecord> ReadPrices(QByteArrayView bytes);
 QByteArray WritePrices(const std::vector<PriceRecord>& records);
 // Adds the lines of one record.

@@ -48,6 +48,8 @@ class LineWriter {
   // Hands the bytes on as they come, so that a file of any length needs little memory.
   explicit LineWriter(ByteSink sink) : sink_(std::move(sink)) {}
 
+  // Adds a line and its end. A line end inside it becomes two blanks. Add throws std::system_error
+  // for a character that Windows-1251 lacks.
   void Add(QStringView line);
   void AddRaw(QByteArrayView line);
   void Reserve(qsizetype bytes) { bytes_.reserve(bytes); }
@@ -59,6 +61,7 @@ class LineWriter {
   QByteArray bytes_;
 };
 
+// All lines of a file, and the file of all lines; EncodeLines throws as EncodeText does.
 QStringList DecodeLines(QByteArrayView bytes);
 QByteArray EncodeLines(const QStringList& lines);
 

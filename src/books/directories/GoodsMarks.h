@@ -13,6 +13,7 @@
 
 namespace kladez {
 
+// The path of `marked` in the open Database.
 QString MarksPath(const Session& session);
 
 // The names of the file; none when it can't be read, and then `file` lets nobody write over it.

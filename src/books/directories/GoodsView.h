@@ -11,6 +11,7 @@ enum class GoodsView {
   kGoodsOnly,  // goods alone, by name
 };
 
+// The view that a screen was left in, told by one of its two settings; both are written.
 GoodsView ReadGoodsView(const SettingsStore& store, const Setting& goods_only);
 void WriteGoodsView(SettingsStore& store, const Setting& groups, const Setting& goods_only,
                     GoodsView view);

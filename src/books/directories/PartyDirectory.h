@@ -16,6 +16,7 @@ class PartyDirectory {
   // Reads the kind's file; a missing one is an empty list. Throws filesystem_error.
   PartyDirectory(const DataDir& data, Session& session, PartyKind kind);
 
+  // The kind it was read as; the parties, in the order of the file.
   PartyKind Kind() const { return kind_; }
   const std::vector<Party>& Rows() const { return rows_; }
 

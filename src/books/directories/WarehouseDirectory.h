@@ -22,6 +22,7 @@ bool HoldsForbiddenCharacter(QStringView name);
 // touched.
 class WarehouseDirectory {
  public:
+  // Both outlive the list; the names are those that the session has.
   WarehouseDirectory(const DataDir& data, Session& session);
 
   const QStringList& Names() const { return names_; }

@@ -9,6 +9,7 @@ namespace kladez {
 
 class InputError : public std::runtime_error {
  public:
+  // `text` is shown to the person as it is: which field, and what it may hold.
   explicit InputError(const QString& text) : std::runtime_error(text.toStdString()) {}
 };
 

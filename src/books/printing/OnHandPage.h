@@ -8,6 +8,7 @@
 
 namespace kladez {
 
+// The bytes of naltov.htm.
 QByteArray OnHandPage(const OnHandList& list, QDate today);
 
 }  // namespace kladez

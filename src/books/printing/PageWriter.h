@@ -55,6 +55,7 @@ class PageWriter {
   // The last row of a report, bold. Its first cell opens with "VALING=TOP", which is meant.
   void TotalRow(const std::vector<PageCell>& cells, PageFont font);
 
+  // The page so far; where a sink takes the lines, what has not gone to it.
   QByteArray Take() { return lines_.Take(); }
 
  private:

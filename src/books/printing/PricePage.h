@@ -58,6 +58,7 @@ StockByName LoadStockByName(const DataDir& data, const Session& session,
 // 50%"; nothing where there are none.
 QString PriceEffectText(const PricePageOptions& options);
 
+// The bytes of price.htm.
 QByteArray PricePage(const PricePageRows& rows, const StockByName& stock,
                      const PricePageOptions& options);
 

@@ -29,6 +29,7 @@ struct WaybillLabels {
   QString from;
   QString to;
 };
+// What the two parties of a waybill are called.
 WaybillLabels WaybillLabelsOf(DocumentKind kind);
 
 // Works the totals out of the document's sum. Throws InputError for a field that is no number; what

@@ -22,6 +22,7 @@ struct ChartGrid {
   QStringList row_labels;
   std::vector<ChartColumn> columns;
 
+  // Rows and columns count from 0 and must exist.
   int RowCount() const { return static_cast<int>(row_labels.size()); }
 
   double& Cell(int row, int column) {

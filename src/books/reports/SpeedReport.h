@@ -21,6 +21,7 @@ struct SpeedReport {
   };
   std::vector<Row> rows;  // by name
 
+  // The quantities of all goods, in whatever units they have.
   double TotalQuantity() const;
   // Rounded after each addition.
   double TotalSales() const;

@@ -34,6 +34,7 @@ struct DocumentBook {
   std::vector<LedgerEffect> effects;
 };
 
+// The row of the table for a kind.
 const DocumentBook& BookOf(DocumentKind kind);
 
 // The directory of a kind's files, and a file in it; transfers do not mind the warehouse.

@@ -22,6 +22,7 @@ struct RegisterFilter {
   QString year = {};  // "2026"
   QDate day = {};
 
+  // Whether the filter shows a document of that date.
   bool Passes(QDate date, QDate today) const;
 };
 

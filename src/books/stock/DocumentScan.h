@@ -24,6 +24,7 @@ namespace kladez {
 
 class ScannedDocument {
  public:
+  // `file` and what `bytes` views outlive it; `part` is how much of its directory is done, 0 to 1.
   ScannedDocument(const DocumentFormat& format, const QString& file, QByteArrayView bytes,
                   double part = 0);
 

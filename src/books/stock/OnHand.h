@@ -24,6 +24,7 @@ struct OnHandRow {
   QString price;  // purchase price as the directory has it
   QString group;  // the directory's group above the item, with its blank; empty before the first
 
+  // A heading of the list, which has no quantity.
   bool IsGroup() const { return IsGroupName(name); }
 };
 
@@ -35,9 +36,11 @@ class OnHandList {
   };
 
   OnHandList() = default;
+  // The rows in the order of the screen.
   explicit OnHandList(std::vector<OnHandRow> rows) : rows_(std::move(rows)) {}
 
   const std::vector<OnHandRow>& Rows() const { return rows_; }
+  // Sums at the prices of the rows, which read as 0 where they are no number.
   Totals Total() const;
   // "Итого наименований: 12     на сумму: 3400.00"
   QString StatusText() const;
@@ -63,6 +66,7 @@ class OnHandList {
 // added one after the other, each sum kept as text between two additions. Bytes are those of files.
 class OnHandJoin {
  public:
+  // `goods` is spr\товар.spr, `ledger` a товар.usl; Take gives the list once, when all are added.
   OnHandJoin(QByteArrayView goods, GoodsView view);
   void Add(QByteArrayView ledger);
   OnHandList Take();

@@ -19,6 +19,7 @@ class OpeningBalances {
   const std::vector<LedgerRecord>& Rows() const { return rows_; }
   bool IsGroup(int row) const { return IsGroupName(rows_.at(row).name); }
 
+  // Puts what was picked at the end of the list.
   void Add(const GoodsPick& pick);
   // False for a group and for a text that is no number or is the row's text already.
   bool ChangeQuantity(int row, const QString& quantity);

@@ -12,6 +12,7 @@ class Clock {
   Clock() = default;                                         // the machine's clock
   explicit Clock(const QDateTime& fixed) : fixed_(fixed) {}  // always this instant
 
+  // Local time; that of the test where one set it.
   QDateTime Now() const { return fixed_ ? *fixed_ : QDateTime::currentDateTime(); }
   QDate Today() const { return Now().date(); }
 

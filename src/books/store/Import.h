@@ -28,6 +28,7 @@ inline constexpr int kImportAreas = static_cast<int>(ImportArea::kAccounts) + 1;
 // ticked when the lock goes.
 class ImportChoice {
  public:
+  // Whether the area is to be copied; whether its tick is held by another one.
   bool IsTicked(ImportArea area) const { return ticked_[static_cast<size_t>(area)]; }
   bool IsLocked(ImportArea area) const;
   void Tick(ImportArea area, bool on);  // no effect on a locked one
