@@ -13,6 +13,8 @@
 #include <memory>
 
 #include "books/store/Errors.h"
+#include "books/store/FileNames.h"
+#include "books/store/ReadAhead.h"
 #include "formats/Ordering.h"
 
 namespace kladez {
@@ -48,49 +50,71 @@ QString SpellingIn(const QString& directory, const QString& name) {
   return found;
 }
 
-bool ReadWhole(int fd, QByteArray& bytes) {
+// The length of what is open, nothing with errno set for what can't be read whole.
+std::optional<qsizetype> LengthOf(int fd) {
   struct stat status;
-  if (::fstat(fd, &status) < 0) return false;
+  if (::fstat(fd, &status) < 0) return std::nullopt;
   if (!S_ISREG(status.st_mode)) {
     errno = EISDIR;
-    return false;
+    return std::nullopt;
   }
   if (status.st_size > kLargestFile) {
     errno = EFBIG;
-    return false;
+    return std::nullopt;
   }
-  bytes.resize(status.st_size);
-  qsizetype done = 0;
+  return status.st_size;
+}
+
+// Fills the bytes from `done` on, and adds to it what came; less than room is the end of the file.
+bool ReadOn(int fd, QByteArray& bytes, qsizetype& done) {
   while (done < bytes.size()) {
     const ssize_t got = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
-    if (got < 0) {
-      if (errno == EINTR) continue;
-      return false;
-    }
-    if (got == 0) break;
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return false;
     done += got;
+    if (got == 0) break;
   }
+  return true;
+}
+
+bool ReadWhole(int fd, QByteArray& bytes) {
+  const auto length = LengthOf(fd);
+  if (!length) return false;
+  bytes.resize(*length);
+  qsizetype done = 0;
+  if (!ReadOn(fd, bytes, done)) return false;
   bytes.truncate(done);
   return true;
 }
 
-bool ReadAt(int directory, const QByteArray& name, QByteArray& bytes) {
-  // Without O_NONBLOCK a pipe in the place of a file would hang the program.
-  const int fd =
-      ::openat(directory, name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-  if (fd < 0) return false;
-  const bool good = ReadWhole(fd, bytes);
+// Without O_NONBLOCK a pipe in the place of a file would hang the program.
+int OpenAt(int directory, const char* name) {
+  return ::openat(directory, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+}
+
+// Reads into a buffer that many files share, and gives how much came. Nearly all documents come in
+// the one read: an answer shorter than the room is the whole of a file.
+std::optional<qsizetype> ReadShared(int fd, QByteArray& buffer) {
+  const ssize_t first = ::read(fd, buffer.data(), static_cast<size_t>(buffer.size()));
+  if (0 < first && first < buffer.size()) return first;
+  const auto length = LengthOf(fd);
+  if (!length) return std::nullopt;
+  qsizetype done = std::max<ssize_t>(0, first);
+  if (*length >= buffer.size()) buffer.resize(*length + 1);
+  if (!ReadOn(fd, buffer, done)) return std::nullopt;
+  return done;
+}
+
+// Does `read` with the file open; errno is that of the read where it fails.
+template <typename Read>
+auto WithFile(int directory, const char* name, Read read) -> decltype(read(0)) {
+  const int fd = OpenAt(directory, name);
+  if (fd < 0) return {};
+  const auto result = read(fd);
   const int error = errno;
   ::close(fd);
   errno = error;
-  return good;
-}
-
-bool MayBeFile(int directory, const dirent& entry) {
-  if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_REG;
-  struct stat status;
-  return ::fstatat(directory, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-         S_ISREG(status.st_mode);
+  return result;
 }
 
 }  // namespace
@@ -144,7 +168,8 @@ bool DataDir::DirectoryExists(const QString& path) const {
 QByteArray DataDir::Read(const QString& path) const {
   const QString file = Resolve(path);
   QByteArray bytes;
-  if (!ReadAt(AT_FDCWD, QFile::encodeName(file), bytes)) {
+  const auto read = [&](int fd) { return ReadWhole(fd, bytes); };
+  if (!WithFile(AT_FDCWD, QFile::encodeName(file).constData(), read)) {
     ThrowFileError(u"Не удалось прочитать файл"_s, file, errno);
   }
   return bytes;
@@ -156,41 +181,42 @@ std::optional<QByteArray> DataDir::ReadIfAny(const QString& path) const {
   return bytes;
 }
 
-QStringList DataDir::List(const QString& directory, QStringView extension) const {
-  const QString path = directory.isEmpty() ? root_ : Resolve(directory);
-  const Directory entries = OpenDirectory(path);
+namespace {
+
+// An empty path is the data directory itself.
+Directory OpenListed(const DataDir& data, const QString& directory) {
+  const QString path = directory.isEmpty() ? data.Root() : data.Resolve(directory);
+  Directory entries = OpenDirectory(path);
   if (!entries) ThrowFileError(u"Не удалось прочитать каталог"_s, path, errno);
-  struct Entry {
-    QString key;
-    QString name;
-  };
-  std::vector<Entry> found;
-  while (const dirent* entry = ::readdir(entries.get())) {
-    QString name = QFile::decodeName(entry->d_name);
-    if (!name.endsWith(extension, Qt::CaseInsensitive)) continue;
-    if (!MayBeFile(::dirfd(entries.get()), *entry)) continue;
-    found.push_back({FoldCase(name), std::move(name)});
-  }
-  std::sort(found.begin(), found.end(), [](const Entry& a, const Entry& b) {
-    return a.key != b.key ? a.key < b.key : a.name < b.name;
-  });
-  QStringList names;
-  names.reserve(static_cast<qsizetype>(found.size()));
-  for (Entry& entry : found) names.append(std::move(entry.name));
+  return entries;
+}
+
+}  // namespace
+
+QStringList DataDir::List(const QString& directory, QStringView extension) const {
+  const Directory entries = OpenListed(*this, directory);
+  const FileNames found(entries.get(), extension);
+  QStringList names(found.Count());
+  for (qsizetype i = 0; i < found.Count(); ++i) found.ToText(i, names[i]);
   return names;
 }
 
 void DataDir::ForEachFile(const QString& directory, QStringView extension,
                           const Visitor& visit) const {
-  const QStringList names = List(directory, extension);
-  const QString path = directory.isEmpty() ? root_ : Resolve(directory);
-  const Directory entries = OpenDirectory(path);
-  if (!entries) ThrowFileError(u"Не удалось прочитать каталог"_s, path, errno);
-  QByteArray bytes;  // one buffer for all files
-  for (qsizetype i = 0; i < names.size(); ++i) {
-    const bool good = ReadAt(::dirfd(entries.get()), QFile::encodeName(names[i]), bytes);
-    const auto contents = good ? std::optional<QByteArrayView>(bytes) : std::nullopt;
-    if (!visit({names[i], contents, i, names.size()})) return;
+  const Directory entries = OpenListed(*this, directory);
+  const FileNames names(entries.get(), extension);
+  const int fd = ::dirfd(entries.get());
+  ReadAhead ahead(fd, names);
+  constexpr qsizetype kRoom = 1 << 14;
+  QByteArray buffer(kRoom, Qt::Uninitialized);
+  QString name;
+  for (qsizetype i = 0; i < names.Count(); ++i) {
+    ahead.Reached(i);
+    const auto size = WithFile(fd, names.At(i), [&](int file) { return ReadShared(file, buffer); });
+    std::optional<QByteArrayView> bytes;
+    if (size) bytes = QByteArrayView(buffer).first(*size);
+    names.ToText(i, name);
+    if (!visit({name, bytes, i, names.Count()})) return;
   }
 }
 

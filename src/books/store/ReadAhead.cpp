@@ -1,0 +1,108 @@
+#include "books/store/ReadAhead.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+
+namespace kladez {
+namespace {
+
+constexpr size_t kThreads = 8;
+constexpr qsizetype kLookEvery = 16;    // files
+constexpr qsizetype kManyWaits = 4;     // of these
+constexpr qsizetype kTake = 8;          // files at once
+constexpr qsizetype kFarAhead = 1024;   // files
+constexpr qsizetype kEnough = 4 * 256;  // files read without a wait
+
+// How often this thread has given way of itself, which in reading files is to wait for the disk.
+long Waits() {
+  struct rusage usage;
+  return ::getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_nvcsw : 0;
+}
+
+void ReadIntoNowhere(int directory, const char* name) {
+  const int fd = ::openat(directory, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+  if (fd < 0) return;
+  std::array<char, 1 << 14> nowhere;
+  // What is longer the system reads ahead by itself once it is being read.
+  [[maybe_unused]] const ssize_t got = ::read(fd, nowhere.data(), nowhere.size());
+  ::close(fd);
+}
+
+}  // namespace
+
+void ReadAhead::Look(qsizetype place) {
+  next_look_ = place + kLookEvery;
+  if (threads_.empty()) {
+    const long waits = Waits();
+    const bool slow = place > 0 && waits - waits_before_ >= kManyWaits;
+    waits_before_ = waits;
+    visited_ = place;
+    if (slow) Start();
+    return;
+  }
+  bool enough = false;
+  {
+    const std::lock_guard lock(mutex_);
+    visited_ = place;
+    if (waited_ > 0) read_ = waited_ = 0;
+    enough = read_ >= kEnough;
+  }
+  moved_.notify_all();
+  if (enough) {
+    Stop();
+    waits_before_ = Waits();
+  }
+}
+
+void ReadAhead::Start() {
+  next_ = visited_;
+  read_ = waited_ = 0;
+  stopping_ = false;
+  try {
+    while (threads_.size() < kThreads) threads_.emplace_back(&ReadAhead::Work, this);
+  } catch (const std::system_error&) {
+    // With fewer threads, or none, the reading is slower and the same.
+  }
+}
+
+void ReadAhead::Stop() {
+  {
+    const std::lock_guard lock(mutex_);
+    stopping_ = true;
+  }
+  moved_.notify_all();
+  for (std::thread& thread : threads_) thread.join();
+  threads_.clear();
+}
+
+ReadAhead::Places ReadAhead::Take(qsizetype waits) {
+  std::unique_lock lock(mutex_);
+  waited_ += waits;
+  next_ = std::max(next_, visited_);
+  moved_.wait(lock, [this] { return stopping_ || next_ < visited_ + kFarAhead; });
+  const qsizetype end = stopping_ ? next_ : std::min(next_ + kTake, names_.Count());
+  const Places places{next_, end};
+  read_ += end - next_;
+  next_ = end;
+  return places;
+}
+
+void ReadAhead::Work() {
+  qsizetype waits = 0;
+  while (true) {
+    const Places places = Take(waits);
+    if (places.begin == places.end) return;
+    const long before = Waits();
+    for (qsizetype i = places.begin; i < places.end; ++i) {
+      ReadIntoNowhere(directory_, names_.At(i));
+    }
+    waits = Waits() - before;
+  }
+}
+
+}  // namespace kladez
