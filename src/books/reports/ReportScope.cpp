@@ -15,7 +15,13 @@ QString DirectoryOf(DocumentKind kind) {
 
 }  // namespace
 
-int DayKeyOf(QDate date) { return date.year() % 100 * 10000 + date.month() * 100 + date.day(); }
+int DayKeyOf(QDate date) {
+  int year = 0;
+  int month = 0;
+  int day = 0;
+  date.getDate(&year, &month, &day);
+  return year % 100 * 10000 + month * 100 + day;
+}
 
 bool ReportPeriod::Passes(int day_key) const {
   switch (kind) {

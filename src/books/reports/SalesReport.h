@@ -4,24 +4,16 @@
 
 #include <QByteArray>
 #include <optional>
-#include <vector>
 
 #include "books/reports/ReportScope.h"
+#include "books/reports/SalesRows.h"
 #include "formats/TextPool.h"
 
 namespace kladez {
 
 struct SalesReport {
-  struct Row {
-    int day_key;
-    int name;      // texts are numbers of the pool
-    int quantity;  // as written in the document
-    int unit;
-    double amount;  // after the discount, rounded to the kopeck
-  };
-
   TextPool texts;
-  std::vector<Row> rows;
+  SalesRows rows;
 
   // The sum of the amounts is rounded after each addition, the sum of the quantities never.
   double TotalQuantity() const;

@@ -62,7 +62,10 @@ TEST_F(Reports, CurrentMonthCountsThatMonthOfEveryYearAndARangeComparesTwoDigits
   const auto names = [&](const ReportScope& scope) {
     const auto report = CollectSales(temp.Data(), session, scope);
     QStringList list;
-    for (const auto& row : report->rows) list.append(report->texts.Text(row.name));
+    SalesRow row;
+    for (SalesRows::Walk walk(report->rows); walk.Next(row);) {
+      list.append(report->texts.Text(row.name));
+    }
     return list;
   };
   const QString warehouse = session.warehouses.first();
@@ -85,8 +88,8 @@ TEST_F(Reports, DamagedShipmentsGiveTheirWholeLinesAndStopNothing) {
   temp.Put(u"0001\\Главный склад\\UHD\\0004.uhd"_s, noise);
   const ReportScope scope = Scope(session.warehouses.first(), PeriodKind::kAll);
   const auto sales = CollectSales(temp.Data(), session, scope);
-  ASSERT_EQ(sales->rows.size(), 1u);
-  EXPECT_EQ(sales->texts.Text(sales->rows[0].name), u"Чай"_s);
+  ASSERT_EQ(sales->rows.Count(), 1u);
+  EXPECT_EQ(sales->texts.Text(0), u"Чай"_s);
   const auto flow = CollectFlow(temp.Data(), session, scope);
   EXPECT_EQ(flow->days.at(261105).sales, 5.0);
   EXPECT_EQ(CollectSalesFigures(temp.Data(), session, kToday)->month, 5.0);
@@ -143,11 +146,8 @@ TEST_F(Reports, FlowSetsReceiptsAgainstSalesADayOverAllWarehouses) {
 TEST_F(Reports, APageIsNotFinishedOnceTheUserEndsIt) {
   const ReportScope scope = Scope(kAllWarehouses.toString(), PeriodKind::kAll);
   SalesReport report;
-  report.rows.resize(2000, {.day_key = 261122,
-                            .name = report.texts.Add("x"),
-                            .quantity = report.texts.Add("1"),
-                            .unit = report.texts.Add(""),
-                            .amount = 1});
+  const int text = report.texts.Add("1");
+  for (int i = 0; i < 2000; ++i) report.rows.Add({261122, text, text, text, 1});
   std::vector<double> parts;
   const auto end_at_half = [&](double part) {
     parts.push_back(part);
@@ -158,6 +158,27 @@ TEST_F(Reports, APageIsNotFinishedOnceTheUserEndsIt) {
                WorkEnded);
   EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
   EXPECT_LT(parts.back(), 0.7) << "it ends soon";
+}
+
+TEST_F(Reports, PackedRowsComeBackByDayAsTheyWereAdded) {
+  const double amounts[] = {0, 0.01, -0.01, 12.5, 99999.99, -1e13, 1e15, 0.1 + 0.2, 1e300, 1 / 3.0};
+  std::vector<SalesRow> rows;
+  for (int i = 0; i < 3000; ++i) {
+    rows.push_back({.day_key = 990101 + i * 7 % 5,
+                    .name = i * i,
+                    .quantity = i % 300,
+                    .unit = i % 129,
+                    .amount = amounts[i % std::size(amounts)]});
+  }
+  SalesRows packed;
+  for (const SalesRow& row : rows) packed.Add(row);
+  EXPECT_EQ(packed.Count(), rows.size());
+  std::stable_sort(rows.begin(), rows.end(),
+                   [](const SalesRow& a, const SalesRow& b) { return a.day_key < b.day_key; });
+  SalesRows::Walk walk(packed);
+  SalesRow row{};
+  for (const SalesRow& wanted : rows) EXPECT_TRUE(walk.Next(row) && row == wanted);
+  EXPECT_FALSE(walk.Next(row));
 }
 
 TEST_F(Reports, AWarehouseWithoutShipmentsGivesTheTotalsOnly) {
