@@ -1,7 +1,6 @@
 #include "formats/TextLines.h"
 
 #include <array>
-#include <cstring>
 #include <system_error>
 
 namespace kladez {
@@ -37,15 +36,15 @@ const std::array<unsigned char, kEncodeSize> kEncode = [] {
 
 constexpr QByteArrayView kLineEnd{"\r\n", 2};
 
-qsizetype FindLineEnd(QByteArrayView bytes) {
-  if (bytes.isEmpty()) return -1;  // may be null, which memchr does not take
-  const char* from = bytes.data();
-  const char* end = from + bytes.size();
-  while (const auto* cr = static_cast<const char*>(std::memchr(from, '\r', end - from))) {
-    if (cr + 1 < end && cr[1] == '\n') return cr - bytes.data();
-    from = cr + 1;
+// Puts as many bytes as the text has characters.
+void EncodeTo(QStringView text, char* out) {
+  for (const QChar c : text) {
+    if (!CanEncode(c)) {
+      throw std::system_error(std::make_error_code(std::errc::illegal_byte_sequence),
+                              "Не удалось записать знак «" + QString(c).toStdString() + "»");
+    }
+    *out++ = static_cast<char>(kEncode[c.unicode()]);
   }
-  return -1;
 }
 
 }  // namespace
@@ -63,33 +62,28 @@ bool CanEncode(QChar c) {
 
 QByteArray EncodeText(QStringView text) {
   QByteArray bytes(text.size(), Qt::Uninitialized);
-  char* out = bytes.data();
-  for (QChar c : text) {
-    if (!CanEncode(c)) {
-      throw std::system_error(std::make_error_code(std::errc::illegal_byte_sequence),
-                              "Не удалось записать знак «" + QString(c).toStdString() + "»");
-    }
-    *out++ = static_cast<char>(kEncode[c.unicode()]);
-  }
+  EncodeTo(text, bytes.data());
   return bytes;
-}
-
-QByteArrayView LineReader::NextRaw() {
-  const qsizetype end = FindLineEnd(rest_);
-  const QByteArrayView line = end < 0 ? rest_ : rest_.first(end);
-  rest_ = end < 0 ? QByteArrayView() : rest_.sliced(end + kLineEnd.size());
-  return line;
 }
 
 char LineReader::Peek() const {
   return rest_.isEmpty() || rest_.startsWith(kLineEnd) ? '\0' : rest_.front();
 }
 
-void LineWriter::Add(QStringView line) { AddRaw(EncodeText(line)); }
+void LineWriter::Add(QStringView line) {
+  const qsizetype start = bytes_.size();
+  bytes_.resize(start + line.size());
+  EncodeTo(line, bytes_.data() + start);
+  EndLine(start);
+}
 
 void LineWriter::AddRaw(QByteArrayView line) {
   const qsizetype start = bytes_.size();
   bytes_.append(line);
+  EndLine(start);
+}
+
+void LineWriter::EndLine(qsizetype start) {
   // A line end inside a line would shift every later record of the file.
   for (qsizetype at = start, found;
        (found = FindLineEnd(QByteArrayView(bytes_).sliced(at))) >= 0;) {
@@ -97,6 +91,16 @@ void LineWriter::AddRaw(QByteArrayView line) {
     bytes_.replace(at, kLineEnd.size(), "  ");
   }
   bytes_.append(kLineEnd);
+  HandOn();
+}
+
+void LineWriter::AddLines(QByteArrayView lines) {
+  bytes_.append(lines);
+  if (!lines.isEmpty() && !lines.endsWith(kLineEnd)) bytes_.append(kLineEnd);
+  HandOn();
+}
+
+void LineWriter::HandOn() {
   constexpr qsizetype kPiece = 1 << 16;
   if (sink_ && bytes_.size() >= kPiece) {
     sink_(bytes_);

@@ -7,6 +7,7 @@
 #include <QByteArrayView>
 #include <QString>
 #include <QStringList>
+#include <cstring>
 #include <functional>
 
 namespace kladez {
@@ -21,6 +22,19 @@ bool CanEncode(QChar c);
 // the code page lacks: input fields keep such characters away from writers.
 QByteArray EncodeText(QStringView text);
 
+// Where the first CR LF stands, -1 where none does.
+inline qsizetype FindLineEnd(QByteArrayView bytes) {
+  if (bytes.isEmpty()) return -1;  // may be null, which memchr does not take
+  const char* from = bytes.data();
+  const char* end = from + bytes.size();
+  while (const auto* cr =
+             static_cast<const char*>(std::memchr(from, '\r', static_cast<size_t>(end - from)))) {
+    if (cr + 1 < end && cr[1] == '\n') return cr - bytes.data();
+    from = cr + 1;
+  }
+  return -1;
+}
+
 // Walks the lines of a file's bytes. Past the end it gives empty lines, so that the last record of
 // a file that was cut reads as a record whose missing fields are empty.
 class LineReader {
@@ -29,8 +43,15 @@ class LineReader {
 
   bool AtEnd() const { return rest_.isEmpty(); }
   // The next line without its CR LF; the last line of a file may lack the CR LF.
-  QByteArrayView NextRaw();
+  QByteArrayView NextRaw() {
+    const qsizetype end = FindLineEnd(rest_);
+    const QByteArrayView line = end < 0 ? rest_ : rest_.first(end);
+    rest_ = end < 0 ? QByteArrayView() : rest_.sliced(end + 2);
+    return line;
+  }
   QString Next() { return DecodeText(NextRaw()); }
+  // The bytes that are not yet walked over.
+  qsizetype Left() const { return rest_.size(); }
   // The first byte of the next line, 0 at the end or before an empty line.
   char Peek() const;
 
@@ -52,11 +73,16 @@ class LineWriter {
   // for a character that Windows-1251 lacks.
   void Add(QStringView line);
   void AddRaw(QByteArrayView line);
+  // Lines as they stand in a file; the end that the last one may lack is added.
+  void AddLines(QByteArrayView lines);
   void Reserve(qsizetype bytes) { bytes_.reserve(bytes); }
   // What has not gone to a sink: without one, all of it.
   QByteArray Take() { return std::move(bytes_); }
 
  private:
+  void EndLine(qsizetype start);
+  void HandOn();
+
   ByteSink sink_;
   QByteArray bytes_;
 };

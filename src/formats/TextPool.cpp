@@ -1,20 +1,30 @@
 #include "formats/TextPool.h"
 
 #include <QHashFunctions>
+#include <limits>
+#include <new>
 
 #include "formats/TextLines.h"
 
 namespace kladez {
 
-int TextPool::Add(QByteArrayView bytes) {
+quint32 TextPool::HashOf(QByteArrayView bytes) { return static_cast<quint32>(qHash(bytes)); }
+
+void TextPool::Prefetch(quint32 hash) const {
+  if (!slots_.empty()) __builtin_prefetch(&slots_[hash & (slots_.size() - 1)]);
+}
+
+int TextPool::Add(QByteArrayView bytes, quint32 hash) {
   if (2 * texts_.size() >= slots_.size()) Grow();
-  const auto hash = static_cast<quint32>(qHash(bytes));
   size_t at = hash & (slots_.size() - 1);
   for (; slots_[at].number >= 0; at = (at + 1) & (slots_.size() - 1)) {
     if (slots_[at].hash == hash && Bytes(slots_[at].number) == bytes) return slots_[at].number;
   }
   slots_[at] = {hash, Size()};
-  texts_.push_back({bytes_.size(), static_cast<size_t>(bytes.size())});
+  if (bytes_.size() + static_cast<size_t>(bytes.size()) > std::numeric_limits<quint32>::max()) {
+    throw std::bad_alloc();
+  }
+  texts_.push_back({static_cast<quint32>(bytes_.size()), static_cast<quint32>(bytes.size())});
   bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
   return Size() - 1;
 }

@@ -11,7 +11,12 @@ namespace kladez {
 class TextPool {
  public:
   // The number of the text, the same for equal bytes; numbers count from 0.
-  int Add(QByteArrayView bytes);
+  int Add(QByteArrayView bytes) { return Add(bytes, HashOf(bytes)); }
+  // The same in two steps: whoever asks for many texts has the memory of the next ones fetched
+  // while it works on the ones before.
+  static quint32 HashOf(QByteArrayView bytes);
+  void Prefetch(quint32 hash) const;
+  int Add(QByteArrayView bytes, quint32 hash);
   int Size() const { return static_cast<int>(texts_.size()); }
 
   // Valid until a text is added.
@@ -20,8 +25,8 @@ class TextPool {
 
  private:
   struct Place {
-    size_t begin;
-    size_t size;
+    quint32 begin;
+    quint32 size;
   };
   // An open table: a look-up touches one slot and the text, and other texts only when their hashes
   // are the same.

@@ -59,14 +59,28 @@ OnHandJoin::OnHandJoin(QByteArrayView goods, GoodsView view)
     : rows_(DirectoryRows(goods, view)), index_(EncodedNames(rows_)), sums_(rows_.size()) {}
 
 void OnHandJoin::Add(QByteArrayView ledger) {
+  constexpr size_t kTogether = 32;
+  std::vector<QByteArrayView> names;
+  std::vector<QByteArrayView> quantities;
+  std::vector<int> rows;
+  const auto add = [&] {
+    index_.FirstBeginnings(names, rows);
+    for (size_t i = 0; i < names.size(); ++i) {
+      if (rows[i] < 0) continue;
+      Sum& sum = sums_[rows[i]];
+      sum.value = RoundGeneral(sum.value + NumberOr(quantities[i]));
+      sum.touched = true;
+    }
+    names.clear();
+    quantities.clear();
+  };
   ForEachLedgerRecord(ledger,
                       [&](QByteArrayView name, QByteArrayView quantity, QByteArrayView /*unit*/) {
-                        const int row = index_.FirstBeginning(name);
-                        if (row < 0) return;
-                        Sum& sum = sums_[row];
-                        sum.value = RoundGeneral(sum.value + NumberOr(quantity));
-                        sum.touched = true;
+                        names.push_back(name);
+                        quantities.push_back(quantity);
+                        if (names.size() == kTogether) add();
                       });
+  add();
 }
 
 OnHandList OnHandJoin::Take() {

@@ -1,6 +1,7 @@
 #include "books/stock/StockLedger.h"
 
 #include <bitset>
+#include <functional>
 #include <queue>
 #include <unordered_map>
 
@@ -8,53 +9,46 @@
 #include "formats/TextLines.h"
 
 namespace kladez {
-namespace {
-
-using Lines = std::vector<QByteArrayView>;
-
-// The lines that are equal to one name, handed out first line first. Lines change while a posting
-// goes on, so a place that no longer holds the name is passed over when it comes up.
-class Places {
- public:
-  void Add(size_t line) { lines_.push(line); }
-
-  // The first line that still holds the name.
-  bool First(const Lines& all, QByteArrayView name, size_t* line) {
-    while (!lines_.empty() && all[lines_.top()] != name) lines_.pop();
-    if (lines_.empty()) return false;
-    *line = lines_.top();
-    return true;
-  }
-
- private:
-  std::priority_queue<size_t, std::vector<size_t>, std::greater<>> lines_;
-};
 
 // Where each name of a posting stands in the ledger, kept true while the posting changes lines.
 class NameIndex {
  public:
-  NameIndex(std::span<const QByteArray> names, const Lines& lines) : lines_(lines) {
+  NameIndex(std::span<const QByteArray> names, const StockLedger& ledger) : ledger_(ledger) {
     for (const QByteArray& name : names) {
       places_.try_emplace(QByteArrayView(name));
       marks_.set(Mark(name));
     }
-    for (size_t i = 0; i < lines.size(); ++i) LineChanged(i);
+    for (LineReader reader(ledger.bytes_); !reader.AtEnd();) {
+      const size_t place = ledger.End() - static_cast<size_t>(reader.Left());
+      Look(reader.NextRaw(), place);
+    }
+    for (const auto& [line, text] : ledger.changed_) Look(text, line);
+    for (size_t i = 0; i < ledger.added_.size(); ++i) Look(ledger.added_[i], ledger.End() + i);
   }
 
   // Tells that a line has a new text.
-  void LineChanged(size_t line) {
-    // Nearly every line is none of the names: one bit tells, without a hash.
-    if (!marks_.test(Mark(lines_[line]))) return;
-    const auto found = places_.find(lines_[line]);
-    if (found != places_.end()) found->second.Add(line);
-  }
+  void LineChanged(size_t line) { Look(ledger_.At(line), line); }
 
   // The first line that holds the name and has a line after it to change.
   bool Find(QByteArrayView name, size_t* line) {
-    return places_.find(name)->second.First(lines_, name, line) && *line + 1 < lines_.size();
+    Places& places = places_.find(name)->second;
+    // Lines change while a posting goes on: one that no longer holds the name is passed over.
+    while (!places.empty() && ledger_.At(places.top()) != name) places.pop();
+    if (places.empty()) return false;
+    *line = places.top();
+    return ledger_.Exists(ledger_.After(*line));
   }
 
  private:
+  // First line first.
+  using Places = std::priority_queue<size_t, std::vector<size_t>, std::greater<>>;
+
+  void Look(QByteArrayView text, size_t line) {
+    // Nearly every line is none of the names: one bit tells, without a hash.
+    if (!marks_.test(Mark(text))) return;
+    const auto found = places_.find(text);
+    if (found != places_.end()) found->second.push(line);
+  }
   static size_t Mark(QByteArrayView line) {
     if (line.isEmpty()) return 0;
     const auto byte = [&](qsizetype at) { return static_cast<unsigned char>(line[at]); };
@@ -67,10 +61,12 @@ class NameIndex {
   };
 
   static constexpr size_t kMarks = 4096;
-  const Lines& lines_;
+  const StockLedger& ledger_;
   std::unordered_map<QByteArrayView, Places, Hash> places_;
   std::bitset<kMarks> marks_;
 };
+
+namespace {
 
 QString Changed(Posting posting, QByteArrayView old, double quantity) {
   return posting == Posting::kIssue ? FormatLedger(NumberOr(old) - quantity)
@@ -91,12 +87,23 @@ QString Entered(Posting posting, const QString& quantity) {
 
 }  // namespace
 
-StockLedger::StockLedger(QByteArray bytes) : bytes_(std::move(bytes)) {
-  for (LineReader reader(bytes_); !reader.AtEnd();) lines_.push_back(reader.NextRaw());
+StockLedger::StockLedger(QByteArray bytes) : bytes_(std::move(bytes)) {}
+
+QByteArrayView StockLedger::Original(Place line) const {
+  return LineReader(QByteArrayView(bytes_).sliced(static_cast<qsizetype>(line))).NextRaw();
 }
 
-void StockLedger::AppendLine(QByteArray line) {
-  lines_.push_back(new_lines_.emplace_back(std::move(line)));
+QByteArrayView StockLedger::At(Place line) const {
+  if (line >= End()) return added_[line - End()];
+  const auto changed = changed_.find(line);
+  return changed == changed_.end() ? Original(line) : QByteArrayView(changed->second);
+}
+
+StockLedger::Place StockLedger::After(Place line) const {
+  if (line >= End()) return line + 1;
+  LineReader reader(QByteArrayView(bytes_).sliced(static_cast<qsizetype>(line)));
+  reader.NextRaw();
+  return End() - static_cast<Place>(reader.Left());
 }
 
 void StockLedger::Post(Posting posting, std::span<const LedgerRecord> records) {
@@ -108,29 +115,41 @@ void StockLedger::Post(Posting posting, std::span<const LedgerRecord> records) {
     quantities.push_back(EncodeText(Entered(posting, record.quantity)));
     units.push_back(EncodeText(record.unit));
   }
-  NameIndex index(names, lines_);
+  NameIndex index(names, *this);
   for (size_t i = 0; i < records.size(); ++i) {
-    size_t line = 0;
+    Place line = 0;
     if (index.Find(names[i], &line)) {
-      const size_t quantity = line + 1;
-      const QString text = Changed(posting, lines_[quantity], NumberOr(records[i].quantity));
-      lines_[quantity] = new_lines_.emplace_back(EncodeText(text));
+      const Place quantity = After(line);
+      const QString text = Changed(posting, At(quantity), NumberOr(records[i].quantity));
+      (quantity < End() ? changed_[quantity] : added_[quantity - End()]) = EncodeText(text);
       index.LineChanged(quantity);
       continue;
     }
     for (const QByteArray* part : {&names[i], &quantities[i], &units[i]}) {
-      AppendLine(*part);
-      index.LineChanged(lines_.size() - 1);
+      added_.push_back(*part);
+      index.LineChanged(End() + added_.size() - 1);
     }
   }
 }
 
 QByteArray StockLedger::Bytes() const {
-  qsizetype size = 0;
-  for (const QByteArrayView line : lines_) size += line.size() + 2;
   LineWriter writer;
-  writer.Reserve(size);
-  for (const QByteArrayView line : lines_) writer.AddRaw(line);
+  qsizetype more = 2;
+  for (const auto& [line, text] : changed_) more += text.size();
+  for (const QByteArray& line : added_) more += line.size() + 2;
+  writer.Reserve(bytes_.size() + more);
+  const QByteArrayView old(bytes_);
+  Place done = 0;
+  const auto copy_to = [&](Place end) {
+    writer.AddLines(old.sliced(static_cast<qsizetype>(done), static_cast<qsizetype>(end - done)));
+  };
+  for (const auto& [line, text] : changed_) {
+    copy_to(line);
+    writer.AddRaw(text);
+    done = After(line);
+  }
+  copy_to(End());
+  for (const QByteArray& line : added_) writer.AddRaw(line);
   return writer.Take();
 }
 

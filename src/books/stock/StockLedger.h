@@ -7,7 +7,7 @@
 
 #include <QByteArray>
 #include <QString>
-#include <deque>
+#include <map>
 #include <span>
 #include <vector>
 
@@ -38,11 +38,21 @@ class StockLedger {
   QByteArray Bytes() const;
 
  private:
-  void AppendLine(QByteArray line);
+  // Where a line begins in bytes_; lines that were added follow, numbered on from the end.
+  using Place = size_t;
+
+  friend class NameIndex;
+  Place End() const { return static_cast<Place>(bytes_.size()); }
+  bool Exists(Place line) const { return line < End() + added_.size(); }
+  QByteArrayView At(Place line) const;
+  Place After(Place line) const;
+  QByteArrayView Original(Place line) const;
 
   QByteArray bytes_;
-  std::vector<QByteArrayView> lines_;
-  std::deque<QByteArray> new_lines_;  // what lines_ shows that is not in bytes_
+  // Years of goods make a million lines, of which a posting changes some fifty: only those are
+  // kept apart.
+  std::map<Place, QByteArray> changed_;
+  std::vector<QByteArray> added_;
 };
 
 // Adds records at the end of a ledger, the form of every reversal: the first record of a name stays

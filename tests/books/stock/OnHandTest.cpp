@@ -119,7 +119,7 @@ TEST(OnHandIndex, FindsTheFirstRowThatBeginsSo) {
   for (int round = 0; round < 200; ++round) {
     std::vector<QByteArray> names(random() % 70);
     for (QByteArray& name : names) name = text(random() % 4 == 0 ? 14 : 5);
-    const PrefixIndex index(names);
+    PrefixIndex index(names);
     for (int i = 0; i < 100; ++i) {
       const QByteArray asked = text(10);
       const auto first = std::find_if(names.begin(), names.end(), [&](const QByteArray& name) {
