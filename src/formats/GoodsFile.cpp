@@ -1,25 +1,33 @@
 #include "formats/GoodsFile.h"
 
 #include "formats/Numbers.h"
+#include "formats/SharedTexts.h"
 
 namespace kladez {
 
 std::vector<GoodsRecord> ReadGoods(QByteArrayView bytes) {
   std::vector<GoodsRecord> records;
+  SharedTexts countries;
+  SharedTexts declarations;
+  SharedTexts units;
+  SharedTexts prices;
+  const auto price_text = [](QByteArrayView price) { return ToNumberOr(DecodeText(price)); };
   ForEachGoods(bytes, [&](const RawGoods& goods) {
     GoodsRecord& record = records.emplace_back();
     record.name = DecodeText(goods.name);
     if (goods.IsGroup()) return;
-    record.country = DecodeText(goods.country);
-    record.declaration = DecodeText(goods.declaration);
-    record.unit = DecodeText(goods.unit);
-    record.price = ToNumberOr(DecodeText(goods.price));
+    record.country = countries.Text(goods.country);
+    record.declaration = declarations.Text(goods.declaration);
+    record.unit = units.Text(goods.unit);
+    record.price = prices.Text(goods.price, price_text);
   });
   return records;
 }
 
 QByteArray WriteGoods(const std::vector<GoodsRecord>& records) {
   LineWriter writer;
+  constexpr qsizetype kUsualRecord = 80;
+  writer.Reserve(static_cast<qsizetype>(records.size()) * kUsualRecord);
   for (const GoodsRecord& record : records) {
     writer.Add(record.name);
     if (record.IsGroup()) continue;

@@ -3,11 +3,17 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <vector>
 
 namespace kladez {
 
 // A key whose plain comparison gives the order; sort stably, so that ties keep their order.
 QString OrderKey(QStringView name);
+
+// The places of names in order, from 0 to `count`; equal ones keep theirs. The same as a stable
+// sort by OrderKey, but quick: a hundred thousand names of Windows-1251 are compared as bytes.
+std::vector<size_t> PlacesInOrder(size_t count, const std::function<QStringView(size_t)>& name);
 
 // Upper-cased, for comparisons that do not mind letter case.
 QString FoldCase(QStringView name);

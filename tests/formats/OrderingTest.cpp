@@ -2,8 +2,11 @@
 
 #include <QStringList>
 #include <algorithm>
+#include <numeric>
+#include <random>
 
 #include "formats/Ordering.h"
+#include "formats/TextLines.h"
 
 namespace kladez {
 namespace {
@@ -16,6 +19,36 @@ TEST(Ordering, LetterCaseDoesNotMatterAndYoStandsAfterYe) {
                                u"Ёж"_s, u"ёлка"_s, u"жук"_s, u"Ящик"_s, u"№ 1"_s};
   for (qsizetype i = 0; i + 1 < ordered.size(); ++i) {
     EXPECT_LT(OrderKey(ordered[i]), OrderKey(ordered[i + 1])) << ordered[i].toStdString();
+  }
+}
+
+// Against a stable sort by the keys: every character of the code page, beginnings that all share,
+// names that begin each other or tie, and one that the code page lacks.
+TEST(Ordering, NamesCompareAsBytesInTheSameOrder) {
+  std::mt19937 random(1);
+  const auto letter = [&] {
+    const char byte = static_cast<char>(random() % 3 == 0 ? "Ee5 "[random() % 4] : random());
+    return DecodeText({&byte, 1});
+  };
+  for (const QString& common : {u""_s, u"Чай чёрный № "_s}) {
+    for (const bool foreign : {false, true}) {
+      QStringList names = {common, common + u"ё"_s, common + u"е"_s, common + u"еа"_s};
+      if (foreign) names.append(common + u"Ω"_s);
+      while (names.size() < 2000) {
+        QString name = common;
+        for (unsigned length = random() % 12; length > 0; --length) name += letter();
+        names.append(name);
+        if (random() % 4 == 0) names.append(name.toLower());
+      }
+      std::vector<size_t> wanted(static_cast<size_t>(names.size()));
+      std::iota(wanted.begin(), wanted.end(), size_t{0});
+      std::stable_sort(wanted.begin(), wanted.end(), [&](size_t a, size_t b) {
+        return OrderKey(names[static_cast<int>(a)]) < OrderKey(names[static_cast<int>(b)]);
+      });
+      EXPECT_EQ(PlacesInOrder(wanted.size(),
+                              [&](size_t at) { return QStringView(names[static_cast<int>(at)]); }),
+                wanted);
+    }
   }
 }
 

@@ -40,14 +40,14 @@ bool GoodsDirectory::IsFull() const { return rows_.size() > kMostRows; }
 
 void GoodsDirectory::Reload(GoodsView view) {
   FileState file;
-  const QByteArray bytes = ReadWithState(data_, path_, file);
+  std::vector<GoodsRecord> records = ReadGoods(ReadWithState(data_, path_, file));
   file_ = file;
-  Load(bytes, view);
-  copy_ = view == GoodsView::kGoodsOnly ? ReadGoods(bytes) : std::vector<GoodsRecord>();
+  copy_ = view == GoodsView::kGoodsOnly ? records : std::vector<GoodsRecord>();
+  Show(std::move(records), view);
 }
 
-void GoodsDirectory::Load(QByteArrayView bytes, GoodsView view) {
-  rows_ = ReadGoods(bytes);
+void GoodsDirectory::Show(std::vector<GoodsRecord> records, GoodsView view) {
+  rows_ = std::move(records);
   view_ = view;
   if (view == GoodsView::kGroups) return;
   std::erase_if(rows_, [](const GoodsRecord& record) { return record.IsGroup(); });
@@ -57,8 +57,9 @@ void GoodsDirectory::Load(QByteArrayView bytes, GoodsView view) {
 void GoodsDirectory::ShowGoodsOnly() {
   FileState file;
   std::vector<GoodsRecord> copy = ReadGoods(ReadWithState(data_, path_, file));
-  Write(rows_);
-  Load(WriteGoods(rows_), GoodsView::kGoodsOnly);
+  const QByteArray bytes = WriteGoods(rows_);
+  Write(bytes);
+  Show(ReadGoods(bytes), GoodsView::kGoodsOnly);
   copy_ = std::move(copy);
 }
 
@@ -110,18 +111,18 @@ void GoodsDirectory::SaveChange(int row) {
   });
   if (same == copy_.end()) return;
   *same = changed;
-  Write(copy_);
+  Write(WriteGoods(copy_));
 }
 
-void GoodsDirectory::Save() { Write(view_ == GoodsView::kGroups ? rows_ : copy_); }
+void GoodsDirectory::Save() { Write(WriteGoods(view_ == GoodsView::kGroups ? rows_ : copy_)); }
 
 void GoodsDirectory::SaveBeforePick() {
-  if (view_ == GoodsView::kGroups) Write(rows_);
+  if (view_ == GoodsView::kGroups) Write(WriteGoods(rows_));
 }
 
-void GoodsDirectory::Write(const std::vector<GoodsRecord>& records) {
+void GoodsDirectory::Write(const QByteArray& bytes) {
   SaveSet save(data_);
-  save.Write(path_, WriteGoods(records), file_);
+  save.Write(path_, bytes, file_);
   save.Commit();
 }
 

@@ -51,8 +51,8 @@ class GoodsDirectory {
   bool IsCurrent() const { return IsStill(file_, data_, path_); }
 
  private:
-  void Load(QByteArrayView bytes, GoodsView view);
-  void Write(const std::vector<GoodsRecord>& records);
+  void Show(std::vector<GoodsRecord> records, GoodsView view);
+  void Write(const QByteArray& bytes);
 
   const DataDir& data_;
   QString path_;

@@ -15,13 +15,12 @@ namespace kladez {
 // Equal names keep their order.
 template <typename Row>
 std::vector<Row> SortedByName(std::vector<Row> rows) {
-  std::vector<std::pair<QString, size_t>> keyed;
-  keyed.reserve(rows.size());
-  for (size_t i = 0; i < rows.size(); ++i) keyed.emplace_back(OrderKey(rows[i].name), i);
-  std::sort(keyed.begin(), keyed.end());
   std::vector<Row> sorted;
   sorted.reserve(rows.size());
-  for (const auto& [key, at] : keyed) sorted.push_back(std::move(rows[at]));
+  const auto name = [&](size_t place) { return QStringView(rows[place].name); };
+  for (const size_t place : PlacesInOrder(rows.size(), name)) {
+    sorted.push_back(std::move(rows[place]));
+  }
   return sorted;
 }
 

@@ -1,48 +1,55 @@
 #include "books/prices/PriceList.h"
 
-#include <QHash>
 #include <QSet>
+#include <optional>
 
 #include "books/directories/GoodsOrder.h"
 #include "formats/GoodsFile.h"
 #include "formats/Numbers.h"
+#include "formats/SharedTexts.h"
 #include "formats/TextLines.h"
+#include "formats/TextPool.h"
 
 namespace kladez {
 namespace {
 
-// Finds the first row of a name. The rows must not move while it is in use.
+// Finds the first row of a name, by the bytes of the files.
 class FirstRows {
  public:
-  explicit FirstRows(std::vector<PriceRow>& rows) {
-    by_name_.reserve(static_cast<qsizetype>(rows.size()));
-    for (PriceRow& row : rows) {
-      PriceRow*& first = by_name_[row.name];
-      if (first == nullptr) first = &row;
-    }
+  void Add(QByteArrayView name, size_t row) {
+    // Numbers of the pool count up with the names that are new to it.
+    if (static_cast<size_t>(names_.Add(name)) == rows_.size()) rows_.push_back(row);
   }
-  PriceRow* Find(QStringView name) const { return by_name_.value(name); }
+  // Nothing for a name that was not added.
+  std::optional<size_t> Find(QByteArrayView name) {
+    const auto number = static_cast<size_t>(names_.Add(name));
+    return number < rows_.size() ? std::optional(rows_[number]) : std::nullopt;
+  }
 
  private:
-  QHash<QStringView, PriceRow*> by_name_;
+  TextPool names_;
+  std::vector<size_t> rows_;
 };
 
 }  // namespace
 
 PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked,
                      GoodsView view, const LoadProgress& progress) {
+  FirstRows first;
+  SharedTexts units;
+  SharedTexts purchases;
+  SharedTexts sales;
+  const auto money = [](QByteArrayView price) { return MoneyText(DecodeText(price)); };
   ForEachGoods(goods, [&](const RawGoods& record) {
     if (record.IsGroup() && view == GoodsView::kGoodsOnly) return;
+    first.Add(record.name, rows_.size());
     PriceRow& row = rows_.emplace_back();
     row.name = DecodeText(record.name);
     if (record.IsGroup()) return;
-    row.unit = DecodeText(record.unit);
-    row.purchase = MoneyText(DecodeText(record.price));
+    row.unit = units.Text(record.unit);
+    row.purchase = purchases.Text(record.price, money);
     row.sale = row.purchase;
   });
-  if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
-
-  const FirstRows first(rows_);
   qsizetype told = 0;
   ForEachPrice(prices,
                [&](QByteArrayView name, QByteArrayView, QByteArrayView, QByteArrayView sale) {
@@ -52,12 +59,13 @@ PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView
                    progress(static_cast<double>(done) / static_cast<double>(prices.size()));
                  }
                  if (name.startsWith(' ')) return;
-                 if (PriceRow* row = first.Find(DecodeText(name)))
-                   row->sale = MoneyText(DecodeText(sale));
+                 if (const auto row = first.Find(name)) rows_[*row].sale = sales.Text(sale, money);
                });
   for (LineReader reader(marked); !reader.AtEnd();) {
-    if (PriceRow* row = first.Find(reader.Next())) row->ticked = true;
+    if (const auto row = first.Find(reader.NextRaw())) rows_[*row].ticked = true;
   }
+  // Only now: rows of one name keep their order, so the first of them is the same one.
+  if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
 }
 
 bool PriceList::SetSalePrice(int row, const QString& price) {
