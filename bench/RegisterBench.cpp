@@ -1,15 +1,10 @@
 // A register of 20,000 documents, from the listing of its directory to the rows of its model,
 // against a plain program that lists, opens, reads and closes the same files. Prints the ratios.
-#include <dirent.h>
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QDir>
 #include <QTemporaryDir>
-#include <array>
 #include <string>
-#include <vector>
 
+#include "PlainReading.h"
 #include "RatioReporter.h"
 #include "books/stock/DocumentRegister.h"
 #include "books/stock/DocumentScan.h"
@@ -64,22 +59,7 @@ const Books& TheBooks() {
 
 void ReadPlainly(benchmark::State& state) {
   const std::string directory = TheBooks().data.Resolve(u"0001\\Склад\\UHD"_s).toStdString();
-  for (auto _ : state) {
-    std::vector<std::string> names;
-    DIR* entries = ::opendir(directory.c_str());
-    while (const dirent* entry = ::readdir(entries)) {
-      if (entry->d_name[0] != '.') names.emplace_back(entry->d_name);
-    }
-    ::closedir(entries);
-    std::array<char, 65536> buffer;
-    qint64 bytes = 0;
-    for (const std::string& name : names) {
-      const int fd = ::open((directory + '/' + name).c_str(), O_RDONLY);
-      while (const auto got = ::read(fd, buffer.data(), buffer.size())) bytes += got;
-      ::close(fd);
-    }
-    benchmark::DoNotOptimize(bytes);
-  }
+  for (auto _ : state) benchmark::DoNotOptimize(PlainlyRead(directory));
 }
 
 void ScanLines(benchmark::State& state) {
