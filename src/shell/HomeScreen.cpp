@@ -14,6 +14,7 @@
 #include "ui/Hints.h"
 #include "ui/Link.h"
 #include "ui/controls/Columns.h"
+#include "ui/controls/Guard.h"
 #include "ui/controls/LongWork.h"
 #include "ui/controls/WrapRow.h"
 
@@ -100,25 +101,25 @@ QWidget* HomeScreen::NewFigures() {
     sums->addWidget(label, line++, 1, Qt::AlignRight);
     return label;
   };
-  Label18 = add(u"Label18"_s, u"За сегодня:"_s);
-  Label20 = add(u"Label20"_s, u"За месяц:"_s);
-  Label15 = add(u"Label15"_s, u"За год:"_s);
+  sold_today_ = add(u"Label18"_s, u"За сегодня:"_s);
+  sold_this_month_ = add(u"Label20"_s, u"За месяц:"_s);
+  sold_this_year_ = add(u"Label15"_s, u"За год:"_s);
   sums->setRowStretch(line, 1);
   auto* chart_head = new QHBoxLayout;
   chart_head->addWidget(NewColumnHeading(u"График продаж за месяц по дням", card), 1);
-  MSChart1 = new ChartWidget(card);
-  MSChart1->setObjectName(u"MSChart1"_s);
-  chart_head->addWidget(AddHint(u"Picture4", {MSChart1}, card));
-  Picture3 = new QWidget(MSChart1);
-  Picture3->setObjectName(u"Picture3"_s);
-  Picture3->setAutoFillBackground(true);
-  Picture3->setBackgroundRole(QPalette::Base);
-  auto* cover = new QVBoxLayout(MSChart1);
+  chart_ = new ChartWidget(card);
+  chart_->setObjectName(u"MSChart1"_s);
+  chart_head->addWidget(AddHint(u"Picture4", {chart_}, card));
+  chart_cover_ = new QWidget(chart_);
+  chart_cover_->setObjectName(u"Picture3"_s);
+  chart_cover_->setAutoFillBackground(true);
+  chart_cover_->setBackgroundRole(QPalette::Base);
+  auto* cover = new QVBoxLayout(chart_);
   cover->setContentsMargins(0, 0, 0, 0);
-  cover->addWidget(Picture3);
+  cover->addWidget(chart_cover_);
   auto* chart = new QVBoxLayout;
   chart->addLayout(chart_head);
-  chart->addWidget(MSChart1, 1);
+  chart->addWidget(chart_, 1);
   auto* layout = new Columns(look::kGap);
   layout->setContentsMargins(look::kMargin, look::kMargin, look::kGrid, look::kMargin);
   layout->Add(sums, 1);
@@ -129,37 +130,40 @@ QWidget* HomeScreen::NewFigures() {
 
 QLayout* HomeScreen::NewOptions() {
   // The question mark stands between the quotation marks.
-  Check1 = NewOption(u"Check1"_s, u"Отображать подсказку \"     \" на главной"_s);
-  Check2 = NewOption(u"Check2"_s, u"Показывать отчеты на главной странице"_s);
-  Check3 = NewOption(u"Check3"_s, u"Показывать панель Kladez"_s);
-  auto* sign = new QLabel(Check1);
+  show_hints_ = NewOption(u"Check1"_s, u"Отображать подсказку \"     \" на главной"_s);
+  show_figures_ = NewOption(u"Check2"_s, u"Показывать отчеты на главной странице"_s);
+  show_panel_ = NewOption(u"Check3"_s, u"Показывать панель Kladez"_s);
+  auto* sign = new QLabel(show_hints_);
   sign->setPixmap(look::Icon(look::IconName::kHint, look::kQuiet).pixmap(look::kMargin));
   sign->setAttribute(Qt::WA_TransparentForMouseEvents);
   QStyleOptionButton option;
-  option.initFrom(Check1);
-  option.rect = QRect(QPoint(), Check1->sizeHint());
-  const QFontMetrics metrics = Check1->fontMetrics();
-  const QString before = Check1->text().left(Check1->text().indexOf(u'"') + 1);
-  const int text = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, Check1).left();
+  option.initFrom(show_hints_);
+  option.rect = QRect(QPoint(), show_hints_->sizeHint());
+  const QFontMetrics metrics = show_hints_->fontMetrics();
+  const QString before = show_hints_->text().left(show_hints_->text().indexOf(u'"') + 1);
+  const int text =
+      style()->subElementRect(QStyle::SE_CheckBoxContents, &option, show_hints_).left();
   const int blanks = metrics.horizontalAdvance(u"     "_s);
   sign->move(text + metrics.horizontalAdvance(before) + (blanks - look::kMargin) / 2,
-             (Check1->sizeHint().height() - look::kMargin) / 2);
-  connect(Check1, &QCheckBox::clicked, this, [this] {
-    Store(settings::kTip, Check1);
+             (show_hints_->sizeHint().height() - look::kMargin) / 2);
+  connect(show_hints_, &QCheckBox::clicked, this, [this] {
+    Store(settings::kTip, show_hints_);
     ClickTip();
   });
-  connect(Check2, &QCheckBox::clicked, this, [this] {
-    Store(settings::kReport, Check2);
+  connect(show_figures_, &QCheckBox::clicked, this, [this] {
+    Store(settings::kReport, show_figures_);
     ClickReport();
   });
-  connect(Check3, &QCheckBox::clicked, this, [this] {
-    Store(settings::kPanel, Check3);
+  connect(show_panel_, &QCheckBox::clicked, this, [this] {
+    Store(settings::kPanel, show_panel_);
     ClickPanel();
   });
   auto* row = new WrapRow(look::kGap, look::kTight);
-  row->addWidget(Check1);
-  row->AddGroup({Check2, AddHint(u"Picture22", {Check1, Check2, Check3}, this)}, look::kTight);
-  row->addWidget(Check3);
+  row->addWidget(show_hints_);
+  row->AddGroup(
+      {show_figures_, AddHint(u"Picture22", {show_hints_, show_figures_, show_panel_}, this)},
+      look::kTight);
+  row->addWidget(show_panel_);
   return row;
 }
 
@@ -185,38 +189,39 @@ void HomeScreen::Store(const Setting& setting, const QCheckBox* box) {
 }
 
 void HomeScreen::Activate() {
-  Check1->setChecked(context_.settings.ReadInt(settings::kTip) != 0);
-  Check2->setChecked(context_.settings.ReadInt(settings::kReport) != 0);
-  Check3->setChecked(context_.settings.ReadInt(settings::kPanel) != 0);
+  show_hints_->setChecked(context_.settings.ReadInt(settings::kTip) != 0);
+  show_figures_->setChecked(context_.settings.ReadInt(settings::kReport) != 0);
+  show_panel_->setChecked(context_.settings.ReadInt(settings::kPanel) != 0);
   ClickTip();
   ClickReport();
   ClickPanel();
 }
 
 void HomeScreen::ClickTip() {
-  for (HintPicture* hint : hints_) hint->setVisible(Check1->isChecked());
+  for (HintPicture* hint : hints_) hint->setVisible(show_hints_->isChecked());
 }
 
 void HomeScreen::ClickReport() {
-  figures_->setVisible(Check2->isChecked());
-  if (Check2->isChecked()) ShowFigures();
+  figures_->setVisible(show_figures_->isChecked());
+  if (show_figures_->isChecked()) ShowFigures();
 }
 
 void HomeScreen::ShowFigures() {
-  for (QLabel* sum : {Label18, Label20, Label15}) sum->setText(u"..."_s);
-  Picture3->show();
-  LongWork work(this, u"Подсчитываются продажи..."_s);
-  const auto figures =
-      CollectSalesFigures(context_.data, context_.session, context_.clock.Today(), work.Callback());
-  // Sums of some of the documents would be wrong ones.
-  if (!figures) return;
-  Label18->setText(FormatMoney(figures->day));
-  Label20->setText(FormatMoney(figures->month));
-  Label15->setText(FormatMoney(figures->year));
-  MSChart1->SetGrid(figures->by_day);
-  Picture3->hide();
+  for (QLabel* sum : {sold_today_, sold_this_month_, sold_this_year_}) sum->setText(u"..."_s);
+  chart_cover_->show();
+  // Once it is cancelled nothing is shown: sums of some of the documents would be wrong ones.
+  Guarded(this, [this] {
+    LongWork work(this, u"Подсчитываются продажи..."_s);
+    const SalesFigures figures =
+        CollectSalesFigures(context_.data, context_.session, context_.clock.Today(), work.Told());
+    sold_today_->setText(FormatMoney(figures.day));
+    sold_this_month_->setText(FormatMoney(figures.month));
+    sold_this_year_->setText(FormatMoney(figures.year));
+    chart_->SetGrid(figures.by_day);
+    chart_cover_->hide();
+  });
 }
 
-void HomeScreen::ClickPanel() { emit PanelToggled(Check3->isChecked()); }
+void HomeScreen::ClickPanel() { emit PanelToggled(show_panel_->isChecked()); }
 
 }  // namespace kladez

@@ -46,15 +46,15 @@ class HomeScreen : public QWidget {
   AppContext& context_;
   std::vector<HintPicture*> hints_;  // Picture4 to Picture23
 
-  QCheckBox* Check1;  // "Отображать подсказку "     " на главной"
-  QCheckBox* Check2;  // "Показывать отчеты на главной странице"
-  QCheckBox* Check3;  // "Показывать панель Kladez"
-  QWidget* figures_;  // the sales block and the chart
-  QLabel* Label18;    // sold today
-  QLabel* Label20;    // this month
-  QLabel* Label15;    // this year
-  ChartWidget* MSChart1;  // the month by days
-  QWidget* Picture3;      // hides the chart until it is filled
+  QCheckBox* show_hints_;  // "Отображать подсказку "     " на главной"
+  QCheckBox* show_figures_;  // "Показывать отчеты на главной странице"
+  QCheckBox* show_panel_;    // "Показывать панель Kladez"
+  QWidget* figures_;         // the sales block and the chart
+  QLabel* sold_today_;       // sold today
+  QLabel* sold_this_month_;  // this month
+  QLabel* sold_this_year_;   // this year
+  ChartWidget* chart_;       // the month by days
+  QWidget* chart_cover_;     // hides the chart until it is filled
 };
 
 }  // namespace kladez

@@ -49,40 +49,43 @@ Link* NewLink(const QString& name, QStringView text, look::IconName icon, QWidge
 
 }  // namespace
 
-LandingScreen::LandingScreen(QWidget* parent) : QWidget(parent), Picture1(new Ground(this)) {
+LandingScreen::LandingScreen(QWidget* parent) : QWidget(parent) {
+  auto* ground = new Ground(this);
   setObjectName(u"main2"_s);
   setWindowTitle(u"Главная"_s);
-  Picture1->setObjectName(u"Picture1"_s);
+  ground->setObjectName(u"Picture1"_s);
   QFont body = font();
   body.setPointSizeF(body.pointSizeF() * 1.1);
-  Label1 = NewText(u"Label1"_s, u"Добро пожаловать в Kladez 4.8"_s, TitleFont(font()), Picture1);
-  Label2 = NewText(u"Label2"_s,
-                   u"Для работы с программой Вам необходимо создать новую базу данных или открыть "
-                   u"существующую. Для ознакомления с программой, для ознакомления с программой "
-                   u"рекомендуется открыть демонстрационную базу данных."_s,
-                   body, Picture1);
-  Label2->setMaximumWidth(72 * look::kGrid);
-  Label3 =
-      NewLink(u"Label3"_s, u"Открыть существующую базу данных", look::IconName::kOpen, Picture1);
-  Label4 = NewLink(u"Label4"_s, u"Создать новую базу данных", look::IconName::kAdd, Picture1);
-  auto* column = new QVBoxLayout(Picture1);
+  auto* welcome =
+      NewText(u"Label1"_s, u"Добро пожаловать в Kladez 4.8"_s, TitleFont(font()), ground);
+  auto* instruction =
+      NewText(u"Label2"_s,
+              u"Для работы с программой Вам необходимо создать новую базу данных или открыть "
+              u"существующую. Для ознакомления с программой, для ознакомления с программой "
+              u"рекомендуется открыть демонстрационную базу данных."_s,
+              body, ground);
+  instruction->setMaximumWidth(72 * look::kGrid);
+  auto* open =
+      NewLink(u"Label3"_s, u"Открыть существующую базу данных", look::IconName::kOpen, ground);
+  auto* create = NewLink(u"Label4"_s, u"Создать новую базу данных", look::IconName::kAdd, ground);
+  auto* column = new QVBoxLayout(ground);
   column->setContentsMargins(8 * look::kGrid, 8 * look::kGrid, 8 * look::kGrid, 8 * look::kGrid);
   column->setSpacing(look::kMargin);
   column->addStretch(2);
-  column->addWidget(Label1);
-  column->addWidget(Label2);
+  column->addWidget(welcome);
+  column->addWidget(instruction);
   column->addSpacing(look::kMargin);
-  column->addWidget(Label3, 0, Qt::AlignLeft);
-  column->addWidget(Label4, 0, Qt::AlignLeft);
+  column->addWidget(open, 0, Qt::AlignLeft);
+  column->addWidget(create, 0, Qt::AlignLeft);
   column->addStretch(3);
   auto* layout = new QVBoxLayout(this);
   const int across = look::FromTwips(kPictureMarginAcross) / 2;
   const int down = look::FromTwips(kPictureMarginDown) / 2;
   layout->setContentsMargins(across, down, across, down);
-  layout->addWidget(Picture1);
-  connect(Label3, &Link::clicked, this, &LandingScreen::OpenWanted);
-  connect(Label4, &Link::clicked, this, &LandingScreen::CreateWanted);
-  Label3->setFocus();
+  layout->addWidget(ground);
+  connect(open, &Link::clicked, this, &LandingScreen::OpenWanted);
+  connect(create, &Link::clicked, this, &LandingScreen::CreateWanted);
+  open->setFocus();
 }
 
 }  // namespace kladez

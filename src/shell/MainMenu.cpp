@@ -37,12 +37,12 @@ constexpr auto kCommands = std::to_array<CommandRow>({
 
 MainMenu::MainMenu(QMenuBar* bar, QObject* parent) : QObject(parent) {
   AddCommands(AddMenu(bar, u"mnuFile"_s, u"&Файл"_s), u"mnuFile");
-  mnu_Sklad = AddMenu(bar, u"mnu_Sklad"_s, u"&Склад"_s);
-  mnu_Otchet = AddMenu(bar, u"mnu_Otchet"_s, u"&Отчеты"_s);
-  mnu_Sprav = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
-  AddPlaces(mnu_Sklad, PlaceGroup::kStore);
-  AddPlaces(mnu_Otchet, PlaceGroup::kReports);
-  AddPlaces(mnu_Sprav, PlaceGroup::kDirectories);
+  store_menu_ = AddMenu(bar, u"mnu_Sklad"_s, u"&Склад"_s);
+  reports_menu_ = AddMenu(bar, u"mnu_Otchet"_s, u"&Отчеты"_s);
+  directories_menu_ = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
+  AddPlaces(store_menu_, PlaceGroup::kStore);
+  AddPlaces(reports_menu_, PlaceGroup::kReports);
+  AddPlaces(directories_menu_, PlaceGroup::kDirectories);
   AddCommands(AddMenu(bar, u"mnHelp"_s, u"Спр&авка"_s), u"mnHelp");
   commands_[Command::kHelp]->setShortcut(Qt::Key_F1);
   // Elsewhere a desktop would move these two to a menu of its own.
@@ -79,7 +79,8 @@ void MainMenu::AddPlaces(QMenu* menu, PlaceGroup group) {
 }
 
 void MainMenu::ShowDatabaseMenus(bool show) {
-  for (QMenu* menu : {mnu_Sklad, mnu_Otchet, mnu_Sprav}) menu->menuAction()->setVisible(show);
+  for (QMenu* menu : {store_menu_, reports_menu_, directories_menu_})
+    menu->menuAction()->setVisible(show);
 }
 
 void MainMenu::EnableDatabaseCommands(bool enable) {
@@ -91,8 +92,8 @@ void MainMenu::ApplyRole(bool seller) {
   for (const PlaceRow& row : Places()) {
     if (row.barred) places_[row.place]->setEnabled(!seller);
   }
-  mnu_Otchet->menuAction()->setEnabled(!seller);
-  mnu_Sprav->menuAction()->setEnabled(!seller);
+  reports_menu_->menuAction()->setEnabled(!seller);
+  directories_menu_->menuAction()->setEnabled(!seller);
 }
 
 }  // namespace kladez

@@ -48,9 +48,9 @@ class MainMenu : public QObject {
   void AddCommands(QMenu* menu, QStringView name);
   void AddPlaces(QMenu* menu, PlaceGroup group);
 
-  QMenu* mnu_Sklad;
-  QMenu* mnu_Otchet;
-  QMenu* mnu_Sprav;
+  QMenu* store_menu_;
+  QMenu* reports_menu_;
+  QMenu* directories_menu_;
   std::map<Command, QAction*> commands_;
   std::map<Place, QAction*> places_;
 };

@@ -1,15 +1,14 @@
 #include "shell/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QScrollArea>
+#include <QSessionManager>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <memory>
 
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
@@ -23,12 +22,15 @@
 #include "shell/HomeScreen.h"
 #include "shell/LandingScreen.h"
 #include "shell/LinkPanels.h"
+#include "shell/MainWindowParts.h"
 #include "shell/ScreenFactory.h"
 #include "shell/SplashScreen.h"
 #include "ui/Help.h"
 #include "ui/HintWindow.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/HintPicture.h"
+#include "ui/controls/LongWork.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 namespace {
@@ -41,40 +43,19 @@ constexpr QStringView kTitle = u"Kladez";  // with no Database open
 constexpr int kStripHeight = 900;
 constexpr int kFootHeight = 450;
 
-// A child screen that could use more height than there is gets what there is: only one that can't
-// do with it scrolls. What it can do with depends on the width, where its rows go on in a next
-// line.
-class HostLayout : public QVBoxLayout {
- public:
-  using QVBoxLayout::QVBoxLayout;
-  bool hasHeightForWidth() const override { return false; }
-
-  QSize minimumSize() const override {
-    QSize least = QVBoxLayout::minimumSize();
-    const QLayoutItem* child = itemAt(0);
-    const QLayout* layout = child != nullptr ? child->widget()->layout() : nullptr;
-    if (layout != nullptr && layout->hasHeightForWidth()) {
-      const QWidget* view = parentWidget()->parentWidget();
-      const int width = std::max(least.width(), view->width());
-      least.setHeight(std::max(least.height(), layout->minimumHeightForWidth(width)));
-    }
-    return least;
+// Whether the child screen goes with the command, or may go.
+bool LeavesDatabase(Command command) {
+  switch (command) {
+    case Command::kCreate:
+    case Command::kOpen:
+    case Command::kCatalogue:
+    case Command::kImport:
+    case Command::kClose:
+    case Command::kExit:
+      return true;
+    default:
+      return false;
   }
-};
-
-// Keeps its room while it is away, so that nothing moves when it comes.
-QProgressBar* NewProgressBar(QWidget* parent) {
-  auto* bar = new QProgressBar(parent);
-  bar->setObjectName(u"ProgressBar1"_s);
-  bar->setAccessibleName(u"Ход работы"_s);
-  bar->setRange(0, 100);
-  bar->setTextVisible(false);
-  bar->setFixedSize(15 * look::kGrid, 2 * look::kGrid);
-  QSizePolicy policy = bar->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  bar->setSizePolicy(policy);
-  bar->hide();
-  return bar;
 }
 
 }  // namespace
@@ -88,30 +69,42 @@ MainWindow::MainWindow(AppContext& context)
   BuildLayout();
   connect(menu_, &MainMenu::Chosen, this, &MainWindow::Go);
   connect(menu_, &MainMenu::Commanded, this, &MainWindow::Do);
-  connect(Picture1, &LinksPanel::Chosen, this, &MainWindow::Go);
-  connect(Picture2, &LinksStrip::Chosen, this, &MainWindow::Go);
-  context_.show_progress = [this](double part) { ShowProgress(part); };
+  connect(links_panel_, &LinksPanel::Chosen, this, &MainWindow::Go);
+  connect(links_strip_, &LinksStrip::Chosen, this, &MainWindow::Go);
+  context_.show_progress = Progress([this](double part) {
+    ShowProgress(part);
+    return true;
+  });
   way_home_.setSingleShot(true);
   connect(&way_home_, &QTimer::timeout, this, [this] {
     if (!child_) ShowHome();
   });
+  for (QWidget* way_out : {static_cast<QWidget*>(links_panel_), static_cast<QWidget*>(links_strip_),
+                           static_cast<QWidget*>(menuBar())}) {
+    LongWork::LetPass(way_out);
+  }
   bases_ = new CatalogueDialog(context_, *this, this);
+  // The desktop session ends: whoever has unsaved work may call that off.
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [](QSessionManager& session) {
+    if (session.allowsInteraction() && !MayLeave()) session.cancel();
+    session.release();
+  });
   HideDatabaseMenus();
   DisableDatabaseCommands();
   ShowPanels(false);
 }
 
 MainWindow::~MainWindow() {
-  context_.show_progress = [](double) {};
+  context_.show_progress = {};
   if (child_) child_->disconnect(this);
 }
 
 void MainWindow::BuildLayout() {
   auto* inner = new QWidget(this);
   inner->setObjectName(u"inner"_s);
-  Picture1 = new LinksPanel(inner);
-  Picture2 = new LinksStrip(inner);
-  Picture2->setMinimumHeight(look::FromTwips(kStripHeight));
+  links_panel_ = new LinksPanel(inner);
+  links_strip_ = new LinksStrip(inner);
+  links_strip_->setMinimumHeight(look::FromTwips(kStripHeight));
   host_ = new QWidget(inner);
   // With large letters on a small screen a child screen scrolls instead of being cut.
   auto* view = new QScrollArea(inner);
@@ -128,22 +121,22 @@ void MainWindow::BuildLayout() {
   role_->setObjectName(u"role"_s);
   today_ = new QLabel(foot_);
   today_->setObjectName(u"today"_s);
-  ProgressBar1 = NewProgressBar(foot_);
+  progress_bar_ = NewProgressBar(foot_);
   auto* foot = new QHBoxLayout(foot_);
   foot->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
   foot->addWidget(role_);
   foot->addStretch();
-  foot->addWidget(ProgressBar1);
+  foot->addWidget(progress_bar_);
   foot->addSpacing(look::kMargin);
   foot->addWidget(today_);
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
-  middle->addWidget(Picture1);
+  middle->addWidget(links_panel_);
   middle->addWidget(view, 1);
   auto* layout = new QVBoxLayout(inner);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(Picture2);
+  layout->addWidget(links_strip_);
   layout->addLayout(middle, 1);
   layout->addWidget(foot_);
   setCentralWidget(inner);
@@ -196,13 +189,13 @@ void MainWindow::ShowNewDatabase() {
   // The strip stays as it was, and so does what a seller before could not do.
   menu_->EnableDatabaseCommands(true);
   menu_->ShowDatabaseMenus(true);
-  Picture1->show();
+  links_panel_->show();
   ShowHome();
 }
 
 void MainWindow::ShowPanels(bool show) {
-  Picture1->setVisible(show);
-  Picture2->setVisible(show);
+  links_panel_->setVisible(show);
+  links_strip_->setVisible(show);
   foot_->setVisible(show);
   ShowFoot();
 }
@@ -256,7 +249,7 @@ void MainWindow::ShowHome() {
   CloseChildScreens();
   auto* home = new HomeScreen(context_, host_);
   connect(home, &HomeScreen::Chosen, this, &MainWindow::Go);
-  connect(home, &HomeScreen::PanelToggled, Picture1, &QWidget::setVisible);
+  connect(home, &HomeScreen::PanelToggled, links_panel_, &QWidget::setVisible);
   ShowChild(home);
   // At the start the window comes up first: it can be closed while the home screen counts.
   if (isVisible()) {
@@ -275,20 +268,25 @@ void MainWindow::ShowLanding() {
   ShowChild(landing);
 }
 
+// A command that did not come by key or mouse, as one of an assistive tool or of a desktop's own
+// menu, is stopped by no modal dialog of the toolkit's.
+bool MainWindow::MustWait(const std::function<void()>& command) {
+  return QApplication::activeModalWidget() != nullptr || LongWork::LeaveFor(this, command);
+}
+
 void MainWindow::Go(Place place) {
+  if (MustWait([this, place] { Go(place); })) return;
   if (place == Place::kHome) {
-    ShowHome();
+    if (MayLeave(this)) ShowHome();
     return;
   }
+  const bool child = RowOf(place).child;
+  if (child && !MayLeave(this)) return;
   Guarded(this, [&] {
-    const bool child = RowOf(place).child;
     if (child) CloseChildScreens();
-    QWidget* screen = NewScreen(place, context_, child ? host_ : this);
-    if (child) {
+    if (QWidget* screen = OpenScreen(place, context_, child ? host_ : this)) {
       ShowChild(screen);
     } else {
-      const std::unique_ptr<QWidget> owned(screen);
-      qobject_cast<QDialog*>(screen)->exec();
       Return();
     }
   });
@@ -297,9 +295,9 @@ void MainWindow::Go(Place place) {
 
 // Drawn at once: the work that tells of itself leaves no time for events.
 void MainWindow::ShowProgress(double part) {
-  ProgressBar1->setValue(static_cast<int>(part * ProgressBar1->maximum()));
-  ProgressBar1->setVisible(part < 1);
-  if (ProgressBar1->isVisible()) ProgressBar1->repaint();
+  progress_bar_->setValue(static_cast<int>(part * progress_bar_->maximum()));
+  progress_bar_->setVisible(part < 1);
+  if (progress_bar_->isVisible()) progress_bar_->repaint();
 }
 
 // From a dialog that left the child screen where it was.
@@ -309,6 +307,12 @@ void MainWindow::Return() {
 }
 
 void MainWindow::Do(Command command) {
+  if (command == Command::kHelp) {
+    OpenHelpFile(this, context_.data);
+    return;
+  }
+  if (MustWait([this, command] { Do(command); })) return;
+  if (LeavesDatabase(command) && !MayLeave(this)) return;
   switch (command) {
     case Command::kCreate:
       Create();
@@ -343,8 +347,7 @@ void MainWindow::Do(Command command) {
       Exit();
       break;
     case Command::kHelp:
-      OpenHelpFile(this, context_.data);
-      break;
+      break;  // it asks nothing of the screens
     case Command::kProductPage:
       OpenAddress(this, kProductAddress);
       break;
@@ -373,11 +376,15 @@ void MainWindow::Create() {
 }
 
 void MainWindow::Exit() {
-  // At once: no child screen is asked and the scratch price list stays.
+  // At once: no child screen closes of itself and the scratch price list stays.
   QCoreApplication::exit(0);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!MayLeave(this)) {
+    event->ignore();
+    return;
+  }
   CloseChildScreens();
   IgnoreErrors([this] {
     SaveSet save(context_.data);

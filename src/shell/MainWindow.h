@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 
 #include "screens/store/CatalogueHost.h"
 #include "shell/MainMenu.h"
@@ -47,6 +48,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
 
  private:
   void BuildLayout();
+  bool MustWait(const std::function<void()>& command);
   void Go(Place place);
   void Do(Command command);
   void OpenFromCatalogue();
@@ -64,14 +66,14 @@ class MainWindow : public QMainWindow, public CatalogueHost {
 
   AppContext& context_;
   MainMenu* menu_;
-  LinksPanel* Picture1;
-  LinksStrip* Picture2;
+  LinksPanel* links_panel_;
+  LinksStrip* links_strip_;
   QWidget* host_;  // where the child screen lives
   QVBoxLayout* host_layout_;
   QWidget* foot_;
   QLabel* role_;
   QLabel* today_;
-  QProgressBar* ProgressBar1;  // how far a price list is loaded
+  QProgressBar* progress_bar_;  // how far a price list is loaded
   CatalogueDialog* bases_ = nullptr;
   QPointer<QWidget> child_;
   QTimer way_home_;  // from a child screen that closed itself

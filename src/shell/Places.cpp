@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "formats/InOrder.h"
+
 namespace kladez {
 namespace {
 
@@ -155,6 +157,7 @@ constexpr auto kPlaces = std::to_array<PlaceRow>({
      {},
      u"Picture23"},
 });
+static_assert(IsInOrder(kPlaces, &PlaceRow::place));
 
 }  // namespace
 

@@ -1,5 +1,8 @@
 #include "shell/ScreenFactory.h"
 
+#include <array>
+
+#include "formats/InOrder.h"
 #include "screens/directories/CurrencyDialog.h"
 #include "screens/directories/GoodsDirectoryScreen.h"
 #include "screens/directories/WarehousesDialog.h"
@@ -7,72 +10,87 @@
 #include "screens/directories/sprPost.h"
 #include "screens/directories/sprklient.h"
 #include "screens/prices/PriceScreen.h"
-#include "screens/reports/otgr.h"
-#include "screens/reports/otppr.h"
-#include "screens/reports/otpruh.h"
-#include "screens/reports/otrpt.h"
-#include "screens/reports/otspeed.h"
+#include "screens/reports/ChartForms.h"
+#include "screens/reports/ReportForms.h"
 #include "screens/stock/OnHandScreen.h"
 #include "screens/stock/OpeningBalancesDialog.h"
-#include "screens/stock/documents/TovPrih.h"
-#include "screens/stock/documents/TovUhod.h"
-#include "screens/stock/documents/vnutr.h"
+#include "screens/stock/documents/DocumentRegisterScreen.h"
 
 namespace kladez {
-
 namespace {
 
-QWidget* NewGoodsDirectory(AppContext& context, QWidget* parent) {
+using enum Place;
+
+template <typename Screen>
+QWidget* Make(AppContext& context, QWidget* parent) {
+  return new Screen(context, parent);
+}
+
+template <DocumentKind kind>
+QWidget* MakeRegister(AppContext& context, QWidget* parent) {
+  return new DocumentRegisterScreen(context, kind, parent);
+}
+
+QWidget* MakeGoodsDirectory(AppContext& context, QWidget* parent) {
   auto* directory = new GoodsDirectoryScreen(context, parent);
   QObject::connect(directory, &GoodsDirectoryScreen::ChartWanted, directory,
                    [&context, directory](const QString& goods) {
-                     otspeed(context, goods, directory->window()).exec();
+                     ChartDialog(context, GoodsChartForm(), goods, directory->window()).exec();
                    });
   return directory;
 }
 
+template <typename Dialog>
+QWidget* Run(AppContext& context, QWidget* parent) {
+  Dialog(context, parent).exec();
+  return nullptr;
+}
+
+template <const ReportForm& (*form)()>
+QWidget* RunReport(AppContext& context, QWidget* parent) {
+  ReportDialog(context, form(), parent).exec();
+  return nullptr;
+}
+
+template <const ChartForm& (*form)()>
+QWidget* RunChart(AppContext& context, QWidget* parent) {
+  ChartDialog(context, form(), {}, parent).exec();
+  return nullptr;
+}
+
+QWidget* MakeNothing(AppContext&, QWidget*) { return nullptr; }
+
+struct ScreenRow {
+  Place place;
+  QWidget* (*open)(AppContext& context, QWidget* parent);
+};
+
+constexpr auto kScreens = std::to_array<ScreenRow>({
+    {kStock, &Make<OnHandScreen>},
+    {kReceipts, &MakeRegister<DocumentKind::kReceipt>},
+    {kShipments, &MakeRegister<DocumentKind::kShipment>},
+    {kTransfers, &MakeRegister<DocumentKind::kTransfer>},
+    {kPrices, &Make<PriceScreen>},
+    {kOpening, &Run<OpeningBalancesDialog>},
+    {kSalesReport, &RunReport<&SalesReportForm>},
+    {kSpeedReport, &RunReport<&SpeedReportForm>},
+    {kSalesChart, &RunChart<&SalesChartForm>},
+    {kGoodsChart, &RunChart<&GoodsChartForm>},
+    {kFlowReport, &RunReport<&FlowReportForm>},
+    {kFirms, &Run<sprFirm>},
+    {kGoods, &MakeGoodsDirectory},
+    {kSuppliers, &Run<sprPost>},
+    {kClients, &Run<sprklient>},
+    {kWarehouses, &Run<WarehousesDialog>},
+    {kHome, &MakeNothing},
+    {kCurrency, &Run<CurrencyDialog>},
+});
+static_assert(IsInOrder(kScreens, &ScreenRow::place));
+
 }  // namespace
 
-QWidget* NewScreen(Place place, AppContext& context, QWidget* parent) {
-  switch (place) {
-    case Place::kStock:
-      return new OnHandScreen(context, parent);
-    case Place::kReceipts:
-      return new TovPrih(context, parent);
-    case Place::kShipments:
-      return new TovUhod(context, parent);
-    case Place::kTransfers:
-      return new vnutr(context, parent);
-    case Place::kPrices:
-      return new PriceScreen(context, parent);
-    case Place::kOpening:
-      return new OpeningBalancesDialog(context, parent);
-    case Place::kSalesReport:
-      return new otppr(context, parent);
-    case Place::kSpeedReport:
-      return new otrpt(context, parent);
-    case Place::kSalesChart:
-      return new otgr(context, parent);
-    case Place::kGoodsChart:
-      return new otspeed(context, parent);
-    case Place::kFlowReport:
-      return new otpruh(context, parent);
-    case Place::kFirms:
-      return new sprFirm(context, parent);
-    case Place::kGoods:
-      return NewGoodsDirectory(context, parent);
-    case Place::kSuppliers:
-      return new sprPost(context, parent);
-    case Place::kClients:
-      return new sprklient(context, parent);
-    case Place::kWarehouses:
-      return new WarehousesDialog(context, parent);
-    case Place::kCurrency:
-      return new CurrencyDialog(context, parent);
-    case Place::kHome:
-      return nullptr;
-  }
-  return nullptr;
+QWidget* OpenScreen(Place place, AppContext& context, QWidget* parent) {
+  return kScreens[static_cast<size_t>(place)].open(context, parent);
 }
 
 }  // namespace kladez

@@ -1,4 +1,4 @@
-// Makes the screen of a place. The main window knows no screen by its header but through this.
+// Opens the screen of a place. The main window knows no screen by its header but through this.
 #pragma once
 
 #include "shell/Places.h"
@@ -8,8 +8,8 @@ class QWidget;
 
 namespace kladez {
 
-// A child screen as a QWidget, any other as a QDialog; nullptr for the home screen, which the main
-// window makes itself. Throws filesystem_error.
-QWidget* NewScreen(Place place, AppContext& context, QWidget* parent);
+// Makes a child screen; runs any other as a dialog until it is closed, and gives nullptr then, as
+// for the home screen, which the main window makes itself. Throws filesystem_error.
+QWidget* OpenScreen(Place place, AppContext& context, QWidget* parent);
 
 }  // namespace kladez

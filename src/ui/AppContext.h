@@ -3,11 +3,10 @@
 // the screens.
 #pragma once
 
-#include <functional>
-
 #include "books/printing/PrintOutDesk.h"
 #include "books/store/Clock.h"
 #include "books/store/DataDir.h"
+#include "books/store/Progress.h"
 #include "books/store/Session.h"
 #include "books/store/SettingsStore.h"
 
@@ -19,9 +18,9 @@ struct AppContext {
   SettingsStore& settings;
   const Clock& clock;
   const PrintOutDesk& print_outs;
-  // Shows in the main window how much of some work is done, 0 to 1; the bar is away again once all
-  // is. Does nothing where there is no main window.
-  std::function<void(double part)> show_progress = [](double) {};
+  // Shows in the main window how much of some work is done; the bar is away again once all is.
+  // Nobody watches where there is no main window.
+  Progress show_progress = {};
 };
 
 }  // namespace kladez

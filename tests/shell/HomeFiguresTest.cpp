@@ -61,7 +61,7 @@ TEST_F(HomeFigures, EachActivationCountsAnew) {
   home.Activate();
   EXPECT_EQ(Sums(&home), (QStringList{u"10.50"_s, u"15.50"_s, u"115.50"_s}));
   EXPECT_TRUE(Find<QWidget>(&home, "Picture3")->isHidden());
-  const ChartGrid& grid = Find<ChartWidget>(&home, "MSChart1")->grid();
+  const ChartGrid& grid = Find<ChartWidget>(&home, "MSChart1")->Grid();
   ASSERT_EQ(grid.RowCount(), 30);
   EXPECT_EQ(grid.Cell(20, 0), 5.0);
   EXPECT_EQ(grid.Cell(21, 0), 10.5);

@@ -12,6 +12,8 @@
 #include "shell/HomeScreen.h"
 #include "shell/MainWindow.h"
 #include "ui/Help.h"
+#include "ui/controls/LongWork.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 namespace {
@@ -349,7 +351,8 @@ TEST_F(MainWindowShown, EveryLinkOfTheHomeScreenOpensWhatThePanelOpens) {
 }
 
 TEST_F(MainWindowShown, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
-  for (const char16_t* page : {u"price.htm", u"ost.htm", u"workdb.htm", u"index.htm"}) {
+  for (const char16_t* page :
+       {u"price.htm", u"ost.htm", u"workdb.htm", u"index.htm", u"stock.htm", u"documents.htm"}) {
     world_.Temp().Put(u"help\\"_s + QString::fromUtf16(page), "x");
   }
   StartOpen();
@@ -359,6 +362,16 @@ TEST_F(MainWindowShown, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
   press(&window_);
   ClickPanel("go4");
   press(&window_);
+  ClickPanel("go0");
+  press(&window_);
+  ClickPanel("go1");
+  {
+    ModalAnswers answers{[&](QWidget* editor) {
+      press(editor);
+      editor->close();
+    }};
+    Click(window_.Child(), "Command1");
+  }
   for (const QString& entry : {u"mnu_Sklad_ZO"_s, u"mnubases"_s}) {
     ModalAnswers answers{[&](QWidget* dialog) {
       press(dialog);
@@ -367,7 +380,68 @@ TEST_F(MainWindowShown, TheHelpKeyOpensThePageOfTheScreenThatHasTheKeyboard) {
     Entry(entry)->trigger();
   }
   SetAddressOpener([](const QUrl&, const auto&) {});
-  EXPECT_EQ(opened, QStringList({u"index.htm"_s, u"price.htm"_s, u"ost.htm"_s, u"workdb.htm"_s}));
+  EXPECT_EQ(opened, QStringList({u"index.htm"_s, u"price.htm"_s, u"stock.htm"_s, u"documents.htm"_s,
+                                 u"ost.htm"_s, u"workdb.htm"_s}));
+}
+
+TEST_F(MainWindowShown, NoCommandTakesAScreenAwayUnderItsWork) {
+  StartOpen();
+  {
+    LongWork counting(window_.Child(), u"Подсчёт"_s);
+    Entry(u"mnu_Sklad_NT"_s)->trigger();
+    EXPECT_EQ(ChildName(), u"Main"_s);
+    EXPECT_THROW(counting.Told().Tell(0.5), WorkCancelled);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ChildName() == u"Sklad"_s; }));
+  // Nor from under a dialog, where it came by neither key nor mouse.
+  ModalAnswers answers{[&](QWidget* dialog) {
+    Entry(u"mnu_Sprav_T"_s)->trigger();
+    EXPECT_EQ(ChildName(), u"Sklad"_s);
+    dialog->close();
+  }};
+  Entry(u"mnAbout"_s)->trigger();
+}
+
+TEST_F(MainWindowShown, EveryWayFromAScreenAsksForItsUnsavedWork) {
+  StartOpen();
+  ClickPanel("go12");
+  new UnsavedWork(window_.Child(),
+                  {.is_changed = [] { return true; }, .save = [] { return true; }});
+  const QString question = u"Сохранить изменения?"_s;
+  const std::function<void()> ways[] = {
+      [&] { ClickPanel("go0"); },
+      [&] { ClickPanel("go16"); },
+      [&] { Entry(u"mnuFileOpen"_s)->trigger(); },
+      [&] { Entry(u"mnuFileClose"_s)->trigger(); },
+      [&] { Entry(u"mnuFileExit"_s)->trigger(); },
+      [&] { window_.close(); },
+  };
+  for (const auto& way : ways) {
+    ModalAnswers answers{Press(QMessageBox::Cancel, question)};
+    way();
+    EXPECT_EQ(ChildName(), u"sprTovar"_s);
+    EXPECT_TRUE(window_.isVisible());
+  }
+  ModalAnswers answers{Press(QMessageBox::No, question)};
+  ClickPanel("go0");
+  EXPECT_EQ(ChildName(), u"Sklad"_s);
+}
+
+TEST_F(MainWindowShown, TheStripLeadsToItsScreens) {
+  StartOpen();
+  const std::tuple<const char*, QString, QString> links[] = {
+      {"Label11", u"Наличие товаров"_s, u"Sklad"_s},
+      {"Label10", u"Приход"_s, u"TovPrih"_s},
+      {"Label8", u"Расход"_s, u"TovUhod"_s},
+      {"Label15", u"Внутреннее перемещение"_s, u"vnutr"_s},
+      {"Label9", u"Прайс-лист"_s, u"Price"_s},
+      {"Label13", u"Справочник товаров"_s, u"sprTovar"_s},
+      {"Label14", u"Главная"_s, u"Main"_s}};
+  for (const auto& [name, caption, screen] : links) {
+    EXPECT_EQ(Find<QAbstractButton>(Panel("Picture2"), name)->text(), caption);
+    Click(Panel("Picture2"), name);
+    EXPECT_EQ(ChildName(), screen);
+  }
 }
 
 TEST_F(MainWindowShown, NewDatabaseIsOpenAtOnce) {

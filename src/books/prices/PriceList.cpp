@@ -34,7 +34,7 @@ class FirstRows {
 }  // namespace
 
 PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked,
-                     GoodsView view, const LoadProgress& progress) {
+                     GoodsView view, const Progress& progress) {
   FirstRows first;
   SharedTexts units;
   SharedTexts purchases;
@@ -54,9 +54,9 @@ PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView
   ForEachPrice(prices,
                [&](QByteArrayView name, QByteArrayView, QByteArrayView, QByteArrayView sale) {
                  const qsizetype done = name.data() - prices.data();
-                 if (progress && (done - told) * 100 >= prices.size()) {
+                 if ((done - told) * 100 >= prices.size()) {
                    told = done;
-                   progress(static_cast<double>(done) / static_cast<double>(prices.size()));
+                   progress.Tell(static_cast<double>(done) / static_cast<double>(prices.size()));
                  }
                  if (name.startsWith(' ')) return;
                  if (const auto row = first.Find(name)) rows_[*row].sale = sales.Text(sale, money);

@@ -5,12 +5,12 @@
 
 #include <QByteArray>
 #include <QString>
-#include <functional>
 #include <vector>
 
 #include "books/directories/GoodsPick.h"
 #include "books/directories/GoodsView.h"
 #include "books/store/FileState.h"
+#include "books/store/Progress.h"
 #include "formats/PriceFile.h"
 
 namespace kladez {
@@ -21,9 +21,6 @@ struct PriceRow : PriceRecord {
   bool picked = false;  // put in by a pick: shown like a group until the list is loaded again
 };
 
-// Takes how much of the work is done, 0 to 1.
-using LoadProgress = std::function<void(double part)>;
-
 class PriceList {
  public:
   PriceList() = default;
@@ -32,7 +29,7 @@ class PriceList {
   // rows of one name the first gets price and tick. `progress` is told up to a hundred times how
   // much of the .prc is read.
   PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked, GoodsView view,
-            const LoadProgress& progress = {});
+            const Progress& progress = {});
 
   const std::vector<PriceRow>& Rows() const { return rows_; }
 

@@ -38,7 +38,7 @@ QString PriceStore::FileOf(const QString& warehouse, int index) const {
 }
 
 PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
-                           const LoadProgress& progress) const {
+                           const Progress& progress) const {
   const QStringList files = Files(warehouse);
   const bool has_file = index >= 0 && index < files.size();
   FileState price_file, marks_file;

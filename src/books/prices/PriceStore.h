@@ -26,7 +26,7 @@ class PriceStore {
   // The list at a place among the names, from 0. One that has no file shows the purchase prices.
   // Throws filesystem_error.
   PriceList Load(const QString& warehouse, int index, GoodsView view,
-                 const LoadProgress& progress = {}) const;
+                 const Progress& progress = {}) const;
 
   // Each is one save, all or nothing, and throws filesystem_error.
   void Save(PriceList& list, const QString& warehouse, int index) const;  // ticks too

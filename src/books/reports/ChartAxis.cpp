@@ -58,7 +58,7 @@ ChartAxis AxisFor(const ChartGrid& grid, int most_steps) {
 QString ChartNumberText(double value) {
   if (std::abs(value) >= kLargestGrouped) return GeneralText(value);
   const QString general = GeneralText(value);
-  const qsizetype point = general.indexOf(QLatin1Char('.'));
+  const qsizetype point = general.indexOf(u'.');
   if (point >= 0 && general.size() - point > 3) return general;
   const QString grouped = FormatGrouped(value);
   return point < 0 ? grouped.left(grouped.size() - 3) : grouped;

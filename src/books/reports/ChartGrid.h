@@ -3,7 +3,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <cstddef>
 #include <vector>
 
 namespace kladez {
@@ -26,10 +25,10 @@ struct ChartGrid {
   int RowCount() const { return static_cast<int>(row_labels.size()); }
 
   double& Cell(int row, int column) {
-    return columns[static_cast<std::size_t>(column)].values[static_cast<std::size_t>(row)];
+    return columns[static_cast<size_t>(column)].values[static_cast<size_t>(row)];
   }
   double Cell(int row, int column) const {
-    return columns[static_cast<std::size_t>(column)].values[static_cast<std::size_t>(row)];
+    return columns[static_cast<size_t>(column)].values[static_cast<size_t>(row)];
   }
 };
 
@@ -40,7 +39,7 @@ inline ChartGrid NumberedChartGrid(const QString& title, int rows,
   grid.title = title;
   for (int row = 1; row <= rows; ++row) grid.row_labels.append(QString::number(row));
   for (const QString& name : column_names) {
-    grid.columns.push_back({name, std::vector<double>(static_cast<std::size_t>(rows), 0.0)});
+    grid.columns.push_back({name, std::vector<double>(static_cast<size_t>(rows), 0.0)});
   }
   return grid;
 }

@@ -1,6 +1,7 @@
 #include "books/reports/ChartSeries.h"
 
 #include <cerrno>
+#include <optional>
 
 #include "books/store/Errors.h"
 #include "formats/Dates.h"
@@ -47,7 +48,7 @@ void AddTo(double& sum, double value) { sum = RoundGeneral(sum + RoundGeneral(va
 
 using AddLine = std::function<void(const ScannedDocument& line, int row)>;
 
-bool Collect(const DataDir& data, const Session& session, const ChartScope& scope,
+void Collect(const DataDir& data, const Session& session, const ChartScope& scope,
              const Progress& progress, const AddLine& add) {
   const QStringList warehouses = ReportScope{scope.warehouse, {}}.Warehouses(session);
   const auto visit = [&](ScannedDocument& document) {
@@ -61,37 +62,33 @@ bool Collect(const DataDir& data, const Session& session, const ChartScope& scop
                      EBADMSG);
     }
   };
-  return ScanWarehouses(data, session, warehouses, DocumentKind::kShipment, Unreadable::kStop,
-                        progress, visit);
+  ScanWarehouses(data, session, warehouses, DocumentKind::kShipment, Unreadable::kStop, progress,
+                 visit);
 }
 
 }  // namespace
 
-std::optional<ChartGrid> CollectSalesChart(const DataDir& data, const Session& session,
-                                           const ChartScope& scope, const Progress& progress) {
+ChartGrid CollectSalesChart(const DataDir& data, const Session& session, const ChartScope& scope,
+                            const Progress& progress) {
   ChartGrid grid = EmptyGrid(u"График продаж за "_s, scope, {u"Реализация"_s, u"Прибыль"_s});
-  const bool whole =
-      Collect(data, session, scope, progress, [&](const ScannedDocument& line, int row) {
-        const double quantity = Tolerant(line.Line(&L::quantity));
-        const double revenue = Tolerant(line.Line(&L::net_price)) * quantity;
-        AddTo(grid.Cell(row, 0), revenue);
-        AddTo(grid.Cell(row, 1), revenue - Tolerant(line.Line(&L::cost)) * quantity);
-      });
-  return whole ? std::optional(std::move(grid)) : std::nullopt;
+  Collect(data, session, scope, progress, [&](const ScannedDocument& line, int row) {
+    const double quantity = Tolerant(line.Line(&L::quantity));
+    const double revenue = Tolerant(line.Line(&L::net_price)) * quantity;
+    AddTo(grid.Cell(row, 0), revenue);
+    AddTo(grid.Cell(row, 1), revenue - Tolerant(line.Line(&L::cost)) * quantity);
+  });
+  return grid;
 }
 
-std::optional<ChartGrid> CollectGoodsChart(const DataDir& data, const Session& session,
-                                           const QString& goods, const ChartScope& scope,
-                                           const Progress& progress) {
+ChartGrid CollectGoodsChart(const DataDir& data, const Session& session, const QString& goods,
+                            const ChartScope& scope, const Progress& progress) {
   ChartGrid grid =
       EmptyGrid(u"График реализации товара "_s + goods + u" за "_s, scope, {u"Количество"_s});
   const QByteArray name = EncodeText(goods);
-  const bool whole =
-      Collect(data, session, scope, progress, [&](const ScannedDocument& line, int row) {
-        if (line.Line(&L::name) == name)
-          AddTo(grid.Cell(row, 0), Tolerant(line.Line(&L::quantity)));
-      });
-  return whole ? std::optional(std::move(grid)) : std::nullopt;
+  Collect(data, session, scope, progress, [&](const ScannedDocument& line, int row) {
+    if (line.Line(&L::name) == name) AddTo(grid.Cell(row, 0), Tolerant(line.Line(&L::quantity)));
+  });
+  return grid;
 }
 
 }  // namespace kladez

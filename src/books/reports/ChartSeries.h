@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QString>
-#include <optional>
 
 #include "books/reports/ChartGrid.h"
 #include "books/reports/ReportScope.h"
@@ -17,14 +16,13 @@ struct ChartScope {
   int month = 0;  // 1 to 12, where by day
 };
 
-// Two columns, revenue and profit. Nothing when the progress ended the work. A shipment that is
-// cut off in the middle stops it with a filesystem_error that names the file.
-std::optional<ChartGrid> CollectSalesChart(const DataDir& data, const Session& session,
-                                           const ChartScope& scope, const Progress& progress = {});
+// Two columns, revenue and profit. A shipment that is cut off in the middle stops it with a
+// filesystem_error that names the file. Throws WorkCancelled.
+ChartGrid CollectSalesChart(const DataDir& data, const Session& session, const ChartScope& scope,
+                            const Progress& progress = {});
 
 // One column, the quantity of the item; the name is compared exactly.
-std::optional<ChartGrid> CollectGoodsChart(const DataDir& data, const Session& session,
-                                           const QString& goods, const ChartScope& scope,
-                                           const Progress& progress = {});
+ChartGrid CollectGoodsChart(const DataDir& data, const Session& session, const QString& goods,
+                            const ChartScope& scope, const Progress& progress = {});
 
 }  // namespace kladez

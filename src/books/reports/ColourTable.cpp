@@ -1,43 +1,42 @@
 #include "books/reports/ColourTable.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <stdexcept>
 #include <unordered_map>
 
 namespace kladez {
 namespace {
 
-constexpr std::size_t kTableSize = std::tuple_size_v<ColourTable>;
-constexpr std::uint32_t kColourBits = 0xFFFFFF;
+constexpr size_t kTableSize = std::tuple_size_v<ColourTable>;
+constexpr quint32 kColourBits = 0xFFFFFF;
 
 struct Shade {
   Rgb colour;
-  std::uint64_t count = 0;
+  quint64 count = 0;
 };
 
 // Shades that are to share one place of the table.
 struct Box {
   std::span<Shade> shades;
-  std::uint64_t count = 0;
-  std::uint8_t Rgb::*widest = &Rgb::red;
+  quint64 count = 0;
+  quint8 Rgb::*widest = &Rgb::red;
   int extent = 0;  // of the widest primary colour
 
   // A wide box errs far, so width weighs more than the number of pixels.
-  std::uint64_t Urgency() const {
-    const auto width = static_cast<std::uint64_t>(extent);
+  quint64 Urgency() const {
+    const auto width = static_cast<quint64>(extent);
     return count * width * width * width;
   }
 };
 
-Rgb FromBits(std::uint32_t bits) {
-  return {static_cast<std::uint8_t>(bits >> 16), static_cast<std::uint8_t>(bits >> 8),
-          static_cast<std::uint8_t>(bits)};
+Rgb FromBits(quint32 bits) {
+  return {static_cast<quint8>(bits >> 16), static_cast<quint8>(bits >> 8),
+          static_cast<quint8>(bits)};
 }
 
-std::uint32_t ToBits(const Rgb& colour) {
-  return static_cast<std::uint32_t>(colour.red) << 16 |
-         static_cast<std::uint32_t>(colour.green) << 8 | colour.blue;
+quint32 ToBits(const Rgb& colour) {
+  return static_cast<quint32>(colour.red) << 16 | static_cast<quint32>(colour.green) << 8 |
+         colour.blue;
 }
 
 Box BoxOf(std::span<Shade> shades) {
@@ -61,8 +60,8 @@ std::pair<Box, Box> Cut(const Box& box) {
   std::ranges::sort(box.shades, {}, [&](const Shade& shade) {
     return std::pair(shade.colour.*box.widest, ToBits(shade.colour));
   });
-  std::uint64_t seen = 0;
-  std::size_t first_half = 0;
+  quint64 seen = 0;
+  size_t first_half = 0;
   while (first_half + 1 < box.shades.size() && seen * 2 < box.count) {
     seen += box.shades[first_half++].count;
   }
@@ -70,21 +69,21 @@ std::pair<Box, Box> Cut(const Box& box) {
 }
 
 Rgb Average(const Box& box) {
-  std::uint64_t red = 0;
-  std::uint64_t green = 0;
-  std::uint64_t blue = 0;
+  quint64 red = 0;
+  quint64 green = 0;
+  quint64 blue = 0;
   for (const auto& [colour, count] : box.shades) {
     red += colour.red * count;
     green += colour.green * count;
     blue += colour.blue * count;
   }
-  const auto mean = [&](std::uint64_t sum) {
-    return static_cast<std::uint8_t>((sum + box.count / 2) / box.count);
+  const auto mean = [&](quint64 sum) {
+    return static_cast<quint8>((sum + box.count / 2) / box.count);
   };
   return {mean(red), mean(green), mean(blue)};
 }
 
-std::vector<Rgb> MedianCut(std::vector<Shade> shades, std::size_t places) {
+std::vector<Rgb> MedianCut(std::vector<Shade> shades, size_t places) {
   if (shades.empty() || places == 0) return {};
   std::vector<Box> boxes = {BoxOf(shades)};
   while (boxes.size() < places) {
@@ -99,7 +98,7 @@ std::vector<Rgb> MedianCut(std::vector<Shade> shades, std::size_t places) {
   return colours;
 }
 
-std::uint8_t Nearest(std::span<const Rgb> table, const Rgb& colour) {
+quint8 Nearest(std::span<const Rgb> table, const Rgb& colour) {
   const auto distance = [&](const Rgb& other) {
     const int red = other.red - colour.red;
     const int green = other.green - colour.green;
@@ -107,13 +106,13 @@ std::uint8_t Nearest(std::span<const Rgb> table, const Rgb& colour) {
     return red * red + green * green + blue * blue;
   };
   const auto nearest = std::ranges::min_element(table, {}, distance);
-  return static_cast<std::uint8_t>(nearest - table.begin());
+  return static_cast<quint8>(nearest - table.begin());
 }
 
-std::vector<Shade> CountShades(std::span<const std::uint32_t> pixels, std::span<const Rgb> own) {
-  std::unordered_map<std::uint32_t, std::uint64_t> counts;
-  for (std::size_t i = 0; i < pixels.size();) {
-    const std::size_t start = i;
+std::vector<Shade> CountShades(std::span<const quint32> pixels, std::span<const Rgb> own) {
+  std::unordered_map<quint32, quint64> counts;
+  for (size_t i = 0; i < pixels.size();) {
+    const size_t start = i;
     while (i < pixels.size() && pixels[i] == pixels[start]) ++i;
     counts[pixels[start] & kColourBits] += i - start;
   }
@@ -127,9 +126,9 @@ std::vector<Shade> CountShades(std::span<const std::uint32_t> pixels, std::span<
 
 }  // namespace
 
-IndexedImage ReduceColours(int width, int height, std::span<const std::uint32_t> pixels,
+IndexedImage ReduceColours(int width, int height, std::span<const quint32> pixels,
                            std::span<const Rgb> own) {
-  if (width < 1 || height < 1 || pixels.size() != static_cast<std::size_t>(width) * height) {
+  if (width < 1 || height < 1 || pixels.size() != static_cast<size_t>(width) * height) {
     throw std::invalid_argument("the pixels do not fill the picture");
   }
   if (own.size() >= kTableSize) throw std::invalid_argument("more than 255 own colours");
@@ -138,14 +137,14 @@ IndexedImage ReduceColours(int width, int height, std::span<const std::uint32_t>
   const std::vector<Rgb> between = MedianCut(shades, kTableSize - own.size());
   table.insert(table.end(), between.begin(), between.end());
 
-  std::unordered_map<std::uint32_t, std::uint8_t> index_of;
+  std::unordered_map<quint32, quint8> index_of;
   for (const Shade& shade : shades) index_of[ToBits(shade.colour)] = Nearest(table, shade.colour);
   for (const Rgb& colour : own) index_of[ToBits(colour)] = Nearest(table, colour);
 
-  IndexedImage image{width, height, {}, std::vector<std::uint8_t>(pixels.size())};
+  IndexedImage image{width, height, {}, std::vector<quint8>(pixels.size())};
   std::ranges::copy(table, image.colours.begin());
-  for (std::size_t i = 0; i < pixels.size();) {
-    const std::size_t start = i;
+  for (size_t i = 0; i < pixels.size();) {
+    const size_t start = i;
     while (i < pixels.size() && pixels[i] == pixels[start]) ++i;
     std::fill(image.pixels.begin() + static_cast<std::ptrdiff_t>(start),
               image.pixels.begin() + static_cast<std::ptrdiff_t>(i),

@@ -1,7 +1,6 @@
 // Brings a picture of any colours down to one with a table of 256.
 #pragma once
 
-#include <cstdint>
 #include <span>
 
 #include "books/reports/IndexedImage.h"
@@ -13,7 +12,7 @@ namespace kladez {
 // share the places that are left, and are exact too as long as there are no more of them than
 // places. Throws std::invalid_argument when the pixels do not fill the picture or there are more
 // than 255 own colours.
-IndexedImage ReduceColours(int width, int height, std::span<const std::uint32_t> pixels,
+IndexedImage ReduceColours(int width, int height, std::span<const quint32> pixels,
                            std::span<const Rgb> own);
 
 }  // namespace kladez

@@ -8,25 +8,22 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 using H = DocumentHead;
 
-std::optional<FlowReport> CollectFlow(const DataDir& data, const Session& session,
-                                      const ReportScope& scope, const Progress& progress) {
+FlowReport CollectFlow(const DataDir& data, const Session& session, const ReportScope& scope,
+                       const Progress& progress) {
   FlowReport report;
   const auto collect = [&](DocumentKind kind, QString H::*sum, double FlowReport::Day::*into,
-                           double done) {
-    const auto half = [&](double part) { return !progress || progress(done + part / 2); };
-    return ScanWarehouses(data, session, scope.Warehouses(session), kind, Unreadable::kPassOver,
-                          half, [&](ScannedDocument& document) {
-                            const auto date = document.Date();
-                            if (!date || !document.Has(sum)) return;
-                            const int key = DayKeyOf(*date);
-                            if (!scope.period.Passes(key)) return;
-                            report.days[key].*into += NumberOr(document.Head(sum));
-                          });
+                           const Progress& half) {
+    ScanWarehouses(data, session, scope.Warehouses(session), kind, Unreadable::kPassOver, half,
+                   [&](ScannedDocument& document) {
+                     const auto date = document.Date();
+                     if (!date || !document.Has(sum)) return;
+                     const int key = DayKeyOf(*date);
+                     if (!scope.period.Passes(key)) return;
+                     report.days[key].*into += NumberOr(document.Head(sum));
+                   });
   };
-  if (!collect(DocumentKind::kReceipt, &H::sum, &FlowReport::Day::receipts, 0) ||
-      !collect(DocumentKind::kShipment, &H::net_sum, &FlowReport::Day::sales, 0.5)) {
-    return std::nullopt;
-  }
+  collect(DocumentKind::kReceipt, &H::sum, &FlowReport::Day::receipts, progress.Piece(0, 0.5));
+  collect(DocumentKind::kShipment, &H::net_sum, &FlowReport::Day::sales, progress.Piece(0.5, 1));
   return report;
 }
 

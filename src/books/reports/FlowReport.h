@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <map>
-#include <optional>
 
 #include "books/reports/ReportScope.h"
 
@@ -18,8 +17,9 @@ struct FlowReport {
   std::map<int, Day> days;  // by the key "yymmdd", over all chosen warehouses
 };
 
-std::optional<FlowReport> CollectFlow(const DataDir& data, const Session& session,
-                                      const ReportScope& scope, const Progress& progress = {});
+// Throws WorkCancelled.
+FlowReport CollectFlow(const DataDir& data, const Session& session, const ReportScope& scope,
+                       const Progress& progress = {});
 void WriteFlowReport(const FlowReport& report, const ReportScope& scope, const ByteSink& sink,
                      const Progress& progress);
 

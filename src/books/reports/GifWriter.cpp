@@ -1,6 +1,5 @@
 #include "books/reports/GifWriter.h"
 
-#include <cstddef>
 #include <stdexcept>
 
 namespace kladez {
@@ -21,7 +20,7 @@ class CodeStream {
   explicit CodeStream(QByteArray* out) : out_(out) { OpenBlock(); }
 
   void Put(int code, int width) {
-    pending_ |= static_cast<std::uint32_t>(code) << pending_bits_;
+    pending_ |= static_cast<quint32>(code) << pending_bits_;
     pending_bits_ += width;
     while (pending_bits_ >= 8) PutByte();
   }
@@ -53,7 +52,7 @@ class CodeStream {
   void CloseBlock() { (*out_)[length_at_] = static_cast<char>(length_); }
 
   QByteArray* out_;
-  std::uint32_t pending_ = 0;
+  quint32 pending_ = 0;
   int pending_bits_ = 0;
   qsizetype length_at_ = 0;
   int length_ = 0;
@@ -70,34 +69,34 @@ class StringTable {
     next_code_ = kFirstFreeCode;
   }
 
-  int next_code() const { return next_code_; }
+  int NextCode() const { return next_code_; }
 
   // The code of prefix + pixel, or -1 when the string is new; a new one is then remembered under
   // the next free code while there is one.
-  int FindOrAdd(int prefix, std::uint8_t pixel) {
-    const std::uint32_t key = static_cast<std::uint32_t>(prefix) << 8 | pixel;
-    std::size_t at = (key * kSpread) >> (32 - kSlotBits);
+  int FindOrAdd(int prefix, quint8 pixel) {
+    const quint32 key = static_cast<quint32>(prefix) << 8 | pixel;
+    size_t at = (key * kSpread) >> (32 - kSlotBits);
     for (; slots_[at] != kEmpty; at = (at + 1) % kSlots) {
       if (slots_[at] >> kLastWidth == key) return static_cast<int>(slots_[at] % kCodeLimit);
     }
     if (next_code_ < kCodeLimit) {
-      slots_[at] = key << kLastWidth | static_cast<std::uint32_t>(next_code_++);
+      slots_[at] = key << kLastWidth | static_cast<quint32>(next_code_++);
     }
     return -1;
   }
 
  private:
   static constexpr int kSlotBits = 13;
-  static constexpr std::size_t kSlots = std::size_t{1} << kSlotBits;
-  static constexpr std::uint32_t kSpread = 2654435769u;  // 2^32 divided by the golden ratio
+  static constexpr size_t kSlots = size_t{1} << kSlotBits;
+  static constexpr quint32 kSpread = 2654435769u;  // 2^32 divided by the golden ratio
   // No string has this value: its own code would have to equal its prefix's.
-  static constexpr std::uint32_t kEmpty = 0xFFFFFFFF;
+  static constexpr quint32 kEmpty = 0xFFFFFFFF;
 
-  std::array<std::uint32_t, kSlots> slots_;
+  std::array<quint32, kSlots> slots_;
   int next_code_ = kFirstFreeCode;
 };
 
-void Compress(const std::vector<std::uint8_t>& pixels, QByteArray* out) {
+void Compress(const std::vector<quint8>& pixels, QByteArray* out) {
   CodeStream codes(out);
   StringTable strings;
   int width = kFirstWidth;
@@ -110,8 +109,8 @@ void Compress(const std::vector<std::uint8_t>& pixels, QByteArray* out) {
 
   codes.Put(kClearCode, width);
   int string = pixels.front();
-  for (std::size_t i = 1; i < pixels.size(); ++i) {
-    const int known = strings.next_code();
+  for (size_t i = 1; i < pixels.size(); ++i) {
+    const int known = strings.NextCode();
     const int longer = strings.FindOrAdd(string, pixels[i]);
     if (longer >= 0) {
       string = longer;
@@ -125,7 +124,7 @@ void Compress(const std::vector<std::uint8_t>& pixels, QByteArray* out) {
     }
     string = pixels[i];
   }
-  put(string, strings.next_code());
+  put(string, strings.NextCode());
   codes.Put(kEndCode, width);
   codes.Finish();
 }
@@ -164,7 +163,7 @@ QByteArray WriteGif(const IndexedImage& image) {
   const bool sides_fit = image.width >= 1 && image.width <= kLargestSide && image.height >= 1 &&
                          image.height <= kLargestSide;
   if (!sides_fit) throw std::invalid_argument("a GIF is 1 to 65535 pixels wide and high");
-  if (image.pixels.size() != static_cast<std::size_t>(image.width) * image.height) {
+  if (image.pixels.size() != static_cast<size_t>(image.width) * image.height) {
     throw std::invalid_argument("the pixels do not fill the picture");
   }
   QByteArray out;

@@ -2,15 +2,14 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <vector>
 
 namespace kladez {
 
 struct Rgb {
-  std::uint8_t red = 0;
-  std::uint8_t green = 0;
-  std::uint8_t blue = 0;
+  quint8 red = 0;
+  quint8 green = 0;
+  quint8 blue = 0;
 
   bool operator==(const Rgb&) const = default;
 };
@@ -23,7 +22,7 @@ struct IndexedImage {
   int width = 0;
   int height = 0;
   ColourTable colours{};
-  std::vector<std::uint8_t> pixels;
+  std::vector<quint8> pixels;
 };
 
 }  // namespace kladez

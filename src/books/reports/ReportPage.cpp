@@ -51,7 +51,7 @@ void ReportPage::Rows(size_t count, const std::function<std::vector<QString>(siz
   constexpr size_t kRowsBetweenProgress = 256;
   for (size_t i = 0; i < count; ++i) {
     const double part = static_cast<double>(i) / static_cast<double>(count);
-    if (i % kRowsBetweenProgress == 0 && progress && !progress(part)) throw WorkEnded();
+    if (i % kRowsBetweenProgress == 0) progress.Tell(part);
     Row(values(i));
   }
 }

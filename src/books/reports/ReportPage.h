@@ -25,7 +25,7 @@ class ReportPage {
   // right.
   void Heads(std::vector<Head> heads, size_t texts);
   void Row(const std::vector<QString>& values);
-  // Many rows, each asked for when its turn comes. Throws WorkEnded.
+  // Many rows, each asked for when its turn comes. Throws WorkCancelled.
   void Rows(size_t count, const std::function<std::vector<QString>(size_t)>& values,
             const Progress& progress);
   // The bold row and the end of the page.

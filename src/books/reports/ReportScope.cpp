@@ -39,12 +39,11 @@ QStringList ReportScope::Warehouses(const Session& session) const {
   return warehouse == kAllWarehouses ? session.warehouses : QStringList{warehouse};
 }
 
-bool ScanWarehouses(const DataDir& data, const Session& session, const QStringList& warehouses,
+void ScanWarehouses(const DataDir& data, const Session& session, const QStringList& warehouses,
                     DocumentKind kind, Unreadable unreadable, const Progress& progress,
                     const std::function<void(ScannedDocument&)>& visit) {
   const double share = 1.0 / static_cast<double>(std::max<qsizetype>(1, warehouses.size()));
   double done = 0;
-  bool wanted = true;
   for (const QString& warehouse : warehouses) {
     const QString directory = session.Path(warehouse, DirectoryOf(kind));
     const auto scan = [&] {
@@ -52,8 +51,7 @@ bool ScanWarehouses(const DataDir& data, const Session& session, const QStringLi
       ScanDocuments(data, kind, directory, unreadable, [&](ScannedDocument& document) {
         if (until_progress-- == 0) {
           until_progress = kFilesBetweenProgress;
-          wanted = !progress || progress(done + document.Part() * share);
-          if (!wanted) return false;
+          progress.Tell(done + document.Part() * share);
         }
         visit(document);
         return true;
@@ -62,10 +60,8 @@ bool ScanWarehouses(const DataDir& data, const Session& session, const QStringLi
     const bool exists = data.DirectoryExists(directory);
     if (exists && unreadable == Unreadable::kStop) scan();
     if (exists && unreadable == Unreadable::kPassOver) IgnoreErrors(scan);
-    if (!wanted) return false;
     done += share;
   }
-  return true;
 }
 
 }  // namespace kladez

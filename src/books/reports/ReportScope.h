@@ -10,6 +10,7 @@
 #include "books/directories/WarehouseDirectory.h"
 #include "books/stock/DocumentScan.h"
 #include "books/store/DataDir.h"
+#include "books/store/Progress.h"
 #include "books/store/Session.h"
 
 namespace kladez {
@@ -37,15 +38,10 @@ struct ReportScope {
   QStringList Warehouses(const Session& session) const;
 };
 
-// Told how much of the work is done, 0 to 1; false ends it.
-using Progress = std::function<bool(double part)>;
-// Thrown by work that has no other way to say that the progress ended it.
-struct WorkEnded {};
-
 // Visits the documents of a kind in the warehouses, one after the other; a warehouse without the
 // directory has none, and one whose directory can't be listed is treated as an unreadable file is.
-// False when the progress ended it.
-bool ScanWarehouses(const DataDir& data, const Session& session, const QStringList& warehouses,
+// Throws WorkCancelled.
+void ScanWarehouses(const DataDir& data, const Session& session, const QStringList& warehouses,
                     DocumentKind kind, Unreadable unreadable, const Progress& progress,
                     const std::function<void(ScannedDocument&)>& visit);
 

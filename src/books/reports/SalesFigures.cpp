@@ -7,8 +7,8 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
-std::optional<SalesFigures> CollectSalesFigures(const DataDir& data, const Session& session,
-                                                QDate today, const Progress& progress) {
+SalesFigures CollectSalesFigures(const DataDir& data, const Session& session, QDate today,
+                                 const Progress& progress) {
   SalesFigures figures;
   figures.by_day = NumberedChartGrid(
       u"График продаж за "_s + MonthName(today.month()) + u' ' + GeneralText(today.year()),
@@ -23,10 +23,8 @@ std::optional<SalesFigures> CollectSalesFigures(const DataDir& data, const Sessi
     figures.by_day.Cell(date->day() - 1, 0) += total;
     if (date->day() == today.day()) figures.day += total;
   };
-  if (!ScanWarehouses(data, session, session.warehouses, DocumentKind::kShipment,
-                      Unreadable::kPassOver, progress, visit)) {
-    return std::nullopt;
-  }
+  ScanWarehouses(data, session, session.warehouses, DocumentKind::kShipment, Unreadable::kPassOver,
+                 progress, visit);
   return figures;
 }
 

@@ -2,8 +2,6 @@
 // from the heads of all shipments of the Database. Nothing is cached from one time to the next.
 #pragma once
 
-#include <optional>
-
 #include "books/reports/ChartGrid.h"
 #include "books/reports/ReportScope.h"
 
@@ -16,7 +14,8 @@ struct SalesFigures {
   ChartGrid by_day;  // the whole month; days to come stay at 0
 };
 
-std::optional<SalesFigures> CollectSalesFigures(const DataDir& data, const Session& session,
-                                                QDate today, const Progress& progress = {});
+// Throws WorkCancelled.
+SalesFigures CollectSalesFigures(const DataDir& data, const Session& session, QDate today,
+                                 const Progress& progress = {});
 
 }  // namespace kladez

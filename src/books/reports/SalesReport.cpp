@@ -8,8 +8,8 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 using L = DocumentLine;
 
-std::optional<SalesReport> CollectSales(const DataDir& data, const Session& session,
-                                        const ReportScope& scope, const Progress& progress) {
+SalesReport CollectSales(const DataDir& data, const Session& session, const ReportScope& scope,
+                         const Progress& progress) {
   SalesReport report;
   const auto visit = [&](ScannedDocument& document) {
     const auto date = document.Date();
@@ -28,10 +28,8 @@ std::optional<SalesReport> CollectSales(const DataDir& data, const Session& sess
                        .amount = RoundMoney(NumberOr(quantity) * net_price)});
     }
   };
-  if (!ScanWarehouses(data, session, scope.Warehouses(session), DocumentKind::kShipment,
-                      Unreadable::kPassOver, progress, visit)) {
-    return std::nullopt;
-  }
+  ScanWarehouses(data, session, scope.Warehouses(session), DocumentKind::kShipment,
+                 Unreadable::kPassOver, progress, visit);
   return report;
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <optional>
 
 #include "books/reports/ReportScope.h"
 #include "books/reports/SalesRows.h"
@@ -20,12 +19,11 @@ struct SalesReport {
   double TotalAmount() const;
 };
 
-// Nothing when the progress ended the work. A damaged document gives its whole lines, an unreadable
-// one nothing.
-std::optional<SalesReport> CollectSales(const DataDir& data, const Session& session,
-                                        const ReportScope& scope, const Progress& progress = {});
+// A damaged document gives its whole lines, an unreadable one nothing. Throws WorkCancelled.
+SalesReport CollectSales(const DataDir& data, const Session& session, const ReportScope& scope,
+                         const Progress& progress = {});
 
-// The page "temp.htm". Throws WorkEnded.
+// The page "temp.htm". Throws WorkCancelled.
 void WriteSalesReport(const SalesReport& report, const ReportScope& scope, const ByteSink& sink,
                       const Progress& progress);
 

@@ -73,18 +73,16 @@ class SpeedSums {
 
 }  // namespace
 
-std::optional<SpeedReport> CollectSpeed(const DataDir& data, const Session& session,
-                                        const ReportScope& scope, const Progress& progress) {
+SpeedReport CollectSpeed(const DataDir& data, const Session& session, const ReportScope& scope,
+                         const Progress& progress) {
   SpeedSums sums;
   const auto visit = [&](ScannedDocument& document) {
     const auto date = document.Date();
     if (!date || !scope.period.Passes(DayKeyOf(*date))) return;
     while (document.NextLine()) sums.Add(document);
   };
-  if (!ScanWarehouses(data, session, scope.Warehouses(session), DocumentKind::kShipment,
-                      Unreadable::kPassOver, progress, visit)) {
-    return std::nullopt;
-  }
+  ScanWarehouses(data, session, scope.Warehouses(session), DocumentKind::kShipment,
+                 Unreadable::kPassOver, progress, visit);
   return sums.Report();
 }
 

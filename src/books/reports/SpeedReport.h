@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <optional>
 #include <vector>
 
 #include "books/reports/ReportScope.h"
@@ -29,8 +28,8 @@ struct SpeedReport {
 };
 
 // As CollectSales.
-std::optional<SpeedReport> CollectSpeed(const DataDir& data, const Session& session,
-                                        const ReportScope& scope, const Progress& progress = {});
+SpeedReport CollectSpeed(const DataDir& data, const Session& session, const ReportScope& scope,
+                         const Progress& progress = {});
 void WriteSpeedReport(const SpeedReport& report, const ReportScope& scope, const ByteSink& sink,
                       const Progress& progress);
 

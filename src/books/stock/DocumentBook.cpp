@@ -51,6 +51,14 @@ QString WarehouseOf(const LedgerEffect& effect, const DocumentHead& head, const 
   return effect.warehouse == nullptr ? home : head.*effect.warehouse;
 }
 
+std::vector<LedgerRecord> ReversalOf(const LedgerEffect& effect, const Document& document) {
+  std::vector<LedgerRecord> records;
+  for (const DocumentLine& line : document.lines) {
+    records.push_back({line.name, effect.reversal + line.quantity, line.unit});
+  }
+  return records;
+}
+
 std::optional<QString> LineAmount(const QString& quantity, const QString& price) {
   const double amount = NumberOr(quantity) * NumberOr(price);
   if (!std::isfinite(amount)) return std::nullopt;

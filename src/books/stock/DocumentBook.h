@@ -45,6 +45,9 @@ QString DocumentPath(const Session& session, DocumentKind kind, const QString& w
 // The warehouse whose ledger an effect of a document changes; `home` is where the document lies.
 QString WarehouseOf(const LedgerEffect& effect, const DocumentHead& head, const QString& home);
 
+// The records that take back what a document did to the ledger of an effect.
+std::vector<LedgerRecord> ReversalOf(const LedgerEffect& effect, const Document& document);
+
 // Quantity times price, "#0.00"; damaged numbers count as 0. Nothing where the product overflows.
 std::optional<QString> LineAmount(const QString& quantity, const QString& price);
 

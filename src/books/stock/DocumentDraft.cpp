@@ -1,5 +1,6 @@
 #include "books/stock/DocumentDraft.h"
 
+#include <map>
 #include <utility>
 
 #include "books/stock/DocumentNumbers.h"
@@ -34,6 +35,7 @@ DocumentDraft DocumentDraft::New(const Place& place, QDate today) {
   }
   draft.SetDiscount(u"0"_s);
   draft.TakeLedgers();
+  draft.MarkUnchanged();
   return draft;
 }
 
@@ -54,11 +56,12 @@ DocumentDraft DocumentDraft::Open(const Place& place, const RegisterRow& row) {
   for (DocumentLine& line : document.lines) draft.lines_.push_back(WithAmount(std::move(line)));
   draft.Recompute();
   draft.TakeLedgers();
+  draft.MarkUnchanged();
   return draft;
 }
 
 void DocumentDraft::TakeLedgers() {
-  if (book_.has_flag ? was_closed_ : !is_new_) return;  // no save of it will post
+  if (HasPosted()) return;  // no save of it will post
   std::vector<QByteArray> ledgers;
   std::vector<FileState> files;
   for (const LedgerEffect& effect : book_.effects) {
@@ -145,16 +148,55 @@ Document DocumentDraft::ToDocument() const {
   return document;
 }
 
+std::vector<LedgerRecord> DocumentDraft::Records() const {
+  std::vector<LedgerRecord> records;
+  for (const DraftLine& draft : lines_) {
+    records.push_back({draft.line.name, draft.line.quantity, draft.line.unit});
+  }
+  return records;
+}
+
+DocumentDraft::Outcome DocumentDraft::EnterAnew() {
+  if (book_.has_flag && lines_.empty()) return Outcome::kNoLines;
+  if (!book_.has_flag && head_.party == head_.destination) return Outcome::kSameWarehouse;
+  const QString directory = DocumentDirectory(place_.session, place_.kind, place_.warehouse);
+  const QString old_path = directory + u'\\' + file_;
+  const QString new_file = FreeDocumentFile(place_.data, place_.kind, directory);
+  const Document old = ReadDocument(place_.kind, place_.data.Read(old_path));
+  SaveSet save(place_.data);
+  save.Delete(old_path);
+  save.WriteNew(directory + u'\\' + new_file, WriteDocument(place_.kind, ToDocument()));
+  std::map<QString, QByteArray> ledgers;
+  const auto ledger_of = [&](const LedgerEffect& effect, const DocumentHead& head) -> QByteArray& {
+    const QString path = LedgerPath(place_.session, WarehouseOf(effect, head, place_.warehouse));
+    if (!ledgers.contains(path)) ledgers[path] = place_.data.Read(path);
+    return ledgers[path];
+  };
+  for (const LedgerEffect& effect : book_.effects) {
+    ledger_of(effect, old.head) += WriteLedger(ReversalOf(effect, old));
+  }
+  for (const LedgerEffect& effect : book_.effects) {
+    QByteArray& bytes = ledger_of(effect, head_);
+    StockLedger ledger(bytes);
+    ledger.Post(effect.posting, Records());
+    bytes = ledger.Bytes();
+  }
+  for (const auto& [path, bytes] : ledgers) save.Write(path, bytes);
+  save.Commit();
+  file_ = new_file;
+  return Outcome::kSaved;
+}
+
 DocumentDraft::Outcome DocumentDraft::Save() {
   if (book_.has_flag && lines_.empty()) return Outcome::kNoLines;
   if (!book_.has_flag && head_.party == head_.destination) return Outcome::kSameWarehouse;
+  if (is_new_ && !document_file_.exists && place_.data.FileExists(DocumentFile())) {
+    return Outcome::kFileExists;
+  }
   SaveSet save(place_.data);
   save.Write(DocumentFile(), WriteDocument(place_.kind, ToDocument()), document_file_);
   if (Posts()) {
-    std::vector<LedgerRecord> records;
-    for (const DraftLine& draft : lines_) {
-      records.push_back({draft.line.name, draft.line.quantity, draft.line.unit});
-    }
+    const std::vector<LedgerRecord> records = Records();
     for (size_t i = 0; i < book_.effects.size(); ++i) {
       StockLedger ledger(ledgers_[i]);
       ledger.Post(book_.effects[i].posting, records);
@@ -166,10 +208,23 @@ DocumentDraft::Outcome DocumentDraft::Save() {
   return Outcome::kSaved;
 }
 
-PrintSource DocumentDraft::ToPrint() const {
+void DocumentDraft::SaveOverExisting() {
+  ReadWithState(place_.data, DocumentFile(), document_file_);
+}
+
+QString DocumentDraft::FreeFile() const {
+  return FreeDocumentFile(place_.data, place_.kind,
+                          DocumentDirectory(place_.session, place_.kind, place_.warehouse));
+}
+
+Document DocumentDraft::Shown() const {
   Document shown{head_, {}};
   for (const DraftLine& draft : lines_) shown.lines.push_back(draft.line);
-  return PrintSourceOf(place_.kind, place_.warehouse, std::move(shown));
+  return shown;
+}
+
+PrintSource DocumentDraft::ToPrint() const {
+  return PrintSourceOf(place_.kind, place_.warehouse, Shown());
 }
 
 }  // namespace kladez

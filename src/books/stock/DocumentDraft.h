@@ -44,6 +44,9 @@ class DocumentDraft {
   // Saved closed before: the flag stays, and no save posts again.
   bool WasClosed() const { return was_closed_; }
   bool IsNew() const { return is_new_; }
+  // Whether the ledgers have the lines, as they were when it was saved last: no save changes that.
+  bool HasPosted() const { return book_.has_flag ? was_closed_ : !is_new_; }
+  const Place& Where() const { return place_; }
 
   void SetNumber(const QString& number) { head_.number = number; }
   void SetDate(QDate date);
@@ -63,10 +66,12 @@ class DocumentDraft {
   void ChangeLine(size_t row, const QString& quantity, const QString& price, const QString& amount);
   void RemoveLine(size_t row);
 
+  // All but kSaved: nothing was written.
   enum class Outcome {
     kSaved,
-    kNoLines,        // receipts and shipments: nothing was written
-    kSameWarehouse,  // transfers: nothing was written
+    kNoLines,        // receipts and shipments
+    kSameWarehouse,  // transfers
+    kFileExists,     // a new document, and another has its file's name
   };
   // Throws filesystem_error, nothing written then; the draft may be saved again. StaleFile: the
   // ledgers or the document are no longer as they were taken; EEXIST for a new document whose file
@@ -75,6 +80,21 @@ class DocumentDraft {
   // Takes the ledgers anew, and a changed document's file as it is now, so that Save writes over
   // it. Throws filesystem_error.
   void TakeFilesAnew();
+  // What a new document whose file exists may do: take the next free name, or write over the other
+  // one. Both ways throw filesystem_error.
+  QString FreeFile() const;
+  void SaveAs(const QString& file) { file_ = file; }
+  void SaveOverExisting();
+
+  // The told way to have stock follow a change of a document that has posted, in one save: deletes
+  // it with reversal and enters its fields and lines as they are now under the next name, where
+  // they post. Throws filesystem_error, nothing written then.
+  Outcome EnterAnew();
+
+  // Whether fields and lines differ from those it was opened with, or from those of MarkUnchanged.
+  bool IsChanged() const { return Shown() != unchanged_; }
+  bool LinesAreChanged() const { return Shown().lines != unchanged_.lines; }
+  void MarkUnchanged() { unchanged_ = Shown(); }
 
   // What a print screen is handed.
   PrintSource ToPrint() const;
@@ -87,6 +107,8 @@ class DocumentDraft {
   bool Posts() const;
   void Recompute();
   Document ToDocument() const;
+  Document Shown() const;
+  std::vector<LedgerRecord> Records() const;
 
   Place place_;
   const DocumentBook& book_;
@@ -97,6 +119,7 @@ class DocumentDraft {
   std::vector<QByteArray> ledgers_;
   std::vector<FileState> ledger_files_;
   FileState document_file_ = FileState::Missing();
+  Document unchanged_;  // fields and lines as they were first
   bool is_new_ = false;
   bool was_closed_ = false;
 };

@@ -20,4 +20,10 @@ struct NewDocumentNumbers {
 // first line of that last file. Throws filesystem_error.
 NewDocumentNumbers NumbersForNew(const DataDir& data, DocumentKind kind, const QString& directory);
 
+// The file name with the number above the highest of the directory: "10001.prh" beside "10000.prh"
+// and "9999.prh". Throws filesystem_error.
+QString FreeDocumentFile(const DataDir& data, DocumentKind kind, const QString& directory);
+// The number in a file's name, as it is told to people: "13" of "0013.prh".
+QString FileNumberText(const QString& file);
+
 }  // namespace kladez

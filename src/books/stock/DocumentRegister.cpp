@@ -38,11 +38,22 @@ bool RegisterFilter::Passes(QDate date, QDate today) const {
 }
 
 void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filter, QDate today,
-                            bool descending) {
+                            bool descending, const Progress& progress) {
   const DocumentFormat& format = FormatOf(kind_);
+  constexpr int kFilesBetweenProgress = 64;
   std::vector<RegisterRow> rows;
+  TextPool numbers;
+  std::vector<int> counts;
+  int until_progress = 0;
   ScanDocuments(data_, kind_, DocumentDirectory(session_, kind_, warehouse), Unreadable::kStop,
                 [&](ScannedDocument& document) {
+                  if (until_progress-- == 0) {
+                    until_progress = kFilesBetweenProgress;
+                    progress.Tell(document.Part());
+                  }
+                  const auto number = static_cast<size_t>(numbers.Add(document.Head(&H::number)));
+                  counts.resize(std::max(counts.size(), number + 1));
+                  ++counts[number];
                   const auto date = document.Date();
                   if (date && filter.Passes(*date, today)) {
                     rows.push_back({document.File(), RowHead(format, document)});
@@ -51,6 +62,8 @@ void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filt
                 });
   if (descending) std::reverse(rows.begin(), rows.end());
   rows_ = std::move(rows);
+  numbers_ = std::move(numbers);
+  number_counts_ = std::move(counts);
   total_ = 0;
   for (const RegisterRow& row : rows_) total_ += NumberOr(row.head.*BookOf(kind_).total);
 }
@@ -59,6 +72,11 @@ int DocumentRegister::RowOf(const QString& file) const {
   const auto found = std::find_if(rows_.begin(), rows_.end(),
                                   [&](const RegisterRow& row) { return row.file == file; });
   return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+int DocumentRegister::CountOfNumber(const QString& number) {
+  const auto place = static_cast<size_t>(numbers_.Add(EncodeText(number)));
+  return place < number_counts_.size() ? number_counts_[place] : 0;
 }
 
 QString DocumentRegister::StatusText() const {
@@ -72,12 +90,8 @@ void DeleteDocument(const DataDir& data, const Session& session, DocumentKind ki
   if (reverse) {
     const Document document = ReadDocument(kind, data.Read(path));
     for (const LedgerEffect& effect : BookOf(kind).effects) {
-      std::vector<LedgerRecord> records;
-      for (const DocumentLine& line : document.lines) {
-        records.push_back({line.name, effect.reversal + line.quantity, line.unit});
-      }
       AppendToLedger(save, LedgerPath(session, WarehouseOf(effect, document.head, warehouse)),
-                     records);
+                     ReversalOf(effect, document));
     }
   }
   save.Delete(path);

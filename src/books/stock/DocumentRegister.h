@@ -3,10 +3,13 @@
 #pragma once
 
 #include <QDate>
+#include <functional>
 #include <vector>
 
 #include "books/stock/DocumentBook.h"
 #include "books/store/DataDir.h"
+#include "books/store/Progress.h"
+#include "formats/TextPool.h"
 
 namespace kladez {
 
@@ -38,21 +41,27 @@ class DocumentRegister {
 
   // Reads the documents of a warehouse in the order of their file names, or from the last to the
   // first. One without a valid date is left out. Throws filesystem_error for a directory or file
-  // that can't be read; the rows stay as they were then.
-  void Load(const QString& warehouse, const RegisterFilter& filter, QDate today, bool descending);
-  void Clear() { rows_.clear(), total_ = 0; }
+  // that can't be read, and WorkCancelled; the rows stay as they were then.
+  void Load(const QString& warehouse, const RegisterFilter& filter, QDate today, bool descending,
+            const Progress& progress = {});
+  void Clear() { *this = DocumentRegister(data_, session_, kind_); }
 
   const std::vector<RegisterRow>& Rows() const { return rows_; }
   // The row of a file, -1 where the filter hides it.
   int RowOf(const QString& file) const;
+  // How many documents bear the number, those too that the filter hides; as of the last Load.
+  int CountOfNumber(const QString& number);
   // "Документов:2     Сумма:10.50".
   QString StatusText() const;
 
  private:
-  const DataDir& data_;
-  const Session& session_;
+  std::reference_wrapper<const DataDir> data_;
+  std::reference_wrapper<const Session> session_;
   DocumentKind kind_;
   std::vector<RegisterRow> rows_;
+  // Of all documents, and how many bear each.
+  TextPool numbers_;
+  std::vector<int> number_counts_;
   double total_ = 0;
 };
 

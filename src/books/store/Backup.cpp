@@ -55,11 +55,6 @@ void RefuseInside(const QByteArray& tree, const QString& folder) {
   }
 }
 
-TreeCopy::Progress Part(const CopyProgress& progress, qint64 before, qint64 size) {
-  if (!progress) return {};
-  return [=](qint64 done) { return progress(double(before + done) / double(size)); };
-}
-
 }  // namespace
 
 QString BackupTarget(const QString& folder, QDate day) {
@@ -67,8 +62,8 @@ QString BackupTarget(const QString& folder, QDate day) {
   return folder.endsWith(u'/') ? QString(folder + name) : QString(folder + u'/' + name);
 }
 
-bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
-                const QString& folder, QDate day, const CopyProgress& progress) {
+void MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
+                const QString& folder, QDate day, const Progress& progress) {
   const QByteArray target = QFile::encodeName(BackupTarget(folder, day));
   if (syscalls::Exists(target)) {
     Check(EEXIST, u"Копия за это число уже есть в выбранной папке, она оставлена как есть"_s,
@@ -90,14 +85,13 @@ bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
   }
   const Unfinished unfinished(partial);
   Check(syscalls::MakeDirectory(partial), u"Не удалось создать каталог"_s, partial);
-  if (!copy.Run(Part(progress, 0, copy.Size()))) return false;
+  copy.Run(progress);
   const QByteArray index_file = partial + '/' + QFile::encodeName(files::kBackupIndex.toString());
   Check(syscalls::WriteNewFile(index_file, WriteBackupIndex(index), 0),
         u"Не удалось записать файл"_s, index_file);
   Check(syscalls::SyncFileSystem(partial), u"Не удалось записать копию на диск"_s, partial);
   Check(syscalls::RenameToNew(partial, target), u"Не удалось закончить копию"_s, target);
   syscalls::SyncFileSystem(target);
-  return true;
 }
 
 bool IsBackupFolder(const QString& folder) {
@@ -106,8 +100,8 @@ bool IsBackupFolder(const QString& folder) {
   return found;
 }
 
-bool RestoreDatabases(const DataDir& data, const DataDir& backup,
-                      const std::vector<CatalogueEntry>& chosen, const CopyProgress& progress) {
+void RestoreDatabases(const DataDir& data, const DataDir& backup,
+                      const std::vector<CatalogueEntry>& chosen, const Progress& progress) {
   const QByteArray aside = QFile::encodeName(data.Root() + u'/' + kUnfinishedRestore);
   std::vector<TreeCopy> copies(chosen.size());
   qint64 size = 0;
@@ -118,7 +112,8 @@ bool RestoreDatabases(const DataDir& data, const DataDir& backup,
   qint64 done = 0;
   for (size_t i = 0; i < chosen.size(); ++i) {
     const Unfinished unfinished(aside);
-    if (!copies[i].Run(Part(progress, done, size))) return false;
+    const auto share = [&](qint64 units) { return double(units) / double(size); };
+    copies[i].Run(progress.Piece(share(done), share(done + copies[i].Size())));
     done += copies[i].Size();
     Check(syscalls::SyncFileSystem(aside), u"Не удалось записать копию на диск"_s, aside);
     const QString number = NumberedName(FreeDatabaseNumber(data));
@@ -128,7 +123,6 @@ bool RestoreDatabases(const DataDir& data, const DataDir& backup,
     save.RenameDirectory(kUnfinishedRestore.toString(), number);
     save.Commit();
   }
-  return true;
 }
 
 void RemoveUnfinishedRestore(const DataDir& data) {

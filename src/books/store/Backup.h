@@ -8,35 +8,32 @@
 
 #include <QDate>
 #include <QString>
-#include <functional>
 #include <vector>
 
 #include "books/store/Catalogue.h"
 #include "books/store/DataDir.h"
+#include "books/store/Progress.h"
 
 namespace kladez {
-
-// Told how much of the work is done, from 0 to 1; false stops it.
-using CopyProgress = std::function<bool(double done)>;
 
 // The path of the machine at which a backup of the day lies in a folder of the machine.
 QString BackupTarget(const QString& folder, QDate day);
 
-// Copies the entries into a new folder of the day; false when `progress` stopped it. Throws
-// filesystem_error with the file at fault. Nothing stays then; a backup that stands there already
+// Copies the entries into a new folder of the day. Throws filesystem_error with the file at fault,
+// and WorkCancelled. Nothing stays then; a backup that stands there already
 // is never touched, and is one of the faults.
-bool MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
-                const QString& folder, QDate day, const CopyProgress& progress = {});
+void MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
+                const QString& folder, QDate day, const Progress& progress = {});
 
 // Whether a folder of the machine holds archive.idb, by which a backup is known. No folder, no
 // backup.
 bool IsBackupFolder(const QString& folder);
 
 // Brings the entries of a backup (ListDatabases of its folder) back one after the other, each under
-// the next free number and with " (копия)" after its name; false when `progress` stopped it. Those
-// that were finished stay, of the one at fault nothing does. Throws filesystem_error.
-bool RestoreDatabases(const DataDir& data, const DataDir& backup,
-                      const std::vector<CatalogueEntry>& chosen, const CopyProgress& progress = {});
+// the next free number and with " (копия)" after its name. Throws filesystem_error, and
+// WorkCancelled: those that were finished stay, of the one at fault nothing does.
+void RestoreDatabases(const DataDir& data, const DataDir& backup,
+                      const std::vector<CatalogueEntry>& chosen, const Progress& progress = {});
 
 // Removes what a restore left that a crash ended. Call it after SaveSet::Recover, before the first
 // restore. Throws filesystem_error.

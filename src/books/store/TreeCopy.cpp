@@ -64,7 +64,7 @@ void TreeCopy::AddTree(const QByteArray& from, const QByteArray& to) {
   }
 }
 
-bool TreeCopy::Run(const Progress& progress) const {
+void TreeCopy::Run(const Progress& progress) const {
   qint64 done = 0;
   for (const Piece& piece : pieces_) {
     if (piece.from.isEmpty()) {
@@ -75,9 +75,8 @@ bool TreeCopy::Run(const Progress& progress) const {
       Fail(u"Не удалось скопировать файл"_s, piece.from, error);
     }
     done += piece.size;
-    if (progress && !progress(done)) return false;
+    progress.Tell(static_cast<double>(done) / static_cast<double>(size_));
   }
-  return true;
 }
 
 }  // namespace kladez

@@ -4,8 +4,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <functional>
 #include <vector>
+
+#include "books/store/Progress.h"
 
 namespace kladez {
 
@@ -16,15 +17,13 @@ class TreeCopy {
   void AddTree(const QByteArray& from, const QByteArray& to);
   void AddFile(const QByteArray& from, const QByteArray& to);
 
-  // How much there is to copy, and was copied, in units for a progress bar.
+  // How much there is to copy, in units for comparison with other copies.
   qint64 Size() const { return size_; }
-  // Told after each piece how much of Size is done; false stops the copy.
-  using Progress = std::function<bool(qint64 done)>;
 
-  // Makes the directories and copies the files; false when `progress` stopped it. Throws
-  // filesystem_error with the file at fault. What was copied until then stays: the caller removes
-  // it.
-  bool Run(const Progress& progress) const;
+  // Makes the directories and copies the files; tells the progress after each. Throws
+  // filesystem_error with the file at fault, and WorkCancelled. What was copied until then stays:
+  // the caller removes it.
+  void Run(const Progress& progress) const;
 
  private:
   struct Piece {

@@ -204,12 +204,12 @@ void PriceBrowser::Load() {
   PriceList list;
   loaded_ = false;
   if (Combo1->currentIndex() >= 0 && Combo2->currentIndex() >= 0) {
-    context_.show_progress(0);
+    context_.show_progress.Tell(0);
     loaded_ = Guarded(this, [&] {
       list = store_.Load(Combo1->currentText(), Combo2->currentIndex(), filter_->View(),
                          context_.show_progress);
     });
-    context_.show_progress(1);
+    context_.show_progress.Tell(1);
   }
   list_ = std::move(list);
   ShowRows(selected);

@@ -60,11 +60,11 @@ void DrawSolidBar(const ChartCanvas& canvas, const QRectF& bar, bool with_top,
       front.topRight();
   canvas.FillPolygon(
       {front.topRight(), front.topRight() + back, front.bottomRight() + back, front.bottomRight()},
-      series.side());
+      series.Side());
   if (with_top) {
     canvas.FillPolygon(
         {front.topLeft(), front.topLeft() + back, front.topRight() + back, front.topRight()},
-        series.top());
+        series.Top());
   }
   DrawFlatBar(canvas, front, series);
 }

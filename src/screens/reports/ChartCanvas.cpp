@@ -34,7 +34,7 @@ ChartCanvas::ChartCanvas(QPainter* target, const ChartGrid& shown_grid, const Ch
 
 void ChartCanvas::FillRect(const QRectF& rect, const QColor& colour) const {
   // The last binary digit of an aligned place would otherwise still blend an edge by a shade.
-  painter.setRenderHint(QPainter::Antialiasing, !pixels.aligned());
+  painter.setRenderHint(QPainter::Antialiasing, !pixels.Aligned());
   painter.fillRect(pixels.At(rect), colour);
   painter.setRenderHint(QPainter::Antialiasing);
 }

@@ -15,7 +15,7 @@ class PixelGrid {
  public:
   explicit PixelGrid(const QTransform& to_device);
 
-  bool aligned() const { return aligned_; }
+  bool Aligned() const { return aligned_; }
   double X(double x) const;
   double Y(double y) const;
   QPointF At(QPointF point) const { return {X(point.x()), Y(point.y())}; }
@@ -43,7 +43,7 @@ class ChartCanvas {
   const PixelGrid pixels;
 
   const SeriesStyle& Series(int column) const {
-    return style.series[static_cast<std::size_t>(column) % style.series.size()];
+    return style.series[static_cast<size_t>(column) % style.series.size()];
   }
   int ColumnCount() const { return static_cast<int>(grid.columns.size()); }
   // The point of the depth share (0 nearest, 1 farthest) straight behind a point of the front.

@@ -3,8 +3,6 @@
 // goods.
 #pragma once
 
-#include <optional>
-
 #include "books/reports/ChartSeries.h"
 #include "screens/reports/PeriodDialog.h"
 
@@ -17,20 +15,22 @@ class TextLine;
 struct ChartForm {
   PeriodTexts texts;
   bool asks_goods;
-  QStringView build_twin;  // names of the hidden twins of Command1 and Command2
+  QStringView build_twin;  // names of the hidden twins of the two commands
   QStringView close_twin;
-  // Nothing when the progress ended it. Throws filesystem_error.
-  std::optional<ChartGrid> (*collect)(const DataDir& data, const Session& session,
-                                      const QString& goods, const ChartScope& scope,
-                                      const Progress& progress);
+  // Throws filesystem_error and WorkCancelled.
+  ChartGrid (*collect)(const DataDir& data, const Session& session, const QString& goods,
+                       const ChartScope& scope, const Progress& progress);
 };
 
 class ChartDialog : public PeriodDialog {
   Q_OBJECT
 
- protected:
-  ChartDialog(AppContext& context, const ChartForm& form, const QString& goods, QWidget* parent);
+ public:
+  // With the name of the goods filled in, where they are asked for.
+  ChartDialog(AppContext& context, const ChartForm& form, const QString& goods = {},
+              QWidget* parent = nullptr);
 
+ protected:
   void Ok() override;
 
  private:
@@ -41,12 +41,12 @@ class ChartDialog : public PeriodDialog {
   QString Goods() const;
 
   const ChartForm& form_;
-  TextLine* Text1 = nullptr;        // "Товар"
-  QPushButton* Command3 = nullptr;  // picks the goods
-  QRadioButton* Option1;            // "За год"
-  QRadioButton* Option2;            // "За месяц"
-  TextChoice* Combo2;               // year
-  TextChoice* Combo3;               // month
+  TextLine* goods_ = nullptr;    // "Товар"
+  QPushButton* pick_ = nullptr;  // picks the goods
+  QRadioButton* by_year_;        // "За год"
+  QRadioButton* by_month_;       // "За месяц"
+  TextChoice* year_;             // year
+  TextChoice* month_;            // month
 };
 
 }  // namespace kladez

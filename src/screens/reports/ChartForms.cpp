@@ -6,9 +6,8 @@ namespace {
 constexpr QStringView kBuild = u"&Построить";
 constexpr QStringView kClose = u"&Закрыть";
 
-std::optional<ChartGrid> CollectWithoutGoods(const DataDir& data, const Session& session,
-                                             const QString&, const ChartScope& scope,
-                                             const Progress& progress) {
+ChartGrid CollectWithoutGoods(const DataDir& data, const Session& session, const QString&,
+                              const ChartScope& scope, const Progress& progress) {
   return CollectSalesChart(data, session, scope, progress);
 }
 

@@ -18,13 +18,12 @@ IndexedImage RenderChartIndexed(const ChartGrid& grid, ChartKind kind, QSize siz
 
   std::vector<Rgb> own;
   for (const QColor& colour : OwnColours(style)) {
-    own.push_back({static_cast<std::uint8_t>(colour.red()),
-                   static_cast<std::uint8_t>(colour.green()),
-                   static_cast<std::uint8_t>(colour.blue())});
+    own.push_back({static_cast<quint8>(colour.red()), static_cast<quint8>(colour.green()),
+                   static_cast<quint8>(colour.blue())});
   }
   // Rows of four bytes a pixel have no padding.
-  const auto* pixels = reinterpret_cast<const std::uint32_t*>(canvas.constBits());
-  const auto count = static_cast<std::size_t>(canvas.width()) * canvas.height();
+  const auto* pixels = reinterpret_cast<const quint32*>(canvas.constBits());
+  const auto count = static_cast<size_t>(canvas.width()) * canvas.height();
   return ReduceColours(canvas.width(), canvas.height(), {pixels, count}, own);
 }
 

@@ -90,9 +90,8 @@ ChartLayout LayOutChart(const QRectF& rect, const ChartGrid& grid, ChartKind kin
   layout.front = inside;
   const int rows = grid.RowCount();
   layout.slot = inside.width() / std::max(rows, 1);
-  layout.shown_labels =
-      ShownRowLabels(rows, layout.slot,
-                     WidestRowLabel(grid, metrics) + metrics.horizontalAdvance(QLatin1Char('0')));
+  layout.shown_labels = ShownRowLabels(
+      rows, layout.slot, WidestRowLabel(grid, metrics) + metrics.horizontalAdvance(u'0'));
   return layout;
 }
 

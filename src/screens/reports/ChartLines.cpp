@@ -61,13 +61,13 @@ void DrawArea(const ChartCanvas& canvas, QPolygonF points, const SeriesStyle& se
 // How much light a stretch of ribbon gets, as an index of the ramp: gently falling stretches face
 // the light at the upper right, and of those steeper than the view itself only the shaded under
 // side is seen.
-std::size_t LightOn(QPointF from, QPointF to, QPointF depth, std::size_t levels) {
+size_t LightOn(QPointF from, QPointF to, QPointF depth, size_t levels) {
   const double run = to.x() - from.x();
   const double rise = from.y() - to.y();
   if (rise * depth.x() > -depth.y() * run) return 1;
   const double light = (0.9 * run - 0.45 * rise) / std::hypot(rise, run);
   const double share = std::clamp((light - 0.4) / 0.5, 0.0, 1.0);
-  return 2 + static_cast<std::size_t>(std::lround(share * static_cast<double>(levels - 3)));
+  return 2 + static_cast<size_t>(std::lround(share * static_cast<double>(levels - 3)));
 }
 
 // What a ribbon of one row is: there is no second row to reach for.
@@ -91,7 +91,7 @@ void DrawRibbon(const ChartCanvas& canvas, int column) {
     // Closes the hair of ground between this stretch and the next.
     canvas.DrawLine(to, to + across, colour);
   }
-  DrawStroke(canvas, near, series.side());
+  DrawStroke(canvas, near, series.Side());
 }
 
 }  // namespace
@@ -131,8 +131,8 @@ void DrawRibbonKey(const ChartCanvas& canvas, int column, const QRectF& box) {
   const QPointF left(box.left(), box.center().y() + high / 2);
   const QPointF right(box.right() - lean, left.y());
   canvas.FillPolygon({left, right, right + QPointF(lean, -high), left + QPointF(lean, -high)},
-                     series.top());
-  DrawStroke(canvas, {left, right}, series.side());
+                     series.Top());
+  DrawStroke(canvas, {left, right}, series.Side());
 }
 
 }  // namespace kladez

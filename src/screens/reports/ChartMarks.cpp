@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "formats/InOrder.h"
+
 namespace kladez {
 namespace {
 
@@ -10,12 +12,13 @@ void DrawNothing(const ChartCanvas&) {}
 }  // namespace
 
 const ChartMarks& MarksOf(ChartKind kind) {
-  // In the order of the kinds' numbers.
-  static constexpr std::array<ChartMarks, 4> kMarks = {{{DrawWalls, DrawSolidBars, DrawBarKey},
-                                                        {DrawNothing, DrawFlatBars, DrawBarKey},
-                                                        {DrawWalls, DrawRibbons, DrawRibbonKey},
-                                                        {DrawAreas, DrawFlatLines, DrawLineKey}}};
-  return kMarks[static_cast<std::size_t>(kind)];
+  static constexpr std::array<ChartMarks, 4> kMarks = {
+      {{ChartKind::k3DBars, DrawWalls, DrawSolidBars, DrawBarKey},
+       {ChartKind::k2DBars, DrawNothing, DrawFlatBars, DrawBarKey},
+       {ChartKind::k3DLines, DrawWalls, DrawRibbons, DrawRibbonKey},
+       {ChartKind::k2DLines, DrawAreas, DrawFlatLines, DrawLineKey}}};
+  static_assert(IsInOrder(kMarks, &ChartMarks::kind));
+  return kMarks[static_cast<size_t>(kind)];
 }
 
 void DrawWalls(const ChartCanvas& canvas) {

@@ -9,6 +9,7 @@
 namespace kladez {
 
 struct ChartMarks {
+  ChartKind kind;
   // What lies behind the lines of the axis.
   void (*draw_backdrop)(const ChartCanvas& canvas);
   // All rows of all columns, the line of zero included.

@@ -70,8 +70,8 @@ void DrawLegend(const ChartCanvas& canvas, const ChartMarks& marks) {
       layout.legend.width() / canvas.ColumnCount() - key - gap - layout.line_height;
   double right = layout.legend.right();
   for (int column = canvas.ColumnCount() - 1; column >= 0; --column) {
-    const QString name = metrics.elidedText(
-        canvas.grid.columns[static_cast<std::size_t>(column)].name, Qt::ElideRight, widest_name);
+    const QString name = metrics.elidedText(canvas.grid.columns[static_cast<size_t>(column)].name,
+                                            Qt::ElideRight, widest_name);
     const double width = metrics.horizontalAdvance(name);
     const QRectF text(right - width, layout.legend.top(), width + 1, layout.line_height);
     canvas.painter.setPen(canvas.style.text);

@@ -22,7 +22,7 @@ SeriesStyle SeriesOf(const QColor& face, const QColor& hatch) {
   const float value = face.valueF();
   const QColor shaded = QColor::fromHsvF(hue, std::min(fullness * 1.15F, 1.0F), value * 0.76F);
   const QColor lit = QColor::fromHsvF(hue, fullness * 0.6F, value + (1 - value) * 0.42F);
-  for (std::size_t i = 0; i < style.ramp.size(); ++i) {
+  for (size_t i = 0; i < style.ramp.size(); ++i) {
     style.ramp[i] = Mix(shaded, lit, static_cast<double>(i) / (style.ramp.size() - 1.0));
   }
   return style;

@@ -16,8 +16,8 @@ struct SeriesStyle {
   QColor hatch;  // strokes across a bar; the same as `face` for none
   std::array<QColor, 5> ramp;
 
-  const QColor& side() const { return ramp.front(); }
-  const QColor& top() const { return ramp.back(); }
+  const QColor& Side() const { return ramp.front(); }
+  const QColor& Top() const { return ramp.back(); }
 };
 
 struct ChartStyle {

@@ -117,8 +117,7 @@ QString ChartWidget::RowText(int row) const {
   if (row < 0) return {};
   QStringList lines = {grid_.row_labels[row]};
   for (const ChartColumn& column : grid_.columns) {
-    lines.append(column.name + u": "_s +
-                 ChartNumberText(column.values[static_cast<std::size_t>(row)]));
+    lines.append(column.name + u": "_s + ChartNumberText(column.values[static_cast<size_t>(row)]));
   }
   return lines.join(u'\n');
 }

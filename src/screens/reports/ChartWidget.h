@@ -18,8 +18,8 @@ class ChartWidget : public QWidget {
   // The grid's title becomes the accessible name.
   void SetGrid(const ChartGrid& grid);
   void SetKind(ChartKind kind);
-  const ChartGrid& grid() const { return grid_; }
-  ChartKind kind() const { return kind_; }
+  const ChartGrid& Grid() const { return grid_; }
+  ChartKind Kind() const { return kind_; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

@@ -49,18 +49,18 @@ ChartWindow::ChartWindow(AppContext& context, const ChartGrid& grid, QWidget* pa
   chart_->SetGrid(grid);
   QGroupBox* kinds = NewKinds();
 
-  GoldButton1 = NewCommand(this, u"GoldButton1"_s, u"&Печать"_s, look::IconName::kPrint);
-  Command1 = NewCommand(this, u"Command1"_s, u"&Закрыть"_s);
-  AddTwin(this, u"Command2"_s, Command1);
-  for (QPushButton* button : {GoldButton1, Command1}) {
+  print_ = NewCommand(this, u"GoldButton1"_s, u"&Печать"_s, look::IconName::kPrint);
+  close_ = NewCommand(this, u"Command1"_s, u"&Закрыть"_s);
+  AddTwin(this, u"Command2"_s, close_);
+  for (QPushButton* button : {print_, close_}) {
     button->setMinimumWidth(std::max(12 * look::kGrid, button->sizeHint().width()));
   }
   auto* foot = new QHBoxLayout;
   foot->setSpacing(look::kGrid);
   foot->addWidget(kinds);
   foot->addStretch();
-  foot->addWidget(GoldButton1, 0, Qt::AlignBottom);
-  foot->addWidget(Command1, 0, Qt::AlignBottom);
+  foot->addWidget(print_, 0, Qt::AlignBottom);
+  foot->addWidget(close_, 0, Qt::AlignBottom);
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addWidget(title_);
@@ -68,10 +68,10 @@ ChartWindow::ChartWindow(AppContext& context, const ChartGrid& grid, QWidget* pa
   layout->addLayout(foot);
   resize(112 * look::kGrid, 76 * look::kGrid);
 
-  Option1->setChecked(true);
-  Option1->setFocus();
-  connect(GoldButton1, &QPushButton::clicked, this, &ChartWindow::Print);
-  connect(Command1, &QPushButton::clicked, this, &QDialog::reject);
+  first_kind_->setChecked(true);
+  first_kind_->setFocus();
+  connect(print_, &QPushButton::clicked, this, &ChartWindow::Print);
+  connect(close_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 QGroupBox* ChartWindow::NewKinds() {
@@ -79,10 +79,10 @@ QGroupBox* ChartWindow::NewKinds() {
   auto* row = new QHBoxLayout(frame);
   look::SetPanelMargins(row);
   row->setSpacing(0);
-  Option1 = NewKind(u"Option1"_s, u"&3D/Колонки"_s, ChartKind::k3DBars, frame);
-  Option2 = NewKind(u"Option2"_s, u"3D/&Линии"_s, ChartKind::k3DLines, frame);
-  Option3 = NewKind(u"Option3"_s, u"&2D/Колонки"_s, ChartKind::k2DBars, frame);
-  Option4 = NewKind(u"Option4"_s, u"2D/Л&инии"_s, ChartKind::k2DLines, frame);
+  first_kind_ = NewKind(u"Option1"_s, u"&3D/Колонки"_s, ChartKind::k3DBars, frame);
+  NewKind(u"Option2"_s, u"3D/&Линии"_s, ChartKind::k3DLines, frame);
+  NewKind(u"Option3"_s, u"&2D/Колонки"_s, ChartKind::k2DBars, frame);
+  NewKind(u"Option4"_s, u"2D/Л&инии"_s, ChartKind::k2DLines, frame);
   row->addWidget(new HintPicture(HintFor(u"graphic", u"Вид отображения графика"), {chart_}, frame));
   return frame;
 }
@@ -101,6 +101,6 @@ QRadioButton* ChartWindow::NewKind(const QString& name, const QString& caption, 
   return option;
 }
 
-void ChartWindow::Print() { ChartPrinting(context_, chart_->grid(), chart_->kind(), this).exec(); }
+void ChartWindow::Print() { ChartPrinting(context_, chart_->Grid(), chart_->Kind(), this).exec(); }
 
 }  // namespace kladez

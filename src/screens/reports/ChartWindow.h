@@ -30,12 +30,9 @@ class ChartWindow : public QDialog {
   AppContext& context_;
   QLabel* title_;
   ChartWidget* chart_;
-  QRadioButton* Option1;     // "3D/Колонки"
-  QRadioButton* Option2;     // "3D/Линии"
-  QRadioButton* Option3;     // "2D/Колонки"
-  QRadioButton* Option4;     // "2D/Линии"
-  QPushButton* GoldButton1;  // "Печать"
-  QPushButton* Command1;     // "Закрыть"
+  QRadioButton* first_kind_;  // "3D/Колонки"
+  QPushButton* print_;        // "Печать"
+  QPushButton* close_;        // "Закрыть"
 };
 
 }  // namespace kladez

@@ -19,24 +19,24 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
     : QDialog(parent), context_(context) {
   setObjectName(texts.name.toString());
   setWindowTitle(texts.caption.toString());
-  Combo1 =
+  warehouse_ =
       new TextChoice(context.session.warehouses + QStringList{kAllWarehouses.toString()}, this);
-  Combo1->setObjectName(u"Combo1"_s);
-  BoundByLetters(Combo1, 28);
-  Combo1->setCurrentIndex(Combo1->count() - 1);
-  auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), {Combo1}, this);
+  warehouse_->setObjectName(u"Combo1"_s);
+  BoundByLetters(warehouse_, 28);
+  warehouse_->setCurrentIndex(warehouse_->count() - 1);
+  auto* hint = new HintPicture(HintFor(texts.name, u"Склад"), {warehouse_}, this);
   hint->setObjectName(u"Picture5"_s);
   fields_ = new QGridLayout;
   fields_->setSpacing(look::kGrid);
   fields_->setColumnStretch(1, 1);
-  fields_->addWidget(NewLabel(u"С&клад:"_s, Combo1, this), 0, 0);
-  fields_->addWidget(Combo1, 0, 1);
+  fields_->addWidget(NewLabel(u"С&клад:"_s, warehouse_, this), 0, 0);
+  fields_->addWidget(warehouse_, 0, 1);
   fields_->addWidget(hint, 0, 2);
   frame_ = NewFrame();
 
-  Command1 = NewCommand(this, u"Command1"_s, texts.yes.toString());
-  Command2 = NewCommand(this, u"Command2"_s, texts.no.toString());
-  auto* ending = NewEndingRow(Command1, Command2);
+  yes_ = NewCommand(this, u"Command1"_s, texts.yes.toString());
+  no_ = NewCommand(this, u"Command2"_s, texts.no.toString());
+  auto* ending = NewEndingRow(yes_, no_);
   ending->insertWidget(0, NewHelpCommand(this, context_.data, texts.help));
 
   auto* layout = new QVBoxLayout(this);
@@ -49,8 +49,8 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   layout->addLayout(ending);
   setMinimumWidth(56 * look::kGrid);
 
-  connect(Command1, &QPushButton::clicked, this, [this] { Ok(); });
-  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  connect(yes_, &QPushButton::clicked, this, [this] { Ok(); });
+  connect(no_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 QGroupBox* PeriodDialog::NewFrame() {
@@ -64,6 +64,6 @@ QGroupBox* PeriodDialog::NewFrame() {
   return frame;
 }
 
-QString PeriodDialog::Warehouse() const { return Combo1->Chosen(); }
+QString PeriodDialog::Warehouse() const { return warehouse_->Chosen(); }
 
 }  // namespace kladez

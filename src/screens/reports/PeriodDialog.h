@@ -19,7 +19,7 @@ struct PeriodTexts {
   QStringView name;  // of the screen
   QStringView caption;
   QStringView help;  // the page of the folder "help"
-  QStringView yes;   // captions of Command1 and Command2
+  QStringView yes;   // captions of the two commands
   QStringView no;
 };
 
@@ -37,9 +37,9 @@ class PeriodDialog : public QDialog {
 
   virtual void Ok() = 0;
 
-  TextChoice* Combo1;     // "Склад:"
-  QPushButton* Command1;  // makes the report or chart
-  QPushButton* Command2;  // closes
+  TextChoice* warehouse_;  // "Склад:"
+  QPushButton* yes_;       // makes the report or chart
+  QPushButton* no_;        // closes
 
  private:
   QGroupBox* NewFrame();

@@ -20,13 +20,13 @@ using namespace Qt::StringLiterals;
 ReportDialog::ReportDialog(AppContext& context, const ReportForm& form, QWidget* parent)
     : PeriodDialog(context, form.texts, parent), form_(form) {
   BuildPeriod();
-  QWidget* last = Combo1;
-  for (QWidget* next : std::initializer_list<QWidget*>{all_, current_month_, range_, from_, to_,
-                                                       Command1, Command2}) {
+  QWidget* last = warehouse_;
+  for (QWidget* next :
+       std::initializer_list<QWidget*>{all_, current_month_, range_, from_, to_, yes_, no_}) {
     setTabOrder(last, next);
     last = next;
   }
-  Combo1->setFocus();
+  warehouse_->setFocus();
 }
 
 QRadioButton* ReportDialog::NewOption(const QString& name, const QString& caption) {
@@ -78,11 +78,9 @@ ReportScope ReportDialog::Scope() const {
 void ReportDialog::Ok() {
   if (!FieldsAreSound(this)) return;
   Guarded(this, [this] {
-    try {
+    {
       LongWork work(this, u"Составляется отчет..."_s);
-      form_.make(Context(), Scope(), work.Callback());
-    } catch (const WorkEnded&) {
-      return;
+      form_.make(Context(), Scope(), work.Told());
     }
     CloseAndOpen(*this, Context().print_outs, kReportPage.toString());
   });

@@ -16,16 +16,17 @@ inline constexpr QStringView kReportPage = u"temp.htm";
 
 struct ReportForm {
   PeriodTexts texts;
-  // Reads the documents and writes kReportPage. Throws WorkEnded when the progress ends it.
+  // Reads the documents and writes kReportPage. Throws filesystem_error and WorkCancelled.
   void (*make)(const AppContext& context, const ReportScope& scope, const Progress& progress);
 };
 
 class ReportDialog : public PeriodDialog {
   Q_OBJECT
 
- protected:
-  ReportDialog(AppContext& context, const ReportForm& form, QWidget* parent);
+ public:
+  ReportDialog(AppContext& context, const ReportForm& form, QWidget* parent = nullptr);
 
+ protected:
   void Ok() override;
 
  private:

@@ -12,12 +12,9 @@ constexpr double kReading = 0.75;
 
 template <auto collect, auto write>
 void Make(const AppContext& context, const ReportScope& scope, const Progress& progress) {
-  const auto read = [&](double part) { return progress(kReading * part); };
-  const auto report = collect(context.data, context.session, scope, read);
-  if (!report) throw WorkEnded();
+  const auto report = collect(context.data, context.session, scope, progress.Piece(0, kReading));
   context.print_outs.WriteInPieces(kReportPage.toString(), [&](const ByteSink& sink) {
-    write(*report, scope, sink,
-          [&](double part) { return progress(kReading + (1 - kReading) * part); });
+    write(report, scope, sink, progress.Piece(kReading, 1));
   });
 }
 

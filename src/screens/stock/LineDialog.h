@@ -26,11 +26,11 @@ class LineDialog : public QDialog {
  private:
   void Recompute();
 
-  TextLine* Text1;         // "Товар:"
-  TextLineNumber* Text2;   // "Кол-во:"
-  TextLine* Text3;         // "Ед. изм.:"
-  TextLineDecimal* Text4;  // "Цена:"
-  TextLineDecimal* Text5;  // "Сумма:"
+  TextLine* name_;            // "Товар:"
+  TextLineNumber* quantity_;  // "Кол-во:"
+  TextLine* unit_;            // "Ед. изм.:"
+  TextLineDecimal* price_;    // "Цена:"
+  TextLineDecimal* amount_;   // "Сумма:"
 };
 
 }  // namespace kladez

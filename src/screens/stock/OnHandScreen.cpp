@@ -7,7 +7,9 @@
 
 #include "books/directories/WarehouseDirectory.h"
 #include "books/printing/OnHandPage.h"
+#include "formats/Numbers.h"
 #include "screens/directories/QuantityDialog.h"
+#include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Commands.h"
@@ -31,33 +33,34 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
       context_(context),
       filter_(new GoodsFilter(context.settings, {settings::kStockGroups, settings::kStockGoodsOnly},
                               u"Sklad", this)),
-      Combo1(new QComboBox(this)),
-      StatusBar1(new QLabel(this)),
-      Command1(NewCommand(this, u"Command1"_s, u"&Изменить"_s, IconName::kChange)),
-      Command2(NewCommand(this, u"Command2"_s, u"П&ечать"_s, IconName::kPrint)),
-      Command3(NewCommand(this, u"Command3"_s, u"О&бнулить"_s, IconName::kRemove)),
-      Command4(NewCommand(this, u"Command4"_s, u"&Закрыть"_s)) {
+      warehouse_(new QComboBox(this)),
+      status_(new QLabel(this)),
+      change_(NewCommand(this, u"Command1"_s, u"&Изменить"_s, IconName::kChange)),
+      print_(NewCommand(this, u"Command2"_s, u"П&ечать"_s, IconName::kPrint)),
+      zero_(NewCommand(this, u"Command3"_s, u"О&бнулить"_s, IconName::kRemove)),
+      close_(NewCommand(this, u"Command4"_s, u"&Закрыть"_s)) {
   setObjectName(u"Sklad"_s);
   setWindowTitle(u"Наличие товаров на складе"_s);
-  Combo1->setObjectName(u"Combo1"_s);
-  Combo1->addItems(context.session.warehouses);
-  Combo1->addItem(kAllWarehouses.toString());
-  StatusBar1->setObjectName(u"StatusBar1"_s);
-  StatusBar1->setTextFormat(Qt::PlainText);
+  warehouse_->setObjectName(u"Combo1"_s);
+  warehouse_->addItems(context.session.warehouses);
+  warehouse_->addItem(kAllWarehouses.toString());
+  status_->setObjectName(u"StatusBar1"_s);
+  status_->setTextFormat(Qt::PlainText);
   BuildList();
   BuildLayout();
-  setFocusProxy(ListView1);
-  ShareListKeys(this, ListView1, Command2);
+  setFocusProxy(list_);
+  ShareListKeys(this, list_, print_);
+  SetHelpPage(this, context.data, u"stock.htm");
 
-  connect(Combo1, &QComboBox::currentIndexChanged, this, &OnHandScreen::Fill);
+  connect(warehouse_, &QComboBox::currentIndexChanged, this, &OnHandScreen::Fill);
   connect(filter_, &GoodsFilter::ViewChosen, this, &OnHandScreen::Fill);
-  connect(Command1, &QPushButton::clicked, this, &OnHandScreen::Change);
-  connect(Command2, &QPushButton::clicked, this, &OnHandScreen::Print);
-  connect(Command3, &QPushButton::clicked, this, &OnHandScreen::Zero);
-  connect(Command4, &QPushButton::clicked, this, &QWidget::close);
-  connect(ListView1, &RecordList::DoubleClicked, Command1, &QPushButton::click);
+  connect(change_, &QPushButton::clicked, this, &OnHandScreen::Change);
+  connect(print_, &QPushButton::clicked, this, &OnHandScreen::Print);
+  connect(zero_, &QPushButton::clicked, this, &OnHandScreen::Zero);
+  connect(close_, &QPushButton::clicked, this, &QWidget::close);
+  connect(list_, &RecordList::DoubleClicked, change_, &QPushButton::click);
   // Unlike a double click, Enter changes the shown row with all warehouses chosen too.
-  connect(ListView1, &RecordList::EnterPressed, this, &OnHandScreen::Change);
+  connect(list_, &RecordList::EnterPressed, this, &OnHandScreen::Change);
   Fill();
 }
 
@@ -70,29 +73,32 @@ void OnHandScreen::BuildList() {
                             {.title = u"Цена закупа"_s, .twips = cost_twips, .number = true}},
                            {.count = [this] { return static_cast<int>(on_hand_.Rows().size()); },
                             .text = [row](int at, int column) { return CellOf(row(at), column); },
-                            .is_group = [row](int at) { return row(at).IsGroup(); }},
+                            .is_group = [row](int at) { return row(at).IsGroup(); },
+                            .is_amiss = [row](int at) { return NumberOr(row(at).quantity) < 0; }},
                            this);
-  ListView1 = new RecordList(this);
-  ListView1->setObjectName(u"ListView1"_s);
-  ListView1->SetRecords(model_);
-  ListView1->SetEmptyText(u"Список пуст. Внесите товары в справочник «Товары»."_s);
-  filter_->SearchIn(ListView1, EmptySearch::kReturnsToList);
+  list_ = new RecordList(this);
+  list_->setObjectName(u"ListView1"_s);
+  list_->SetRecords(model_);
+  list_->SetEmptyText(u"Список пуст. Внесите товары в справочник «Товары»."_s);
+  filter_->SearchIn(list_, EmptySearch::kReturnsToList);
 }
 
 void OnHandScreen::BuildLayout() {
   auto* choice = new QHBoxLayout;
-  AddChoice(choice, u"Ск&лад:"_s, Combo1, HintFor(u"Sklad", u"Склад"));
+  AddChoice(choice, u"Ск&лад:"_s, warehouse_, HintFor(u"Sklad", u"Склад"));
   auto* layout = new QVBoxLayout(this);
   look::SetPanelMargins(layout);
   layout->addLayout(choice);
   layout->addWidget(filter_);
-  layout->addWidget(ListView1, 1);
-  layout->addLayout(NewCommandRow({Command1, Command3, Command2}, {Command4}));
+  layout->addWidget(list_, 1);
+  layout->addLayout(NewCommandRow({change_, zero_, print_}, {close_}));
   layout->addWidget(look::NewSeparator(this));
-  layout->addWidget(StatusBar1);
+  layout->addWidget(status_);
 }
 
-bool OnHandScreen::AllChosen() const { return Combo1->currentIndex() == Combo1->count() - 1; }
+bool OnHandScreen::AllChosen() const {
+  return warehouse_->currentIndex() == warehouse_->count() - 1;
+}
 
 bool OnHandScreen::RefusedToSeller() {
   if (!context_.session.IsSeller()) return false;
@@ -101,12 +107,12 @@ bool OnHandScreen::RefusedToSeller() {
 }
 
 void OnHandScreen::Fill() {
-  Command1->setEnabled(!AllChosen());
-  Command3->setEnabled(!AllChosen());
-  const int selected = ListView1->CurrentRow();
+  change_->setEnabled(!AllChosen());
+  zero_->setEnabled(!AllChosen());
+  const int selected = list_->CurrentRow();
   const QString name = selected < 0 ? QString() : on_hand_.Rows()[selected].name;
   const QStringList warehouses =
-      AllChosen() ? context_.session.warehouses : QStringList{Combo1->currentText()};
+      AllChosen() ? context_.session.warehouses : QStringList{warehouse_->currentText()};
   OnHandList filled;
   loaded_ = Guarded(this, [&] {
     filled = LoadOnHand(context_.data, context_.session, warehouses, filter_->View());
@@ -116,28 +122,28 @@ void OnHandScreen::Fill() {
   const auto& rows = on_hand_.Rows();
   const auto same = std::find_if(rows.begin(), rows.end(),
                                  [&](const OnHandRow& row) { return row.name == name; });
-  ListView1->SelectRow(same == rows.end() ? 0 : static_cast<int>(same - rows.begin()));
-  StatusBar1->setText(on_hand_.StatusText());
+  list_->SelectRow(same == rows.end() ? 0 : static_cast<int>(same - rows.begin()));
+  status_->setText(on_hand_.StatusText());
 }
 
 void OnHandScreen::Change() {
   if (RefusedToSeller()) return;
-  ListView1->setFocus();
-  const int row = ListView1->CurrentRow();
+  list_->setFocus();
+  const int row = list_->CurrentRow();
   if (row < 0 || on_hand_.Rows()[row].IsGroup()) return;
   const auto answer = AskQuantity(this, u"Товар"_s, u"Кол-во:"_s, on_hand_.Rows()[row].quantity);
   if (!answer) return;
   OnHandList changed = on_hand_;
   if (!changed.ChangeQuantity(row, answer->quantity)) return;
-  if (!AllChosen() && !Guarded(this, [&] {
-        SaveOnHand(changed, context_.data, context_.session, Combo1->currentText());
+  if (!AllChosen() && !SaveOrReadAnew([&] {
+        SaveOnHand(changed, context_.data, context_.session, warehouse_->currentText());
       })) {
     return;
   }
   on_hand_ = std::move(changed);
   model_->Update(row);
   // Over all warehouses the new quantity is in no ledger, and does not count.
-  if (!AllChosen()) StatusBar1->setText(on_hand_.StatusText());
+  if (!AllChosen()) status_->setText(on_hand_.StatusText());
 }
 
 void OnHandScreen::Zero() {
@@ -146,9 +152,22 @@ void OnHandScreen::Zero() {
                 kAttention.toString(), DefaultAnswer::kNo)) {
     return;
   }
-  Guarded(this, [this] {
-    ZeroOnHand(on_hand_, context_.data, context_.session, Combo1->currentText());
+  SaveOrReadAnew([this] {
+    ZeroOnHand(on_hand_, context_.data, context_.session, warehouse_->currentText());
     Fill();
+  });
+}
+
+// A list that is no longer that of the files is told, and shown as it is now.
+bool OnHandScreen::SaveOrReadAnew(const std::function<void()>& save) {
+  return Guarded(this, [&] {
+    try {
+      save();
+    } catch (const StaleFile& error) {
+      ShowError(this, ErrorText(error));
+      Fill();
+      throw WorkCancelled();
+    }
   });
 }
 

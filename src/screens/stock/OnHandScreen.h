@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "books/stock/OnHand.h"
 #include "screens/directories/GoodsFilter.h"
@@ -31,6 +32,7 @@ class OnHandScreen : public QWidget {
   void Fill();
   void Change();
   void Zero();
+  bool SaveOrReadAnew(const std::function<void()>& save);
   void Print();
 
   AppContext& context_;
@@ -38,13 +40,13 @@ class OnHandScreen : public QWidget {
   bool loaded_ = false;  // a list that could not be read is never written
   GoodsFilter* filter_;
   RecordModel* model_;
-  QComboBox* Combo1;  // "Склад:"
-  RecordList* ListView1;
-  QLabel* StatusBar1;     // "Итого наименований: ...     на сумму: ..."
-  QPushButton* Command1;  // "Изменить"
-  QPushButton* Command2;  // "Печать"
-  QPushButton* Command3;  // "Обнулить"
-  QPushButton* Command4;  // "Закрыть"
+  QComboBox* warehouse_;  // "Склад:"
+  RecordList* list_;
+  QLabel* status_;       // "Итого наименований: ...     на сумму: ..."
+  QPushButton* change_;  // "Изменить"
+  QPushButton* print_;   // "Печать"
+  QPushButton* zero_;    // "Обнулить"
+  QPushButton* close_;   // "Закрыть"
 };
 
 }  // namespace kladez

@@ -12,6 +12,7 @@
 #include "ui/controls/Guard.h"
 #include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 namespace {
@@ -29,32 +30,39 @@ const QString& CellOf(const LedgerRecord& row, int column) {
 OpeningBalancesDialog::OpeningBalancesDialog(AppContext& context, QWidget* parent)
     : QDialog(parent),
       context_(context),
-      Combo1(new QComboBox(this)),
-      Command1(NewCommand(this, u"Command1"_s, u"&Добавить"_s, IconName::kAdd)),
-      Command2(NewCommand(this, u"Command2"_s, u"&Изменить"_s, IconName::kChange)),
-      Command3(NewCommand(this, u"Command3"_s, u"&Удалить"_s, IconName::kRemove)),
-      Command4(NewCommand(this, u"Command4"_s, u"&OK"_s)),
-      Command5(NewCommand(this, u"Command5"_s, u"О&тмена"_s)) {
+      warehouse_(new QComboBox(this)),
+      add_(NewCommand(this, u"Command1"_s, u"&Добавить"_s, IconName::kAdd)),
+      change_(NewCommand(this, u"Command2"_s, u"&Изменить"_s, IconName::kChange)),
+      remove_(NewCommand(this, u"Command3"_s, u"&Удалить"_s, IconName::kRemove)),
+      ok_(NewCommand(this, u"Command4"_s, u"&OK"_s)),
+      cancel_(NewCommand(this, u"Command5"_s, u"О&тмена"_s)) {
   setObjectName(u"ost"_s);
   setWindowTitle(u"Занесение остатков"_s);
-  Combo1->setObjectName(u"Combo1"_s);
-  Combo1->addItems(context.session.warehouses);
-  Combo1->setCurrentIndex(-1);
-  Combo1->setPlaceholderText(u"Выберите склад"_s);
+  warehouse_->setObjectName(u"Combo1"_s);
+  warehouse_->addItems(context.session.warehouses);
+  warehouse_->setCurrentIndex(-1);
+  warehouse_->setPlaceholderText(u"Выберите склад"_s);
   BuildList();
   BuildLayout();
-  Combo1->setFocus();
+  warehouse_->setFocus();
 
-  ShareListKeys(this, ListView1);
-  connect(Command1, &QPushButton::clicked, this, &OpeningBalancesDialog::Add);
-  connect(Command2, &QPushButton::clicked, this, &OpeningBalancesDialog::Change);
-  connect(Command3, &QPushButton::clicked, this, &OpeningBalancesDialog::Remove);
-  connect(Command4, &QPushButton::clicked, this, &OpeningBalancesDialog::Book);
-  connect(Command5, &QPushButton::clicked, this, &QDialog::reject);
-  connect(ListView1, &RecordList::InsertPressed, this, &OpeningBalancesDialog::Add);
-  connect(ListView1, &RecordList::DeletePressed, this, &OpeningBalancesDialog::Remove);
-  connect(ListView1, &RecordList::EnterPressed, this, &OpeningBalancesDialog::Change);
-  connect(ListView1, &RecordList::DoubleClicked, this, &OpeningBalancesDialog::Change);
+  ShareListKeys(this, list_);
+  connect(add_, &QPushButton::clicked, this, &OpeningBalancesDialog::Add);
+  connect(change_, &QPushButton::clicked, this, &OpeningBalancesDialog::Change);
+  connect(remove_, &QPushButton::clicked, this, &OpeningBalancesDialog::Remove);
+  connect(ok_, &QPushButton::clicked, this, &OpeningBalancesDialog::Book);
+  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
+  connect(list_, &RecordList::InsertPressed, this, &OpeningBalancesDialog::Add);
+  connect(list_, &RecordList::DeletePressed, this, &OpeningBalancesDialog::Remove);
+  connect(list_, &RecordList::EnterPressed, this, &OpeningBalancesDialog::Change);
+  connect(list_, &RecordList::DoubleClicked, this, &OpeningBalancesDialog::Change);
+  new UnsavedWork(this, {.is_changed = [this] { return !balances_.Rows().empty(); },
+                         .save =
+                             [this] {
+                               if (!TryBook()) return false;
+                               accept();
+                               return true;
+                             }});
 }
 
 void OpeningBalancesDialog::BuildList() {
@@ -66,26 +74,26 @@ void OpeningBalancesDialog::BuildList() {
        .text = [this](int row, int column) { return CellOf(balances_.Rows()[row], column); },
        .is_group = [this](int row) { return balances_.IsGroup(row); }},
       this);
-  ListView1 = new RecordList(this);
-  ListView1->setObjectName(u"ListView1"_s);
-  ListView1->SetRecords(model_);
-  ListView1->SetEmptyText(
+  list_ = new RecordList(this);
+  list_->setObjectName(u"ListView1"_s);
+  list_->SetRecords(model_);
+  list_->SetEmptyText(
       u"Список пуст. Нажмите «Добавить» и выберите товары, которые лежат на складе."_s);
 }
 
 void OpeningBalancesDialog::BuildLayout() {
   auto* choice = new QHBoxLayout;
-  AddChoice(choice, u"С&клад:"_s, Combo1, HintFor(u"ost", u"Склад"));
+  AddChoice(choice, u"С&клад:"_s, warehouse_, HintFor(u"ost", u"Склад"));
   auto* commands = new QHBoxLayout;
   commands->setSpacing(look::kGrid);
-  for (QPushButton* command : {Command1, Command2, Command3}) commands->addWidget(command);
+  for (QPushButton* command : {add_, change_, remove_}) commands->addWidget(command);
   commands->addStretch();
-  auto* ending = NewEndingRow(Command4, Command5);
+  auto* ending = NewEndingRow(ok_, cancel_);
   ending->insertWidget(0, NewHelpCommand(this, context_.data, u"ost.htm"));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(choice);
-  layout->addWidget(ListView1, 1);
+  layout->addWidget(list_, 1);
   layout->addLayout(commands);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(ending);
@@ -99,37 +107,39 @@ void OpeningBalancesDialog::Add() {
     if (!picker.Pick()) return;
     const int row = static_cast<int>(balances_.Rows().size());
     model_->Insert(row, [&] { balances_.Add(*picker.Pick()); });
-    ListView1->SelectRow(row);
+    list_->SelectRow(row);
   });
 }
 
 void OpeningBalancesDialog::Change() {
-  ListView1->setFocus();
-  const int row = ListView1->CurrentRow();
+  list_->setFocus();
+  const int row = list_->CurrentRow();
   if (row < 0 || balances_.IsGroup(row)) return;
   const auto answer = AskQuantity(this, u"Товар"_s, u"Кол-во:"_s, balances_.Rows()[row].quantity);
   if (answer && balances_.ChangeQuantity(row, answer->quantity)) model_->Update(row);
 }
 
 void OpeningBalancesDialog::Remove() {
-  const int row = ListView1->CurrentRow();
+  const int row = list_->CurrentRow();
   if (row < 0) return;
   model_->Remove(row, [&] { balances_.Remove(row); });
-  ListView1->SelectRow(std::min(row, static_cast<int>(balances_.Rows().size()) - 1));
-  ListView1->setFocus();
+  list_->SelectRow(std::min(row, static_cast<int>(balances_.Rows().size()) - 1));
+  list_->setFocus();
 }
 
 void OpeningBalancesDialog::Book() {
-  if (balances_.Rows().empty()) return;
-  if (Combo1->currentIndex() < 0) {
+  if (TryBook()) accept();
+}
+
+bool OpeningBalancesDialog::TryBook() {
+  if (balances_.Rows().empty()) return false;
+  if (warehouse_->currentIndex() < 0) {
     ShowMessage(this, u"Выберите склад, на который заносятся остатки"_s);
-    Combo1->setFocus();
-    return;
+    warehouse_->setFocus();
+    return false;
   }
-  if (Guarded(this,
-              [this] { balances_.Book(context_.data, context_.session, Combo1->currentText()); })) {
-    accept();
-  }
+  return Guarded(
+      this, [this] { balances_.Book(context_.data, context_.session, warehouse_->currentText()); });
 }
 
 }  // namespace kladez

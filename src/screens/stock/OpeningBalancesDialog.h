@@ -27,17 +27,18 @@ class OpeningBalancesDialog : public QDialog {
   void Change();
   void Remove();
   void Book();
+  bool TryBook();
 
   AppContext& context_;
   OpeningBalances balances_;
   RecordModel* model_;
-  QComboBox* Combo1;  // "Склад:"
-  RecordList* ListView1;
-  QPushButton* Command1;  // "Добавить"
-  QPushButton* Command2;  // "Изменить"
-  QPushButton* Command3;  // "Удалить"
-  QPushButton* Command4;  // "OK"
-  QPushButton* Command5;  // "Отмена"
+  QComboBox* warehouse_;  // "Склад:"
+  RecordList* list_;
+  QPushButton* add_;     // "Добавить"
+  QPushButton* change_;  // "Изменить"
+  QPushButton* remove_;  // "Удалить"
+  QPushButton* ok_;      // "OK"
+  QPushButton* cancel_;  // "Отмена"
 };
 
 }  // namespace kladez

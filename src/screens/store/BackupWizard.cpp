@@ -41,9 +41,9 @@ void BackupWizard::Next() {
     return;
   }
   Copy(
-      [this](const CopyProgress& progress) {
-        return MakeBackup(context_.data, ListView1->Checked(), chooser_->Folder(),
-                          context_.clock.Today(), progress);
+      [this](const Progress& progress) {
+        MakeBackup(context_.data, ListView1->Checked(), chooser_->Folder(), context_.clock.Today(),
+                   progress);
       },
       u"Копирование прервано, незаконченная копия удалена."_s);
 }

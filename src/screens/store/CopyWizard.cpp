@@ -77,8 +77,7 @@ bool CopyWizard::AnyChecked() {
   return false;
 }
 
-void CopyWizard::Copy(const std::function<bool(const CopyProgress&)>& copy,
-                      const QString& stopped) {
+void CopyWizard::Copy(const std::function<void(const Progress&)>& copy, const QString& stopped) {
   const auto set_busy = [this](bool busy) {
     copying_ = busy;
     ProgressBar1->setValue(0);
@@ -89,13 +88,12 @@ void CopyWizard::Copy(const std::function<bool(const CopyProgress&)>& copy,
   };
   cancelled_ = false;
   set_busy(true);
-  bool finished = false;
-  const bool good =
-      Guarded(this, [&] { finished = copy([this](double done) { return ShowProgress(done); }); });
+  const bool finished =
+      Guarded(this, [&] { copy(Progress([this](double done) { return ShowProgress(done); })); });
   set_busy(false);
   if (finished) {
     accept();
-  } else if (good) {
+  } else if (cancelled_) {
     ShowInformation(this, stopped);
   }
 }

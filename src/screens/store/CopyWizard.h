@@ -35,7 +35,7 @@ class CopyWizard : public QDialog {
   // Says so when none is checked.
   bool AnyChecked();
   // Runs a copy and closes the screen at its good end. `stopped` tells of a cancelled one.
-  void Copy(const std::function<bool(const CopyProgress&)>& copy, const QString& stopped);
+  void Copy(const std::function<void(const Progress&)>& copy, const QString& stopped);
 
   virtual void Next() = 0;  // "Далее", later "OK"
 

@@ -29,9 +29,9 @@ void RestoreWizard::Next() {
   }
   if (!AnyChecked()) return;
   Copy(
-      [this](const CopyProgress& progress) {
-        return RestoreDatabases(context_.data, DataDir(chooser_->Folder()), ListView1->Checked(),
-                                progress);
+      [this](const Progress& progress) {
+        RestoreDatabases(context_.data, DataDir(chooser_->Folder()), ListView1->Checked(),
+                         progress);
       },
       u"Восстановление прервано. Базы, восстановленные до этого, остались в списке баз данных."_s);
 }

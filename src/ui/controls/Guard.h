@@ -6,16 +6,19 @@
 #include <functional>
 
 #include "books/store/Errors.h"
+#include "books/store/Progress.h"
 #include "ui/controls/Messages.h"
 
 namespace kladez {
 
-// True when the action came to its end.
+// True when the action came to its end; false, without a word, when it was cancelled.
 template <typename Action>
 bool Guarded(QWidget* parent, Action&& action) {
   try {
     action();
     return true;
+  } catch (const WorkCancelled&) {
+    return false;  // whoever cancelled it knows
   } catch (const std::exception& error) {
     ShowError(parent, ErrorText(error));
     return false;

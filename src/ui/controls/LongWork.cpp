@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <vector>
 
 #include "ui/controls/Commands.h"
 
@@ -15,9 +16,16 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kPatience = 500;     // milliseconds without a bar
+constexpr int kPatience = 200;     // milliseconds without a bar
 constexpr int kBetweenLooks = 40;  // milliseconds
 constexpr int kWholeBar = 1000;
+constexpr const char* kWayOut = "leadsElsewhere";
+
+// All that is running, the innermost last.
+std::vector<LongWork*>& Running() {
+  static std::vector<LongWork*> running;
+  return running;
+}
 
 bool IsInput(QEvent::Type type) {
   switch (type) {
@@ -42,18 +50,32 @@ bool IsInput(QEvent::Type type) {
 }  // namespace
 
 LongWork::LongWork(QWidget* parent, const QString& doing) : parent_(parent), doing_(doing) {
+  Running().push_back(this);
   since_start_.start();
 }
 
 LongWork::~LongWork() {
+  std::erase(Running(), this);
   qApp->removeEventFilter(this);
   bar_window_.reset();
   if (to_close_) {
     QMetaObject::invokeMethod(to_close_.data(), &QWidget::close, Qt::QueuedConnection);
+  } else if (next_context_) {
+    QMetaObject::invokeMethod(next_context_.data(), next_, Qt::QueuedConnection);
   }
 }
 
-std::function<bool(double)> LongWork::Callback() {
+bool LongWork::LeaveFor(QObject* context, const std::function<void()>& command) {
+  if (Running().empty()) return false;
+  for (LongWork* work : Running()) work->ended_ = true;
+  Running().front()->next_context_ = context;
+  Running().front()->next_ = command;
+  return true;
+}
+
+void LongWork::LetPass(QWidget* way_out) { way_out->setProperty(kWayOut, true); }
+
+Progress LongWork::Told() {
   return [this](double part) { return Advance(part); };
 }
 
@@ -106,6 +128,15 @@ bool LongWork::BelongsToBar(QObject* object) const {
   return widget != nullptr && widget->window() == bar_window_.get();
 }
 
+bool LongWork::LeadsElsewhere(QObject* object, const QEvent* event) {
+  if (object->isWindowType() && event->isPointerEvent()) {
+    const auto* pointer = static_cast<const QPointerEvent*>(event);
+    object = QApplication::widgetAt(pointer->points().first().globalPosition().toPoint());
+  }
+  while (object != nullptr && !object->property(kWayOut).toBool()) object = object->parent();
+  return object != nullptr;
+}
+
 bool LongWork::StandsOn(const QWidget* window) const {
   for (const QWidget* below = parent_; below != nullptr; below = below->parentWidget()) {
     if (below == window) return window->isWindow();
@@ -114,7 +145,7 @@ bool LongWork::StandsOn(const QWidget* window) const {
 }
 
 bool LongWork::eventFilter(QObject* watched, QEvent* event) {
-  if (IsInput(event->type())) return !BelongsToBar(watched);
+  if (IsInput(event->type())) return !BelongsToBar(watched) && !LeadsElsewhere(watched, event);
   if (event->type() == QEvent::Close) {
     auto* window = qobject_cast<QWidget*>(watched);
     if (window == nullptr || !StandsOn(window)) return false;

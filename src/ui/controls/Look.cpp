@@ -40,7 +40,6 @@ const char* OutlineOf(IconName name) {
       {IconName::kCurrency, "M9 20V5h5a4 4 0 0 1 0 8H7M7 16h7"},
       {IconName::kCalendar, "M4 6h16v14H4zM4 10h16M8 3v5M16 3v5M8 14h2M14 14h2"},
       {IconName::kHome, "M4 11l8-7 8 7M6 9v11h12V9M10 20v-6h4v6"},
-      {IconName::kFolder, "M3 6h7l2 2h9v11H3z"},
       {IconName::kOpen, "M3 19V6h7l2 2h7v3M3 19l4-8h15l-4 8z"},
       {IconName::kProgram, "M12 3l8 4.5v9L12 21l-8-4.5v-9zM8.5 8v8M8.5 12.5L14 8M10.5 11l4 5"},
   };

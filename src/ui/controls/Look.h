@@ -66,7 +66,6 @@ enum class IconName {
   kCurrency,
   kCalendar,
   kHome,
-  kFolder,
   kOpen,
   kProgram,
 };

@@ -57,7 +57,9 @@ QVariant RecordModel::data(const QModelIndex& index, int role) const {
         return bold;
       }
     case Qt::ForegroundRole:
-      return IsGroup(row) ? QVariant(QBrush(look::kGroupRow)) : QVariant();
+      if (IsGroup(row)) return QBrush(look::kGroupRow);
+      if (source_.is_amiss && source_.is_amiss(row)) return QBrush(look::kWarning);
+      return {};
     case Qt::CheckStateRole:
       if (index.column() != 0 || !HasCheck(row)) return {};
       return int(source_.checked(row) ? Qt::Checked : Qt::Unchecked);

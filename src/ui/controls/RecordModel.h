@@ -21,7 +21,8 @@ struct RowSource {
   std::function<int()> count;
   std::function<QString(int row, int column)> text;
   std::function<bool(int row)> is_group{};
-  std::function<bool(int row)> checked{};  // rows have check marks where it is set
+  std::function<bool(int row)> is_amiss{};  // the row is red
+  std::function<bool(int row)> checked{};   // rows have check marks where it is set
   std::function<void(int row, bool on)> set_checked{};
   std::function<bool(int row)> checkable{};  // all rows are where it is not set
 };

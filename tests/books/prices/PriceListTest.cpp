@@ -109,7 +109,10 @@ TEST(PriceListFiles, LoadingTellsHowMuchOfTheListIsRead) {
   for (int i = 0; i < 1000; ++i) prices += {u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s};
   std::vector<double> told;
   const PriceList list(EncodeLines(kGoods), EncodeLines(prices), {}, GoodsView::kGroups,
-                       [&](double part) { told.push_back(part); });
+                       Progress([&](double part) {
+                         told.push_back(part);
+                         return true;
+                       }));
   EXPECT_GE(told.size(), 90u);
   EXPECT_LE(told.size(), 101u);
   EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));

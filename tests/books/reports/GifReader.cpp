@@ -47,7 +47,7 @@ class Unpacker {
  public:
   explicit Unpacker(std::vector<bool> bits) : bits_(std::move(bits)) {}
 
-  std::vector<std::uint8_t> Run() {
+  std::vector<quint8> Run() {
     Require(NextCode() == kClear, "the first code does not clear the table");
     for (int code = NextCode(); code != kEnd; code = NextCode()) {
       if (code == kClear) {
@@ -67,8 +67,8 @@ class Unpacker {
   static constexpr int kEnd = 257;
 
   struct Stretch {
-    std::size_t start = 0;
-    std::size_t length = 0;
+    size_t start = 0;
+    size_t length = 0;
   };
 
   int NextCode() {
@@ -84,25 +84,25 @@ class Unpacker {
 
   void Take(int code) {
     if (last_.length > 0 && NextFree() < 4096) strings_.push_back({last_.start, last_.length + 1});
-    const std::size_t start = pixels_.size();
+    const size_t start = pixels_.size();
     if (code < 256) {
-      pixels_.push_back(static_cast<std::uint8_t>(code));
+      pixels_.push_back(static_cast<quint8>(code));
     } else {
       Require(code < NextFree(), "a code that was never defined");
-      const Stretch string = strings_[static_cast<std::size_t>(code - 258)];
+      const Stretch string = strings_[static_cast<size_t>(code - 258)];
       // The newest string ends in the first pixel of its own copy, so it goes pixel by pixel.
-      for (std::size_t i = 0; i < string.length; ++i) pixels_.push_back(pixels_[string.start + i]);
+      for (size_t i = 0; i < string.length; ++i) pixels_.push_back(pixels_[string.start + i]);
     }
     last_ = {start, pixels_.size() - start};
     if (NextFree() == 1 << width_ && width_ < 12) ++width_;
   }
 
   std::vector<bool> bits_;
-  std::size_t at_ = 0;
+  size_t at_ = 0;
   int width_ = 9;
   std::vector<Stretch> strings_;
   Stretch last_;
-  std::vector<std::uint8_t> pixels_;
+  std::vector<quint8> pixels_;
 };
 
 }  // namespace
@@ -119,9 +119,9 @@ IndexedImage ReadGif(const QByteArray& file) {
   Require((flags & 0x80) != 0 && (flags & 7) == 7, "no global table of 256 colours");
   Require(bytes.Byte() == 0 && bytes.Byte() == 0, "a ground or pixel shape of its own");
   for (Rgb& colour : image.colours) {
-    colour.red = static_cast<std::uint8_t>(bytes.Byte());
-    colour.green = static_cast<std::uint8_t>(bytes.Byte());
-    colour.blue = static_cast<std::uint8_t>(bytes.Byte());
+    colour.red = static_cast<quint8>(bytes.Byte());
+    colour.green = static_cast<quint8>(bytes.Byte());
+    colour.blue = static_cast<quint8>(bytes.Byte());
   }
   Require(bytes.Byte() == 0x2C && bytes.Word() == 0 && bytes.Word() == 0, "no image at 0, 0");
   Require(bytes.Word() == image.width && bytes.Word() == image.height, "not of the screen's size");

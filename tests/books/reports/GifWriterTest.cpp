@@ -16,22 +16,21 @@ namespace {
 ColourTable TellingColours() {
   ColourTable table;
   for (int i = 0; i < 256; ++i) {
-    table[static_cast<std::size_t>(i)] = {static_cast<std::uint8_t>(i),
-                                          static_cast<std::uint8_t>(255 - i),
-                                          static_cast<std::uint8_t>(i * 37 % 256)};
+    table[static_cast<size_t>(i)] = {static_cast<quint8>(i), static_cast<quint8>(255 - i),
+                                     static_cast<quint8>(i * 37 % 256)};
   }
   return table;
 }
 
-IndexedImage OneColour(int width, int height, std::uint8_t index) {
+IndexedImage OneColour(int width, int height, quint8 index) {
   return {width, height, TellingColours(),
-          std::vector<std::uint8_t>(static_cast<std::size_t>(width) * height, index)};
+          std::vector<quint8>(static_cast<size_t>(width) * height, index)};
 }
 
 IndexedImage Noise(int width, int height, int colours) {
   std::mt19937 random(20261122);
   IndexedImage image = OneColour(width, height, 0);
-  for (auto& pixel : image.pixels) pixel = static_cast<std::uint8_t>(random() % colours);
+  for (auto& pixel : image.pixels) pixel = static_cast<quint8>(random() % colours);
   return image;
 }
 
@@ -49,11 +48,11 @@ void ExpectToolkitReadsAlike(const IndexedImage& image, QByteArray file) {
   QImageReader reader(&buffer, "gif");
   const QImage read = reader.read().convertToFormat(QImage::Format_RGB32);
   ASSERT_EQ(read.size(), QSize(image.width, image.height)) << qPrintable(reader.errorString());
-  std::size_t differing = 0;
+  size_t differing = 0;
   for (int y = 0; y < image.height; ++y) {
     const auto* row = reinterpret_cast<const QRgb*>(read.constScanLine(y));
     for (int x = 0; x < image.width; ++x) {
-      const std::size_t at = static_cast<std::size_t>(y) * image.width + x;
+      const size_t at = static_cast<size_t>(y) * image.width + x;
       const Rgb& colour = image.colours[image.pixels[at]];
       if (row[x] != qRgb(colour.red, colour.green, colour.blue)) ++differing;
     }

@@ -2,6 +2,7 @@
 
 #include "books/stock/Books.h"
 #include "books/stock/DocumentDraft.h"
+#include "books/stock/DraftStock.h"
 #include "books/store/SystemCalls.h"
 
 namespace kladez {
@@ -268,6 +269,41 @@ TEST_F(Drafts, PrintScreensGetWhatTheEditorShows) {
   EXPECT_EQ(source.discount, u"5");
   ASSERT_EQ(source.lines.size(), 1);
   EXPECT_EQ(source.lines[0].price, u"60.00");
+}
+
+TEST_F(Drafts, StockCountsTheLinesOfTheDraftUntilTheyHavePosted) {
+  temp_.PutLines(u"0001\\spr\\товар.spr"_s, {u"Чай"_s, u"-"_s, u"-"_s, u"шт."_s, u"1"_s, u"Соль"_s,
+                                             u"-"_s, u"-"_s, u"кг"_s, u"1"_s});
+  temp_.PutLines(u"0001\\Склад\\товар.usl"_s, {u"Чай"_s, u"1"_s, u"шт."_s});
+  for (const auto& [kind, left] :
+       {std::pair(DocumentKind::kShipment, 0.7), std::pair(DocumentKind::kReceipt, 1.3)}) {
+    DocumentDraft draft = New(kind);
+    for (const QString& quantity : {u"0.1"_s, u"0.2"_s}) {
+      draft.AddLine(Pick(u"Чай"_s, quantity, u"1"_s));
+    }
+    const DraftStock stock(draft);
+    EXPECT_EQ(stock.OnHand(u"Чай"_s), left);
+    EXPECT_EQ(stock.OnHand(u"Чай"_s, 1), kind == DocumentKind::kShipment ? 0.9 : 1.1);
+    EXPECT_EQ(stock.OnHand(u"Соль"_s), 0.0);
+    EXPECT_EQ(stock.OnHand(u"Мыло"_s), std::nullopt);
+    draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"1"_s));
+    EXPECT_EQ(stock.ShortLines(),
+              std::vector<bool>({false, false, kind == DocumentKind::kShipment}));
+  }
+}
+
+TEST_F(Drafts, AfterFourDigitsTheFreeNameStandsAboveTheHighest) {
+  for (const QString& file : {u"9999.prh"_s, u"10000.prh"_s}) {
+    temp_.PutLines(u"0001\\Склад\\PRH\\"_s + file, {u"1"_s});
+  }
+  DocumentDraft draft = New(DocumentKind::kReceipt);
+  draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"1"_s));
+  EXPECT_EQ(draft.File(), u"10000.prh") << "the told numbering";
+  EXPECT_EQ(draft.Save(), DocumentDraft::Outcome::kFileExists);
+  draft.SaveAs(draft.FreeFile());
+  EXPECT_EQ(draft.Save(), DocumentDraft::Outcome::kSaved);
+  EXPECT_EQ(draft.File(), u"10001.prh");
+  EXPECT_EQ(temp_.Lines(u"0001\\Склад\\PRH\\10000.prh"_s), QStringList(u"1"_s));
 }
 
 }  // namespace

@@ -57,6 +57,16 @@ TEST_F(Register, EachFilterKeepsItsDocuments) {
   for (const auto& c : cases) EXPECT_EQ(Shown(DocumentKind::kReceipt, c.filter), c.files);
 }
 
+TEST_F(Register, FiguresAreNumberTextsAndADateHasNoBlankAtItsEnd) {
+  temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
+                 {u"1"_s, u"5.11.2026 "_s, u"-"_s, u"1 200,5"_s, u"много"_s, u" 7.10"_s, u"да"_s});
+  ASSERT_EQ(Shown(DocumentKind::kShipment, {.period = Period::kMonth, .month = 11}).size(), 1);
+  const DocumentHead& head = rows_->Rows()[0].head;
+  EXPECT_EQ(QStringList({head.date, head.sum, head.discount, head.net_sum}),
+            QStringList({u"5.11.2026"_s, u"1 200.5"_s, u"0"_s, u" 7.10"_s}));
+  EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:7.10"_s);
+}
+
 TEST_F(Register, OrderGoesByFileNamesNotByDateOrNumber) {
   const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
   Receipt(u"0002.prh"_s, u"01.01.2026"_s);

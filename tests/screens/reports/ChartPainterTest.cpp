@@ -120,9 +120,9 @@ TEST(ChartPainter, FarRibbonPeaksOverItsOwnRow) {
       // Of the legend nothing is looked at.
       const QRect below(0, static_cast<int>(layout.legend.bottom()) + 1, size.width(),
                         size.height());
-      const QRect ribbon = BoundsOf(image.copy(below), style.series[0].side());
+      const QRect ribbon = BoundsOf(image.copy(below), style.series[0].Side());
       const QRect peak = BoundsOf(image.copy(0, below.top() + ribbon.top(), size.width(), 1),
-                                  style.series[0].side());
+                                  style.series[0].Side());
       EXPECT_NEAR(peak.center().x(), layout.Middle(7), layout.slot / 2);
     }
   }
@@ -133,7 +133,7 @@ TEST(ChartPainter, OneRowIsSeenInEveryKind) {
   grid.Cell(0, 0) = 35;
   const SeriesStyle series = DefaultChartStyle().series[0];
   for (const ChartKind kind : kAllChartKinds) {
-    const QColor colour = kind == ChartKind::k3DLines ? series.top() : series.face;
+    const QColor colour = kind == ChartKind::k3DLines ? series.Top() : series.face;
     EXPECT_FALSE(BoundsOf(Paint(grid, kind, {300, 180}), colour).isEmpty())
         << static_cast<int>(kind);
   }
@@ -207,7 +207,7 @@ TEST(RenderChartIndexed, OwnColoursAreExactAndTheRestIsNear) {
     const IndexedImage image = RenderChartIndexed(SalesGrid(12, 2), kind, size);
     ASSERT_EQ(image.pixels.size(), 1200U * 800U);
     int farthest = 0;
-    for (std::size_t i = 0; i < image.pixels.size(); ++i) {
+    for (size_t i = 0; i < image.pixels.size(); ++i) {
       const QRgb was = painted.pixel(static_cast<int>(i % 1200), static_cast<int>(i / 1200));
       const Rgb is = image.colours[image.pixels[i]];
       const int distance = std::abs(is.red - qRed(was)) + std::abs(is.green - qGreen(was)) +

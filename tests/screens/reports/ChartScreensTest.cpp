@@ -8,12 +8,11 @@
 #include "books/reports/GifReader.h"
 #include "books/reports/ReportPageLines.h"
 #include "books/reports/ShipmentsOnDisk.h"
+#include "screens/reports/ChartForms.h"
 #include "screens/reports/ChartImage.h"
 #include "screens/reports/ChartPrinting.h"
 #include "screens/reports/ChartWidget.h"
 #include "screens/reports/ChartWindow.h"
-#include "screens/reports/otgr.h"
-#include "screens/reports/otspeed.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/RecordList.h"
 #include "viewer/page/PageReader.h"
@@ -43,7 +42,7 @@ class ChartScreens : public testing::Test, protected ScreenWorld {
     const ModalAnswers answers{[&](QWidget* chart) {
       EXPECT_EQ(chart->objectName(), u"graphic"_s);
       EXPECT_FALSE(screen.isVisible());
-      grid = Find<ChartWidget>(chart, "MSChart1")->grid();
+      grid = Find<ChartWidget>(chart, "MSChart1")->Grid();
       title = Find<QLabel>(chart, "title")->text();
       Click(chart, "Command1");
     }};
@@ -56,7 +55,7 @@ class ChartScreens : public testing::Test, protected ScreenWorld {
 };
 
 TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {
-  otgr by_year(Context());
+  ChartDialog by_year(Context(), SalesChartForm());
   ShowActive(&by_year);
   EXPECT_EQ(Find<QComboBox>(&by_year, "Combo2")->currentText(), u"2026"_s);
   EXPECT_EQ(Find<QComboBox>(&by_year, "Combo3")->currentText(), u"Ноябрь"_s);
@@ -67,7 +66,7 @@ TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {
   EXPECT_EQ(year.Cell(10, 0), 36.0);
   EXPECT_EQ(year.Cell(10, 1), 16.0);
 
-  otgr by_day(Context());
+  ChartDialog by_day(Context(), SalesChartForm());
   ShowActive(&by_day);
   Find<QRadioButton>(&by_day, "Option2")->click();
   EXPECT_TRUE(Find<QComboBox>(&by_day, "Combo3")->isEnabled());
@@ -81,7 +80,7 @@ TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {
 }
 
 TEST_F(ChartScreens, GoodsAreAskedForAndPickedFromTheDirectory) {
-  otspeed screen(Context());
+  ChartDialog screen(Context(), GoodsChartForm());
   ShowActive(&screen);
   auto* goods = Find<TextLine>(&screen, "Text1");
   {
@@ -112,7 +111,7 @@ TEST_F(ChartScreens, GoodsAreAskedForAndPickedFromTheDirectory) {
 
 TEST_F(ChartScreens, ACutShipmentIsNamedAndNoChartIsShown) {
   books.Ship(1, u"0002.uhd"_s, u"01.02.2020"_s, u"0"_s, u"0"_s, {u"Чай"_s, u"1"_s});
-  otspeed screen(Context(), u"Чай"_s, nullptr);
+  ChartDialog screen(Context(), GoodsChartForm(), u"Чай"_s);
   ShowActive(&screen);
   const ModalAnswers answers{[](QWidget* box) {
     auto* message = qobject_cast<QMessageBox*>(box);
@@ -136,11 +135,11 @@ TEST_F(ChartScreens, OptionsChangeTheKindByTheirNumbers) {
   ShowActive(&screen);
   auto* chart = Find<ChartWidget>(&screen, "MSChart1");
   EXPECT_TRUE(Find<QRadioButton>(&screen, "Option1")->isChecked());
-  EXPECT_EQ(static_cast<int>(chart->kind()), 0);
+  EXPECT_EQ(static_cast<int>(chart->Kind()), 0);
   for (const auto& [option, kind] :
        {std::pair("Option4", 3), std::pair("Option3", 1), std::pair("Option2", 2)}) {
     Find<QRadioButton>(&screen, option)->click();
-    EXPECT_EQ(static_cast<int>(chart->kind()), kind) << option;
+    EXPECT_EQ(static_cast<int>(chart->Kind()), kind) << option;
   }
 }
 
@@ -154,7 +153,7 @@ TEST_F(ChartScreens, ALongNameLeavesTheChartItsRoomAndTheTitleItsPeriod) {
     EXPECT_LE(screen.width(), 1024);
     EXPECT_GE(chart->height(), screen.height() / 2);
     EXPECT_TRUE(Find<QLabel>(&screen, "title")->text().endsWith(u" за Февраль 2026"_s));
-    EXPECT_EQ(chart->grid().title, grid.title) << "the print-out has it whole";
+    EXPECT_EQ(chart->Grid().title, grid.title) << "the print-out has it whole";
   }
 }
 

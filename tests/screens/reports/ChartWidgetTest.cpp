@@ -28,7 +28,7 @@ class ChartWidgetTest : public testing::Test {
 
   QPoint RowPoint(int row) const {
     const ChartLayout layout =
-        LayOutChart(widget_.rect(), widget_.grid(), widget_.kind(), DefaultChartStyle());
+        LayOutChart(widget_.rect(), widget_.Grid(), widget_.Kind(), DefaultChartStyle());
     return QPointF(layout.Middle(row), layout.front.center().y()).toPoint();
   }
 

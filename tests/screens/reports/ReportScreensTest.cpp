@@ -6,9 +6,7 @@
 #include "ScreenDriver.h"
 #include "books/reports/ReportPageLines.h"
 #include "books/reports/ShipmentsOnDisk.h"
-#include "screens/reports/otppr.h"
-#include "screens/reports/otpruh.h"
-#include "screens/reports/otrpt.h"
+#include "screens/reports/ReportForms.h"
 #include "ui/controls/DateField.h"
 
 namespace kladez {
@@ -29,9 +27,8 @@ class ReportScreens : public testing::Test, protected ScreenWorld {
   }
 
   // The report as it is asked for on its screen; the lines of the print-out.
-  template <typename Screen>
-  QStringList Run(const std::function<void(QWidget*)>& choose) {
-    Screen screen(Context());
+  QStringList Run(const ReportForm& form, const std::function<void(QWidget*)>& choose) {
+    ReportDialog screen(Context(), form);
     ShowActive(&screen);
     choose(&screen);
     Click(&screen, "Command1");
@@ -50,9 +47,9 @@ class ReportScreens : public testing::Test, protected ScreenWorld {
 };
 
 TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {
-  otppr sales(Context());
-  otrpt speed(Context());
-  otpruh flow(Context());
+  ReportDialog sales(Context(), SalesReportForm());
+  ReportDialog speed(Context(), SpeedReportForm());
+  ReportDialog flow(Context(), FlowReportForm());
   const std::vector<std::tuple<QDialog*, QString, QString>> screens = {
       {&sales, u"otppr"_s, u"Отчет по продажам"_s},
       {&speed, u"otrpt"_s, u"Скорость реализации"_s},
@@ -77,7 +74,7 @@ TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {
 
 TEST_F(ReportScreens, SpeedOfTheCurrentMonthCountsThatMonthOfBothYears) {
   const ReportTable table{{25, 10, 10, 10, 10}, 1};
-  EXPECT_EQ(Run<otrpt>(Choose("current_month")),
+  EXPECT_EQ(Run(SpeedReportForm(), Choose("current_month")),
             (ReportStart(u"Скорость реализации товаров"_s, u"ВСЕ СКЛАДЫ"_s, u"Месяц: Ноябрь"_s) +
              QStringList{table.Heads({u"Товар"_s, u"Ед.изм."_s, u"Кол-во"_s, u"Реализация"_s,
                                       u"Прибыль"_s}),
@@ -94,7 +91,7 @@ TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
     Find<QRadioButton>(screen, "range")->click();
     Find<DateField>(screen, "from")->setDate(QDate(2026, 10, 1));
   };
-  EXPECT_EQ(Run<otpruh>(choose),
+  EXPECT_EQ(Run(FlowReportForm(), choose),
             (ReportStart(u"Отчет по поступлению/реализации товара"_s, u"Магазин"_s,
                          u"Период: с 01.10.2026 по 22.11.2026"_s) +
              QStringList{table.Heads({u"Дата"_s, u"Поступление"_s, u"Реализация"_s, u"Прибыль"_s}),
@@ -106,7 +103,7 @@ TEST_F(ReportScreens, FlowOfOneWarehouseTakesTheTypedDates) {
 
 TEST_F(ReportScreens, SalesOfAllDocumentsComeOldestFirst) {
   const ReportTable table{{5, 30, 10, 10, 10}, 2};
-  EXPECT_EQ(Run<otppr>(Choose("all")),
+  EXPECT_EQ(Run(SalesReportForm(), Choose("all")),
             (ReportStart(u"Отчет по продажам"_s, u"ВСЕ СКЛАДЫ"_s) +
              QStringList{table.Heads({u"Дата"_s, u"Товар"_s, u"Ед.изм"_s, u"Кол-во"_s, u"Сумма"_s}),
                          table.Row({u"05.11.25"_s, u"Чай"_s, u"пач."_s, u"2"_s, u"2.00"_s}),
@@ -119,7 +116,7 @@ TEST_F(ReportScreens, SalesOfAllDocumentsComeOldestFirst) {
 TEST_F(ReportScreens, CancellingWritesNothing) {
   const auto before = Temp().Tree();
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-    otppr screen(Context());
+    ReportDialog screen(Context(), SalesReportForm());
     ShowActive(&screen);
     if (key == Qt::Key_Escape) {
       QTest::keyClick(&screen, key);
@@ -134,7 +131,7 @@ TEST_F(ReportScreens, CancellingWritesNothing) {
 
 TEST_F(ReportScreens, APageThatCantBeWrittenIsToldAndTheScreenStays) {
   QDir().mkpath(Temp().Root() + u"/temp.htm"_s);
-  otppr screen(Context());
+  ReportDialog screen(Context(), SalesReportForm());
   ShowActive(&screen);
   const ModalAnswers answers{Press(QMessageBox::Ok)};
   Click(&screen, "Command1");

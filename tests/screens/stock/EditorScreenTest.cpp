@@ -2,18 +2,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 
 #include "DocumentWorld.h"
 #include "screens/directories/QuantityDialog.h"
 #include "screens/stock/LineDialog.h"
-#include "screens/stock/documents/PrihNew.h"
-#include "screens/stock/documents/TovPrih.h"
-#include "screens/stock/documents/TovPrih_Ass.h"
-#include "screens/stock/documents/TovUhod_Ass.h"
-#include "screens/stock/documents/UhodNew.h"
-#include "screens/stock/documents/vnutr.h"
-#include "screens/stock/documents/vnutrNew.h"
+#include "screens/stock/documents/DocumentEditor.h"
+#include "screens/stock/documents/DocumentProperties.h"
+#include "screens/stock/documents/DocumentRegisterScreen.h"
 #include "ui/controls/DateField.h"
 #include "ui/controls/Forms.h"
 
@@ -31,7 +28,7 @@ class Editors : public testing::Test {
 
 // From the empty register to the ledger by keys alone.
 TEST_F(Editors, AReceiptIsEnteredPickedClosedAndPosted) {
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   ModalAnswers answers({
       [&](QWidget* editor) {
@@ -73,8 +70,8 @@ TEST_F(Editors, AReceiptIsEnteredPickedClosedAndPosted) {
 
 TEST_F(Editors, CancelWritesNothing) {
   const auto before = world_.Temp().Tree();
-  PrihNew editor(world_.Context(),
-                 DocumentDraft::New(world_.In(DocumentKind::kReceipt), QDate(2026, 11, 22)));
+  DocumentEditor editor(world_.Context(),
+                        DocumentDraft::New(world_.In(DocumentKind::kReceipt), QDate(2026, 11, 22)));
   ShowActive(&editor);
   Find<QCheckBox>(&editor, "Check1")->click();
   Click(&editor, "cancel");
@@ -82,9 +79,138 @@ TEST_F(Editors, CancelWritesNothing) {
   EXPECT_EQ(world_.Temp().Tree(), before);
 }
 
+TEST_F(Editors, EscapeAndTheFrameAskForUnsavedWorkAndCancelDoesNot) {
+  world_.Put(DocumentKind::kReceipt);
+  const auto before = world_.Temp().Tree();
+  const auto change = [&](const std::function<void(QWidget*)>& leave,
+                          std::initializer_list<ModalAnswers::Step> answers) {
+    DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+    ShowActive(&editor);
+    Enter(&editor, "number", u"77"_s);
+    ModalAnswers expected(answers);
+    leave(&editor);
+    return !editor.isVisible();
+  };
+  const auto escape = [](QWidget* editor) { QTest::keyClick(editor, Qt::Key_Escape); };
+  const auto frame = [](QWidget* editor) { editor->close(); };
+  const QString question = u"Сохранить изменения?"_s;
+  EXPECT_FALSE(change(escape, {Press(QMessageBox::Cancel, question)}));
+  EXPECT_TRUE(change(frame, {Press(QMessageBox::No, question)}));
+  EXPECT_TRUE(change([](QWidget* editor) { Click(editor, "cancel"); }, {}));
+  EXPECT_EQ(world_.Temp().Tree(), before);
+  EXPECT_TRUE(change(escape, {Press(QMessageBox::Yes, question)}));
+  EXPECT_EQ(Lines(u"Склад\\PRH\\0001.prh"_s).first(), u"77");
+}
+
+TEST_F(Editors, ANewDocumentAsksBeforeItsFileIsTakenFromAnother) {
+  for (const auto& [answer, file] :
+       {std::pair(QMessageBox::Yes, u"0002.prh"_s), std::pair(QMessageBox::No, u"0001.prh"_s)}) {
+    for (const QString& old : {u"0001.prh"_s, u"0002.prh"_s}) {
+      QFile::remove(world_.Temp().Data().Resolve(u"0001\\Склад\\PRH\\"_s + old));
+    }
+    DocumentDraft draft =
+        DocumentDraft::New(world_.In(DocumentKind::kReceipt), QDate(2026, 11, 22));
+    draft.AddLine(
+        {.name = u"Чай"_s, .quantity = u"1"_s, .unit = u"шт."_s, .cost = u"1"_s, .price = u"9"_s});
+    DocumentEditor editor(world_.Context(), std::move(draft));
+    ShowActive(&editor);
+    world_.Temp().PutLines(u"0001\\Склад\\PRH\\0001.prh"_s, {u"чужая"_s});
+    ModalAnswers answers({Press(answer,
+                                u"Накладная 1 уже есть. Сохранить под номером файла 2?\n\n"
+                                u"«Нет» — записать поверх неё."_s)});
+    Click(&editor, "ok");
+    EXPECT_FALSE(editor.isVisible());
+    EXPECT_EQ(Lines(u"Склад\\PRH\\"_s + file).value(5), u"Чай");
+    if (answer == QMessageBox::Yes) {
+      EXPECT_EQ(Lines(u"Склад\\PRH\\0001.prh"_s)[0], u"чужая");
+    }
+  }
+}
+
+TEST_F(Editors, ANumberThatTheRegisterHasIsToldAndHindersNobody) {
+  world_.Put(DocumentKind::kReceipt);
+  const auto count = [](const QString& number) {
+    return number == u"5" ? 2 : number == u"1" ? 1 : 0;
+  };
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s),
+                        nullptr, count);
+  ShowActive(&editor);
+  auto* note = Find<QLabel>(&editor, "number_note");
+  EXPECT_FALSE(note->isVisible()) << "its own number";
+  Enter(&editor, "number", u"5"_s);
+  EXPECT_TRUE(note->isVisible());
+  EXPECT_EQ(note->text(), u"Номер 5 в журнале уже есть.");
+  Enter(&editor, "number", u"6"_s);
+  EXPECT_FALSE(note->isVisible());
+}
+
+TEST_F(Editors, AChangedClosedDocumentTellsThatStockStaysAndIsEnteredAnewOnRequest) {
+  world_.Put(DocumentKind::kShipment, true);
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  ShowActive(&editor);
+  auto* note = Find<QLabel>(&editor, "posted_note");
+  EXPECT_FALSE(note->isVisible());
+  {
+    ModalAnswers answers({[](QWidget* dialog) {
+      Enter(dialog, "Text2", u"5"_s);
+      Click(dialog, "Command1");
+    }});
+    Click(&editor, "change");
+  }
+  EXPECT_TRUE(note->isVisible());
+  ModalAnswers answers({Press(QMessageBox::Yes)});
+  emit note->linkActivated(u"anew"_s);
+  EXPECT_FALSE(editor.isVisible());
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s), QStringList(u"<none>"_s));
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0002.uhd"_s).mid(6, 3), QStringList({u"да"_s, u"Чай"_s, u"5"_s}));
+  // -3 of the first posting, 3 back, 5 out again.
+  EXPECT_EQ(Lines(u"Склад\\товар.usl"_s),
+            QStringList({u"Чай"_s, u"-8.00"_s, u"шт."_s, u"Чай"_s, u"3"_s, u"шт."_s}));
+}
+
+TEST_F(Editors, LinesThatTheWarehouseLacksAreRed) {
+  world_.Temp().PutLines(u"0001\\Склад\\товар.usl"_s, {u"Чай"_s, u"4"_s, u"шт."_s});
+  DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kShipment), QDate(2026, 11, 22));
+  for (const QString& quantity : {u"3"_s, u"1"_s, u"0.5"_s}) {
+    draft.AddLine({.name = u"Чай"_s,
+                   .quantity = quantity,
+                   .unit = u"шт."_s,
+                   .cost = u"1"_s,
+                   .price = u"60"_s});
+  }
+  DocumentEditor editor(world_.Context(), std::move(draft));
+  const auto is_red = [&](int row) {
+    return ListOf(&editor)->Records()->index(row, 0).data(Qt::ForegroundRole).isValid();
+  };
+  EXPECT_FALSE(is_red(0) || is_red(1));
+  EXPECT_TRUE(is_red(2));
+}
+
+TEST_F(Editors, TheTabKeyGoesAsTheEyeDoes) {
+  DocumentEditor editor(world_.Context(), DocumentDraft::New(world_.In(DocumentKind::kShipment),
+                                                             QDate(2026, 11, 22)));
+  QStringList order;
+  const QWidget* widget = Find<QWidget>(&editor, "number");
+  for (const QString& last = u"cancel"_s; order.isEmpty() || order.last() != last;
+       widget = widget->nextInFocusChain()) {
+    const QString name = widget->objectName();
+    if ((widget->focusPolicy() & Qt::TabFocus) != 0 &&
+        Find<QWidget>(&editor, "cancel") != nullptr && !name.isEmpty() &&
+        !name.startsWith(u"qt_"_s) && qobject_cast<const QLabel*>(widget) == nullptr) {
+      order << name;
+    }
+    ASSERT_LT(order.size(), 40);
+  }
+  order.removeAll(u"DecText1"_s);
+  EXPECT_EQ(order,
+            QStringList({u"number"_s, u"date"_s, u"party"_s, u"add"_s, u"change"_s, u"remove"_s,
+                         u"ListView1"_s, u"Check1"_s, u"prn"_s, u"prs"_s, u"prp"_s, u"pri"_s,
+                         u"Text2"_s, u"Text19"_s, u"ok"_s, u"cancel"_s}));
+}
+
 TEST_F(Editors, TheDivideKeyChangesALineAndTheSumFollows) {
   world_.Put(DocumentKind::kReceipt);
-  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
   ShowActive(&editor);
   ModalAnswers answers({[](QWidget* dialog) {
     EXPECT_EQ(dialog->objectName(), u"change");
@@ -104,7 +230,7 @@ TEST_F(Editors, TheDivideKeyChangesALineAndTheSumFollows) {
 
 TEST_F(Editors, AProductThatOverflowsLeavesTheAmountAsItIsShown) {
   world_.Put(DocumentKind::kReceipt);
-  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
   ShowActive(&editor);
   ModalAnswers answers({[](QWidget* dialog) {
     Enter(dialog, "Text4", u"70"_s);
@@ -120,7 +246,7 @@ TEST_F(Editors, AProductThatOverflowsLeavesTheAmountAsItIsShown) {
 
 TEST_F(Editors, ARemovedLineIsAskedForAndLowersTheSum) {
   world_.Put(DocumentKind::kShipment);
-  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
   ShowActive(&editor);
   {
     ModalAnswers answers({Press(QMessageBox::No, u"Вы уверены?"_s)});
@@ -139,7 +265,7 @@ TEST_F(Editors, ARemovedLineIsAskedForAndLowersTheSum) {
 
 TEST_F(Editors, TheDiscountedSumFollowsSumAndPercent) {
   world_.Put(DocumentKind::kShipment);
-  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
   ShowActive(&editor);
   EXPECT_EQ(TextOf(&editor, "DecText1"), u"180.00");
   Enter(&editor, "Text19", u"12.5"_s);
@@ -153,7 +279,7 @@ TEST_F(Editors, TheDiscountedSumFollowsSumAndPercent) {
 
 TEST_F(Editors, AnEmptiedSumOrDiscountIsSavedAsTheZeroThatItsFieldShows) {
   world_.Put(DocumentKind::kShipment);
-  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
   ShowActive(&editor);
   for (const char* name : {"Text19", "Text2"}) {
     auto* field = Find<QLineEdit>(&editor, name);
@@ -169,7 +295,7 @@ TEST_F(Editors, AnEmptiedSumOrDiscountIsSavedAsTheZeroThatItsFieldShows) {
 
 TEST_F(Editors, TheCaretStaysWhereADigitOfTheSumIsTyped) {
   world_.Put(DocumentKind::kReceipt);
-  PrihNew editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
   ShowActive(&editor);
   auto* sum = Find<QLineEdit>(&editor, "Text2");
   sum->setFocus();
@@ -188,7 +314,7 @@ TEST_F(Editors, AClosedDocumentKeepsItsFlagAndItsPartyThatIsGone) {
   draft.Save();
   world_.TheSession().Parties(PartyKind::kClient).removeLast();
   const auto before = world_.Temp().Tree();
-  UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+  DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
   ShowActive(&editor);
   EXPECT_TRUE(Find<QCheckBox>(&editor, "Check1")->isChecked());
   EXPECT_FALSE(Find<QCheckBox>(&editor, "Check1")->isEnabled());
@@ -197,8 +323,8 @@ TEST_F(Editors, AClosedDocumentKeepsItsFlagAndItsPartyThatIsGone) {
 }
 
 TEST_F(Editors, ATransferWithinOneWarehouseIsRefusedInWords) {
-  vnutrNew editor(world_.Context(),
-                  DocumentDraft::New(world_.In(DocumentKind::kTransfer), QDate(2026, 11, 22)));
+  DocumentEditor editor(world_.Context(), DocumentDraft::New(world_.In(DocumentKind::kTransfer),
+                                                             QDate(2026, 11, 22)));
   ShowActive(&editor);
   Find<TextChoice>(&editor, "destination")->Choose(u"Склад"_s);
   {
@@ -217,7 +343,7 @@ TEST_F(Editors, AWarehouseWithoutALedgerIsNotChosen) {
   world_.TheSession().warehouses = {u"Склад"_s};
   DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kTransfer), QDate(2026, 11, 22));
   world_.TheSession().warehouses << u"Магазин"_s;
-  vnutrNew editor(world_.Context(), std::move(draft));
+  DocumentEditor editor(world_.Context(), std::move(draft));
   ShowActive(&editor);
   ModalAnswers answers({Press(QMessageBox::Ok)});
   Find<QComboBox>(&editor, "destination")->setCurrentText(u"Магазин"_s);
@@ -228,8 +354,9 @@ TEST_F(Editors, TheSellerSeesNoCostsAndTheFileKeepsThem) {
   world_.Put(DocumentKind::kShipment, true);
   for (const UserRole role : {UserRole::kSeller, UserRole::kDirector, UserRole::kNone}) {
     world_.TheSession().role = role;
-    UhodNew editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
-    TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+    DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
+    DocumentProperties properties(world_.Context(), DocumentKind::kShipment, u"Склад"_s,
+                                  u"0001.uhd"_s);
     for (QWidget* screen : {static_cast<QWidget*>(&editor), static_cast<QWidget*>(&properties)}) {
       EXPECT_EQ(ListOf(screen)->isColumnHidden(3), role == UserRole::kSeller);
       EXPECT_FALSE(ListOf(screen)->isColumnHidden(4));
@@ -243,7 +370,8 @@ TEST_F(Editors, TheSellerSeesNoCostsAndTheFileKeepsThem) {
 
 TEST_F(Editors, PropertiesShowTheFileAndOpenThePrints) {
   world_.Put(DocumentKind::kShipment, true);
-  TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+  DocumentProperties properties(world_.Context(), DocumentKind::kShipment, u"Склад"_s,
+                                u"0001.uhd"_s);
   ShowActive(&properties);
   EXPECT_EQ(properties.windowTitle(), u"Свойства накладной ухода товара N 1");
   EXPECT_EQ(TextOf(&properties, "Text4"), u"180.00");
@@ -270,7 +398,8 @@ TEST_F(Editors, PropertiesPrintTheFiguresOfADocumentWithDecimalCommas) {
   world_.Temp().PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
                          {u"1"_s, u"22.11.2026"_s, u"-"_s, u"180,00"_s, u"2,5"_s, u"175,50"_s,
                           u"да"_s, u"Чай"_s, u"3"_s, u"шт."_s, u"45.50"_s, u"60.00"_s, u"58.50"_s});
-  TovUhod_Ass properties(world_.Context(), u"Склад"_s, u"0001.uhd"_s);
+  DocumentProperties properties(world_.Context(), DocumentKind::kShipment, u"Склад"_s,
+                                u"0001.uhd"_s);
   ShowActive(&properties);
   EXPECT_EQ(TextOf(&properties, "Text3"), u"2.5");
   EXPECT_EQ(TextOf(&properties, "net_sum"), u"175.50");
@@ -288,9 +417,10 @@ TEST_F(Editors, PropertiesPrintTheFiguresOfADocumentWithDecimalCommas) {
 TEST_F(Editors, EachPrintCommandOpensItsScreen) {
   world_.Put(DocumentKind::kReceipt);
   world_.Put(DocumentKind::kTransfer);
-  PrihNew receipt(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
-  vnutrNew transfer(world_.Context(), world_.Open(DocumentKind::kTransfer, u"0001.vpr"_s));
-  TovPrih_Ass properties(world_.Context(), u"Склад"_s, u"0001.prh"_s);
+  DocumentEditor receipt(world_.Context(), world_.Open(DocumentKind::kReceipt, u"0001.prh"_s));
+  DocumentEditor transfer(world_.Context(), world_.Open(DocumentKind::kTransfer, u"0001.vpr"_s));
+  DocumentProperties properties(world_.Context(), DocumentKind::kReceipt, u"Склад"_s,
+                                u"0001.prh"_s);
   const std::tuple<QWidget*, const char*, QString> prints[] = {
       {&receipt, "prn", u"prihnokl"_s},
       {&transfer, "prn", u"vnNakl"_s},

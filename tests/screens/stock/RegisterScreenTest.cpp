@@ -4,10 +4,9 @@
 #include <QRadioButton>
 
 #include "DocumentWorld.h"
-#include "screens/stock/documents/TovPrih.h"
-#include "screens/stock/documents/TovUhod.h"
-#include "screens/stock/documents/vnutr.h"
+#include "screens/stock/documents/DocumentRegisterScreen.h"
 #include "ui/controls/DateField.h"
+#include "ui/controls/Forms.h"
 
 namespace kladez {
 namespace {
@@ -34,9 +33,9 @@ TEST_F(RegisterScreens, ShowTheirColumnsAndTotals) {
   world_.Put(DocumentKind::kReceipt, true);
   world_.Put(DocumentKind::kShipment);
   world_.Put(DocumentKind::kTransfer);
-  TovPrih receipts(world_.Context());
-  TovUhod shipments(world_.Context());
-  vnutr transfers(world_.Context());
+  DocumentRegisterScreen receipts(world_.Context(), DocumentKind::kReceipt);
+  DocumentRegisterScreen shipments(world_.Context(), DocumentKind::kShipment);
+  DocumentRegisterScreen transfers(world_.Context(), DocumentKind::kTransfer);
   EXPECT_EQ(RowTexts(&receipts, 0),
             QStringList({u"1"_s, u"22.11.2026"_s, u"-"_s, u"180.00"_s, u"да"_s, u"0001.prh"_s}));
   EXPECT_EQ(RowTexts(&shipments, 0), QStringList({u"1"_s, u"22.11.2026"_s, u"-"_s, u"180.00"_s,
@@ -62,7 +61,7 @@ TEST_F(RegisterScreens, EachOptionEnablesItsOwnInputAndRebuilds) {
   world_.Put(DocumentKind::kReceipt);
   world_.Put(DocumentKind::kReceipt, false, QDate(2026, 10, 22));
   world_.Put(DocumentKind::kReceipt, false, QDate(2025, 11, 22));
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   EXPECT_EQ(Files(&screen), QStringList{u"0001.prh"_s});
   const char* const options[] = {"by_month", "by_year", "by_day"};
@@ -95,20 +94,20 @@ TEST_F(RegisterScreens, OrderIsKeptAtOnceAndTransfersKeepTheirOwn) {
     world_.Put(DocumentKind::kTransfer);
   }
   {
-    TovPrih receipts(world_.Context());
+    DocumentRegisterScreen receipts(world_.Context(), DocumentKind::kReceipt);
     Find<QRadioButton>(&receipts, "last_to_first")->click();
   }
   EXPECT_EQ(world_.Settings().Read(settings::kSort), u"ZA");
   EXPECT_EQ(world_.Settings().Read(settings::kTransferSort), u"AZ");
-  TovUhod shipments(world_.Context());
+  DocumentRegisterScreen shipments(world_.Context(), DocumentKind::kShipment);
   EXPECT_TRUE(Find<QRadioButton>(&shipments, "last_to_first")->isChecked());
   EXPECT_EQ(Files(&shipments), QStringList({u"0002.uhd"_s, u"0001.uhd"_s}));
-  vnutr transfers(world_.Context());
+  DocumentRegisterScreen transfers(world_.Context(), DocumentKind::kTransfer);
   EXPECT_EQ(Files(&transfers), QStringList({u"0001.vpr"_s, u"0002.vpr"_s}));
 }
 
 TEST_F(RegisterScreens, TheFilterFoldsAwayAndEscapeCloses) {
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   auto* fold = Find<QAbstractButton>(&screen, "GoldButton1");
   EXPECT_TRUE(fold->text().startsWith(u'-'));
@@ -137,17 +136,14 @@ class Deletions : public RegisterScreens, public testing::WithParamInterface<Del
 TEST_P(Deletions, AskAndDoThis) {
   const DeletionCase& c = GetParam();
   world_.Put(c.kind, c.closed);
-  std::unique_ptr<QWidget> screen;
-  if (c.kind == DocumentKind::kReceipt) screen = std::make_unique<TovPrih>(world_.Context());
-  if (c.kind == DocumentKind::kShipment) screen = std::make_unique<TovUhod>(world_.Context());
-  if (c.kind == DocumentKind::kTransfer) screen = std::make_unique<vnutr>(world_.Context());
-  ShowActive(screen.get());
+  DocumentRegisterScreen screen(world_.Context(), c.kind);
+  ShowActive(&screen);
   ModalAnswers answers({[&](QWidget* box) {
     EXPECT_EQ(box->windowTitle(), u"Удаление");
     Press(c.answer, c.question)(box);
   }});
-  QTest::keyClick(ListOf(screen.get()), Qt::Key_Delete);
-  EXPECT_EQ(ListOf(screen.get())->Records()->rowCount(), c.gone ? 0 : 1);
+  QTest::keyClick(ListOf(&screen), Qt::Key_Delete);
+  EXPECT_EQ(ListOf(&screen)->Records()->rowCount(), c.gone ? 0 : 1);
   EXPECT_EQ(world_.Temp().Lines(u"0001\\Склад\\товар.usl"_s), c.stock);
 }
 
@@ -183,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(RegisterScreens, Deletions, testing::ValuesIn(kDeletion
 
 TEST_F(RegisterScreens, TheSelectionStaysInItsPlace) {
   for (int i = 0; i < 4; ++i) world_.Put(DocumentKind::kReceipt);
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   RecordList* list = ListOf(&screen);
   const auto remove = [&] {
@@ -211,8 +207,47 @@ TEST_F(RegisterScreens, TheSelectionStaysInItsPlace) {
   EXPECT_EQ(list->CurrentRow(), 0);
 }
 
+TEST_F(RegisterScreens, ASavedDocumentThatTheFilterHidesIsToldAndShownOnRequest) {
+  world_.Put(DocumentKind::kReceipt);
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
+  ShowActive(&screen);
+  auto* note = Find<QLabel>(&screen, "hidden_note");
+  {
+    ModalAnswers answers({[](QWidget* editor) {
+      Find<DateField>(editor, "date")->setDate(QDate(2025, 12, 31));
+      Click(editor, "ok");
+    }});
+    Click(&screen, "Command2");
+  }
+  EXPECT_EQ(Files(&screen), QStringList());
+  EXPECT_TRUE(note->isVisible());
+  EXPECT_TRUE(
+      note->text().startsWith(u"Накладная 1 от 31.12.2025 сохранена, фильтр её не показывает."));
+  emit note->linkActivated(u"show"_s);
+  EXPECT_EQ(Files(&screen), QStringList{u"0001.prh"_s});
+  EXPECT_FALSE(note->isVisible());
+}
+
+TEST_F(RegisterScreens, AQuestionThatDeletesNamesTheDocumentAndTheEnterKeyDeletesNothing) {
+  for (const bool closed : {false, true}) {
+    world_.Put(DocumentKind::kReceipt, closed);
+    DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
+    ShowActive(&screen);
+    ModalAnswers answers({[&](QWidget* dialog) {
+      const QString told = qobject_cast<QMessageBox*>(dialog)->informativeText();
+      EXPECT_TRUE(
+          told.startsWith(u"Накладная %1 от 22.11.2026, -, на сумму 180.00."_s.arg(closed + 1)));
+      EXPECT_EQ(told.contains(u"не проведена"), !closed);
+      QTest::keyClick(dialog, Qt::Key_Return);
+    }});
+    ListOf(&screen)->SelectRow(closed);
+    QTest::keyClick(ListOf(&screen), Qt::Key_Delete);
+    EXPECT_EQ(Files(&screen).size(), closed + 1);
+  }
+}
+
 TEST_F(RegisterScreens, CommandsOnAnEmptyListDoNothing) {
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   ModalAnswers none({});
   for (const char* command : {"Command2", "Command3", "Command8"}) Click(&screen, command);
@@ -222,7 +257,7 @@ TEST_F(RegisterScreens, CommandsOnAnEmptyListDoNothing) {
 
 TEST_F(RegisterScreens, AMissingLedgerIsToldAndNoEditorOpens) {
   QFile::remove(world_.Temp().Data().Resolve(u"0001\\Склад\\товар.usl"_s));
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   ModalAnswers answers({[](QWidget* box) {
     auto* message = qobject_cast<QMessageBox*>(box);
@@ -238,7 +273,7 @@ TEST_F(RegisterScreens, AMissingLedgerIsToldAndNoEditorOpens) {
 TEST_F(RegisterScreens, AWarehouseThatIsGoneShowsNoRowsOfAnother) {
   world_.Put(DocumentKind::kReceipt);
   QDir(world_.Temp().Data().Resolve(u"0001\\Магазин"_s)).removeRecursively();
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   ModalAnswers answers({Press(QMessageBox::Ok)});
   Find<QComboBox>(&screen, "warehouse")->setCurrentText(u"Магазин"_s);
@@ -248,7 +283,7 @@ TEST_F(RegisterScreens, AWarehouseThatIsGoneShowsNoRowsOfAnother) {
 TEST_F(RegisterScreens, WithoutWarehousesTheyOpenEmpty) {
   world_.TheSession().warehouses.clear();
   ModalAnswers none({});
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   EXPECT_EQ(Files(&screen), QStringList());
 }
@@ -257,7 +292,7 @@ TEST_F(RegisterScreens, TransfersAreThereWithoutWarehousesToo) {
   world_.Put(DocumentKind::kTransfer);
   world_.TheSession().warehouses.clear();
   ModalAnswers none({});
-  vnutr screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kTransfer);
   ShowActive(&screen);
   EXPECT_EQ(Files(&screen), QStringList(u"0001.vpr"_s));
 }
@@ -277,7 +312,7 @@ TEST_F(RegisterScreens, DamagedDocumentsNeitherCrashNorHang) {
   put(u"0004.prh"_s, head.first(15));
   put(u"0005.prh"_s, head + QByteArray(50 << 20, '\0'));
   put(u"0006.prh"_s, head + EncodeText(u"Чай\r\n3"));
-  TovPrih screen(world_.Context());
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
   EXPECT_EQ(Files(&screen),
             QStringList({u"0003.prh"_s, u"0004.prh"_s, u"0005.prh"_s, u"0006.prh"_s}));

@@ -30,11 +30,15 @@ class LongWorkTest : public testing::Test {
   // True when the work was ended early.
   bool Work(const std::function<void()>& act) {
     LongWork work(&screen_, u"Чтение <документов>"_s);
-    const auto go_on = work.Callback();
+    const Progress progress = work.Told();
     const QDeadlineTimer limit(20000);
     bool acted = false;
     while (!limit.hasExpired()) {
-      if (!go_on(0.5)) return true;
+      try {
+        progress.Tell(0.5);
+      } catch (const WorkCancelled&) {
+        return true;
+      }
       if (!acted && Bar() != nullptr) {
         acted = true;
         act();
@@ -52,8 +56,8 @@ class LongWorkTest : public testing::Test {
 
 TEST_F(LongWorkTest, ShortWorkShowsNothing) {
   LongWork work(&screen_, u"Чтение"_s);
-  EXPECT_TRUE(work.Callback()(0));
-  EXPECT_TRUE(work.Callback()(1));
+  work.Told().Tell(0);
+  work.Told().Tell(1);
   EXPECT_EQ(Bar(), nullptr);
 }
 
@@ -85,6 +89,25 @@ TEST_F(LongWorkTest, ClicksAndKeysDoNotReachTheWindowBehind) {
   }));
   EXPECT_EQ(clicks_, 0);
   QTest::mouseClick(&button_, Qt::LeftButton);
+  EXPECT_EQ(clicks_, 1);
+}
+
+TEST_F(LongWorkTest, ACommandThatTakesTheScreenAwayEndsItAndComesAfterwards) {
+  int commands = 0;
+  EXPECT_TRUE(Work([&] {
+    EXPECT_TRUE(LongWork::LeaveFor(&screen_, [&] { ++commands; }));
+    EXPECT_EQ(commands, 0);
+  }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return commands == 1; }));
+  EXPECT_FALSE(LongWork::LeaveFor(&screen_, [] {})) << "nothing is running";
+}
+
+TEST_F(LongWorkTest, ClicksOnAWayOutPassTheBar) {
+  LongWork::LetPass(&button_);
+  EXPECT_TRUE(Work([&] {
+    QTest::mouseClick(&button_, Qt::LeftButton);
+    Click(Bar(), "stop");
+  }));
   EXPECT_EQ(clicks_, 1);
 }
 

@@ -5,9 +5,13 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <algorithm>
+#include <cerrno>
 
+#include "books/stock/DocumentNumbers.h"
 #include "formats/Dates.h"
 #include "screens/stock/LineDialog.h"
+#include "screens/stock/documents/DocumentNotes.h"
+#include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
@@ -18,6 +22,7 @@
 #include "ui/controls/Guard.h"
 #include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
+#include "ui/controls/UnsavedWork.h"
 #include "ui/controls/WrapRow.h"
 
 namespace kladez {
@@ -31,9 +36,15 @@ constexpr int kLettersAcross = 110;
 
 }  // namespace
 
-DocumentEditor::DocumentEditor(AppContext& context, DocumentKind kind, DocumentDraft draft,
-                               QWidget* parent)
-    : QDialog(parent), context_(context), screens_(ScreensOf(kind)), draft_(std::move(draft)) {
+DocumentEditor::DocumentEditor(AppContext& context, DocumentDraft draft, QWidget* parent,
+                               NumberCount count_of_number)
+    : QDialog(parent),
+      context_(context),
+      screens_(ScreensOf(draft.Kind())),
+      draft_(std::move(draft)),
+      first_number_(draft_.IsNew() ? QString() : draft_.Head().number),
+      count_of_number_(std::move(count_of_number)),
+      notes_(new DocumentNotes(this)) {
   setObjectName(screens_.editor_name);
   setWindowTitle(screens_.editor_caption);
   BuildList();
@@ -41,17 +52,31 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentKind kind, DocumentD
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(NewHead());
+  layout->addWidget(notes_);
   layout->addSpacing(look::kTight);
   layout->addLayout(NewListHead());
-  layout->addWidget(ListView1, 1);
+  layout->addWidget(list_, 1);
   layout->addLayout(NewFoot());
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(NewEndingRow(ok_, cancel_));
 
-  ShareListKeys(this, ListView1);
+  ShareListKeys(this, list_);
+  SetHelpPage(this, context.data, u"documents.htm");
+  OrderTabs();
+  TakeFields();
+  draft_.MarkUnchanged();
+  TakeStock();
   ShowSums();
-  ListView1->SelectRow(0);
-  ListView1->setFocus();
+  connect(number_, &TextLine::Change, this, &DocumentEditor::ShowNotes);
+  connect(notes_, &DocumentNotes::EnterAnewAsked, this, &DocumentEditor::EnterAnew);
+  new UnsavedWork(this, {.is_changed =
+                             [this] {
+                               TakeFields();
+                               return draft_.IsChanged();
+                             },
+                         .save = [this] { return SaveUnasked(); }});
+  list_->SelectRow(0);
+  list_->setFocus();
   // Wide enough for the names of two warehouses, with large letters too.
   const int room = screen()->availableSize().width() - look::kGap;
   const int wanted = std::max(112 * look::kGrid, kLettersAcross * fontMetrics().averageCharWidth());
@@ -110,21 +135,26 @@ TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
       const QSignalBlocker quiet(choice);
       choice->Choose(draft_.Head().*side);
     }
+    TakeStock();
+    ShowSums();
+    list_->Records()->Reset();
   });
   return choice;
 }
 
 void DocumentEditor::BuildList() {
-  ListView1 = new RecordList(this);
-  ListView1->setObjectName(u"ListView1"_s);
-  ListView1->SetRecords(
-      NewLineModel(screens_.editor_columns, context_.session.IsSeller(), draft_.Lines(), this));
-  ListView1->SetEmptyText(u"Список пуст. Нажмите «Добавить» или клавишу Insert."_s);
-  connect(ListView1, &RecordList::InsertPressed, this, &DocumentEditor::Add);
-  connect(ListView1, &RecordList::DividePressed, this, &DocumentEditor::Change);
-  connect(ListView1, &RecordList::EnterPressed, this, &DocumentEditor::Change);
-  connect(ListView1, &RecordList::DoubleClicked, this, &DocumentEditor::Change);
-  connect(ListView1, &RecordList::DeletePressed, this, &DocumentEditor::Remove);
+  list_ = new RecordList(this);
+  list_->setObjectName(u"ListView1"_s);
+  list_->SetRecords(NewLineModel(
+      screens_.editor_columns, context_.session.IsSeller(), draft_.Lines(), this, [this](int row) {
+        return row < static_cast<int>(short_lines_.size()) && short_lines_[row];
+      }));
+  list_->SetEmptyText(u"Список пуст. Нажмите «Добавить» или клавишу Insert."_s);
+  connect(list_, &RecordList::InsertPressed, this, &DocumentEditor::Add);
+  connect(list_, &RecordList::DividePressed, this, &DocumentEditor::Change);
+  connect(list_, &RecordList::EnterPressed, this, &DocumentEditor::Change);
+  connect(list_, &RecordList::DoubleClicked, this, &DocumentEditor::Change);
+  connect(list_, &RecordList::DeletePressed, this, &DocumentEditor::Remove);
 }
 
 QLayout* DocumentEditor::NewListHead() {
@@ -138,8 +168,7 @@ QLayout* DocumentEditor::NewListHead() {
   auto* row = new QHBoxLayout;
   row->setSpacing(look::kGrid);
   for (QPushButton* button : {add_, change_, remove_}) row->addWidget(button);
-  row->addWidget(
-      new HintPicture(HintFor(screens_.editor_name, u"Список товаров"), {ListView1}, this));
+  row->addWidget(new HintPicture(HintFor(screens_.editor_name, u"Список товаров"), {list_}, this));
   row->addStretch();
   return row;
 }
@@ -156,29 +185,29 @@ QLayout* DocumentEditor::NewTotals() {
   auto* form = new QFormLayout;
   form->setSpacing(look::kTight);
   form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  Text2 = new TextLineDecimal(this);
-  Text2->setText(draft_.Head().sum);
-  AddTotal(form, screens_.sum_caption, Text2, u"Text2"_s, screens_.sum_hint);
-  connect(Text2, &TextLine::Change, this, [this] {
-    draft_.SetSum(Text2->text());
+  sum_ = new TextLineDecimal(this);
+  sum_->setText(draft_.Head().sum);
+  AddTotal(form, screens_.sum_caption, sum_, u"Text2"_s, screens_.sum_hint);
+  connect(sum_, &TextLine::Change, this, [this] {
+    draft_.SetSum(sum_->text());
     ShowNetSum();
   });
   if (!screens_.HasDiscount()) return form;
 
-  Text19 = new TextLineNumber(this);
-  Text19->setText(draft_.Head().discount);
-  AddTotal(form, u"С&кидка %:"_s, Text19, u"Text19"_s, u"Скидка"_s);
-  connect(Text19, &TextLine::Change, this, [this] {
-    draft_.SetDiscount(Text19->text());
+  discount_ = new TextLineNumber(this);
+  discount_->setText(draft_.Head().discount);
+  AddTotal(form, u"С&кидка %:"_s, discount_, u"Text19"_s, u"Скидка"_s);
+  connect(discount_, &TextLine::Change, this, [this] {
+    draft_.SetDiscount(discount_->text());
     ShowNetSum();
   });
   // It follows from the two above and can't be typed.
-  DecText1 = new TextLineDecimal(this);
-  MakeReadOnly(DecText1);
-  QFont bold(DecText1->font());
+  net_sum_ = new TextLineDecimal(this);
+  MakeReadOnly(net_sum_);
+  QFont bold(net_sum_->font());
   bold.setBold(true);
-  DecText1->setFont(bold);
-  AddTotal(form, u"Сумма со скидкой:"_s, DecText1, u"DecText1"_s, u"Сумма по счету"_s);
+  net_sum_->setFont(bold);
+  AddTotal(form, u"Сумма со скидкой:"_s, net_sum_, u"DecText1"_s, u"Сумма по счету"_s);
   return form;
 }
 
@@ -188,6 +217,7 @@ QLayout* DocumentEditor::NewPrints() {
     QPushButton* button = NewCommand(this, command.name, command.caption, look::IconName::kPrint);
     connect(button, &QPushButton::clicked, this, [this, &command] { Print(command); });
     row->addWidget(button);
+    prints_.push_back(button);
   }
   return row;
 }
@@ -196,12 +226,12 @@ QLayout* DocumentEditor::NewFoot() {
   auto* left = new QVBoxLayout;
   left->setSpacing(look::kGrid);
   if (BookOf(screens_.kind).has_flag) {
-    Check1 = new QCheckBox(u"Счет &закрыт"_s, this);
-    Check1->setObjectName(u"Check1"_s);
-    Check1->setChecked(draft_.Head().IsClosed());
+    closed_ = new QCheckBox(u"Счет &закрыт"_s, this);
+    closed_->setObjectName(u"Check1"_s);
+    closed_->setChecked(draft_.Head().IsClosed());
     // What has posted can't be taken back but by deleting the document.
-    Check1->setEnabled(!draft_.WasClosed());
-    QBoxLayout* flag = WithHint(Check1, HintFor(screens_.editor_name, u"Счет закрыт"));
+    closed_->setEnabled(!draft_.WasClosed());
+    QBoxLayout* flag = WithHint(closed_, HintFor(screens_.editor_name, u"Счет закрыт"));
     flag->addStretch();
     left->addLayout(flag);
   }
@@ -220,73 +250,164 @@ QLayout* DocumentEditor::NewFoot() {
   return foot;
 }
 
+// As the eye goes, line by line; the commands that end the dialog come last.
+void DocumentEditor::OrderTabs() {
+  std::vector<QWidget*> order = {number_, date_,   party_, destination_, add_,
+                                 change_, remove_, list_,  closed_};
+  order.insert(order.end(), prints_.begin(), prints_.end());
+  order.insert(order.end(), {sum_, discount_, ok_, cancel_});
+  std::erase(order, nullptr);
+  for (size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
 void DocumentEditor::ShowSums() {
-  Text2->setText(draft_.Head().sum);
+  sum_->setText(draft_.Head().sum);
   ShowNetSum();
+  ShowNotes();
+  short_lines_ = stock_ ? stock_->ShortLines() : std::vector<bool>();
+}
+
+void DocumentEditor::ShowNotes() {
+  const QString number = number_->text();
+  const bool taken = count_of_number_ && !number.isEmpty() &&
+                     count_of_number_(number) > (number == first_number_ ? 1 : 0);
+  notes_->TellNumber(taken ? number : QString());
+  notes_->TellPosted(draft_.HasPosted() && draft_.LinesAreChanged());
+}
+
+// What goods come to is never short, so a receipt asks for nothing. Where directory or ledger can't
+// be read nothing is marked; whatever needs them tells so.
+void DocumentEditor::TakeStock() {
+  stock_.reset();
+  if (screens_.kind == DocumentKind::kReceipt) return;
+  IgnoreErrors([this] { stock_.emplace(draft_); });
 }
 
 void DocumentEditor::ShowNetSum() {
-  if (DecText1 != nullptr) DecText1->setText(draft_.Head().net_sum);
+  if (net_sum_ != nullptr) net_sum_->setText(draft_.Head().net_sum);
 }
 
 void DocumentEditor::Add() {
+  TakeStock();
   Guarded(this, [&] {
     screens_.pick(context_, draft_.Warehouse(), this,
                   [this](const GoodsPick& pick) { TakePick(pick); });
   });
-  ListView1->setFocus();
+  list_->setFocus();
 }
 
 void DocumentEditor::TakePick(const GoodsPick& pick) {
   if (!draft_.AddLine(pick)) return;
-  ListView1->Records()->Reset();
-  ListView1->SelectRow(static_cast<int>(draft_.Lines().size()) - 1);
   ShowSums();
+  list_->Records()->Reset();
+  list_->SelectRow(static_cast<int>(draft_.Lines().size()) - 1);
 }
 
 void DocumentEditor::Change() {
-  const int row = ListView1->CurrentRow();
+  const int row = list_->CurrentRow();
   if (row < 0) return;
-  class LineDialog dialog(draft_.Lines()[row], this);
+  LineDialog dialog(draft_.Lines()[row], this);
   if (dialog.exec() == QDialog::Accepted) {
     draft_.ChangeLine(row, dialog.Quantity(), dialog.Price(), dialog.Amount());
-    ListView1->Records()->Update(row);
     ShowSums();
+    list_->Records()->Reset();  // lines below may lack goods now, or no more
+    list_->SelectRow(row);
   }
-  ListView1->setFocus();
+  list_->setFocus();
 }
 
 void DocumentEditor::Remove() {
-  const int row = ListView1->CurrentRow();
+  const int row = list_->CurrentRow();
   if (row < 0) return;
   if (AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) {
-    ListView1->Records()->Remove(row, [&] { draft_.RemoveLine(row); });
-    ListView1->SelectRow(std::min(row, static_cast<int>(draft_.Lines().size()) - 1));
+    list_->Records()->Remove(row, [&] { draft_.RemoveLine(row); });
     ShowSums();
+    list_->Records()->Reset();
+    list_->SelectRow(std::min(row, static_cast<int>(draft_.Lines().size()) - 1));
   }
-  ListView1->setFocus();
+  list_->setFocus();
 }
 
 void DocumentEditor::TakeFields() {
   draft_.SetNumber(number_->text());
   draft_.SetDate(date_->date());
-  if (Check1 == nullptr) return;  // the warehouses of a transfer are taken as they are chosen
+  if (closed_ == nullptr) return;  // the warehouses of a transfer are taken as they are chosen
   draft_.SetParty(party_->Chosen());
-  draft_.SetClosed(Check1->isChecked());
+  draft_.SetClosed(closed_->isChecked());
 }
 
 void DocumentEditor::Print(const PrintCommand& command) {
   if (!FieldsAreSound(this)) return;
   TakeFields();
-  Guarded(this, [&] { RunPrint(command, context_, draft_.ToPrint(), this); });
+  Guarded(this, [&] { command.run(context_, draft_.ToPrint(), this); });
 }
 
 void DocumentEditor::Save() {
+  if (TrySave()) accept();
+}
+
+bool DocumentEditor::TrySave() {
   using Outcome = DocumentDraft::Outcome;
-  if (!FieldsAreSound(this)) return;
+  if (!FieldsAreSound(this)) return false;
   TakeFields();
   Outcome outcome = Outcome::kNoLines;
-  if (!Guarded(this, [&] { outcome = draft_.Save(); })) return;
+  bool stale = false;
+  const bool good = Guarded(this, [&] {
+    try {
+      outcome = draft_.Save();
+    } catch (const StaleFile& error) {
+      if (draft_.IsNew() && error.code().value() == EEXIST) {
+        outcome = Outcome::kFileExists;  // it came between the look and the save
+        return;
+      }
+      stale = AskYesNo(this, ErrorText(error) + u"\n\nПрочитать файл заново и сохранить?"_s,
+                       kAttention.toString());
+      if (!stale) throw WorkCancelled();
+      draft_.TakeFilesAnew();
+    }
+  });
+  if (!good) return false;
+  if (stale) return TrySave();
+  if (outcome == Outcome::kFileExists && AskForFreeFile()) return TrySave();
+  if (outcome == Outcome::kSameWarehouse) ShowInformation(this, u"Выбирите разные склады"_s);
+  return outcome == Outcome::kSaved;
+}
+
+// The way out with "Да": unlike "OK" it says why a document without lines stays where it is.
+bool DocumentEditor::SaveUnasked() {
+  if (BookOf(screens_.kind).has_flag && draft_.Lines().empty()) {
+    ShowInformation(this, u"В документе нет ни одного товара, сохранять нечего."_s);
+    return false;
+  }
+  if (!TrySave()) return false;
+  accept();
+  return true;
+}
+
+bool DocumentEditor::AskForFreeFile() {
+  return Guarded(this, [this] {
+    const QString free = draft_.FreeFile();
+    const Answer answer = AskYesNoCancel(
+        this,
+        u"Накладная %1 уже есть. Сохранить под номером файла %2?\n\n«Нет» — записать поверх неё."_s
+            .arg(FileNumberText(draft_.File()), FileNumberText(free)),
+        kAttention.toString());
+    if (answer == Answer::kCancel) throw WorkCancelled();
+    if (answer == Answer::kYes) draft_.SaveAs(free);
+    if (answer == Answer::kNo) draft_.SaveOverExisting();
+  });
+}
+
+void DocumentEditor::EnterAnew() {
+  if (!FieldsAreSound(this)) return;
+  TakeFields();
+  const QString question =
+      u"Документ будет удалён с возвратом остатков и занесён заново с этими строками под новым "
+      u"номером файла. Продолжить?"_s;
+  if (!AskYesNo(this, question, windowTitle(), DefaultAnswer::kNo)) return;
+  using Outcome = DocumentDraft::Outcome;
+  Outcome outcome = Outcome::kNoLines;
+  if (!Guarded(this, [&] { outcome = draft_.EnterAnew(); })) return;
   if (outcome == Outcome::kSaved) accept();
   if (outcome == Outcome::kSameWarehouse) ShowInformation(this, u"Выбирите разные склады"_s);
 }

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
+#include <optional>
 
-#include "books/stock/DocumentDraft.h"
+#include "books/stock/DraftStock.h"
 #include "screens/stock/documents/DocumentScreens.h"
 #include "ui/AppContext.h"
 
@@ -17,6 +19,7 @@ class QPushButton;
 namespace kladez {
 
 class DateField;
+class DocumentNotes;
 class RecordList;
 class TextChoice;
 class TextLine;
@@ -26,8 +29,17 @@ class TextLineNumber;
 class DocumentEditor : public QDialog {
   Q_OBJECT
 
- protected:
-  DocumentEditor(AppContext& context, DocumentKind kind, DocumentDraft draft, QWidget* parent);
+ public:
+  // Tells how many documents of the register bear a number.
+  using NumberCount = std::function<int(const QString& number)>;
+
+  // The editor of the draft's kind.
+  DocumentEditor(AppContext& context, DocumentDraft draft, QWidget* parent = nullptr,
+                 NumberCount count_of_number = {});
+
+  // The file that was saved: another than the draft's where that one was taken or the document was
+  // entered anew.
+  const DocumentDraft& Draft() const { return draft_; }
 
  private:
   QLayout* NewHead();
@@ -47,6 +59,13 @@ class DocumentEditor : public QDialog {
   void Change();
   void Remove();
   void Save();
+  bool TrySave();
+  bool SaveUnasked();
+  bool AskForFreeFile();
+  void EnterAnew();
+  void OrderTabs();
+  void ShowNotes();
+  void TakeStock();
   void ShowSums();
   void ShowNetSum();
   void TakeFields();
@@ -55,24 +74,27 @@ class DocumentEditor : public QDialog {
   AppContext& context_;
   const DocumentScreens& screens_;
   DocumentDraft draft_;
+  const QString first_number_;
+  const NumberCount count_of_number_;
+  std::optional<DraftStock> stock_;  // where directory and ledger can be read
+  std::vector<bool> short_lines_;    // the warehouse runs out with them
 
+  DocumentNotes* notes_;
+  std::vector<QWidget*> prints_;       // the commands at the foot
   TextLine* number_;                   // "N:"
   DateField* date_;                    // "Дата:"
   TextChoice* party_;                  // "Поставщик:", "Клиент:", "Откуда:"
   TextChoice* destination_ = nullptr;  // "Куда:"
-  RecordList* ListView1;               // the goods lines
-  QCheckBox* Check1 = nullptr;         // "Счет закрыт"
-  TextLineDecimal* Text2;            // "Сумма по счету:", "Сумма:", "Сумма :"
-  TextLineNumber* Text19 = nullptr;  // "Скидка %:"
-  TextLineDecimal* DecText1 = nullptr;  // "Сумма со скидкой:"
+  RecordList* list_;                   // the goods lines
+  QCheckBox* closed_ = nullptr;        // "Счет закрыт"
+  TextLineDecimal* sum_;  // "Сумма по счету:", "Сумма:", "Сумма :"
+  TextLineNumber* discount_ = nullptr;  // "Скидка %:"
+  TextLineDecimal* net_sum_ = nullptr;  // "Сумма со скидкой:"
   QPushButton* add_;                    // "Добавить"
   QPushButton* change_;                 // "Изменить"
   QPushButton* remove_;                 // "Удалить"
   QPushButton* ok_;                     // "OK"
   QPushButton* cancel_;                 // "Отмена"
 };
-
-// The editor of the draft's kind: PrihNew, UhodNew or vnutrNew.
-DocumentEditor* NewEditor(AppContext& context, DocumentDraft draft, QWidget* parent);
 
 }  // namespace kladez

@@ -6,6 +6,7 @@
 #include <QMenu>
 
 #include "formats/Numbers.h"
+#include "ui/Help.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Forms.h"
@@ -31,13 +32,14 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   setObjectName(screens_.properties_name);
   setWindowTitle(screens_.properties_caption + head_.number.left(look::kLongestText));
 
-  ListView1 = new RecordList(this);
-  ListView1->setObjectName(u"ListView1"_s);
-  ListView1->SetRecords(
+  list_ = new RecordList(this);
+  list_->setObjectName(u"ListView1"_s);
+  list_->SetRecords(
       NewLineModel(screens_.properties_columns, context.session.IsSeller(), lines_, this));
-  ListView1->SetEmptyText(u"В документе нет товаров."_s);
-  ListView1->SelectRow(0);
+  list_->SetEmptyText(u"В документе нет товаров."_s);
+  list_->SelectRow(0);
 
+  SetHelpPage(this, context.data, u"documents.htm");
   close_ = NewCommand(this, u"close"_s, u"&Закрыть"_s);
   connect(close_, &QPushButton::clicked, this, &QDialog::accept);
   auto* commands = new QHBoxLayout;
@@ -52,7 +54,7 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   fields->addLayout(NewFields(head_));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
-  layout->addWidget(ListView1, 1);
+  layout->addWidget(list_, 1);
   layout->addLayout(fields);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(commands);
@@ -76,9 +78,9 @@ QFormLayout* DocumentProperties::NewFields(const DocumentHead& head) {
   auto* form = new QFormLayout;
   form->setSpacing(look::kTight);
   form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  Text4 = AddField(form, screens_.properties_sum_caption, u"Text4"_s, head.sum);
+  sum_ = AddField(form, screens_.properties_sum_caption, u"Text4"_s, head.sum);
   if (screens_.HasDiscount()) {
-    Text3 = AddField(form, u"Скидка %:"_s, u"Text3"_s, head.discount);
+    discount_ = AddField(form, u"Скидка %:"_s, u"Text3"_s, head.discount);
     net_sum_ = AddField(form, u"Сумма со скидкой:"_s, u"net_sum"_s, head.net_sum);
   }
   if (BookOf(screens_.kind).has_flag) {
@@ -91,7 +93,7 @@ void DocumentProperties::AddPrints(QHBoxLayout* row) {
   print_ = NewCommand(this, u"print"_s, u"&Печать"_s, look::IconName::kPrint);
   row->addWidget(print_);
   // The same commands stand in the menu of the list.
-  ListView1->setContextMenuPolicy(Qt::ActionsContextMenu);
+  list_->setContextMenuPolicy(Qt::ActionsContextMenu);
   const bool one = screens_.prints.size() == 1;
   auto* menu = new QMenu(this);
   for (const PrintCommand& command : screens_.prints) {
@@ -101,11 +103,10 @@ void DocumentProperties::AddPrints(QHBoxLayout* row) {
       Document document{head_, {}};
       for (const DraftLine& line : lines_) document.lines.push_back(line.line);
       Guarded(this, [&] {
-        RunPrint(command, context_, PrintSourceOf(screens_.kind, warehouse_, std::move(document)),
-                 this);
+        command.run(context_, PrintSourceOf(screens_.kind, warehouse_, std::move(document)), this);
       });
     });
-    ListView1->addAction(action);
+    list_->addAction(action);
     menu->addAction(action);
   }
   if (one) {

@@ -18,10 +18,10 @@ class TextLine;
 class DocumentProperties : public QDialog {
   Q_OBJECT
 
- protected:
+ public:
   // Throws filesystem_error when the file can't be read.
   DocumentProperties(AppContext& context, DocumentKind kind, const QString& warehouse,
-                     const QString& file, QWidget* parent);
+                     const QString& file, QWidget* parent = nullptr);
 
  private:
   TextLine* AddField(QFormLayout* form, const QString& caption, const QString& name,
@@ -35,17 +35,13 @@ class DocumentProperties : public QDialog {
   DocumentHead head_;
   std::vector<DraftLine> lines_;
 
-  RecordList* ListView1;
-  TextLine* Text4;                // "Сумма по накладной:", "Сумма:"
-  TextLine* Text3 = nullptr;      // "Скидка %:"
+  RecordList* list_;
+  TextLine* sum_;                 // "Сумма по накладной:", "Сумма:"
+  TextLine* discount_ = nullptr;  // "Скидка %:"
   TextLine* net_sum_ = nullptr;   // "Сумма со скидкой:"
   TextLine* closed_ = nullptr;    // "Счет закрыт:"
   QPushButton* print_ = nullptr;  // "Печать"
   QPushButton* close_;            // "Закрыть"
 };
-
-// The properties of a document of a kind: TovPrih_Ass, TovUhod_Ass, or those of a transfer.
-DocumentProperties* NewProperties(AppContext& context, DocumentKind kind, const QString& warehouse,
-                                  const QString& file, QWidget* parent);
 
 }  // namespace kladez

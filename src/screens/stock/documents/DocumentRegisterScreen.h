@@ -20,9 +20,10 @@ class RegisterFilterPanel;
 class DocumentRegisterScreen : public QWidget {
   Q_OBJECT
 
- protected:
-  DocumentRegisterScreen(AppContext& context, DocumentKind kind, QWidget* parent);
+ public:
+  DocumentRegisterScreen(AppContext& context, DocumentKind kind, QWidget* parent = nullptr);
 
+ protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -31,26 +32,32 @@ class DocumentRegisterScreen : public QWidget {
   bool HasWarehouse() const;
   void Rebuild();
   void Edit(DocumentDraft draft, int row);
+  void TellHidden(const DocumentDraft& saved);
+  void ShowHidden();
   void Add();
   void Change();
   void Delete();
   void View();
-  bool AskDeletion(const RegisterRow& row, bool* reverse);
-  DocumentDraft::Place ThePlace() const;
+  enum class Deletion { kNone, kOnly, kWithReversal };
+  Deletion AskDeletion(const RegisterRow& row);
+  DocumentDraft::Place PlaceOfNew() const;
 
   AppContext& context_;
   const DocumentScreens& screens_;
   DocumentRegister rows_;
   RegisterFilterPanel* filter_;
-  QLabel* status_;  // "Документов:2     Сумма:10.50"
+  QLabel* status_;       // "Документов:2     Сумма:10.50"
+  QLabel* hidden_note_;  // a document was saved that the filter hides
+  QString hidden_file_;
+  QDate hidden_date_;
 
-  RecordList* ListView1;
-  QPushButton* Command1;            // "Добавить"
-  QPushButton* Command2;            // "Изменить"
-  QPushButton* Command3;            // "Удалить"
-  QPushButton* Command7;            // "Закрыть"
-  QPushButton* Command8;            // "Просмотр"
-  QPushButton* Command9 = nullptr;  // "Печать журнала"
+  RecordList* list_;
+  QPushButton* add_;                // "Добавить"
+  QPushButton* change_;             // "Изменить"
+  QPushButton* remove_;             // "Удалить"
+  QPushButton* close_;              // "Закрыть"
+  QPushButton* view_;               // "Просмотр"
+  QPushButton* journal_ = nullptr;  // "Печать журнала"
 };
 
 }  // namespace kladez

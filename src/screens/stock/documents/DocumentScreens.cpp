@@ -1,7 +1,5 @@
 #include "screens/stock/documents/DocumentScreens.h"
 
-#include <memory>
-
 #include "screens/directories/GoodsPicker.h"
 #include "screens/prices/PricePicker.h"
 #include "screens/printing/CashOrderScreen.h"
@@ -14,17 +12,17 @@ namespace {
 using namespace Qt::StringLiterals;
 using H = DocumentHead;
 
-QDialog* OpenWaybill(AppContext& context, const PrintSource& source, QWidget* parent) {
-  return new WaybillScreen(context, source, parent);
+void RunWaybill(AppContext& context, const PrintSource& source, QWidget* parent) {
+  WaybillScreen(context, source, parent).exec();
 }
 
 template <InvoiceKind kind>
-QDialog* OpenInvoice(AppContext& context, const PrintSource& source, QWidget* parent) {
-  return new InvoiceScreen(context, kind, source, parent);
+void RunInvoice(AppContext& context, const PrintSource& source, QWidget* parent) {
+  InvoiceScreen(context, kind, source, parent).exec();
 }
 
-QDialog* OpenCashOrder(AppContext& context, const PrintSource& source, QWidget* parent) {
-  return new CashOrderScreen(context, source, parent);
+void RunCashOrder(AppContext& context, const PrintSource& source, QWidget* parent) {
+  CashOrderScreen(context, source, parent).exec();
 }
 
 void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, const TakePick& take) {
@@ -89,6 +87,9 @@ const DocumentScreens& Receipts() {
                            {Text(u"Файл"_s, 0), nullptr}},
       .has_journal = true,
       .delete_closed_question = u"Списать товар со склада?"_s,
+      .delete_closed_outcome =
+          u"«Да» — удалить её и списать со склада то, что по ней пришло; «Нет» — "
+          u"удалить, остатки оставить как есть."_s,
       .editor_name = u"PrihNew"_s,
       .editor_caption = u"Приход"_s,
       .party_caption = u"&Поставщик:"_s,
@@ -97,7 +98,7 @@ const DocumentScreens& Receipts() {
       .sum_hint = u"Сумма по счету"_s,
       .editor_columns = {NameOf(3100), Quantity(), Unit(), Price(u"Цена"_s), Amount(u"Cумма"_s)},
       .pick = &PickFromDirectory,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &OpenWaybill}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &RunWaybill}},
       .properties_name = u"TovPrih_Ass"_s,
       .properties_caption = u"Свойства накладной прихода товара N "_s,
       .properties_sum_caption = u"Сумма по накладной:"_s,
@@ -123,6 +124,9 @@ const DocumentScreens& Shipments() {
                            {Text(u"Файл"_s, 0), nullptr}},
       .has_journal = true,
       .delete_closed_question = u"Возвратить товар на склад?"_s,
+      .delete_closed_outcome =
+          u"«Да» — удалить её и возвратить на склад то, что по ней ушло; «Нет» — "
+          u"удалить, остатки оставить как есть."_s,
       .editor_name = u"UhodNew"_s,
       .editor_caption = u"Расход"_s,
       .party_caption = u"К&лиент:"_s,
@@ -132,10 +136,10 @@ const DocumentScreens& Shipments() {
       .editor_columns = {NameOf(3650), Quantity(), Unit(), Cost(true), Price(u"Цена реал"_s),
                          Amount(u"Cумма реал"_s)},
       .pick = &PickFromPrices,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &OpenWaybill},
-                 {u"prs"_s, u"Счет-&фактура"_s, &OpenInvoice<InvoiceKind::kTaxInvoice>},
-                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &OpenCashOrder},
-                 {u"pri"_s, u"С&чет"_s, &OpenInvoice<InvoiceKind::kBill>}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &RunWaybill},
+                 {u"prs"_s, u"Счет-&фактура"_s, &RunInvoice<InvoiceKind::kTaxInvoice>},
+                 {u"prp"_s, u"Приходный кассовый &ордер"_s, &RunCashOrder},
+                 {u"pri"_s, u"С&чет"_s, &RunInvoice<InvoiceKind::kBill>}},
       .properties_name = u"TovUhod_Ass"_s,
       .properties_caption = u"Свойства накладной ухода товара N "_s,
       .properties_sum_caption = u"Сумма:"_s,
@@ -159,6 +163,9 @@ const DocumentScreens& Transfers() {
                            {Text(u"Файл"_s, 0), nullptr}},
       .has_journal = false,
       .delete_closed_question = u"Возвратить/списать?"_s,
+      .delete_closed_outcome =
+          u"«Да» — удалить её, возвратить товар на склад «Откуда» и списать со "
+          u"склада «Куда»; «Нет» — удалить, остатки оставить как есть."_s,
       .editor_name = u"vnutrNew"_s,
       .editor_caption = u"Перемещение"_s,
       .party_caption = u"&Откуда:"_s,
@@ -168,7 +175,7 @@ const DocumentScreens& Transfers() {
       .editor_columns = {NameOf(2280), Quantity(), Unit(), Cost(false), Price(u"Цена реал"_s),
                          Amount(u"Cумма реал"_s)},
       .pick = &PickFromPrices,
-      .prints = {{u"prn"_s, u"&Накладная"_s, &OpenWaybill}},
+      .prints = {{u"prn"_s, u"&Накладная"_s, &RunWaybill}},
       .properties_name = u"vnutr_Ass"_s,
       .properties_caption = u"Свойства накладной перемещения товара N "_s,
       .properties_sum_caption = u"Сумма по накладной:"_s,
@@ -193,14 +200,9 @@ const DocumentScreens& ScreensOf(DocumentKind kind) {
   Q_UNREACHABLE();
 }
 
-void RunPrint(const PrintCommand& command, AppContext& context, const PrintSource& source,
-              QWidget* parent) {
-  const std::unique_ptr<QDialog> screen(command.open(context, source, parent));
-  screen->exec();
-}
-
 RecordModel* NewLineModel(const std::vector<LineColumn>& columns, bool for_seller,
-                          const std::vector<DraftLine>& lines, QObject* parent) {
+                          const std::vector<DraftLine>& lines, QObject* parent,
+                          const std::function<bool(int row)>& is_short) {
   std::vector<Column> shown;
   for (const LineColumn& line : columns) {
     shown.push_back(line.column);
@@ -211,6 +213,7 @@ RecordModel* NewLineModel(const std::vector<LineColumn>& columns, bool for_selle
   source.text = [&lines, &columns](int row, int column) {
     return columns[column].text(lines[row]);
   };
+  source.is_amiss = is_short;
   return new RecordModel(std::move(shown), std::move(source), parent);
 }
 

@@ -2,7 +2,6 @@
 // fields they have, which print screens they open. The screens themselves are one machinery.
 #pragma once
 
-#include <QDialog>
 #include <functional>
 #include <vector>
 
@@ -31,7 +30,8 @@ using TakePick = std::function<void(const GoodsPick&)>;
 struct PrintCommand {
   QString name;
   QString caption;
-  QDialog* (*open)(AppContext&, const PrintSource&, QWidget*);
+  // Runs the print screen on what another screen shows.
+  void (*run)(AppContext&, const PrintSource&, QWidget* parent);
 };
 
 struct DocumentScreens {
@@ -42,6 +42,7 @@ struct DocumentScreens {
   std::vector<HeadColumn> register_columns;
   bool has_journal;                // the command "Печать журнала"
   QString delete_closed_question;  // Yes, No, Cancel
+  QString delete_closed_outcome;   // what each answer does
 
   QString editor_name;
   QString editor_caption;
@@ -65,12 +66,10 @@ struct DocumentScreens {
 
 const DocumentScreens& ScreensOf(DocumentKind kind);
 
-// Runs a print screen on what another screen shows.
-void RunPrint(const PrintCommand& command, AppContext& context, const PrintSource& source,
-              QWidget* parent);
-
-// The model of a list of lines; `lines` outlives it. The seller sees no costs.
+// The model of a list of lines; `lines` outlives it. The seller sees no costs; rows that are short
+// are red.
 RecordModel* NewLineModel(const std::vector<LineColumn>& columns, bool for_seller,
-                          const std::vector<DraftLine>& lines, QObject* parent);
+                          const std::vector<DraftLine>& lines, QObject* parent,
+                          const std::function<bool(int row)>& is_short = {});
 
 }  // namespace kladez

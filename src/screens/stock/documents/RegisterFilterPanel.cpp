@@ -26,12 +26,12 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
       screens_(screens),
       sort_(BookOf(screens.kind).sort),
       options_(new QWidget(this)) {
-  GoldButton1 = new FoldButton(u"GoldButton1"_s, u"Фи&льтр"_s, options_, true, this);
-  GoldButton1->setFlat(true);
+  fold_ = new FoldButton(u"GoldButton1"_s, u"Фи&льтр"_s, options_, true, this);
+  fold_->setFlat(true);
 
   auto* head = new QHBoxLayout;
   head->setSpacing(look::kGrid);
-  head->addWidget(GoldButton1);
+  head->addWidget(fold_);
   head->addStretch();
   if (BookOf(screens.kind).in_warehouse) {
     warehouse_ = new TextChoice(context.session.warehouses, this);
@@ -139,6 +139,18 @@ QString RegisterFilterPanel::Warehouse() const {
 }
 
 bool RegisterFilterPanel::Descending() const { return context_.settings.Read(sort_) == u"ZA"; }
+
+void RegisterFilterPanel::ShowDay(QDate day) {
+  {
+    const QSignalBlocker quiet(day_);
+    day_->setDate(day);
+  }
+  if (by_day_->isChecked()) {
+    emit Changed();
+  } else {
+    by_day_->setChecked(true);
+  }
+}
 
 void RegisterFilterPanel::EnableInputs() {
   month_->setEnabled(by_month_->isChecked());

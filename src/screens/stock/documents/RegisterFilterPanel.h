@@ -27,6 +27,8 @@ class RegisterFilterPanel : public QWidget {
   RegisterFilter Filter() const;
   QString Warehouse() const;  // empty for transfers, and where there is no warehouse
   bool Descending() const;
+  // Chooses "За число:" with the day.
+  void ShowDay(QDate day);
 
  signals:
   void Changed();
@@ -43,7 +45,7 @@ class RegisterFilterPanel : public QWidget {
   const Setting sort_;
   QWidget* options_;
 
-  FoldButton* GoldButton1;           // "Фильтр" behind its sign
+  FoldButton* fold_;                 // "Фильтр" behind its sign
   TextChoice* warehouse_ = nullptr;  // "Склад:"
   QRadioButton* by_month_;           // "За месяц:"
   TextChoice* month_;
