@@ -134,7 +134,6 @@ std::vector<Block> Flow::Take(const Look& look) {
   if (blocks_.empty()) {
     Paragraph empty;
     empty.align = look.align;
-    empty.empty_style = StyleIndex(page_, look.style);
     blocks_.emplace_back(std::move(empty));
   }
   return std::move(blocks_);

@@ -1,5 +1,7 @@
 #include "viewer/page/Page.h"
 
+#include <algorithm>
+
 namespace kladez::viewer {
 
 QString Paragraph::Text() const {
@@ -24,6 +26,22 @@ QString Cell::Text() const {
     }
   }
   return text;
+}
+
+bool Cell::IsBlank() const {
+  for (const Block& block : blocks) {
+    if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
+      for (const Run& run : paragraph->runs) {
+        if (!run.picture.isEmpty() || !QStringView(run.text).trimmed().isEmpty()) return false;
+      }
+      continue;
+    }
+    for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows) {
+      const auto is_blank = [](const Cell& cell) { return cell.IsBlank(); };
+      if (!std::all_of(row.cells.begin(), row.cells.end(), is_blank)) return false;
+    }
+  }
+  return true;
 }
 
 QSizeF Page::PictureSize(const QString& name) const {

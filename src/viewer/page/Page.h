@@ -37,7 +37,6 @@ struct Paragraph {
   double space_before = 0;
   bool keep_lines = false;  // preformatted: lines are never wrapped
   bool listed = false;      // an item of a list, with its bullet before the other lines
-  int empty_style = -1;     // the style in force where a paragraph without runs stands
   std::vector<Run> runs;
 
   // The words of the paragraph; a picture counts as one character.
@@ -63,6 +62,7 @@ struct Cell {
   std::vector<Block> blocks;  // never empty
 
   QString Text() const;
+  bool IsBlank() const;  // nothing but white space
 };
 
 struct Row {

@@ -165,17 +165,13 @@ void RaiseMinima(const Page& page, const Table& table, std::vector<double>& mini
   }
 }
 
-void TableStack::Add(const Page& page, const Table& table, QTextTable* made) {
-  members_.push_back({made, table.columns});
-  if (widest_ == nullptr || table.columns > widest_->columns) {
-    widest_ = &table;
+void TableStack::Add(const Page& page, const Table& table) {
+  if (table.columns > columns_) {
+    columns_ = table.columns;
     shares_ = WishedShares(table);
     minima_.clear();
   }
-  if (table.columns == widest_->columns && measured_ != &table) {
-    measured_ = &table;
-    RaiseMinima(page, table, minima_);
-  }
+  if (table.columns == columns_) RaiseMinima(page, table, minima_);
 }
 
 bool TableStack::HasAllShares() const {
@@ -196,11 +192,9 @@ double TableStack::ReadableWidth() const {
   return width;
 }
 
-void TableStack::Fit(double width, double scale) {
-  if (!HasAllShares()) {
-    return;
-  }
-  std::vector<double> widths = DivideWidth(shares_, minima_, width);
+void TableStack::Fit(int columns, double width, double scale, QTextTableFormat& format) const {
+  if (!HasAllShares()) return;
+  std::vector<double> widths = DivideWidth(shares_, minima_, width / scale);
   // The toolkit cuts a column down to whole dots; what is left over goes to the widest.
   double rest = 0;
   for (double& column : widths) {
@@ -210,21 +204,14 @@ void TableStack::Fit(double width, double scale) {
   }
   *std::max_element(widths.begin(), widths.end()) += std::floor(rest + kRounding);
   const double sum = std::accumulate(widths.begin(), widths.end(), 0.0) + rest - std::floor(rest);
-  QList<QTextLength> columns;
+  format.setWidth(sum > width + 1 ? QTextLength(QTextLength::FixedLength, sum / scale)
+                                  : QTextLength(QTextLength::PercentageLength, 100));
+  if (columns != columns_) return;
+  QList<QTextLength> lengths;
   for (const double column : widths) {
-    columns.append(QTextLength(QTextLength::PercentageLength, (column + kRounding) / sum * 100));
+    lengths.append(QTextLength(QTextLength::PercentageLength, (column + kRounding) / sum * 100));
   }
-  for (const Member& member : members_) {
-    QTextTableFormat format = member.table->format();
-    format.setWidth(sum > width * scale + 1 ? QTextLength(QTextLength::FixedLength, sum / scale)
-                                            : QTextLength(QTextLength::PercentageLength, 100));
-    if (member.columns == widest_->columns) {
-      format.setColumnWidthConstraints(columns);
-    }
-    if (format != member.table->format()) {
-      member.table->setFormat(format);
-    }
-  }
+  format.setColumnWidthConstraints(lengths);
 }
 
 }  // namespace kladez::viewer

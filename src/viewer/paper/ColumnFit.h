@@ -2,7 +2,7 @@
 // tables of a price list's groups, and the parts into which a long table is cut.
 #pragma once
 
-#include <QTextTable>
+#include <QTextTableFormat>
 #include <vector>
 
 #include "viewer/page/Page.h"
@@ -31,27 +31,20 @@ void RaiseMinima(const Page& page, const Table& table, std::vector<double>& mini
 // Tables that follow each other directly.
 class TableStack {
  public:
-  // `table` is what `made` shows, or the rows of it that `made` shows are a part of.
-  void Add(const Page& page, const Table& table, QTextTable* made);
+  void Add(const Page& page, const Table& table);
 
   // The narrowest width, in pixels at 96 dpi, at which words are whole and no column is left with
   // a sliver of the share that the page wishes for it.
   double ReadableWidth() const;
 
-  // Gives the columns of all its tables the same widths, for a page of `width` pixels at 96 dpi
-  // that a layout counts as `scale` dots each.
-  void Fit(double width, double scale);
+  // Gives the columns of each of its tables the same widths, when the page has a wish for each: the
+  // format of one of `columns` columns, on a page of `width` dots, `scale` to a pixel at 96 dpi.
+  void Fit(int columns, double width, double scale, QTextTableFormat& format) const;
 
  private:
-  struct Member {
-    QTextTable* table;
-    int columns;
-  };
   bool HasAllShares() const;
 
-  std::vector<Member> members_;
-  const Table* widest_ = nullptr;
-  const Table* measured_ = nullptr;
+  int columns_ = 0;  // of the widest
   std::vector<double> shares_;
   std::vector<double> minima_;
 };

@@ -20,25 +20,11 @@ int PaperLayout::SheetCount() const { return static_cast<int>(sheets_.size() * a
 // What is wider than the paper is cut between the columns of the row that has most of them.
 void PaperLayout::DivideAcross(double layout_width, double paper_width) {
   across_.clear();
-  const auto* layout = document_->document()->documentLayout();
-  std::vector<double> edges;
-  for (const PageDocument::Piece& piece : document_->pieces()) {
-    if (layout_width <= paper_width + 1 || piece.table == nullptr ||
-        piece.table->columns() <= static_cast<int>(edges.size())) {
-      continue;
-    }
-    edges.clear();
-    for (int column = 0; column < piece.table->columns(); ++column) {
-      const QTextBlock block = piece.table->cellAt(piece.row, column).firstCursorPosition().block();
-      const double inset = (kLeastPadding + 1) * PaperDpi() / kDotsPerInch;
-      edges.push_back(layout->blockBoundingRect(block).left() - inset);
-    }
-  }
   double left = 0;
   while (layout_width - left > paper_width + 1) {
     double right = left + paper_width;
-    const auto past = std::upper_bound(edges.begin(), edges.end(), right);
-    if (past != edges.begin() && *(past - 1) > left) {
+    const auto past = std::upper_bound(edges_.begin(), edges_.end(), right);
+    if (past != edges_.begin() && *(past - 1) > left) {
       right = *(past - 1);
     }
     across_.push_back({left, right});
@@ -70,11 +56,17 @@ void PaperLayout::DrawSlice(QPainter& painter, const Slice& slice, const Slice& 
   painter.translate(-rect.topLeft());
   painter.setClipRect(rect, Qt::IntersectClip);
   QAbstractTextDocumentLayout::PaintContext context;
-  // What only touches the edges of the slice belongs to other sheets: nobody would see it, but it
-  // would be found in a PDF.
-  context.clip = rect.adjusted(0, kEdge, 0, -kEdge);
   context.palette.setColor(QPalette::Text, Qt::black);
-  document_->document()->documentLayout()->draw(&painter, context);
+  for (size_t chunk = strip_->ChunkAt(slice.top);
+       chunk < strip_->ChunkCount() && strip_->Top(chunk) < slice.bottom; ++chunk) {
+    const double top = strip_->Top(chunk);
+    // What only touches the edges of the slice belongs to other sheets: nobody would see it, but
+    // it would be found in a PDF.
+    context.clip = rect.adjusted(0, kEdge, 0, -kEdge).translated(0, -top);
+    painter.translate(0, top);
+    strip_->Document(chunk).document()->documentLayout()->draw(&painter, context);
+    painter.translate(0, -top);
+  }
   painter.restore();
 }
 

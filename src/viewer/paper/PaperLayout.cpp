@@ -18,87 +18,180 @@ constexpr double kDotsPerPixel = kPaperDpi / kDotsPerInch;
 constexpr double kDotsPerMillimetre = kPaperDpi / 25.4;
 
 constexpr double kMostOfClosing = 0.4;
-constexpr size_t kPiecesAtOnce = 100;
+// Documents of so many cells are kept between measuring and drawing: a long register whole.
+constexpr size_t kKeptCells = 120'000;
+
+// What lies between the edges of a row and its first and last block, in pixels at 96 dpi, and the
+// line above that it shares with the row before.
+struct Insets {
+  double line_above;
+  double top;
+  double bottom;
+
+  Insets(const Table& table, const Piece& piece) {
+    const bool has_line_above = table.collapse && (piece.row > 0 || table.shares_line);
+    line_above = has_line_above ? table.border : 0;
+    bottom = table.padding + table.border;
+    top = table.padding + (has_line_above ? 0 : table.border);
+  }
+};
+
+// Where no line of any cell is cut.
+std::vector<double> SplitsBetween(std::vector<Slice> lines) {
+  std::sort(lines.begin(), lines.end(),
+            [](const Slice& a, const Slice& b) { return a.top < b.top; });
+  std::vector<double> splits;
+  double bottom = 0;
+  for (const Slice& line : lines) {
+    if (bottom > 0 && bottom <= line.top) splits.push_back(line.top);
+    bottom = std::max(bottom, line.bottom);
+  }
+  return splits;
+}
 
 }  // namespace
 
 int PaperLayout::PaperDpi() { return kPaperDpi; }
 
 PaperLayout::PaperLayout(std::shared_ptr<const Page> page, const Progress& progress)
-    : document_(std::make_unique<PageDocument>(std::move(page), progress)) {
-  document_->document()->setDocumentMargin(0);
-  document_->SetResolution(kPaperDpi);
-}
+    : strip_(std::make_unique<PageStrip>(
+          std::make_shared<const PagePlan>(std::move(page), progress), kKeptCells)) {}
 
 PaperFormat PaperLayout::Propose(const PaperFormat& format) const {
-  return viewer::Propose(format, document_->ReadableWidth());
+  return viewer::Propose(format, strip_->plan().ReadableWidth());
 }
 
 bool PaperLayout::LayOut(const PaperFormat& format, const Progress& progress) {
   format_ = format;
   sheets_.clear();
   const QSizeF body = BodyOf(format).size() * kDotsPerMillimetre;
-  const double width = std::max(body.width(), document_->ReadableWidth() * kDotsPerPixel);
+  const double width = std::max(body.width(), strip_->plan().ReadableWidth() * kDotsPerPixel);
   scale_ = format.fit_width ? body.width() / width : 1;
-  if (!LayOutPieces(width, progress)) {
-    return false;
-  }
+  if (width != strip_->measure().width) strip_->SetMeasure({kPaperDpi, width, 0, width});
   const double height = body.height() / scale_;
+  if (!PlacePieces(height, progress)) return false;
   is_closing_short_ = IsClosingShort(height);
   sheets_ = CutIntoSheets(Units(height), height);
   DivideAcross(width, body.width() / scale_);
   return true;
 }
 
-// The toolkit lays out as far as it is asked: in steps, a person sees how far it is.
-bool PaperLayout::LayOutPieces(double width, const Progress& progress) {
-  QTextDocument* document = document_->document();
-  document_->FitColumns(width);
-  document->setTextWidth(width);
-  const auto& pieces = document_->pieces();
-  for (size_t i = 0; i < pieces.size(); i += kPiecesAtOnce) {
-    if (progress && !progress(static_cast<int>(i), static_cast<int>(pieces.size()))) {
-      return false;
+bool PaperLayout::PlacePieces(double height, const Progress& progress) {
+  const PagePlan& plan = strip_->plan();
+  places_.clear();
+  places_.reserve(plan.pieces().size());
+  edges_.clear();
+  for (size_t chunk = 0; chunk < strip_->ChunkCount(); ++chunk) {
+    const int total = static_cast<int>(plan.pieces().size());
+    if (progress && !progress(static_cast<int>(places_.size()), total)) return false;
+    const PageDocument& document = strip_->Document(chunk);
+    const double top = strip_->Top(chunk);
+    for (size_t p = plan.chunks()[chunk].begin; p < plan.chunks()[chunk].end; ++p) {
+      const bool is_row = plan.pieces()[p].part >= 0;
+      Place place = is_row ? PlaceRow(document, p, height) : PlaceLines(document, p);
+      place.top += top;
+      place.bottom += top;
+      for (Slice& line : place.lines) line = {line.top + top, line.bottom + top};
+      places_.push_back(std::move(place));
+      if (is_row) NoteEdges(document, p);
     }
-    const size_t last = std::min(pieces.size(), i + kPiecesAtOnce) - 1;
-    document->documentLayout()->blockBoundingRect(
-        document->findBlockByNumber(pieces[last].last_block));
   }
   return true;
 }
 
-bool PaperLayout::IsHeld(const PageDocument::Piece& piece) const {
+PaperLayout::Place PaperLayout::PlaceLines(const PageDocument& document, size_t piece) const {
+  const QTextBlock block = document.document()->findBlockByNumber(document.FirstBlock(piece));
+  const QRectF rect = document.document()->documentLayout()->blockBoundingRect(block);
+  const double top = rect.top();
+  Place place{top, rect.bottom(), {}, {}};
+  for (int i = 0; i < block.layout()->lineCount(); ++i) {
+    const QTextLine line = block.layout()->lineAt(i);
+    place.lines.push_back({top + line.y(), top + line.y() + line.height()});
+    const QStringView text = QStringView(block.text()).mid(line.textStart(), line.textLength());
+    place.blanks.push_back(text.trimmed().isEmpty());
+  }
+  return place;
+}
+
+// The cell that needs the height of a row begins at its top, however the others are aligned.
+PaperLayout::Place PaperLayout::PlaceRow(const PageDocument& document, size_t piece,
+                                         double height) const {
+  const auto* layout = document.document()->documentLayout();
+  const Piece& row = strip_->plan().pieces()[piece];
+  const QTextBlock first = document.document()->findBlockByNumber(document.FirstBlock(piece));
+  const int last = document.LastBlock(piece);
+  Place place;
+  place.top = layout->blockBoundingRect(first).top();
+  for (QTextBlock block = first; block.isValid() && block.blockNumber() <= last;
+       block = block.next()) {
+    const QRectF rect = layout->blockBoundingRect(block);
+    place.top = std::min(place.top, rect.top());
+    place.bottom = std::max(place.bottom, rect.bottom());
+  }
+  // Only a row that is higher than a sheet is cut.
+  for (QTextBlock block = first;
+       place.bottom - place.top > height / 4 && block.isValid() && block.blockNumber() <= last;
+       block = block.next()) {
+    const double top = layout->blockBoundingRect(block).top();
+    for (int i = 0; i < block.layout()->lineCount(); ++i) {
+      const QTextLine line = block.layout()->lineAt(i);
+      place.lines.push_back({top + line.y(), top + line.y() + line.height()});
+    }
+  }
+  const Insets insets(*strip_->plan().TableOf(row), row);
+  place.top -= insets.top * kDotsPerPixel;
+  place.bottom += insets.bottom * kDotsPerPixel;
+  return place;
+}
+
+void PaperLayout::NoteEdges(const PageDocument& document, size_t piece) {
+  const int columns = strip_->plan().TableOf(strip_->plan().pieces()[piece])->columns;
+  if (columns <= static_cast<int>(edges_.size())) return;
+  edges_.clear();
+  const auto* layout = document.document()->documentLayout();
+  const QTextBlock first = document.document()->findBlockByNumber(document.FirstBlock(piece));
+  const QTextTable* table = document.TableOf(piece);
+  const int row = table->cellAt(first.position()).row();
+  for (int column = 0; column < columns; ++column) {
+    const QTextBlock block = table->cellAt(row, column).firstCursorPosition().block();
+    const double inset = (kLeastPadding + 1) * kDotsPerPixel;
+    edges_.push_back(layout->blockBoundingRect(block).left() - inset);
+  }
+}
+
+bool PaperLayout::IsHeld(const Piece& piece) const {
   return piece.signature || (piece.closing && is_closing_short_);
 }
 
 bool PaperLayout::StaysWithNext(size_t index) const {
-  const auto& pieces = document_->pieces();
+  const auto& pieces = strip_->plan().pieces();
   return index + 1 < pieces.size() && IsHeld(pieces[index]) && IsHeld(pieces[index + 1]);
 }
 
 // Totals and signatures stand on one sheet if that does not leave much of another empty.
 bool PaperLayout::IsClosingShort(double height) const {
-  const auto& pieces = document_->pieces();
-  const auto is_closing = [](const PageDocument::Piece& piece) { return piece.closing; };
+  const auto& pieces = strip_->plan().pieces();
+  const auto is_closing = [](const Piece& piece) { return piece.closing; };
   const auto first = std::find_if(pieces.begin(), pieces.end(), is_closing);
+  if (first == pieces.end()) return false;
   const auto last = std::find_if(pieces.rbegin(), pieces.rend(), is_closing);
-  return first != pieces.end() && RowBottom(*last) - RowTop(*first) <= height * kMostOfClosing;
+  const Place& begin = places_[static_cast<size_t>(first - pieces.begin())];
+  const Place& end = places_[static_cast<size_t>(pieces.rend() - last) - 1];
+  return end.bottom - begin.top <= height * kMostOfClosing;
 }
 
 std::vector<Unit> PaperLayout::Units(double height) const {
-  const auto& pieces = document_->pieces();
+  const auto& pieces = strip_->plan().pieces();
   std::vector<Unit> units;
   int heading = -1;
   int heading_end = -1;
   for (size_t i = 0; i < pieces.size(); ++i) {
-    const PageDocument::Piece& piece = pieces[i];
-    if (piece.table == nullptr) {
+    const Piece& piece = pieces[i];
+    if (piece.part < 0) {
       AddLines(i, units);
       continue;
     }
-    if (piece.begins_stack) {
-      heading = heading_end = -1;
-    }
+    if (piece.begins_stack) heading = heading_end = -1;
     const int index = static_cast<int>(units.size());
     if (piece.heading && (heading < 0 || heading_end == index)) {
       heading = heading < 0 ? index : heading;
@@ -112,82 +205,31 @@ std::vector<Unit> PaperLayout::Units(double height) const {
 }
 
 void PaperLayout::AddLines(size_t index, std::vector<Unit>& units) const {
-  const auto& pieces = document_->pieces();
-  const QTextBlock block = document_->document()->findBlockByNumber(pieces[index].first_block);
-  const double top = document_->document()->documentLayout()->blockBoundingRect(block).top();
+  const Place& place = places_[index];
   const bool stays = StaysWithNext(index);
-  for (int i = 0; i < block.layout()->lineCount(); ++i) {
-    const QTextLine line = block.layout()->lineAt(i);
+  for (size_t i = 0; i < place.lines.size(); ++i) {
     Unit unit;
-    unit.top = top + line.y();
-    unit.bottom = unit.top + line.height();
-    unit.blank = block.text().mid(line.textStart(), line.textLength()).trimmed().isEmpty();
-    const bool is_last = i + 1 == block.layout()->lineCount();
-    unit.keep_with_next = is_last ? stays : IsHeld(pieces[index]);
+    unit.top = place.lines[i].top;
+    unit.bottom = place.lines[i].bottom;
+    unit.blank = place.blanks[i];
+    const bool is_last = i + 1 == place.lines.size();
+    unit.keep_with_next = is_last ? stays : IsHeld(strip_->plan().pieces()[index]);
     units.push_back(unit);
   }
 }
 
 void PaperLayout::AddRow(size_t index, double height, std::vector<Unit>& units) const {
-  const auto& pieces = document_->pieces();
-  const PageDocument::Piece& piece = pieces[index];
-  const PageDocument::Piece* next = index + 1 < pieces.size() ? &pieces[index + 1] : nullptr;
+  const auto& pieces = strip_->plan().pieces();
+  const Piece& piece = pieces[index];
+  const bool goes_on = index + 1 < pieces.size() && pieces[index + 1].part == piece.part;
   Unit unit;
-  unit.top = RowTop(piece);
-  unit.bottom = next != nullptr && next->table == piece.table ? RowTop(*next) : RowBottom(piece);
-  unit.lead = piece.line_above * kDotsPerPixel;
+  unit.top = places_[index].top;
+  unit.bottom = goes_on ? places_[index + 1].top : places_[index].bottom;
+  unit.lead = Insets(*strip_->plan().TableOf(piece), piece).line_above * kDotsPerPixel;
   unit.keep_with_next = piece.heading || piece.group || piece.reaches_down || StaysWithNext(index);
   unit.blank = piece.blank;
-  if (unit.bottom - unit.top > height / 2) {
-    unit.splits = Splits(piece);
-  }
+  if (unit.bottom - unit.top > height / 2) unit.splits = SplitsBetween(places_[index].lines);
   units.push_back(unit);
-}
-
-// The cell that needs the height of a row begins at its top, however the others are aligned.
-double PaperLayout::RowTop(const PageDocument::Piece& piece) const {
-  const auto* layout = document_->document()->documentLayout();
-  QTextBlock block = document_->document()->findBlockByNumber(piece.first_block);
-  double top = layout->blockBoundingRect(block).top();
-  for (; block.isValid() && block.blockNumber() <= piece.last_block; block = block.next()) {
-    top = std::min(top, layout->blockBoundingRect(block).top());
-  }
-  return top - piece.inset_top * kDotsPerPixel;
-}
-
-double PaperLayout::RowBottom(const PageDocument::Piece& piece) const {
-  const auto* layout = document_->document()->documentLayout();
-  QTextBlock block = document_->document()->findBlockByNumber(piece.first_block);
-  double bottom = 0;
-  for (; block.isValid() && block.blockNumber() <= piece.last_block; block = block.next()) {
-    bottom = std::max(bottom, layout->blockBoundingRect(block).bottom());
-  }
-  return bottom + piece.inset_bottom * kDotsPerPixel;
-}
-
-// Where no line of any cell is cut: only a row that is higher than a sheet needs it.
-std::vector<double> PaperLayout::Splits(const PageDocument::Piece& piece) const {
-  const auto* layout = document_->document()->documentLayout();
-  QTextBlock block = document_->document()->findBlockByNumber(piece.first_block);
-  std::vector<Slice> lines;
-  for (; block.isValid() && block.blockNumber() <= piece.last_block; block = block.next()) {
-    const double top = layout->blockBoundingRect(block).top();
-    for (int i = 0; i < block.layout()->lineCount(); ++i) {
-      const QTextLine line = block.layout()->lineAt(i);
-      lines.push_back({top + line.y(), top + line.y() + line.height()});
-    }
-  }
-  std::sort(lines.begin(), lines.end(),
-            [](const Slice& a, const Slice& b) { return a.top < b.top; });
-  std::vector<double> splits;
-  double bottom = 0;
-  for (const Slice& line : lines) {
-    if (bottom > 0 && bottom <= line.top) {
-      splits.push_back(line.top);
-    }
-    bottom = std::max(bottom, line.bottom);
-  }
-  return splits;
 }
 
 }  // namespace kladez::viewer

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "viewer/page/Progress.h"
-#include "viewer/paper/PageDocument.h"
+#include "viewer/paper/PageStrip.h"
 #include "viewer/paper/PaperFormat.h"
 #include "viewer/paper/Sheets.h"
 
@@ -33,26 +33,36 @@ class PaperLayout {
   PaperFormat Propose(const PaperFormat& format) const;
 
  private:
+  // Where a piece stands in the strip.
+  struct Place {
+    double top = 0;
+    double bottom = 0;
+    std::vector<Slice> lines;  // of a paragraph, or of a row that may have to be cut
+    std::vector<bool> blanks;  // of a paragraph: which of its lines say nothing
+  };
+
   static int PaperDpi();
 
-  bool LayOutPieces(double width, const Progress& progress);
+  bool PlacePieces(double height, const Progress& progress);
+  Place PlaceLines(const PageDocument& document, size_t piece) const;
+  Place PlaceRow(const PageDocument& document, size_t piece, double height) const;
+  void NoteEdges(const PageDocument& document, size_t piece);
   std::vector<Unit> Units(double height) const;
   bool IsClosingShort(double height) const;
-  bool IsHeld(const PageDocument::Piece& piece) const;
+  bool IsHeld(const Piece& piece) const;
   bool StaysWithNext(size_t index) const;
   void AddLines(size_t index, std::vector<Unit>& units) const;
   void AddRow(size_t index, double height, std::vector<Unit>& units) const;
-  double RowTop(const PageDocument::Piece& piece) const;
-  double RowBottom(const PageDocument::Piece& piece) const;
-  std::vector<double> Splits(const PageDocument::Piece& piece) const;
   void DivideAcross(double layout_width, double paper_width);
   void DrawSlice(QPainter& painter, const Slice& slice, const Slice& across) const;
   void DrawNumber(QPainter& painter, int sheet, double dpi) const;
 
-  std::unique_ptr<PageDocument> document_;
+  std::unique_ptr<PageStrip> strip_;
   PaperFormat format_;
   double scale_ = 1;
   bool is_closing_short_ = false;
+  std::vector<Place> places_;  // of each piece
+  std::vector<double> edges_;  // the left ones of the columns of the row that has most of them
   std::vector<Sheet> sheets_;
   std::vector<Slice> across_;  // what of the width a sheet shows; more than one without fit_width
 };

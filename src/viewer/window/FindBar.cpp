@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 
 #include "viewer/window/PageView.h"
-#include "viewer/window/SelectionText.h"
 #include "viewer/window/ViewerLook.h"
 
 namespace kladez::viewer {
@@ -41,7 +40,7 @@ FindBar::FindBar(PageView* view, QWidget* parent)
 }
 
 void FindBar::Open() {
-  const QString selected = PlainTextOf(view_->textCursor());
+  const QString selected = view_->SelectedText();
   if (!selected.isEmpty() && !selected.contains(u'\n') && !selected.contains(u'\t')) {
     text_->setText(selected);
   }

@@ -2,10 +2,9 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
-#include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QTextDocumentFragment>
 #include <QWheelEvent>
 #include <algorithm>
 #include <array>
@@ -22,34 +21,39 @@ namespace {
 constexpr std::array<int, 13> kZoomSteps = {30,  50,  67,  80,  90,  100, 110,
                                             125, 150, 175, 200, 250, 300};
 constexpr int kPrepareMilliseconds = 30;
+// Documents of so many cells are kept: what is in sight, and some screenfuls around it.
+constexpr size_t kKeptCells = 8000;
 
 }  // namespace
 
-PageView::PageView(QWidget* parent) : QTextBrowser(parent) {
+PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   setObjectName(u"PageView"_s);
-  setOpenLinks(false);
   setFrameShape(QFrame::NoFrame);
-  setWordWrapMode(QTextOption::WordWrap);
-  setLineWrapMode(QTextEdit::FixedPixelWidth);
-  // A bar that comes and goes would have a long page laid out twice.
+  setFocusPolicy(Qt::StrongFocus);
+  // A bar that comes and goes would have the page stand now here, now there.
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   QPalette paper = palette();
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
   paper.setColor(QPalette::Window, look::kDesk);
+  paper.setColor(QPalette::Highlight, look::kSelection);
+  paper.setColor(QPalette::HighlightedText, Qt::white);
   setPalette(paper);
   setAutoFillBackground(true);
+  viewport()->setBackgroundRole(QPalette::Base);
+  viewport()->setAutoFillBackground(true);
+  viewport()->setMouseTracking(true);
   connect(&prepare_timer_, &QTimer::timeout, this, &PageView::PrepareMore);
 }
 
-PageView::~PageView() { setDocument(nullptr); }
+PageView::~PageView() = default;
 
-void PageView::ShowDocument(std::unique_ptr<PageDocument> document, double paper_width) {
+void PageView::ShowPage(std::shared_ptr<const PagePlan> plan, double paper_width) {
   paper_width_ = paper_width;
-  document->document()->setDocumentMargin(look::kSheetEdge);
-  setLineWrapColumnOrWidth(0);
-  setDocument(document->document());
-  document_ = std::move(document);
+  strip_ = std::make_unique<PageStrip>(std::move(plan), kKeptCells);
+  anchor_ = cursor_ = {};
+  links_.clear();
+  has_links_ = false;
   LayOut();
   verticalScrollBar()->setValue(0);
   horizontalScrollBar()->setValue(0);
@@ -66,19 +70,20 @@ void PageView::ZoomOut() {
 }
 
 void PageView::SetZoom(int percent) {
-  if (percent == zoom_) {
-    return;
-  }
-  const int top = cursorForPosition(QPoint(0, 0)).position();
+  if (percent == zoom_) return;
   zoom_ = percent;
-  if (document_ != nullptr) {
+  if (strip_ != nullptr) {
+    // What stands at the top of the window stays there.
+    const double top = verticalScrollBar()->value();
+    const size_t chunk = strip_->ChunkAt(top);
+    const double share = (top - strip_->Top(chunk)) /
+                         std::max(1.0, strip_->Bottom(chunk) - strip_->Top(chunk));
     LayOut();
-    // What stood at the top of the window stays there.
-    QTextCursor cursor(document_->document());
-    cursor.setPosition(top);
-    const bool at_begin = top == 0;
+    strip_->Document(chunk);
+    SetBars();
+    const double height = strip_->Bottom(chunk) - strip_->Top(chunk);
     verticalScrollBar()->setValue(
-        at_begin ? 0 : verticalScrollBar()->value() + cursorRect(cursor).top());
+        top == 0 ? 0 : qRound(strip_->Top(chunk) + share * height));
   }
   emit ZoomChanged(zoom_);
 }
@@ -86,44 +91,100 @@ void PageView::SetZoom(int percent) {
 void PageView::LayOut() {
   const int dpi = qRound(logicalDpiX() * zoom_ / 100.0);
   const double scale = dpi / kDotsPerInch;
-  document_->SetResolution(dpi);
-  const double width = std::max(paper_width_, document_->ReadableWidth()) * scale;
-  document_->FitColumns(width);
-  setLineWrapColumnOrWidth(qCeil(width + 2 * look::kSheetEdge * scale));
+  const double width = std::max(paper_width_, strip_->plan().ReadableWidth()) * scale;
+  strip_->SetMeasure({dpi, width, look::kSheetEdge,
+                      static_cast<double>(qCeil(width + 2 * look::kSheetEdge * scale))});
   CentrePage();
+  LayOutSight();
+  viewport()->update();
   prepared_ = 0;
   prepare_timer_.start();
 }
 
+// Lays out what is in sight. Above it nothing moves: what stands at the top of the window stays.
+void PageView::LayOutSight() {
+  if (strip_ == nullptr) return;
+  const double top = verticalScrollBar()->value();
+  const size_t first = strip_->ChunkAt(top);
+  for (size_t chunk = first;
+       chunk < strip_->ChunkCount() && strip_->Top(chunk) < top + viewport()->height(); ++chunk) {
+    strip_->Document(chunk);
+  }
+  SetBars();
+}
+
+void PageView::SetBars() {
+  const int height = qRound(strip_->Height());
+  verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
+  verticalScrollBar()->setPageStep(viewport()->height());
+  verticalScrollBar()->setSingleStep(qRound(20 * zoom_ / 100.0));
+  horizontalScrollBar()->setRange(0, std::max(0, StripWidth() - viewport()->width()));
+  horizontalScrollBar()->setPageStep(viewport()->width());
+  horizontalScrollBar()->setSingleStep(20);
+}
+
 int PageView::WidthForPage() const {
-  return lineWrapColumnOrWidth() + verticalScrollBar()->sizeHint().width() + 2 * look::kGap;
+  return StripWidth() + verticalScrollBar()->sizeHint().width() + 2 * look::kGap;
 }
 
 void PageView::CentrePage() {
-  const int room = width() - verticalScrollBar()->sizeHint().width() - lineWrapColumnOrWidth();
+  const int room = width() - verticalScrollBar()->sizeHint().width() - StripWidth();
   const int side = std::max(0, room / 2);
   setViewportMargins(side, 0, std::max(0, room - side), 0);
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {
-  QTextBrowser::resizeEvent(event);
+  QAbstractScrollArea::resizeEvent(event);
   CentrePage();
+  LayOutSight();
 }
+
+void PageView::scrollContentsBy(int /*dx*/, int /*dy*/) { viewport()->update(); }
 
 // Lays out a long page bit by bit, so that the window answers meanwhile.
 void PageView::PrepareMore() {
-  const auto& pieces = document_->pieces();
   QElapsedTimer timer;
   timer.start();
-  while (prepared_ < pieces.size() && timer.elapsed() < kPrepareMilliseconds) {
-    const QTextBlock block = document()->findBlockByNumber(pieces[prepared_].last_block);
-    document()->documentLayout()->blockBoundingRect(block);
-    ++prepared_;
+  const double top = verticalScrollBar()->value();
+  const size_t seen = strip_->ChunkAt(top);
+  const double before = strip_->Top(seen);
+  while (prepared_ < strip_->ChunkCount() && timer.elapsed() < kPrepareMilliseconds) {
+    strip_->Prepare(prepared_++);
   }
-  if (prepared_ == pieces.size()) {
-    prepare_timer_.stop();
+  if (prepared_ == strip_->ChunkCount()) prepare_timer_.stop();
+  const int moved = qRound(strip_->Top(seen) - before);
+  SetBars();
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + moved);
+  emit Prepared(static_cast<int>(prepared_), static_cast<int>(strip_->ChunkCount()));
+}
+
+void PageView::paintEvent(QPaintEvent* event) {
+  if (strip_ == nullptr) return;
+  LayOutSight();
+  QPainter painter(viewport());
+  const QRect dirty = event->rect();
+  const double top = verticalScrollBar()->value();
+  const int left = horizontalScrollBar()->value();
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.palette = palette();
+  for (size_t chunk = strip_->ChunkAt(top + dirty.top());
+       chunk < strip_->ChunkCount() && strip_->Top(chunk) <= top + dirty.bottom(); ++chunk) {
+    const double y = strip_->Top(chunk) - top;
+    painter.save();
+    painter.translate(-left, y);
+    context.clip = QRectF(dirty).translated(left, -y);
+    painter.setClipRect(context.clip, Qt::IntersectClip);
+    const QTextCursor selected = SelectionIn(chunk);
+    context.selections.clear();
+    if (!selected.isNull()) {
+      QTextCharFormat format;
+      format.setBackground(palette().highlight());
+      format.setForeground(palette().highlightedText());
+      context.selections.append({selected, format});
+    }
+    strip_->Document(chunk).document()->documentLayout()->draw(&painter, context);
+    painter.restore();
   }
-  emit Prepared(static_cast<int>(prepared_), static_cast<int>(pieces.size()));
 }
 
 void PageView::wheelEvent(QWheelEvent* event) {
@@ -131,38 +192,9 @@ void PageView::wheelEvent(QWheelEvent* event) {
     QAbstractScrollArea::wheelEvent(event);
     return;
   }
-  if (event->angleDelta().y() > 0) {
-    ZoomIn();
-  } else if (event->angleDelta().y() < 0) {
-    ZoomOut();
-  }
+  if (event->angleDelta().y() > 0) ZoomIn();
+  if (event->angleDelta().y() < 0) ZoomOut();
   event->accept();
-}
-
-bool PageView::FindText(const QString& text, bool backward) {
-  QTextDocument::FindFlags flags;
-  flags.setFlag(QTextDocument::FindBackward, backward);
-  QTextCursor found = document()->find(text, textCursor(), flags);
-  if (found.isNull()) {
-    QTextCursor edge(document());
-    edge.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
-    found = document()->find(text, edge, flags);
-  }
-  if (found.isNull()) {
-    return false;
-  }
-  setTextCursor(found);
-  ensureCursorVisible();
-  return true;
-}
-
-QVariant PageView::loadResource(int /*type*/, const QUrl& /*name*/) { return {}; }
-
-QMimeData* PageView::createMimeDataFromSelection() const {
-  auto* copied = new QMimeData;
-  copied->setText(PlainTextOf(textCursor()));
-  copied->setHtml(textCursor().selection().toHtml());
-  return copied;
 }
 
 }  // namespace kladez::viewer

@@ -1,61 +1,108 @@
-// The page on the screen: a strip of paper as wide as the sheets it will be printed on.
+// The page on the screen: a strip of paper as wide as the sheets it will be printed on. Only what
+// is in sight is laid out at once, the rest behind it.
 #pragma once
 
-#include <QTextBrowser>
+#include <QAbstractScrollArea>
 #include <QTimer>
+#include <QUrl>
+#include <compare>
 #include <memory>
 
-#include "viewer/paper/PageDocument.h"
+#include "viewer/paper/PageStrip.h"
+
+class QTextCursor;
 
 namespace kladez::viewer {
 
-// A click on a link, or Enter on the one that Tab has reached, gives anchorClicked and opens
-// nothing.
-class PageView : public QTextBrowser {
+class PageView : public QAbstractScrollArea {
   Q_OBJECT
 
  public:
   explicit PageView(QWidget* parent = nullptr);
   ~PageView() override;
 
-  // Shows the document from its top, at the zoom that is set. `paper_width` is how wide it is laid
-  // out at 100%, in pixels at 96 dpi; what can't be read at that width is laid out wider.
-  void ShowDocument(std::unique_ptr<PageDocument> document, double paper_width);
+  // Shows the page from its top, at the zoom that is set. `paper_width` is how wide it is laid out
+  // at 100%, in pixels at 96 dpi; what can't be read at that width is laid out wider.
+  void ShowPage(std::shared_ptr<const PagePlan> plan, double paper_width);
 
   int ZoomPercent() const { return zoom_; }
   void ZoomIn();
   void ZoomOut();
   void SetZoom(int percent);
 
-  // The width that the window has to give so that the page is seen whole.
+  // The width of the strip with its margins, and the one that the window has to give so that it is
+  // seen whole.
+  int StripWidth() const { return qRound(strip_ == nullptr ? 0 : strip_->measure().text_width); }
   int WidthForPage() const;
 
   // Goes to the next place with `text` and selects it, from the other end of the page when there is
   // none on the way. Gives false when there is none at all.
   bool FindText(const QString& text, bool backward);
 
+  // What is selected: cells of a row are parted by tabs.
+  QString SelectedText() const;
+  // How far from the page's beginning the selection ends, to be compared only.
+  std::pair<size_t, int> SelectionEnd() const { return {cursor_.chunk, cursor_.position}; }
+  void SelectAll();
+  void Copy() const;
+
  signals:
   void ZoomChanged(int percent);
   // How much of a long page is laid out; the last report has done == total.
   void Prepared(int done, int total);
+  // A click on a link, or Enter on the one that Tab has reached. Nothing is opened here.
+  void LinkActivated(const QUrl& link);
 
  protected:
-  void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
-  QMimeData* createMimeDataFromSelection() const override;
-  // What the document does not hold is nowhere else looked for.
-  QVariant loadResource(int type, const QUrl& name) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
-  void LayOut();
-  void CentrePage();
-  void PrepareMore();
+  // A place in the text: a position in the document of a chunk.
+  struct Spot {
+    size_t chunk = 0;
+    int position = 0;
+    auto operator<=>(const Spot&) const = default;
+  };
+  struct Link {
+    Spot begin;
+    Spot end;
+    QString target;
+  };
 
-  std::unique_ptr<PageDocument> document_;
+  void LayOut();
+  void LayOutSight();
+  void CentrePage();
+  void SetBars();
+  void PrepareMore();
+  QPointF InChunk(size_t chunk, const QPoint& at) const;
+  Spot SpotAt(const QPoint& at) const;
+  QString LinkAt(const QPoint& at) const;
+  QTextCursor SelectionIn(size_t chunk) const;
+  void Select(const Spot& anchor, const Spot& cursor);
+  void SelectFound(size_t chunk, const QTextCursor& found);
+  void ShowSpot(const Spot& spot);
+  void ScrollTowards(const QPoint& at);
+  const std::vector<Link>& Links();
+
+  std::unique_ptr<PageStrip> strip_;
   double paper_width_ = 0;
   int zoom_ = 100;
   QTimer prepare_timer_;
   size_t prepared_ = 0;
+  Spot anchor_;
+  Spot cursor_;
+  QString pressed_link_;
+  std::vector<Link> links_;
+  bool has_links_ = false;  // links_ is made
 };
 
 }  // namespace kladez::viewer

@@ -56,6 +56,25 @@ struct Extent {
   }
 };
 
+QString Plain(QString text) {
+  return text.replace(QChar::Nbsp, u' ').replace(QChar::LineSeparator, u'\n');
+}
+
+// The paragraphs of a cell are parted by blanks.
+QString TextOfCell(const Cell& cell) {
+  QStringList texts;
+  for (const Block& block : cell.blocks) {
+    if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
+      texts << paragraph->Text();
+      continue;
+    }
+    for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows) {
+      for (const Cell& inner : row.cells) texts << TextOfCell(inner);
+    }
+  }
+  return texts.join(u' ');
+}
+
 }  // namespace
 
 QString PlainTextOf(const QTextCursor& selection) {
@@ -77,7 +96,26 @@ QString PlainTextOf(const QTextCursor& selection) {
     const int to = std::min(block.length() - 1, extent.end - block.position());
     text += block.text().mid(from, to - from);
   }
-  return text.replace(QChar(QChar::Nbsp), u' ').replace(QChar(QChar::LineSeparator), u'\n');
+  return Plain(text);
+}
+
+QString PlainTextOf(const PagePlan& plan, const Chunk& chunk) {
+  QStringList lines;
+  for (size_t p = chunk.begin; p < chunk.end; ++p) {
+    const Piece& piece = plan.pieces()[p];
+    const Table* table = plan.TableOf(piece);
+    if (table == nullptr) {
+      lines << plan.ParagraphOf(piece).Text();
+      continue;
+    }
+    QStringList cells;
+    for (const Cell& cell : table->rows[static_cast<size_t>(piece.row)].cells) {
+      while (cells.size() < cell.column) cells << QString();
+      cells << TextOfCell(cell);
+    }
+    lines << cells.join(u'\t');
+  }
+  return Plain(lines.join(u'\n'));
 }
 
 }  // namespace kladez::viewer

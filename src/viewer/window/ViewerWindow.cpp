@@ -84,9 +84,9 @@ void ViewerWindow::MakeActions() {
   close->setShortcut(QKeySequence(u"Ctrl+W"_s));
 
   QMenu* edit = menuBar()->addMenu(u"&Правка"_s);
-  QAction* copy = edit->addAction(u"&Копировать"_s, view_, &QTextEdit::copy);
+  QAction* copy = edit->addAction(u"&Копировать"_s, view_, &PageView::Copy);
   copy->setShortcut(QKeySequence(u"Ctrl+C"_s));
-  QAction* all = edit->addAction(u"Выделить &все"_s, view_, &QTextEdit::selectAll);
+  QAction* all = edit->addAction(u"Выделить &все"_s, view_, &PageView::SelectAll);
   all->setShortcut(QKeySequence(u"Ctrl+A"_s));
   edit->addSeparator();
   QAction* find =
@@ -135,7 +135,7 @@ void ViewerWindow::AddGuideActions(QMenu* menu) {
   auto* bar = findChild<QToolBar*>(u"ToolBar"_s);
   bar->insertActions(bar->actions().constFirst(), {go_back_, go_forward_});
   EnableGuideActions();
-  connect(view_, &QTextBrowser::anchorClicked, this, &ViewerWindow::Follow);
+  connect(view_, &PageView::LinkActivated, this, &ViewerWindow::Follow);
 }
 
 void ViewerWindow::EnableGuideActions() {
@@ -200,9 +200,9 @@ void ViewerWindow::ShowPage(std::shared_ptr<const Page> page, const Progress& pr
   const bool is_first = page_ == nullptr;
   page_ = std::move(page);
   setWindowTitle(page_->title.isEmpty() ? Untitled(kind_) : page_->title);
-  auto document = std::make_unique<PageDocument>(page_, progress);
-  const double width = BodyWidth(Propose(PaperFormat(), document->ReadableWidth()));
-  view_->ShowDocument(std::move(document), width);
+  auto plan = std::make_shared<const PagePlan>(page_, progress);
+  const double width = BodyWidth(Propose(PaperFormat(), plan->ReadableWidth()));
+  view_->ShowPage(std::move(plan), width);
   if (is_first) {
     FitToScreen();
   }
