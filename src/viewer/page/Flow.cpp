@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "viewer/page/Limits.h"
+
 namespace kladez::viewer {
 using namespace Qt::StringLiterals;
 
@@ -20,6 +22,7 @@ int StyleIndex(Page& page, const TextStyle& style) {
   const auto found = std::find(page.styles.begin(), page.styles.end(), style);
   const auto index = found - page.styles.begin();
   if (found == page.styles.end()) {
+    if (page.styles.size() == limits::kStyles) return 0;
     page.styles.push_back(style);
   }
   return static_cast<int>(index);
@@ -39,17 +42,39 @@ Run& Flow::RunFor(const Look& look) {
   return paragraph_.runs.back();
 }
 
-void Flow::AddText(const QString& text, const Look& look) {
-  if (look.preformatted) {
-    for (const QChar c : text) {
-      if (c == u'\n') {
-        AddBreak(look);
-      } else if (c == u'\t') {
-        RunFor(look).text += QString(kTab, u' ');
-      } else if (c != u'\r') {
-        RunFor(look).text += c;
-      }
+// A long paragraph goes on in one that looks like it: neither is laid out at once, whatever it is.
+void Flow::GoOnBelow() {
+  EndParagraph(0);
+  run_ = nullptr;
+}
+
+void Flow::AddLetter(QChar c, const Look& look) {
+  if (run_ == nullptr) run_ = &RunFor(look);
+  run_->text += c;
+  ++letters_;
+  word_ = c == u' ' ? 0 : word_ + 1;
+  if (word_ < limits::kLettersOfWord) return;
+  run_->text += kBreak;
+  word_ = 0;
+  if (letters_ > limits::kLettersOfParagraph) GoOnBelow();
+}
+
+void Flow::AddPreformatted(const QString& text, const Look& look) {
+  for (const QChar c : text) {
+    if (c == u'\n') {
+      AddBreak(look);
+    } else if (c == u'\t') {
+      for (int i = 0; i < kTab; ++i) AddLetter(u' ', look);
+    } else if (c != u'\r') {
+      AddLetter(c, look);
     }
+  }
+}
+
+void Flow::AddText(const QString& text, const Look& look) {
+  run_ = nullptr;
+  if (look.preformatted) {
+    AddPreformatted(text, look);
     return;
   }
   bool at_blank = paragraph_.runs.empty();
@@ -59,11 +84,15 @@ void Flow::AddText(const QString& text, const Look& look) {
   }
   for (const QChar c : text) {
     if (!IsCollapsible(c)) {
-      RunFor(look).text += c;
+      AddLetter(c, look);
       at_blank = false;
     } else if (!at_blank) {
-      RunFor(look).text += u' ';
       at_blank = true;
+      if (letters_ > limits::kLettersOfParagraph) {
+        GoOnBelow();
+      } else {
+        AddLetter(u' ', look);
+      }
     }
   }
 }
@@ -81,6 +110,12 @@ void Flow::TrimLine() {
 
 void Flow::AddBreak(const Look& look) {
   TrimLine();
+  run_ = nullptr;
+  word_ = 0;
+  if (++letters_ > limits::kLettersOfParagraph) {
+    GoOnBelow();
+    return;
+  }
   if (!paragraph_.runs.empty()) {
     Run& last = paragraph_.runs.back();
     if (last.picture.isEmpty() && !last.text.isEmpty() && last.text.back() != kBreak) {
@@ -114,6 +149,7 @@ void Flow::EndParagraph(double margin) {
     blocks_.emplace_back(std::move(paragraph_));
   }
   paragraph_ = {};
+  letters_ = word_ = 0;
   margin_ = std::max(margin_, margin);
 }
 

@@ -42,22 +42,22 @@ std::optional<Qt::Alignment> HorizontalNamed(const QString& name) {
   return std::nullopt;
 }
 
-void ApplyFont(const GumboNode& node, TextStyle& style) {
-  const QString face = Attribute(node, "face").section(u',', 0, 0).remove(u'\'').trimmed();
+void ApplyFont(const Tag& tag, TextStyle& style) {
+  const QString face = tag.Attribute("face").section(u',', 0, 0).remove(u'\'').trimmed();
   if (!face.isEmpty()) {
     if (style.family == QStringView(kMonospace) && face != style.family) {
       style.points /= kMonospaceRatio;
     }
     style.family = face;
   }
-  const QString size = Attribute(node, "size");
+  const QString size = tag.Attribute("size");
   if (!size.isEmpty()) {
     style.points = SizePoints(size, style.points);
     if (style.family == QStringView(kMonospace)) {
       style.points *= kMonospaceRatio;
     }
   }
-  const QString color = Attribute(node, "color");
+  const QString color = tag.Attribute("color");
   if (!color.isEmpty()) {
     style.color = color;
   }
@@ -70,16 +70,24 @@ void ApplyHeading(double points, TextStyle& style) {
 
 }  // namespace
 
-QString Attribute(const GumboNode& node, const char* name) {
-  const GumboAttribute* found = gumbo_get_attribute(&node.v.element.attributes, name);
-  return found == nullptr ? QString() : QString::fromUtf8(found->value).trimmed();
+QString Tag::Attribute(const char* name) const {
+  if (parsed_ != nullptr) {
+    const GumboAttribute* found = gumbo_get_attribute(parsed_, name);
+    return found == nullptr ? QString() : QString::fromUtf8(found->value).trimmed();
+  }
+  for (const AttributeText& each : written_) {
+    if (each.name.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0) {
+      return each.value.trimmed().toString();
+    }
+  }
+  return {};
 }
 
-QString StyleProperty(const GumboNode& node, const QString& property) {
-  for (const QString& part : Attribute(node, "style").toLower().split(u';')) {
-    if (part.section(u':', 0, 0).trimmed() == property) {
-      return part.section(u':', 1).trimmed();
-    }
+QString Tag::StyleProperty(const QString& property) const {
+  const QString style = Attribute("style");
+  if (style.isEmpty()) return {};
+  for (const QString& part : style.toLower().split(u';')) {
+    if (part.section(u':', 0, 0).trimmed() == property) return part.section(u':', 1).trimmed();
   }
   return {};
 }
@@ -103,13 +111,13 @@ Width ParseWidth(const QString& text) {
           static_cast<double>(number)};
 }
 
-std::optional<Qt::Alignment> AlignmentOf(const GumboNode& node) {
-  const QString style = StyleProperty(node, u"text-align"_s);
-  return HorizontalNamed(style.isEmpty() ? Attribute(node, "align").toLower() : style);
+std::optional<Qt::Alignment> AlignmentOf(const Tag& tag) {
+  const QString style = tag.StyleProperty(u"text-align"_s);
+  return HorizontalNamed(style.isEmpty() ? tag.Attribute("align").toLower() : style);
 }
 
-std::optional<Qt::Alignment> VerticalOf(const GumboNode& node) {
-  const QString name = Attribute(node, "valign").toLower();
+std::optional<Qt::Alignment> VerticalOf(const Tag& tag) {
+  const QString name = tag.Attribute("valign").toLower();
   if (name == u"top"_s || name == u"baseline"_s) {
     return Qt::AlignTop;
   }
@@ -119,10 +127,10 @@ std::optional<Qt::Alignment> VerticalOf(const GumboNode& node) {
   return name == u"middle"_s ? std::optional<Qt::Alignment>(Qt::AlignVCenter) : std::nullopt;
 }
 
-TextStyle StyleInside(const GumboNode& node, TextStyle style) {
-  switch (node.v.element.tag) {
+TextStyle StyleInside(const Tag& tag, TextStyle style) {
+  switch (tag.kind()) {
     case GUMBO_TAG_FONT:
-      ApplyFont(node, style);
+      ApplyFont(tag, style);
       break;
     case GUMBO_TAG_B:
     case GUMBO_TAG_TH:
@@ -141,7 +149,7 @@ TextStyle StyleInside(const GumboNode& node, TextStyle style) {
       ApplyHeading(13.5, style);
       break;
     case GUMBO_TAG_A:
-      if (const QString target = Attribute(node, "href"); NamesPage(target)) {
+      if (const QString target = tag.Attribute("href"); NamesPage(target)) {
         style.link = target;
       }
       break;
@@ -152,7 +160,7 @@ TextStyle StyleInside(const GumboNode& node, TextStyle style) {
     default:
       break;
   }
-  const QString size = StyleProperty(node, u"font-size"_s);
+  const QString size = tag.StyleProperty(u"font-size"_s);
   if (const int number = LeadingNumber(size, 0); number > 0) {
     style.points = size.contains(u"px"_s) ? number * 0.75 : number;
   }

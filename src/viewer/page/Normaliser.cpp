@@ -1,8 +1,11 @@
 #include "viewer/page/Normaliser.h"
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "viewer/page/Fonts.h"
+#include "viewer/page/Limits.h"
 #include "viewer/page/Markup.h"
 #include "viewer/page/PageText.h"
 
@@ -56,7 +59,7 @@ void Normaliser::ReadChildren(const GumboNode& node, Flow& flow, const Flow::Loo
 void Normaliser::ReadNode(const GumboNode& node, Flow& flow, const Flow::Look& look) {
   if (node.type == GUMBO_NODE_TEXT || node.type == GUMBO_NODE_WHITESPACE ||
       node.type == GUMBO_NODE_CDATA) {
-    flow.AddText(QString::fromUtf8(node.v.text.text), look);
+    AddText(flow, QString::fromUtf8(node.v.text.text), look);
   } else if (node.type == GUMBO_NODE_ELEMENT) {
     ReadElement(node, flow, look);
   }
@@ -89,7 +92,7 @@ void Normaliser::ReadElement(const GumboNode& node, Flow& flow, const Flow::Look
       break;
     default: {
       Flow::Look inside = look;
-      inside.style = StyleInside(node, look.style);
+      inside.style = StyleInside(Tag(node), look.style);
       ReadChildren(node, flow, inside);
     }
   }
@@ -98,9 +101,9 @@ void Normaliser::ReadElement(const GumboNode& node, Flow& flow, const Flow::Look
 void Normaliser::ReadBlock(const GumboNode& node, Flow& flow, const Flow::Look& look) {
   const GumboTag tag = node.v.element.tag;
   Flow::Look inside = look;
-  inside.style = StyleInside(node, look.style);
+  inside.style = StyleInside(Tag(node), look.style);
   inside.align =
-      AlignmentOf(node).value_or(tag == GUMBO_TAG_CENTER ? Qt::AlignHCenter : look.align);
+      AlignmentOf(Tag(node)).value_or(tag == GUMBO_TAG_CENTER ? Qt::AlignHCenter : look.align);
   inside.preformatted = look.preformatted || tag == GUMBO_TAG_PRE;
   inside.listed = look.listed || tag == GUMBO_TAG_LI;
   const bool has_margin = tag != GUMBO_TAG_DIV && tag != GUMBO_TAG_CENTER && tag != GUMBO_TAG_LI;
@@ -114,7 +117,7 @@ void Normaliser::ReadBlock(const GumboNode& node, Flow& flow, const Flow::Look& 
 }
 
 void Normaliser::ReadPicture(const GumboNode& node, Flow& flow, const Flow::Look& look) {
-  const QString name = Attribute(node, "src");
+  const QString name = Tag(node).Attribute("src");
   if (name.isEmpty()) {
     return;
   }
@@ -128,11 +131,25 @@ void Normaliser::ReadPicture(const GumboNode& node, Flow& flow, const Flow::Look
   }
 }
 
+// Adds what of the text there is room for.
+void Normaliser::AddText(Flow& flow, const QString& text, const Flow::Look& look) {
+  qsizetype room = limits::kLetters - letters_;
+  if (cell_depth_ > 0) room = std::min(room, limits::kLettersOfCell - letters_of_cell_);
+  if (text.size() > room) is_cut_ = true;
+  flow.AddText(text.size() > room ? text.first(std::max<qsizetype>(0, room)) : text, look);
+  letters_ += text.size();
+  letters_of_cell_ += text.size();
+}
+
 Page Normaliser::Read(const GumboNode& root, const QString& family) {
   Flow::Look look;
   look.style.family = family;
   Flow flow(page_, false);
   ReadNode(root, flow, look);
+  if (is_cut_) {
+    flow.EndParagraph(look.style.points * kPixelsPerPoint);
+    flow.AddText(QString::fromUtf16(kCutText), look);
+  }
   page_.blocks = flow.Take(look);
   return std::move(page_);
 }
@@ -146,12 +163,20 @@ Page ReadPage(const QString& text, const PictureLoader& load_picture, const Prog
     };
   };
   const bool guide = kind == PageKind::kGuide;
-  const QByteArray markup = (guide ? text : EscapeTypedText(text, half(0))).toUtf8();
+  EscapedPage escaped;
+  if (guide) {
+    escaped.markup = text.left(limits::kMarkup);
+    escaped.is_cut = text.size() > limits::kMarkup;
+  } else {
+    escaped = EscapePage(text, half(0));
+  }
+  escaped.is_cut = escaped.is_cut || text.size() > limits::kBytes;
+  QByteArray markup = std::exchange(escaped.markup, {}).toUtf8();
   GumboOptions options = kGumboDefaultOptions;
   options.max_errors = 0;
   const std::unique_ptr<GumboOutput, OutputDeleter> output(
       gumbo_parse_with_options(&options, markup.constData(), static_cast<size_t>(markup.size())));
-  Page page = Normaliser(load_picture, half(1), static_cast<int>(markup.size()))
+  Page page = Normaliser(text, escaped, load_picture, half(1))
                   .Read(*output->root, QString::fromUtf16(guide ? kSans : kSerif));
   page.title = TitleOf(*output->root).simplified();
   page.widest_picture = guide ? kWidestGuidePicture : 0;

@@ -14,12 +14,17 @@ namespace kladez::viewer {
 // guide is sound markup; it links to the pages beside it and shows pictures from below its folder.
 enum class PageKind { kPrintOut, kGuide };
 
+// What stands at the end of a page of which only the beginning is shown.
+inline constexpr char16_t kCutText[] =
+    u"Дальше страница не показана: она слишком велика или повреждена.";
+
 // Gives the picture that a page names, or a null image.
 using PictureLoader = std::function<QImage(const QString& name)>;
 
 // Reads the text of a page as the browsers did for which our print-outs are written. Scripts,
 // links and styles of other programs have no effect; no text is lost. Reading does not stop at what
-// `progress` answers.
+// `progress` answers. Of a page larger than any print-out only the beginning is read, with kCutText
+// behind it.
 Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress = {},
               PageKind kind = PageKind::kPrintOut);
 

@@ -3,6 +3,8 @@
 
 #include <QByteArray>
 #include <QString>
+#include <utility>
+#include <vector>
 
 #include "viewer/page/Progress.h"
 
@@ -16,6 +18,16 @@ QString DecodePage(const QByteArray& bytes);
 // Gives the page with every "<" and "&" escaped that does not open markup of our print-outs, so
 // that an HTML parser loses none of it. Also moves a </center> that stands inside a table behind
 // that table: there it closes the centring, where a parser would drop it.
-QString EscapeTypedText(const QString& page, const Progress& progress = {});
+QString EscapeTypedText(const QString& page);
+
+// The same, without the plain rows of tables: a row with nothing but an attribute "0" stands in
+// `markup` for each run of them, and its value is the index in `rows` of where they are in the page.
+struct EscapedPage {
+  QString markup;
+  std::vector<std::pair<qsizetype, qsizetype>> rows;
+  bool is_cut = false;  // there was more than a page may have
+};
+
+EscapedPage EscapePage(const QString& page, const Progress& progress = {});
 
 }  // namespace kladez::viewer
