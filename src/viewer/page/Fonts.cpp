@@ -6,14 +6,14 @@
 namespace kladez::viewer {
 
 QTextCharFormat FormatOf(const TextStyle& style) {
+  // What is as by itself is left out: the toolkit copies a format for every cell it looks at.
   QTextCharFormat format;
   format.setFontFamilies({style.family});
   format.setFontPointSize(style.points);
-  format.setFontWeight(style.bold ? QFont::Bold : QFont::Normal);
-  format.setFontItalic(style.italic);
-  format.setFontUnderline(style.underline);
-  const QColor color(style.color);
-  format.setForeground(color.isValid() ? color : QColor(Qt::black));
+  if (style.bold) format.setFontWeight(QFont::Bold);
+  if (style.italic) format.setFontItalic(true);
+  if (style.underline) format.setFontUnderline(true);
+  if (const QColor color(style.color); color.isValid()) format.setForeground(color);
   if (!style.link.isEmpty()) {
     format.setAnchor(true);
     format.setAnchorHref(style.link);

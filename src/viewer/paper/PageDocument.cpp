@@ -4,6 +4,9 @@
 #include <QTextCursor>
 #include <QTextFrame>
 #include <QUrl>
+#include <algorithm>
+#include <map>
+#include <tuple>
 
 #include "viewer/page/Fonts.h"
 #include "viewer/paper/PageFormats.h"
@@ -20,6 +23,30 @@ constexpr double kListIndent = 28;
 constexpr double kBulletRoom = 12;
 
 QUrl PictureUrl(const QString& name) { return QUrl(u"picture:"_s + name); }
+
+// An empty line is as high as the letters of its block, the others as their own.
+bool HasEmptyLine(const Paragraph& paragraph) {
+  return std::any_of(paragraph.runs.begin(), paragraph.runs.end(), [](const Run& run) {
+    return run.text.isEmpty() || run.text.contains(QChar::LineSeparator);
+  });
+}
+
+// The formats of the cells of one table: few differ.
+class CellFormats {
+ public:
+  explicit CellFormats(const Table& table) : table_(table) {}
+
+  const QTextTableCellFormat& Of(const Cell& cell, bool is_top) {
+    const auto key = std::make_tuple(static_cast<int>(cell.vertical), cell.column == 0, is_top);
+    auto found = made_.find(key);
+    if (found == made_.end()) found = made_.emplace(key, FormatOf(table_, cell, is_top)).first;
+    return found->second;
+  }
+
+ private:
+  const Table& table_;
+  std::map<std::tuple<int, bool, bool>, QTextTableCellFormat> made_;
+};
 
 }  // namespace
 
@@ -113,14 +140,14 @@ void PageDocument::FillCell(QTextCursor& cursor, const std::vector<Block>& block
 
 void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph) {
   QTextBlockFormat format;
-  format.setAlignment(paragraph.align);
-  format.setTopMargin(paragraph.space_before);
-  format.setNonBreakableLines(paragraph.keep_lines);
+  if (paragraph.align != Qt::AlignLeft) format.setAlignment(paragraph.align);
+  if (paragraph.space_before > 0) format.setTopMargin(paragraph.space_before);
+  if (paragraph.keep_lines) format.setNonBreakableLines(true);
   if (paragraph.listed) {
     format.setLeftMargin(kListIndent);
     format.setTextIndent(-kBulletRoom);
   }
-  cursor.setBlockFormat(format);
+  if (cursor.blockFormat() != format) cursor.setBlockFormat(format);
   // The first block of a cell holds the format of the cell, which has to stay.
   if (paragraph.runs.empty()) {
     QTextCharFormat none;
@@ -128,7 +155,9 @@ void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph)
     cursor.mergeBlockCharFormat(none);
     return;
   }
-  cursor.mergeBlockCharFormat(formats_[static_cast<size_t>(paragraph.runs.front().style)]);
+  if (HasEmptyLine(paragraph)) {
+    cursor.mergeBlockCharFormat(formats_[static_cast<size_t>(paragraph.runs.front().style)]);
+  }
   for (const Run& run : paragraph.runs) {
     if (run.picture.isEmpty()) {
       cursor.insertText(run.text, formats_[static_cast<size_t>(run.style)]);
@@ -162,14 +191,17 @@ void PageDocument::AddPart(QTextCursor& cursor, const Part& part) {
 QTextTable* PageDocument::AddRows(QTextCursor& cursor, const Table& table, size_t begin, size_t end,
                                   const QTextTableFormat& format) {
   QTextTable* made = cursor.insertTable(static_cast<int>(end - begin), table.columns, format);
+  CellFormats formats(table);
   for (size_t r = begin; r < end; ++r) {
     for (const Cell& cell : table.rows[r].cells) {
       const int row = static_cast<int>(r - begin);
-      if (cell.column_span > 1 || cell.row_span > 1) {
-        made->mergeCells(row, cell.column, cell.row_span, cell.column_span);
+      // A cell that reaches down further than its part does ends with that.
+      const int down = std::min(cell.row_span, static_cast<int>(end - r));
+      if (cell.column_span > 1 || down > 1) {
+        made->mergeCells(row, cell.column, down, cell.column_span);
       }
       QTextTableCell place = made->cellAt(row, cell.column);
-      place.setFormat(FormatOf(table, cell, r == 0 && !table.shares_line));
+      place.setFormat(formats.Of(cell, r == 0 && !table.shares_line));
       QTextCursor inside = place.firstCursorPosition();
       FillCell(inside, cell.blocks);
     }

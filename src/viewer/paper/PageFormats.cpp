@@ -62,13 +62,24 @@ QTextTableCellFormat FormatOf(const Table& table, const Cell& cell, bool is_top)
   }
   format.setLeftPadding(std::max(table.padding, kLeastPadding));
   format.setRightPadding(std::max(table.padding, kLeastPadding));
-  if (table.collapse) {
-    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-    format.setBorderBrush(Qt::black);
-    format.setRightBorder(table.border);
-    format.setBottomBorder(table.border);
-    format.setLeftBorder(cell.column == 0 ? table.border : 0);
-    format.setTopBorder(is_top ? table.border : 0);
+  if (!table.collapse) return format;
+  // Only the lines that there are: the toolkit copies the format whenever it looks at the cell.
+  const auto solid = QTextFrameFormat::BorderStyle_Solid;
+  format.setRightBorder(table.border);
+  format.setRightBorderStyle(solid);
+  format.setRightBorderBrush(Qt::black);
+  format.setBottomBorder(table.border);
+  format.setBottomBorderStyle(solid);
+  format.setBottomBorderBrush(Qt::black);
+  if (cell.column == 0) {
+    format.setLeftBorder(table.border);
+    format.setLeftBorderStyle(solid);
+    format.setLeftBorderBrush(Qt::black);
+  }
+  if (is_top) {
+    format.setTopBorder(table.border);
+    format.setTopBorderStyle(solid);
+    format.setTopBorderBrush(Qt::black);
   }
   return format;
 }

@@ -12,19 +12,33 @@ namespace {
 // A table of more rows is cut into parts: the toolkit needs more time for a row the more of them
 // there are.
 constexpr size_t kRowsOfPart = 200;
+constexpr size_t kMostRowsOfPart = 1000;  // with cells that reach down
+constexpr int kGridOfPart = 4000;         // its cells, the empty ones too
 // A chunk is closed when it holds so many cells, and wherever it stands when it holds many more.
 constexpr size_t kCellsOfChunk = 1000;
 constexpr size_t kMostOfChunk = 4 * kCellsOfChunk;
 // So many letters of a paragraph weigh as much as a cell.
 constexpr size_t kLettersOfCell = 50;
 
-bool ReachesPast(const Table& table, size_t begin, size_t end) {
-  for (size_t r = begin; r < end; ++r) {
-    for (const Cell& cell : table.rows[r].cells) {
-      if (r + static_cast<size_t>(cell.row_span) > end) return true;
-    }
+// The row after the last one that a cell of this row reaches.
+size_t ReachOf(const Table& table, size_t row) {
+  size_t reach = row + 1;
+  for (const Cell& cell : table.rows[row].cells) {
+    reach = std::max(reach, row + static_cast<size_t>(cell.row_span));
   }
-  return false;
+  return reach;
+}
+
+// Where a part ends that begins at `begin`: no cell goes on behind it, if that can be had.
+size_t EndOfPart(const Table& table, size_t begin) {
+  const auto rows = static_cast<size_t>(std::max(1, kGridOfPart / std::max(1, table.columns)));
+  const size_t least = begin + std::min(kRowsOfPart, rows);
+  size_t end = begin;
+  for (size_t reach = begin; end < table.rows.size(); ++end) {
+    if (end >= begin + kMostRowsOfPart || (end >= least && reach <= end)) break;
+    reach = std::max(reach, ReachOf(table, end));
+  }
+  return end;
 }
 
 }  // namespace
@@ -71,8 +85,7 @@ void PagePlan::AddTable(int block, const Table& table) {
   stacks_.back().Add(*page_, table);
   const size_t count = table.rows.size();
   for (size_t begin = 0; begin < count;) {
-    size_t end = std::min(count, begin + kRowsOfPart);
-    while (end < count && ReachesPast(table, begin, end)) ++end;
+    const size_t end = EndOfPart(table, begin);
     parts_.push_back({block, begin, end, stacks_.size() - 1});
     AddRows(parts_.back(), table);
     begin = end;
@@ -83,9 +96,7 @@ void PagePlan::AddRows(const Part& part, const Table& table) {
   size_t reach = 0;
   for (size_t r = part.begin; r < part.end; ++r) {
     const Row& row = table.rows[r];
-    for (const Cell& cell : row.cells) {
-      reach = std::max(reach, r + static_cast<size_t>(cell.row_span));
-    }
+    reach = std::max(reach, ReachOf(table, r));
     Piece piece;
     piece.block = part.block;
     piece.row = static_cast<int>(r);
@@ -102,7 +113,7 @@ void PagePlan::AddRows(const Part& part, const Table& table) {
 
 size_t PagePlan::WeightOf(const Piece& piece) const {
   if (const Table* table = TableOf(piece)) {
-    return table->rows[static_cast<size_t>(piece.row)].cells.size();
+    return static_cast<size_t>(table->columns);
   }
   size_t letters = 0;
   for (const Run& run : ParagraphOf(piece).runs) letters += static_cast<size_t>(run.text.size());

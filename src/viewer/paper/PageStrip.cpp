@@ -22,8 +22,8 @@ void PageStrip::SetMeasure(const Measure& measure) {
   kept_.clear();
   std::fill(heights_.begin(), heights_.end(), -1);
   tops_.clear();
-  measured_height_ = 0;
-  measured_cells_ = 0;
+  prepared_height_ = 0;
+  prepared_cells_ = 0;
 }
 
 PageDocument& PageStrip::Document(size_t chunk) {
@@ -43,6 +43,8 @@ void PageStrip::Prepare(size_t chunk) {
   if (IsMeasured(chunk)) return;
   auto made = std::make_unique<PageDocument>(*plan_, chunk, measure_);
   Note(chunk, made->Height());
+  prepared_height_ += heights_[chunk];
+  prepared_cells_ += plan_->chunks()[chunk].cells;
   if (KeptCells() + plan_->chunks()[chunk].cells <= kept_cells_) {
     kept_.push_back({chunk, std::move(made)});
   }
@@ -51,8 +53,6 @@ void PageStrip::Prepare(size_t chunk) {
 void PageStrip::Note(size_t chunk, double height) {
   if (IsMeasured(chunk)) return;
   heights_[chunk] = height;
-  measured_height_ += height;
-  measured_cells_ += plan_->chunks()[chunk].cells;
   tops_.clear();
 }
 
@@ -64,9 +64,9 @@ size_t PageStrip::KeptCells() const {
 
 double PageStrip::HeightOf(size_t chunk) const {
   if (IsMeasured(chunk)) return heights_[chunk];
-  const double cell = measured_cells_ == 0
+  const double cell = prepared_cells_ == 0
                           ? kFirstGuess * measure_.dpi / kDotsPerInch
-                          : measured_height_ / static_cast<double>(measured_cells_);
+                          : prepared_height_ / static_cast<double>(prepared_cells_);
   return std::round(cell * static_cast<double>(plan_->chunks()[chunk].cells));
 }
 

@@ -28,7 +28,8 @@ class PageStrip {
   // Finds out how high the chunk is; it is kept only while there is room for it.
   void Prepare(size_t chunk);
 
-  // In dots from the top of the strip. What is not laid out yet is taken to be as high as the rest.
+  // In dots from the top of the strip. What is not laid out yet is taken to be as high as what was
+  // prepared.
   double Top(size_t chunk) const;
   double Bottom(size_t chunk) const { return Top(chunk) + HeightOf(chunk); }
   double Height() const { return Bottom(ChunkCount() - 1); }
@@ -54,8 +55,8 @@ class PageStrip {
   Measure measure_;
   std::list<Kept> kept_;         // the one used last first
   std::vector<double> heights_;  // below 0: not known
-  double measured_height_ = 0;
-  size_t measured_cells_ = 0;
+  double prepared_height_ = 0;
+  size_t prepared_cells_ = 0;
   mutable std::vector<double> tops_;  // empty when a height has changed
 };
 

@@ -21,6 +21,9 @@ namespace {
 constexpr std::array<int, 13> kZoomSteps = {30,  50,  67,  80,  90,  100, 110,
                                             125, 150, 175, 200, 250, 300};
 constexpr int kPrepareMilliseconds = 30;
+// Of so many chunks it is found out beforehand how high they are, which is some thousand rows; the
+// bar takes those behind them to be like them.
+constexpr size_t kMostPrepared = 50;
 // Documents of so many cells are kept: what is in sight, and some screenfuls around it.
 constexpr size_t kKeptCells = 8000;
 
@@ -101,16 +104,19 @@ void PageView::LayOut() {
   prepare_timer_.start();
 }
 
-// Lays out what is in sight. Above it nothing moves: what stands at the top of the window stays.
+// Lays out what is in sight; what stands at the top of the window stays there.
 void PageView::LayOutSight() {
   if (strip_ == nullptr) return;
-  const double top = verticalScrollBar()->value();
-  const size_t first = strip_->ChunkAt(top);
-  for (size_t chunk = first;
-       chunk < strip_->ChunkCount() && strip_->Top(chunk) < top + viewport()->height(); ++chunk) {
+  const int value = verticalScrollBar()->value();
+  const size_t first = strip_->ChunkAt(value);
+  const double hidden = value - strip_->Top(first);
+  for (size_t chunk = first; chunk < strip_->ChunkCount() &&
+                             strip_->Top(chunk) < strip_->Top(first) + hidden + viewport()->height();
+       ++chunk) {
     strip_->Document(chunk);
   }
   SetBars();
+  verticalScrollBar()->setValue(qRound(strip_->Top(first) + hidden));
 }
 
 void PageView::SetBars() {
@@ -141,21 +147,22 @@ void PageView::resizeEvent(QResizeEvent* event) {
 
 void PageView::scrollContentsBy(int /*dx*/, int /*dy*/) { viewport()->update(); }
 
-// Lays out a long page bit by bit, so that the window answers meanwhile.
+// Goes on behind what is in sight bit by bit, so that the window answers meanwhile.
 void PageView::PrepareMore() {
   QElapsedTimer timer;
   timer.start();
   const double top = verticalScrollBar()->value();
   const size_t seen = strip_->ChunkAt(top);
   const double before = strip_->Top(seen);
-  while (prepared_ < strip_->ChunkCount() && timer.elapsed() < kPrepareMilliseconds) {
+  const size_t count = std::min(strip_->ChunkCount(), kMostPrepared);
+  while (prepared_ < count && timer.elapsed() < kPrepareMilliseconds) {
     strip_->Prepare(prepared_++);
   }
-  if (prepared_ == strip_->ChunkCount()) prepare_timer_.stop();
+  if (prepared_ == count) prepare_timer_.stop();
   const int moved = qRound(strip_->Top(seen) - before);
   SetBars();
   verticalScrollBar()->setValue(verticalScrollBar()->value() + moved);
-  emit Prepared(static_cast<int>(prepared_), static_cast<int>(strip_->ChunkCount()));
+  emit Prepared(static_cast<int>(prepared_), static_cast<int>(count));
 }
 
 void PageView::paintEvent(QPaintEvent* event) {
