@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QTemporaryDir>
 #include <system_error>
@@ -173,6 +175,78 @@ TEST_F(PictureTest, ComesByPlainNameFromThePagesDirectoryOnly) {
        {u"sub/far.png"_s, u"sub\\far.png"_s, u"../temp.png"_s, directory_.filePath(u"temp.png"_s),
         u"file:temp.png"_s, u"http://127.0.0.1/x.png"_s, u"missing.png"_s}) {
     EXPECT_FALSE(Shows(source)) << source.toStdString();
+  }
+}
+
+TEST_F(PictureTest, WhatIsNoFileIsNotWaitedFor) {
+  const QByteArray path = directory_.filePath(u"out.htm"_s).toUtf8();
+  ASSERT_EQ(::mkfifo(path.constData(), 0600), 0);
+  EXPECT_THROW(ReadPageFile(QDir(directory_.path()), u"out.htm"_s), std::system_error);
+  ASSERT_EQ(::unlink(path.constData()), 0);
+  ASSERT_EQ(::symlink("/dev/zero", path.constData()), 0);
+  EXPECT_THROW(ReadPageFile(QDir(directory_.path()), u"out.htm"_s), std::system_error);
+}
+
+// How deep tables stand in each other, and how many letters a paragraph and a word have at most.
+struct Extremes {
+  int depth = 0;
+  qsizetype paragraph = 0;
+  qsizetype word = 0;
+  qsizetype cells = 0;
+};
+
+void Measure(const std::vector<Block>& blocks, int depth, Extremes* found) {
+  found->depth = std::max(found->depth, depth);
+  for (const Block& block : blocks) {
+    if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
+      const QString text = paragraph->Text();
+      found->paragraph = std::max(found->paragraph, text.size());
+      for (const QString& line :
+           QString(text).replace(u' ', QChar::LineSeparator).split(QChar(QChar::LineSeparator))) {
+        found->word = std::max(found->word, line.size());
+      }
+      continue;
+    }
+    const auto& table = std::get<std::unique_ptr<Table>>(block);
+    found->cells += static_cast<qsizetype>(table->rows.size()) * table->columns;
+    for (const Row& row : table->rows) {
+      for (const Cell& cell : row.cells) Measure(cell.blocks, depth + 1, found);
+    }
+  }
+}
+
+TEST(PageReaderTest, PagesThatMeanHarmAreBounded) {
+  struct Case {
+    const char* name;
+    QString page;
+    bool is_cut;
+  };
+  const QString row = u"<tr><td rowspan=1000>x</td><td>y</td></tr>"_s;
+  const Case cases[] = {
+      {"tables", u"<BODY>"_s + u"<table border=1><tr><td>x"_s.repeated(20000), false},
+      {"bold", u"<BODY>"_s + u"<b>\n"_s.repeated(20000), false},
+      {"blocks", u"<BODY>"_s + u"<div><center><pre>x"_s.repeated(20000), false},
+      {"fonts", u"<BODY>"_s + u"<font size=5><p>x"_s.repeated(20000), false},
+      {"strays", u"<BODY><table>"_s + u"<i>x</i><font>y"_s.repeated(20000), false},
+      {"scripts", u"<script>"_s.repeated(20000), false},
+      {"word", u"<BODY>"_s + QString(1'000'000, u'я'), false},
+      {"line", u"<BODY><pre>"_s + u"я "_s.repeated(500'000), false},
+      {"breaks", u"<BODY>"_s + u"<br>"_s.repeated(50'000), false},
+      {"rows", u"<BODY><table>"_s + row.repeated(20000), true},
+      {"a row", u"<BODY><table><tr>"_s + u"<td>x</td>"_s.repeated(20000), true},
+      {"a cell", u"<BODY><table><tr><td>"_s + u"я "_s.repeated(50'000), true},
+      {"tags", u"<BODY>"_s + u"<p>x"_s.repeated(200'000), true}};
+  for (const Case& test : cases) {
+    const Page page = Read(test.page);
+    Extremes found;
+    Measure(page.blocks, 0, &found);
+    EXPECT_LE(found.depth, 4) << test.name;
+    EXPECT_LE(found.paragraph, 11'000) << test.name;
+    EXPECT_LE(found.word, 500) << test.name;
+    EXPECT_LE(found.cells, 500'000) << test.name;
+    const auto* last = std::get_if<Paragraph>(&page.blocks.back());
+    EXPECT_EQ(last != nullptr && last->Text() == QString::fromUtf16(kCutText), test.is_cut)
+        << test.name;
   }
 }
 

@@ -101,13 +101,38 @@ TEST(PaperLayoutTest, AHeadingIsNotBrokenAtAHyphenBeforeAShortEnd) {
   QString page = WaybillPage(3, u"К"_s);
   page.replace(u"125.50&nbsp;"_s, u"118518516.00&nbsp;"_s);
   page.replace(u"12550.00&nbsp;"_s, u"1185185160000.00&nbsp;"_s);
-  PageDocument document(ReadWithPicture(page), {});
-  document.document()->setTextWidth(718);
-  document.FitColumns(718);
+  const PagePlan plan(ReadWithPicture(page));
+  PageDocument document(plan, 0, {96, 718, 0, 718});
   const QTextCursor heading = document.document()->find(u"Кол-во"_s);
   ASSERT_FALSE(heading.isNull());
-  document.document()->documentLayout()->blockBoundingRect(heading.block());
   EXPECT_EQ(heading.block().layout()->lineCount(), 1);
+}
+
+// Every row of every sheet stands where it does in a page that is laid out in one go.
+TEST(PaperLayoutTest, ChunksStandWhereTheirRowsStoodInOnePiece) {
+  for (const QString& text : {ReportPage(700), PricePage(90, 7), WaybillPage(450, u"К"_s)}) {
+    const PagePlan plan(ReadWithPicture(text));
+    ASSERT_GT(plan.chunks().size(), 2u);
+    PageStrip strip(std::make_shared<const PagePlan>(ReadWithPicture(text)), 1000);
+    strip.SetMeasure({96, 718, 0, 718});
+    double y = 0;
+    for (size_t chunk = 0; chunk < strip.ChunkCount(); ++chunk) {
+      EXPECT_FALSE(strip.IsMeasured(chunk));
+      EXPECT_EQ(strip.Top(chunk), y) << chunk;
+      PageDocument& document = strip.Document(chunk);
+      const Chunk& pieces = plan.chunks()[chunk];
+      const QTextBlock last =
+          document.document()->findBlockByNumber(document.LastBlock(pieces.end - 1));
+      const double bottom = document.document()->documentLayout()->blockBoundingRect(last).bottom();
+      EXPECT_NEAR(document.Height(), bottom, 20) << chunk;
+      y += document.Height();
+    }
+    EXPECT_EQ(strip.Height(), y);
+    PageStrip other(std::make_shared<const PagePlan>(ReadWithPicture(text)), 1000);
+    other.SetMeasure({96, 718, 0, 718});
+    for (size_t chunk = strip.ChunkCount(); chunk-- > 0;) other.Prepare(chunk);
+    EXPECT_EQ(other.Height(), y) << "laid out in another order";
+  }
 }
 
 TEST(PaperLayoutTest, WidePageProposesLandscapeAndANarrowOneDoesNot) {
@@ -231,11 +256,10 @@ TEST(OutputTest, PdfNameIsTakenByEveryFileSystem) {
 
 TEST(PageDocumentTest, ALineLeftBlankUnderATableStaysBlank) {
   const auto gap = [](const QString& between) {
-    PageDocument document(std::make_shared<Page>(
+    const PagePlan plan(std::make_shared<Page>(
         ReadPage(u"<table border=1><tr><td>x</td></tr></table>"_s + between + u"под"_s,
                  [](const QString&) { return QImage(); })));
-    document.SetResolution(96);
-    document.document()->setTextWidth(600);
+    PageDocument document(plan, 0, {96, 600, 0, 600});
     const auto* layout = document.document()->documentLayout();
     const QTextBlock cell = document.document()->begin().next();
     const QTextBlock below = document.document()->lastBlock();

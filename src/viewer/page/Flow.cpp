@@ -52,7 +52,7 @@ void Flow::AddLetter(QChar c, const Look& look) {
   if (run_ == nullptr) run_ = &RunFor(look);
   run_->text += c;
   ++letters_;
-  word_ = c == u' ' ? 0 : word_ + 1;
+  word_ = c == u' ' && !look.preformatted ? 0 : word_ + 1;
   if (word_ < limits::kLettersOfWord) return;
   run_->text += kBreak;
   word_ = 0;

@@ -45,9 +45,9 @@ class Flow {
   std::vector<Block> blocks_;
   Paragraph paragraph_;
   double margin_ = 0;
-  Run* run_ = nullptr;         // what the text at hand is added to; null when that has to be found
-  qsizetype letters_ = 0;      // of the paragraph
-  qsizetype word_ = 0;         // letters since the last blank
+  Run* run_ = nullptr;     // what the text at hand is added to; null when that has to be found
+  qsizetype letters_ = 0;  // of the paragraph
+  qsizetype word_ = 0;     // letters since the last blank
 };
 
 // The index of `style` among the styles of the page, which gets it when it is new.

@@ -152,7 +152,8 @@ class RowScanner {
       Add(RowPart::Kind::kClose, {}, letter);
       return true;
     }
-    if (!IsSimple(tag) || (!is_font && (!follows_markup || !tag.attributes.isEmpty()))) return false;
+    if (!IsSimple(tag) || (!is_font && (!follows_markup || !tag.attributes.isEmpty())))
+      return false;
     opened_ += letter;
     Add(RowPart::Kind::kOpen, tag.attributes, letter);
     return opened_.size() < 8;

@@ -21,7 +21,8 @@ QString DecodePage(const QByteArray& bytes);
 QString EscapeTypedText(const QString& page);
 
 // The same, without the plain rows of tables: a row with nothing but an attribute "0" stands in
-// `markup` for each run of them, and its value is the index in `rows` of where they are in the page.
+// `markup` for each run of them, and its value is the index in `rows` of where they are in the
+// page.
 struct EscapedPage {
   QString markup;
   std::vector<std::pair<qsizetype, qsizetype>> rows;

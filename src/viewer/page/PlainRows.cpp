@@ -44,8 +44,7 @@ Row Normaliser::ReadPlainRow(const std::vector<RowPart>& parts, const Flow::Look
       break;
     }
     Flow::Look in_cell;
-    row.cells.push_back(
-        MakeCell(Tag(GUMBO_TAG_TD, parts[at].text), inside, vertical, &in_cell));
+    row.cells.push_back(MakeCell(Tag(GUMBO_TAG_TD, parts[at].text), inside, vertical, &in_cell));
     BeginCell();
     Flow flow(page_, true);
     ReadPlainCell(parts, &++at, flow, in_cell);

@@ -173,8 +173,8 @@ void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph)
 }
 
 void PageDocument::AddPart(QTextCursor& cursor, const Part& part) {
-  const Table& table = *std::get<std::unique_ptr<Table>>(
-      plan_.page().blocks[static_cast<size_t>(part.block)]);
+  const Table& table =
+      *std::get<std::unique_ptr<Table>>(plan_.page().blocks[static_cast<size_t>(part.block)]);
   QTextTableFormat format = FormatOf(table);
   plan_.StackOf(part).Fit(table.columns, measure_.width, measure_.dpi / kDotsPerInch, format);
   if (const double lost = plan_.LostBelow(part); lost > 0) format.setBottomMargin(lost);

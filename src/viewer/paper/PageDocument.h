@@ -30,9 +30,9 @@ class ResolutionDevice : public QPaintDevice {
 // What a page is laid out for.
 struct Measure {
   int dpi = 96;
-  double width = 0;        // dots that the columns of a table share
-  double margin = 0;       // pixels at 96 dpi around the whole page
-  double text_width = 0;   // dots of the columns and of the margins beside them
+  double width = 0;       // dots that the columns of a table share
+  double margin = 0;      // pixels at 96 dpi around the whole page
+  double text_width = 0;  // dots of the columns and of the margins beside them
 };
 
 class PageDocument {

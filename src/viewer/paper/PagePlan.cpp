@@ -12,8 +12,8 @@ namespace {
 // A table of more rows is cut into parts: the toolkit needs more time for a row the more of them
 // there are.
 constexpr size_t kRowsOfPart = 200;
-constexpr size_t kMostRowsOfPart = 1000;  // with cells that reach down
-constexpr int kGridOfPart = 4000;         // its cells, the empty ones too
+constexpr size_t kGridOfPart = 4000;             // its cells, the empty ones too
+constexpr size_t kMostOfPart = 4 * kGridOfPart;  // with cells that reach down
 // A chunk is closed when it holds so many cells, and wherever it stands when it holds many more.
 constexpr size_t kCellsOfChunk = 1000;
 constexpr size_t kMostOfChunk = 4 * kCellsOfChunk;
@@ -31,11 +31,11 @@ size_t ReachOf(const Table& table, size_t row) {
 
 // Where a part ends that begins at `begin`: no cell goes on behind it, if that can be had.
 size_t EndOfPart(const Table& table, size_t begin) {
-  const auto rows = static_cast<size_t>(std::max(1, kGridOfPart / std::max(1, table.columns)));
-  const size_t least = begin + std::min(kRowsOfPart, rows);
+  const auto columns = static_cast<size_t>(std::max(1, table.columns));
+  const size_t least = begin + std::min(kRowsOfPart, kGridOfPart / columns);
   size_t end = begin;
   for (size_t reach = begin; end < table.rows.size(); ++end) {
-    if (end >= begin + kMostRowsOfPart || (end >= least && reach <= end)) break;
+    if (end >= begin + kMostOfPart / columns || (end >= least && reach <= end)) break;
     reach = std::max(reach, ReachOf(table, end));
   }
   return end;
@@ -125,8 +125,7 @@ bool PagePlan::MayPart(const Piece& before, const Piece& after, size_t cells) co
   if (before.part >= 0 && before.part == after.part) return false;
   if ((before.part < 0) == (after.part < 0)) return cells >= kCellsOfChunk;
   // A paragraph without a letter takes no room before a table.
-  return cells >= kMostOfChunk &&
-         (before.part >= 0 || !ParagraphOf(before).Text().isEmpty());
+  return cells >= kMostOfChunk && (before.part >= 0 || !ParagraphOf(before).Text().isEmpty());
 }
 
 double PagePlan::GapAbove(const Piece& before, const Piece& after) const {

@@ -14,16 +14,16 @@ namespace kladez::viewer {
 
 // A paragraph, or a row of a table that stands on the page.
 struct Piece {
-  int block = 0;               // in Page::blocks
-  int row = -1;                // in that table; -1 for a paragraph
-  int part = -1;               // in PagePlan::parts
-  bool begins_stack = false;   // the first row of tables that follow each other directly
+  int block = 0;              // in Page::blocks
+  int row = -1;               // in that table; -1 for a paragraph
+  int part = -1;              // in PagePlan::parts
+  bool begins_stack = false;  // the first row of tables that follow each other directly
   bool heading = false;
   bool group = false;
-  bool blank = false;          // a row with nothing to be read
-  bool reaches_down = false;   // a cell of it goes on in the next row
-  bool closing = false;        // the totals under the last list
-  bool signature = false;      // and the block to be signed
+  bool blank = false;         // a row with nothing to be read
+  bool reaches_down = false;  // a cell of it goes on in the next row
+  bool closing = false;       // the totals under the last list
+  bool signature = false;     // and the block to be signed
 };
 
 // Rows of a table that are laid out in one go.
@@ -57,8 +57,8 @@ class PagePlan {
   // tables can be read with ease.
   double ReadableWidth() const;
 
-  // What the toolkit leaves out under a table, in pixels at 96 dpi: what a paragraph keeps from what
-  // is above it, and the empty line with which one begins. 0 when no paragraph follows.
+  // What the toolkit leaves out under a table, in pixels at 96 dpi: what a paragraph keeps from
+  // what is above it, and the empty line with which one begins. 0 when no paragraph follows.
   double LostBelow(const Part& part) const;
   double LostUnderTable(const Paragraph& paragraph) const;
 

@@ -198,22 +198,32 @@ bool PageView::FindText(const QString& text, bool backward) {
 
 void PageView::SelectFound(size_t chunk, const QTextCursor& found) {
   Select({chunk, found.selectionStart()}, {chunk, found.selectionEnd()});
-  ShowSpot(anchor_);
+  ShowSelection();
 }
 
-// Scrolls no further than is needed to see the line of a spot.
-void PageView::ShowSpot(const Spot& spot) {
-  PageDocument& document = strip_->Document(spot.chunk);
-  LayOutSight();
-  const QTextBlock block = document.document()->findBlock(spot.position);
+QPoint PageView::SelectionPoint() const {
+  const Spot spot = std::min(anchor_, cursor_);
+  const QTextDocument* document = strip_->Document(spot.chunk).document();
+  const QTextBlock block = document->findBlock(spot.position);
   const QTextLine line = block.layout()->lineForTextPosition(spot.position - block.position());
-  const QRectF rect = document.document()->documentLayout()->blockBoundingRect(block);
-  const double top = strip_->Top(spot.chunk) + rect.top() +
-                     (line.isValid() ? line.y() : 0);
-  const double height = line.isValid() ? line.height() : rect.height();
-  auto* bar = verticalScrollBar();
-  if (top < bar->value() || top + height > bar->value() + viewport()->height()) {
-    bar->setValue(qRound(top - viewport()->height() / 3.0));
+  QPointF at = document->documentLayout()->blockBoundingRect(block).topLeft();
+  if (line.isValid()) {
+    at += QPointF(line.cursorToX(spot.position - block.position()), line.y() + line.height() / 2);
+  }
+  return QPointF(at.x() - horizontalScrollBar()->value(),
+                 at.y() + strip_->Top(spot.chunk) - verticalScrollBar()->value())
+      .toPoint();
+}
+
+// Brings the line where the selection begins into sight, if it is not.
+void PageView::ShowSelection() {
+  strip_->Document(std::min(anchor_, cursor_).chunk);
+  SetBars();
+  const QPoint at = SelectionPoint();
+  const int edge = fontMetrics().height();
+  if (at.y() < edge || at.y() > viewport()->height() - edge) {
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + at.y() - viewport()->height() / 3);
+    LayOutSight();
   }
 }
 
@@ -250,7 +260,7 @@ bool PageView::focusNextPrevChild(bool next) {
     if (!next && back != links.rend()) link = &*back;
     if (link != nullptr) {
       Select(link->begin, link->end);
-      ShowSpot(link->begin);
+      ShowSelection();
       return true;
     }
   }

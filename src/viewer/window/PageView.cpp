@@ -79,14 +79,13 @@ void PageView::SetZoom(int percent) {
     // What stands at the top of the window stays there.
     const double top = verticalScrollBar()->value();
     const size_t chunk = strip_->ChunkAt(top);
-    const double share = (top - strip_->Top(chunk)) /
-                         std::max(1.0, strip_->Bottom(chunk) - strip_->Top(chunk));
+    const double share =
+        (top - strip_->Top(chunk)) / std::max(1.0, strip_->Bottom(chunk) - strip_->Top(chunk));
     LayOut();
     strip_->Document(chunk);
     SetBars();
     const double height = strip_->Bottom(chunk) - strip_->Top(chunk);
-    verticalScrollBar()->setValue(
-        top == 0 ? 0 : qRound(strip_->Top(chunk) + share * height));
+    verticalScrollBar()->setValue(top == 0 ? 0 : qRound(strip_->Top(chunk) + share * height));
   }
   emit ZoomChanged(zoom_);
 }
@@ -110,8 +109,9 @@ void PageView::LayOutSight() {
   const int value = verticalScrollBar()->value();
   const size_t first = strip_->ChunkAt(value);
   const double hidden = value - strip_->Top(first);
-  for (size_t chunk = first; chunk < strip_->ChunkCount() &&
-                             strip_->Top(chunk) < strip_->Top(first) + hidden + viewport()->height();
+  for (size_t chunk = first;
+       chunk < strip_->ChunkCount() &&
+       strip_->Top(chunk) < strip_->Top(first) + hidden + viewport()->height();
        ++chunk) {
     strip_->Document(chunk);
   }

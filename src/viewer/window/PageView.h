@@ -41,8 +41,8 @@ class PageView : public QAbstractScrollArea {
 
   // What is selected: cells of a row are parted by tabs.
   QString SelectedText() const;
-  // How far from the page's beginning the selection ends, to be compared only.
-  std::pair<size_t, int> SelectionEnd() const { return {cursor_.chunk, cursor_.position}; }
+  // Where on the view the selection begins.
+  QPoint SelectionPoint() const;
   void SelectAll();
   void Copy() const;
 
@@ -89,7 +89,7 @@ class PageView : public QAbstractScrollArea {
   QTextCursor SelectionIn(size_t chunk) const;
   void Select(const Spot& anchor, const Spot& cursor);
   void SelectFound(size_t chunk, const QTextCursor& found);
-  void ShowSpot(const Spot& spot);
+  void ShowSelection();
   void ScrollTowards(const QPoint& at);
   const std::vector<Link>& Links();
 
