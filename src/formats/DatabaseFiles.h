@@ -26,6 +26,10 @@ inline constexpr QStringView kTransfers = u"ВНПЕР";  // the directory of al
 inline constexpr std::array<QStringView, 5> kDirectories = {u"KASS", u"KASS\\PRH", u"KASS\\UHD",
                                                             u"SPR", kTransfers};
 
+// In a Database, too: the folder in which programs of old never look, and what lies there.
+inline constexpr QStringView kOwnDirectory = u"kladez";
+inline constexpr QStringView kTaxRates = u"kladez\\ставки.usd";
+
 // In a warehouse's directory.
 inline constexpr QStringView kLedger = u"товар.usl";
 inline constexpr QStringView kPriceNames = u"price.usd";

@@ -13,10 +13,6 @@
 
 namespace kladez {
 
-// The folder of a Database in which programs of old never look, and the file in it.
-inline constexpr QStringView kOwnDirectory = u"kladez";
-inline constexpr QStringView kTaxRatesPath = u"kladez\\ставки.usd";
-
 struct TaxRates {
   QString vat;        // percent
   QString sales_tax;  // percent

@@ -14,7 +14,7 @@ Currency LoadMainCurrency(const DataDir& data, const Session& session, FileState
 std::optional<TaxRates> LoadTaxRates(const DataDir& data, const Session& session, FileState& file) {
   std::optional<TaxRates> rates;
   IgnoreErrors([&] {
-    const QByteArray bytes = ReadIfThere(data, session.Path(kTaxRatesPath), file);
+    const QByteArray bytes = ReadIfThere(data, session.Path(files::kTaxRates), file);
     rates = file.exists ? ReadTaxRates(bytes) : TaxRates();
   });
   return rates;
@@ -26,8 +26,8 @@ void SaveMainCurrency(const DataDir& data, Session& session, const Currency& cur
   save.Write(session.Path(files::kCurrency), WriteCurrency(currency), file);
   FileState now;
   if (LoadTaxRates(data, session, now) != rates) {
-    save.MakeDirectory(session.Path(kOwnDirectory));
-    save.Write(session.Path(kTaxRatesPath), WriteTaxRates(rates), rates_file);
+    save.MakeDirectory(session.Path(files::kOwnDirectory));
+    save.Write(session.Path(files::kTaxRates), WriteTaxRates(rates), rates_file);
   }
   save.Commit();
   session.currency_name = currency.ShortForm();

@@ -12,7 +12,6 @@
 #include "formats/DatabaseFiles.h"
 #include "formats/Ordering.h"
 #include "formats/PartyFile.h"
-#include "formats/TaxRatesFile.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -40,9 +39,9 @@ class Gathering {
     } else {
       IgnoreErrors([&] { Write(files::kCurrency.toString(), WriteCurrency(RoubleCurrency())); });
     }
-    if (data_.FileExists(source_ + kTaxRatesPath)) {
-      MakeDirectory(kOwnDirectory.toString());
-      CopyFile(kTaxRatesPath.toString());
+    if (data_.FileExists(source_ + files::kTaxRates)) {
+      MakeDirectory(files::kOwnDirectory.toString());
+      CopyFile(files::kTaxRates.toString());
     }
   }
 

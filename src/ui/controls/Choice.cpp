@@ -21,8 +21,6 @@ QComboBox* NewFreeChoice(QWidget* parent, const QString& name) {
   combo->setInsertPolicy(QComboBox::NoInsert);
   // The toolkit's would put an entry in the place of what is typed.
   combo->setCompleter(nullptr);
-  // Else Enter puts an entry that differs in letter case only in the place of what was typed.
-  combo->setDuplicatesEnabled(true);
   return combo;
 }
 
