@@ -1,5 +1,7 @@
 // The program: finds its data directory, finishes what a crash left there, gives a new one the
 // demonstration books, and shows the main window.
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QStandardPaths>
 #include <cerrno>
@@ -26,6 +28,13 @@ QString EnterDataDirectory() {
   return root;
 }
 
+// Books are nobody else's business, unless the user has said so by a mask of his own.
+void KeepToOwner() {
+  constexpr mode_t kUsual = 022;
+  const mode_t mask = ::umask(077);
+  if (mask != kUsual) ::umask(mask);
+}
+
 int Run() {
   const kladez::DataDir data(EnterDataDirectory());
   kladez::Guarded(nullptr, [&] {
@@ -50,6 +59,7 @@ int Run() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  KeepToOwner();
   const kladez::GuardedApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);

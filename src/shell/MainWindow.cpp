@@ -166,6 +166,8 @@ void MainWindow::OpenDatabase() {
   menu_->ApplyRole(context_.session.IsSeller());
   ShowPanels(true);
   ShowHome();
+  // Of the lists that could not be read.
+  QTimer::singleShot(0, this, [this] { ShowNotes(this); });
 }
 
 void MainWindow::CloseDatabase() {

@@ -64,7 +64,9 @@ QString BackupTarget(const QString& folder, QDate day) {
 
 void MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
                 const QString& folder, QDate day, const Progress& progress) {
-  const QByteArray target = QFile::encodeName(BackupTarget(folder, day));
+  // The user's own choice may lead through links; nothing that is copied does.
+  const QString plain = QFileInfo(folder).canonicalFilePath();
+  const QByteArray target = QFile::encodeName(BackupTarget(plain.isEmpty() ? folder : plain, day));
   if (syscalls::Exists(target)) {
     Check(EEXIST, u"Копия за это число уже есть в выбранной папке, она оставлена как есть"_s,
           target);

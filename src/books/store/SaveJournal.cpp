@@ -1,7 +1,6 @@
 #include "books/store/SaveJournal.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <cerrno>
@@ -9,6 +8,7 @@
 #include <set>
 
 #include "books/store/Errors.h"
+#include "books/store/Notes.h"
 #include "books/store/SaveManifest.h"
 #include "books/store/SystemCalls.h"
 
@@ -26,8 +26,9 @@ void Check(int error, const QByteArray& path) {
 // What can't be looked at is not taken for absent: a step would be passed over.
 std::optional<struct stat> Status(const QByteArray& path) {
   struct stat status;
-  if (::lstat(path.constData(), &status) == 0) return status;
-  if (errno != ENOENT && errno != ENOTDIR) Check(errno, path);
+  const int error = syscalls::Look(path, &status);
+  if (error == 0) return status;
+  if (error != ENOENT && error != ENOTDIR) Check(error, path);
   return std::nullopt;
 }
 
@@ -83,13 +84,59 @@ void SaveJournal::Commit(std::vector<Change>& changes,
   }
   try {
     CarryOut(changes);
-  } catch (...) {
+  } catch (const std::filesystem::filesystem_error& error) {
     // What can't be taken back now is healed before the next save.
     const auto take_back = [&] { TakeBack(changes); };
-    if (!IgnoreErrors(take_back)) IgnoreErrors(take_back);
-    throw;
+    const bool taken_back = IgnoreErrors(take_back) || IgnoreErrors(take_back);
+    if (taken_back || !IsDone(changes)) Tell(error);
+    AddNote(
+        u"Записано, но диск при этом сообщил об ошибке. Повторять команду не нужно; "
+        u"проверьте диск и сделайте копию базы\n"_s +
+        ErrorText(error));
+    return;
   }
   if (Discard() != 0) Discard();
+}
+
+// What a second look at the disk shows after a save that could neither be ended nor taken back.
+bool SaveJournal::IsDone(std::span<const Change> changes) {
+  bool done = false;
+  IgnoreErrors([&] {
+    if (Status(TakingBack())) return;
+    done = true;
+    for (size_t i = 0; i < changes.size(); ++i) done = done && IsMade(i, changes[i]);
+  });
+  return done;
+}
+
+bool SaveJournal::IsMade(size_t index, const Change& change) {
+  switch (change.kind) {
+    case Kind::kWrite:
+      if (Status(New(index))) return false;
+      return change.fresh ? Status(change.path).has_value() : Status(Old(index)).has_value();
+    case Kind::kDelete:
+    case Kind::kDeleteTree:
+      return Status(Old(index)).has_value();
+    case Kind::kMakeDirectory:
+      return Status(change.path).has_value();
+    case Kind::kRename:
+      return !Status(change.path) && Status(change.to);
+  }
+  Q_UNREACHABLE();
+}
+
+void SaveJournal::Tell(const std::filesystem::filesystem_error& error) {
+  bool carried_on = false, taken_back = false;
+  IgnoreErrors([&] {
+    carried_on = Status(Manifest()).has_value();
+    taken_back = Status(TakingBack()).has_value();
+  });
+  const QString state =
+      taken_back   ? u"Не удалось записать; следующий запуск программы вернёт всё, как было"_s
+      : carried_on ? u"Команда записана не до конца; следующий запуск программы её закончит, "
+                     u"повторять её не нужно"_s
+                   : u"На диске осталось прежнее, команда не записана"_s;
+  ThrowFileError(state, QFile::decodeName(QByteArray(error.path1().c_str())), error.code().value());
 }
 
 void SaveJournal::Recover() { Heal(); }
@@ -99,14 +146,64 @@ bool SaveJournal::Heal() {
   if (!status) return false;
   bool touched = S_ISDIR(status->st_mode);
   if (touched && Status(TakingBack())) {
-    TakeBack(ReadManifest(TakingBack(), root_));
+    TakeBack(Interrupted(TakingBack()));
   } else if (touched && Status(Manifest())) {
-    CarryOut(ReadManifest(Manifest(), root_));
+    CarryOut(Interrupted(Manifest()));
   } else {
     touched = false;
   }
   Check(Discard(), stage_);
   return touched;
+}
+
+// The changes of a list that a crash left. One that can't be followed is no reason to stop each
+// start: it is put aside, with what was to be written, and told.
+std::vector<Change> SaveJournal::Interrupted(const QByteArray& manifest) {
+  try {
+    std::vector<Change> changes = ReadManifest(manifest, root_);
+    for (size_t i = 0; i < changes.size(); ++i) RefuseForeign(i, changes[i]);
+    return changes;
+  } catch (const std::filesystem::filesystem_error& error) {
+    // A disk that can't be read now may be read at the next start.
+    if (error.code().value() == EIO || error.code().value() == EACCES) throw;
+    PutAside(error);
+  }
+}
+
+// Staged files are plain ones, and no path leads through a link.
+void SaveJournal::RefuseForeign(size_t index, const Change& change) {
+  const auto refuse_links = [](const QByteArray& path) {
+    const QByteArray parent = ParentOf(path);
+    struct stat status;
+    const int error = syscalls::Look(path, &status);
+    if (error != 0 && error != ENOENT) Check(error == ENOTDIR ? ELOOP : error, parent);
+  };
+  refuse_links(change.path);
+  if (change.kind == Kind::kRename) refuse_links(change.to);
+  if (change.kind != Kind::kWrite) return;
+  for (const QByteArray& staged : {New(index), Old(index)}) {
+    const auto status = Status(staged);
+    if (status && !S_ISREG(status->st_mode)) Check(EBADMSG, staged);
+  }
+}
+
+void SaveJournal::PutAside(const std::filesystem::filesystem_error& error) {
+  QByteArray aside;
+  for (int number = 1;; ++number) {
+    aside = root_ + '/' + QFile::encodeName(u"Прерванная запись %1"_s.arg(number));
+    if (syscalls::Exists(aside)) continue;
+    const int failed = syscalls::RenameToNew(stage_, aside);
+    if (failed == EEXIST) continue;
+    Check(failed, stage_);
+    break;
+  }
+  syscalls::SyncDirectory(root_);
+  ThrowFileError(
+      u"Запись, прерванную в прошлый раз, закончить нельзя: её список изменений "
+      u"повреждён. Что было записать, лежит в каталоге «%1». Проверьте последние "
+      u"документы и остатки; если чего-то нет, восстановите базу из копии"_s.arg(
+          QFile::decodeName(aside.mid(root_.size() + 1))),
+      QFile::decodeName(QByteArray(error.path1().c_str())), error.code().value());
 }
 
 void SaveJournal::Stage(std::vector<Change>& changes) {
@@ -171,7 +268,9 @@ void SaveJournal::StageWrite(size_t index, Change& change) {
 
 void SaveJournal::MakeFinal(std::span<const Change> changes) {
   const QByteArray draft = Manifest() + ".draft";
-  Check(syscalls::WriteNewFile(draft, ManifestBytes(changes, root_), 0), draft);
+  const QByteArray bytes = ManifestBytes(changes, root_);
+  if (bytes.size() > kLongestManifest) Check(EFBIG, draft);
+  Check(syscalls::WriteNewFile(draft, bytes, 0), draft);
   // The manifest must not reach the disk before what it speaks of.
   Check(syscalls::SyncDirectory(stage_), stage_);
   Check(syscalls::SyncDirectory(root_), root_);
@@ -180,7 +279,15 @@ void SaveJournal::MakeFinal(std::span<const Change> changes) {
 }
 
 void SaveJournal::CarryOut(std::span<const Change> changes) {
-  for (size_t i = 0; i < changes.size(); ++i) MakeOne(i, changes[i]);
+  size_t first_made = 0;
+  for (size_t i = 0; i < changes.size(); ++i) {
+    // What is moved into a directory that no power cut has to keep would go away with it.
+    const bool made = i > 0 && changes[i - 1].kind == Kind::kMakeDirectory;
+    const bool one_more = changes[i].kind == Kind::kMakeDirectory;
+    if (one_more && !made) first_made = i;
+    if (made && !one_more) SyncParents(changes.subspan(first_made, i - first_made));
+    MakeOne(i, changes[i]);
+  }
   SyncParents(changes);
 }
 
@@ -248,10 +355,14 @@ void SaveJournal::TakeBackOne(size_t index, const Change& change) {
 }
 
 int SaveJournal::Discard() {
+  struct stat status;
+  if (syscalls::Look(stage_, &status) == 0 && !S_ISDIR(status.st_mode)) {
+    return syscalls::Unlink(stage_);  // a link, wherever it leads
+  }
   // The marks go first and for good. Where one stays, all stays, so that Recover may repeat the
   // set; where only other files stay, Recover throws them away.
   for (const QByteArray& mark : {Manifest(), TakingBack()}) {
-    if (::access(mark.constData(), F_OK) != 0) continue;
+    if (!syscalls::Exists(mark)) continue;
     if (const int error = syscalls::Unlink(mark)) return error;
     if (const int error = syscalls::SyncDirectory(stage_)) return error;
   }

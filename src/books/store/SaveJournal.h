@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <filesystem>
 #include <span>
 #include <vector>
 
@@ -37,6 +38,13 @@ class SaveJournal {
 
   // False where only leftovers without meaning lay there, or nothing.
   bool Heal();
+  std::vector<Change> Interrupted(const QByteArray& manifest);
+  void RefuseForeign(size_t index, const Change& change);
+  [[noreturn]] void PutAside(const std::filesystem::filesystem_error& error);
+  bool IsDone(std::span<const Change> changes);
+  bool IsMade(size_t index, const Change& change);
+  // Tells which of both states holds.
+  [[noreturn]] void Tell(const std::filesystem::filesystem_error& error);
   // Writes new contents and keeps what they will replace.
   void Stage(std::vector<Change>& changes);
   void StageOne(size_t index, Change& change);

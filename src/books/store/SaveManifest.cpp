@@ -5,6 +5,7 @@
 #include <cerrno>
 
 #include "books/store/Errors.h"
+#include "books/store/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -62,11 +63,13 @@ std::optional<std::vector<SaveSet::Change>> ParseManifest(const QByteArray& byte
 }
 
 std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArray& root) {
-  QFile in(QFile::decodeName(file));
-  if (in.open(QIODevice::ReadOnly)) {
-    if (auto changes = ParseManifest(in.readAll(), root)) return *std::move(changes);
+  QByteArray bytes;
+  const int error = syscalls::ReadPlainFile(file, kLongestManifest, &bytes);
+  if (error == 0) {
+    if (auto changes = ParseManifest(bytes, root)) return *std::move(changes);
   }
-  ThrowFileError(u"Не удалось прочитать список прерванной записи"_s, in.fileName(), EIO);
+  ThrowFileError(u"Не удалось прочитать список прерванной записи"_s, QFile::decodeName(file),
+                 error == 0 ? EBADMSG : error);
 }
 
 }  // namespace kladez

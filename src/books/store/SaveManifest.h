@@ -10,6 +10,9 @@
 
 namespace kladez {
 
+// No set of a shop has a longer list; what is longer is none.
+inline constexpr qint64 kLongestManifest = 16 << 20;
+
 // Paths are kept relative to `root`, the data directory, which may have another name after a crash.
 QByteArray ManifestBytes(std::span<const SaveSet::Change> changes, const QByteArray& root);
 

@@ -1,6 +1,9 @@
 #include "books/store/Session.h"
 
+#include <functional>
+
 #include "books/store/Errors.h"
+#include "books/store/Notes.h"
 #include "books/store/SaveSet.h"
 #include "formats/CurrencyFile.h"
 #include "formats/DatabaseFiles.h"
@@ -14,11 +17,21 @@ using namespace Qt::StringLiterals;
 
 QStringList PartyNames(const Session& session, const DataDir& data, PartyKind kind) {
   QStringList names;
-  const auto bytes = data.ReadIfAny(session.Path(PartyPath(kind)));
-  for (const Party& party : ReadParties(kind, bytes.value_or(QByteArray()))) {
-    names.append(party.constFirst());
-  }
+  FileState file;
+  const QByteArray bytes = ReadIfThere(data, session.Path(PartyPath(kind)), file);
+  for (const Party& party : ReadParties(kind, bytes)) names.append(party.constFirst());
   return names;
+}
+
+// An unreadable list shows as an empty one, and nothing is written over it; that must be said.
+void NoteUnread(const std::function<void()>& read) {
+  try {
+    read();
+  } catch (const std::filesystem::filesystem_error& error) {
+    AddNote(ErrorText(error) +
+            u"\nПока файл не прочитан, список показан пустым и не записывается. Верните файл на "
+            u"место, хотя бы из копии базы, и откройте базу заново"_s);
+  }
 }
 
 QString ShortCurrency(const Session& session, const DataDir& data) {
@@ -44,12 +57,17 @@ bool OpenDatabase(Session& session, const DataDir& data) {
   }
   // Without the list, a missing one too, no name is known that a new list could be made of.
   session.warehouses.clear();
-  IgnoreErrors([&] {
+  NoteUnread([&] {
     session.warehouses =
         DecodeLines(ReadWithState(data, session.Path(files::kWarehouses), session.warehouses_file));
   });
+  FileState marks;
+  NoteUnread([&] { ReadIfThere(data, session.Path(u"marked"_s), marks); });
   session.currency_name = ShortCurrency(session, data);
-  for (const PartyKind kind : kPartyKinds) session.Parties(kind) = PartyNames(session, data, kind);
+  for (const PartyKind kind : kPartyKinds) {
+    session.Parties(kind).clear();
+    NoteUnread([&] { session.Parties(kind) = PartyNames(session, data, kind); });
+  }
   return true;
 }
 

@@ -41,7 +41,8 @@ struct Session {
 };
 
 // Binds the session to the Database that chosen_base names, errors ignored step by step; false when
-// there is none. A missing currency.usd is written anew, a missing list leaves its list empty.
+// there is none. A missing currency.usd is written anew; a list that can't be read is left empty
+// and told (see Notes.h).
 bool OpenDatabase(Session& session, const DataDir& data);
 
 // The stock ledger of a warehouse, "0001\Главный склад\товар.usl".

@@ -1,9 +1,17 @@
 #include "books/store/SettingsStore.h"
 
-#include <QSettings>
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
+#include <cerrno>
 #include <cmath>
 
+#include "books/store/DirectoryLock.h"
+#include "books/store/Errors.h"
+#include "books/store/SystemCalls.h"
 #include "formats/Numbers.h"
 
 namespace kladez {
@@ -11,29 +19,68 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr qint64 kLongestSettings = 1 << 20;
+
 QString UserFile() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
          u"/kladez/settings.ini"_s;
 }
 
 QString KeyOf(const Setting& setting) {
-  return setting.root.toString() + u'/' + setting.section.toString() + u'/' +
-         setting.key.toString();
+  return setting.section.toString() + u'\\' + setting.key.toString();
+}
+
+// Where the file really lies: a user may keep it, or its directory, elsewhere by a link.
+QByteArray PlainPath(const QString& file) {
+  const QFileInfo there(file);
+  if (there.exists()) return QFile::encodeName(there.canonicalFilePath());
+  const QString directory = QFileInfo(there.absolutePath()).canonicalFilePath();
+  return QFile::encodeName(directory + u'/' + there.fileName());
+}
+
+void CheckWritten(int error, const QByteArray& path) {
+  if (error != 0) {
+    ThrowFileError(u"Не удалось записать настройки"_s, QFile::decodeName(path), error);
+  }
+}
+
+// The old file or the new one, whole, whatever happens.
+void Replace(const QByteArray& path, const QByteArray& bytes) {
+  const QByteArray directory = path.left(path.lastIndexOf('/'));
+  const DirectoryLock lock(directory, std::chrono::milliseconds(200));
+  const QByteArray draft = path + ".new";
+  struct stat status;
+  const unsigned mode = syscalls::Look(path, &status) == 0 ? status.st_mode & 0777 : 0600;
+  if (syscalls::Exists(draft)) CheckWritten(syscalls::Unlink(draft), draft);  // a crash left it
+  try {
+    CheckWritten(syscalls::WriteNewFile(draft, bytes, mode), draft);
+    CheckWritten(syscalls::Rename(draft, path), path);
+  } catch (...) {
+    syscalls::Unlink(draft);
+    throw;
+  }
+  syscalls::SyncDirectory(directory);
 }
 
 }  // namespace
 
-SettingsStore::SettingsStore(const QString& file)
-    : store_(
-          std::make_unique<QSettings>(file.isEmpty() ? UserFile() : file, QSettings::IniFormat)) {}
+SettingsStore::SettingsStore(const QString& file) : file_(file.isEmpty() ? UserFile() : file) {
+  Load();
+}
 
-SettingsStore::~SettingsStore() = default;
+// What can't be read, or is no plain file, is not written either.
+bool SettingsStore::Load() {
+  QByteArray bytes;
+  const QByteArray path = PlainPath(file_);
+  const int error =
+      QFileInfo::exists(file_) ? syscalls::ReadPlainFile(path, kLongestSettings, &bytes) : ENOENT;
+  if (error == 0) lines_ = ReadIni(bytes);
+  return error == 0 || error == ENOENT;
+}
 
 QString SettingsStore::Read(const Setting& setting) const {
-  const QVariant value = store_->value(KeyOf(setting));
-  // A file edited by hand may hold a list where a text belongs.
-  const bool text = value.typeId() == QMetaType::QString;
-  return text ? value.toString() : setting.otherwise.toString();
+  return IniText(lines_, setting.root.toString(), KeyOf(setting))
+      .value_or(setting.otherwise.toString());
 }
 
 bool SettingsStore::ReadBool(const Setting& setting) const {
@@ -48,8 +95,16 @@ int SettingsStore::ReadInt(const Setting& setting) const {
 }
 
 void SettingsStore::Write(const Setting& setting, const QString& text) {
-  store_->setValue(KeyOf(setting), text);
-  store_->sync();  // the program may end at once, without another chance
+  // Another window of the program may have written since.
+  const bool readable = Load();
+  const IniLines before = lines_;
+  SetIniText(lines_, setting.root.toString(), KeyOf(setting), text);
+  if (!readable || (lines_ == before && QFileInfo::exists(file_))) return;
+  // A place that can't be written must keep nobody from working.
+  IgnoreErrors([&] {
+    QDir().mkpath(QFileInfo(file_).absolutePath());
+    Replace(PlainPath(file_), WriteIni(lines_));
+  });
 }
 
 void SettingsStore::WriteBool(const Setting& setting, bool on) {

@@ -1,11 +1,12 @@
 // The per-user settings: text values by application root, section and key, kept in one file of the
-// user's configuration directory. They follow the user from one Database to another.
+// user's configuration directory. They follow the user from one Database to another. The file is
+// always the old one or the new one, whole; one that can't be read, or is no plain file, is not
+// written, and the settings last as long as the program.
 #pragma once
 
 #include <QString>
-#include <memory>
 
-class QSettings;
+#include "formats/IniFile.h"
 
 namespace kladez {
 
@@ -50,7 +51,6 @@ class SettingsStore {
  public:
   // The settings of the machine's user, or those in a file of the caller's choice.
   explicit SettingsStore(const QString& file = {});
-  ~SettingsStore();
 
   // A read that fails gives the setting's default.
   QString Read(const Setting& setting) const;
@@ -60,7 +60,10 @@ class SettingsStore {
   void WriteBool(const Setting& setting, bool on);  // "True" or "False"
 
  private:
-  std::unique_ptr<QSettings> store_;
+  bool Load();  // false where the file must not be written
+
+  QString file_;
+  IniLines lines_;
 };
 
 }  // namespace kladez

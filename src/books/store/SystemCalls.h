@@ -7,6 +7,8 @@
 #include <functional>
 #include <string_view>
 
+struct stat;
+
 namespace kladez::syscalls {
 
 // Asked before each call with its name ("create", "write", "copy", "fsync", "syncfs", "rename",
@@ -15,7 +17,20 @@ namespace kladez::syscalls {
 using FaultHook = std::function<int(std::string_view call, const QByteArray& path)>;
 void SetFaultHook(FaultHook hook);
 
-// All paths are absolute and in the file system's encoding. Each returns 0 or an errno.
+// Told of each change that was made, by the names above. `from` is what a rename or link is of, or
+// empty; `bytes` is what was written at the end of the file.
+struct Made {
+  std::string_view call;
+  const QByteArray& path;
+  QByteArray from = {};
+  QByteArrayView bytes = {};
+};
+using Recorder = std::function<void(const Made& made)>;
+void SetRecorder(Recorder recorder);
+
+// All paths are absolute, in the file system's encoding and without links: one that leads through
+// a link is refused (ELOOP), so that nothing outside of where the caller means is ever touched.
+// Each returns 0 or an errno.
 int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode);  // made, synced
 int SyncDirectory(const QByteArray& path);
 int Rename(const QByteArray& from, const QByteArray& to);       // replaces `to`
@@ -30,6 +45,12 @@ int RemoveDirectory(const QByteArray& path);
 int RemoveTree(const QByteArray& path);  // with all that it holds, read-only or not
 
 bool Exists(const QByteArray& path);  // a link counts, wherever it leads
+// What lies there, a link being a link; ENOENT where nothing does.
+int Look(const QByteArray& path, struct stat* status);
+// The bytes of a plain file, EFBIG where there are more of them; nothing else is read from.
+int ReadPlainFile(const QByteArray& path, qint64 most, QByteArray* bytes);
+// As on a kernel that can't look a path up without links by itself; for tests.
+void PretendOldKernel(bool old);
 // The errno with which writing to a file or into a directory would be refused, 0 when it would not.
 // One without any right to write is refused even to the superuser, to whom the system itself would
 // refuse nothing.

@@ -1,5 +1,7 @@
 #include "books/store/TreeCopy.h"
 
+#include <sys/stat.h>
+
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
@@ -76,6 +78,13 @@ void TreeCopy::Run(const Progress& progress) const {
     }
     done += piece.size;
     progress.Tell(static_cast<double>(done) / static_cast<double>(size_));
+  }
+  // An empty file has no byte that could have failed to be written.
+  for (const Piece& piece : pieces_) {
+    struct stat status;
+    if (const int error = syscalls::Look(piece.to, &status)) {
+      Fail(u"В копии нет файла"_s, piece.to, error);
+    }
   }
 }
 

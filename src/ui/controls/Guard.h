@@ -6,16 +6,23 @@
 #include <functional>
 
 #include "books/store/Errors.h"
+#include "books/store/Notes.h"
 #include "books/store/Progress.h"
 #include "ui/controls/Messages.h"
 
 namespace kladez {
+
+// Tells what is to be known though nothing failed.
+inline void ShowNotes(QWidget* parent) {
+  for (const QString& note : TakeNotes()) ShowMessage(parent, note);
+}
 
 // True when the action came to its end; false, without a word, when it was cancelled.
 template <typename Action>
 bool Guarded(QWidget* parent, Action&& action) {
   try {
     action();
+    ShowNotes(parent);
     return true;
   } catch (const WorkCancelled&) {
     return false;  // whoever cancelled it knows

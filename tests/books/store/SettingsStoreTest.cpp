@@ -1,10 +1,15 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
+#include <cerrno>
 
+#include "DiesAtStep.h"
 #include "books/store/SettingsStore.h"
+#include "books/store/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -89,6 +94,68 @@ TEST_F(SettingsStoreTest, WithoutAPlaceToWriteTheProgramGoesOn) {
   SettingsStore store(file_);
   store.Write(settings::kSort, u"ZA"_s);
   EXPECT_EQ(store.Read(settings::kSort), u"ZA"_s);
+}
+
+// Files that the program wrote before stay what they are, and what it writes now is read alike.
+TEST_F(SettingsStoreTest, TheFileIsReadAndWrittenAsEver) {
+  const QStringList texts = {u"0001\\"_s,
+                             u"Лавка; «Ёлка», a=b"_s,
+                             u" "_s,
+                             u"@x"_s,
+                             u"\x01"
+                             u"1"_s,
+                             u"\"\n\t"_s,
+                             u"True"_s,
+                             {}};
+  for (const QString& text : texts) {
+    // Another one each time: the old reader takes a file of the same size for the same file.
+    const QString file = directory_.filePath(QString::number(&text - texts.data()));
+    {
+      QSettings old(file, QSettings::IniFormat);
+      old.setValue(u"Kladez4/Main/basename"_s, text);
+      old.setValue(u"Other/a"_s, QStringList{u"1"_s, u"2"_s});
+    }
+    SettingsStore store(file);
+    EXPECT_EQ(store.Read(settings::kBaseName), text) << text.toStdString();
+    store.Write(settings::kBaseTitle, text);
+    const QSettings again(file, QSettings::IniFormat);
+    EXPECT_EQ(again.value(u"Kladez4/Main/basename1"_s).toString(), text) << text.toStdString();
+    EXPECT_EQ(again.value(u"Other/a"_s).toStringList().size(), 2);
+  }
+}
+
+TEST_F(SettingsStoreTest, AFaultLeavesTheOldFileOrTheNewOne) {
+  SettingsStore(file_).Write(settings::kSort, u"AZ"_s);
+  const auto bytes = [this] {
+    QFile file(file_);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  const QByteArray old = bytes();
+  for (int step = 1, calls = step; calls >= step; ++step) {
+    calls = 0;
+    syscalls::SetFaultHook([&](auto, auto&) { return ++calls >= step ? ENOSPC : 0; });
+    SettingsStore(file_).Write(settings::kSort, u"ZA"_s);
+    syscalls::SetFaultHook({});
+    const bool good = bytes() == old || SettingsStore(file_).Read(settings::kSort) == u"ZA"_s;
+    EXPECT_TRUE(good) << "step " << step;
+  }
+  for (int step = 1; DiesAtStep(step, [&] { SettingsStore(file_).Write(settings::kSort, {}); });
+       ++step) {
+    EXPECT_FALSE(bytes().isEmpty()) << "step " << step;
+  }
+  SettingsStore(file_).Write(settings::kSort, u"AZ"_s);
+  EXPECT_EQ(QDir(QFileInfo(file_).path()).entryList(QDir::Files), QStringList(u"settings.ini"_s));
+}
+
+// A pipe would hang the start; what is no settings file is not replaced by one either.
+TEST_F(SettingsStoreTest, APipeInThePlaceOfTheFileStopsNothing) {
+  QDir().mkpath(QFileInfo(file_).path());
+  ASSERT_EQ(::mkfifo(QFile::encodeName(file_).constData(), 0600), 0);
+  SettingsStore store(file_);
+  EXPECT_EQ(store.Read(settings::kSort), u"AZ"_s);
+  store.Write(settings::kSort, u"ZA"_s);
+  EXPECT_EQ(store.Read(settings::kSort), u"ZA"_s);
+  EXPECT_FALSE(QFileInfo(file_).isFile());
 }
 
 }  // namespace
