@@ -38,6 +38,7 @@ QRadioButton* ReportDialog::NewOption(const QString& name, const QString& captio
 void ReportDialog::BuildPeriod() {
   all_ = NewOption(u"all"_s, u"&Все"_s);
   current_month_ = NewOption(u"current_month"_s, u"Текущий &месяц"_s);
+  current_month_->setToolTip(u"Этот месяц каждого года, за который есть документы"_s);
   range_ = NewOption(u"range"_s, u"&с:"_s);
   all_->setChecked(true);
   const QDate today = Context().clock.Today();

@@ -1,6 +1,7 @@
 #include "screens/stock/LineDialog.h"
 
 #include <QFormLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "formats/Numbers.h"
@@ -13,7 +14,24 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
-LineDialog::LineDialog(const DraftLine& line, QWidget* parent) : QDialog(parent) {
+namespace {
+
+QLabel* NewNote(const QString& name, QWidget* parent) {
+  auto* note = new QLabel(parent);
+  note->setObjectName(name);
+  note->setTextFormat(Qt::PlainText);
+  note->hide();
+  return note;
+}
+
+}  // namespace
+
+LineDialog::LineDialog(const DraftLine& line, QWidget* parent, const LineSurroundings& around)
+    : QDialog(parent),
+      line_(line.line),
+      around_(around),
+      stock_note_(NewNote(u"stock_note"_s, this)),
+      price_note_(NewNote(u"price_note"_s, this)) {
   setObjectName(u"change"_s);
   setWindowTitle(u"Изменить"_s);
   name_ = new TextLine(this);
@@ -48,6 +66,8 @@ LineDialog::LineDialog(const DraftLine& line, QWidget* parent) : QDialog(parent)
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(form);
+  layout->addWidget(stock_note_);
+  layout->addWidget(price_note_);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
   setMinimumWidth(52 * look::kGrid);
@@ -57,6 +77,7 @@ LineDialog::LineDialog(const DraftLine& line, QWidget* parent) : QDialog(parent)
   }
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  ShowNotes();
   quantity_->setFocus();
   quantity_->selectAll();
 }
@@ -70,6 +91,22 @@ QString LineDialog::Amount() const { return amount_->text(); }
 void LineDialog::Recompute() {
   // A product that overflows leaves the field as it stands.
   if (const auto amount = LineAmount(Quantity(), Price())) amount_->setText(*amount);
+  ShowNotes();
+}
+
+void LineDialog::ShowNotes() {
+  const auto show = [](QLabel* label, const LineNote& note) {
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, note.amiss ? look::kWarning : look::kQuiet);
+    label->setPalette(palette);
+    label->setText(note.text);
+    label->setVisible(!note.text.isEmpty());
+  };
+  show(stock_note_, around_.on_hand
+                        ? NoteOnHand(*around_.on_hand, Quantity(), line_.unit, Flow::kOut)
+                        : LineNote());
+  show(price_note_,
+       around_.is_sold ? NoteOnPrice(Price(), line_.cost, around_.cost_is) : LineNote());
 }
 
 }  // namespace kladez

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QDialog>
+#include <optional>
 
 #include "books/stock/DocumentDraft.h"
+#include "books/stock/LineNotes.h"
 
-class QPushButton;
+class QLabel;
 
 namespace kladez {
 
@@ -13,11 +15,19 @@ class TextLine;
 class TextLineDecimal;
 class TextLineNumber;
 
+// What the dialog tells of the line besides; what is left empty is not told.
+struct LineSurroundings {
+  std::optional<double> on_hand;  // what the warehouse holds after the other lines
+  bool is_sold = false;           // its price is compared with its cost
+  CostIs cost_is = CostIs::kShown;
+};
+
 class LineDialog : public QDialog {
   Q_OBJECT
 
  public:
-  explicit LineDialog(const DraftLine& line, QWidget* parent = nullptr);
+  explicit LineDialog(const DraftLine& line, QWidget* parent = nullptr,
+                      const LineSurroundings& around = {});
 
   QString Quantity() const;
   QString Price() const;
@@ -25,7 +35,12 @@ class LineDialog : public QDialog {
 
  private:
   void Recompute();
+  void ShowNotes();
 
+  const DocumentLine line_;
+  const LineSurroundings around_;
+  QLabel* stock_note_;
+  QLabel* price_note_;
   TextLine* name_;            // "Товар:"
   TextLineNumber* quantity_;  // "Кол-во:"
   TextLine* unit_;            // "Ед. изм.:"

@@ -184,6 +184,19 @@ TEST_F(Editors, LinesThatTheWarehouseLacksAreRed) {
   };
   EXPECT_FALSE(is_red(0) || is_red(1));
   EXPECT_TRUE(is_red(2));
+  ShowActive(&editor);
+  ModalAnswers answers({[](QWidget* dialog) {
+    const auto told = [&](const char* name) { return Find<QLabel>(dialog, name)->text(); };
+    EXPECT_EQ(told("stock_note"), u"На складе 2.5 шт., не хватает 0.5 шт.");
+    EXPECT_EQ(told("price_note"), u"");
+    Enter(dialog, "Text2", u"2"_s);
+    EXPECT_EQ(told("stock_note"), u"На складе 2.5 шт.");
+    Enter(dialog, "Text4", u"1"_s);
+    EXPECT_EQ(told("price_note"), u"Цена равна закупочной (1.00)");
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  }});
+  ListOf(&editor)->SelectRow(0);
+  Click(&editor, "change");
 }
 
 TEST_F(Editors, TheTabKeyGoesAsTheEyeDoes) {

@@ -306,7 +306,13 @@ void DocumentEditor::TakePick(const GoodsPick& pick) {
 void DocumentEditor::Change() {
   const int row = list_->CurrentRow();
   if (row < 0) return;
-  LineDialog dialog(draft_.Lines()[row], this);
+  const DraftLine& line = draft_.Lines()[row];
+  LineSurroundings around{
+      .on_hand = {},
+      .is_sold = screens_.kind == DocumentKind::kShipment,
+      .cost_is = context_.session.IsSeller() ? CostIs::kSecret : CostIs::kShown};
+  if (stock_ && !draft_.HasPosted()) around.on_hand = stock_->OnHand(line.line.name, row);
+  LineDialog dialog(line, this, around);
   if (dialog.exec() == QDialog::Accepted) {
     draft_.ChangeLine(row, dialog.Quantity(), dialog.Price(), dialog.Amount());
     ShowSums();
