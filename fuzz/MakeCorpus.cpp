@@ -61,6 +61,7 @@ std::vector<Seed> Seeds() {
       {"taxrates", WriteTaxRates({u"20"_s, u"5"_s})},
       {"descriptor", WriteDescriptor({u"0001\\"_s, u"Магазин"_s})},
       {"backup", WriteBackupIndex({{u"0001.us"_s, {u"0001\\"_s, u"Магазин"_s}}})},
+      {"check", WriteDocument(DocumentKind::kShipment, SampleDocument({})).replace("\r\n", "\n")},
       {"manifest", ManifestBytes(changes, "/d")},
       {"paths", QByteArray("0001\\spr\\firma.spr")},
       {"numbers", QByteArray("- 1 234,50e-2")},

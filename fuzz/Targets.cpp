@@ -4,6 +4,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "books/check/DocumentCheck.h"
 #include "books/printing/AmountInWords.h"
 #include "books/stock/DocumentScan.h"
 #include "books/stock/StockLedger.h"
@@ -84,6 +85,40 @@ void Documents(QByteArrayView bytes) {
             "the scanner sees the lines that the reader reads");
   }
   Require(lines + (scanned.IsCut() ? 1 : 0) >= whole.lines.size(), "the scanner misses no line");
+}
+
+// What a check tells of a document lies in it, and whole line ends leave nothing to tell of ends.
+void Checks(QByteArrayView bytes) {
+  StrictLines lines;
+  std::vector<Finding> findings;
+  lines.Read({}, bytes, findings);
+  LineWriter whole;
+  for (const QByteArrayView line : lines.Lines()) whole.AddRaw(line);
+  const QByteArray mended = whole.Take();
+  StrictLines again;
+  std::vector<Finding> rest;
+  again.Read({}, mended, rest);
+  Require(again.Lines() == lines.Lines(), "mended lines are the same lines");
+  for (const Finding& finding : rest) {
+    Require(finding.repair != Repair::kLineEnds, "mended line ends need no repair");
+  }
+  for (const auto kind :
+       {DocumentKind::kReceipt, DocumentKind::kShipment, DocumentKind::kTransfer}) {
+    DirectoryNames names;
+    names.warehouses = {u"Склад"_s};
+    names.goods.Add("x");
+    StockCheck stock(names.warehouses, names.goods);
+    DocumentCheck check(kind, u"d"_s, kind == DocumentKind::kTransfer ? -1 : 0, names, stock,
+                        findings);
+    check.Add(u"0001"_s + FormatOf(kind).extension, bytes);
+    check.Finish();
+    stock.Tell(findings);
+    names.goods.TellUnknown(u"Товара"_s, findings);
+  }
+  for (const Finding& finding : findings) {
+    Require(finding.line >= 0 && finding.line <= static_cast<int>(lines.Lines().size()),
+            "a finding lies in the file");
+  }
 }
 
 void Currencies(QByteArrayView bytes) { RequireStable(bytes, ReadCurrency, WriteCurrency); }
@@ -186,6 +221,7 @@ constexpr FuzzTarget kTargets[] = {
     {"taxrates", TaxRateFiles},
     {"descriptor", Descriptors},
     {"backup", Backups},
+    {"check", Checks},
     {"manifest", Manifests},
     {"paths", Paths, false},
     {"numbers", Numbers, false},

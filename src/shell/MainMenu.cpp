@@ -27,6 +27,7 @@ constexpr auto kCommands = std::to_array<CommandRow>({
     {u"mnuFile", Command::kRestore, u"reparch", u"&Восстановить..."},
     {u"mnuFile", Command::kClose, u"mnuFileClose", u"&Закрыть", true},
     {u"mnuFile", Command::kExit, u"mnuFileExit", u"В&ыход"},
+    {u"mnuFile", Command::kCheck, u"mnuCheck", u"&Проверка базы…", true},
     {u"mnHelp", Command::kHelp, u"mnuHelp", u"&Справка по Kladez 4.8..."},
     {u"mnHelp", Command::kProductPage, u"mnWeb", u"&Kladez в Интернете", true},
     {u"mnHelp", Command::kNewsPage, u"mnNews", u"&Новости Kladez"},
@@ -86,6 +87,7 @@ void MainMenu::ShowDatabaseMenus(bool show) {
 void MainMenu::EnableDatabaseCommands(bool enable) {
   commands_[Command::kImport]->setEnabled(enable);
   commands_[Command::kClose]->setEnabled(enable);
+  commands_[Command::kCheck]->setEnabled(enable);
 }
 
 void MainMenu::ApplyRole(bool seller) {

@@ -21,6 +21,7 @@ enum class Command {
   kRestore,
   kClose,
   kExit,
+  kCheck,
   kHelp,
   kProductPage,
   kNewsPage,
@@ -35,7 +36,7 @@ class MainMenu : public QObject {
   MainMenu(QMenuBar* bar, QObject* parent);
 
   void ShowDatabaseMenus(bool show);  // "Склад", "Отчеты", "Справочники"
-  void EnableDatabaseCommands(bool enable);  // "Импорт...", "Закрыть"
+  void EnableDatabaseCommands(bool enable);  // "Импорт...", "Закрыть", "Проверка базы…"
   // What the seller may not do is greyed; everything else is enabled.
   void ApplyRole(bool seller);
 

@@ -15,6 +15,7 @@
 #include "formats/Dates.h"
 #include "screens/store/BackupWizard.h"
 #include "screens/store/CatalogueDialog.h"
+#include "screens/store/CheckDialog.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
 #include "screens/store/RestoreWizard.h"
@@ -347,6 +348,10 @@ void MainWindow::Do(Command command) {
       break;
     case Command::kExit:
       Exit();
+      break;
+    case Command::kCheck:
+      CheckDialog(context_, this).exec();
+      Return();
       break;
     case Command::kHelp:
       break;  // it asks nothing of the screens

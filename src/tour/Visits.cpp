@@ -103,6 +103,15 @@ void VisitCatalogue(Robot& robot) {
   ShowAndLeave(robot, u"Import"_s);
 }
 
+void VisitCheck(Robot& robot) {
+  robot.OpenMenu(u"mnuCheck"_s);
+  robot.WaitFor(u"check"_s);
+  robot.OpenTab(u"tabs"_s, u"Склад и документы"_s);
+  robot.Click(u"place"_s);  // once the check is done
+  ShowAndLeave(robot, u"checkplace"_s);
+  ShowAndLeave(robot, u"check"_s);
+}
+
 void VisitDialogs(Robot& robot) {
   struct Visit {
     QStringView menu;
@@ -151,6 +160,7 @@ void VisitScreens(Robot& robot) {
   robot.Press(Qt::Key_Escape);
   robot.WaitUntilGone(u"sprFirm"_s);
   VisitDialogs(robot);
+  VisitCheck(robot);
   VisitCatalogue(robot);
 }
 

@@ -43,6 +43,7 @@ void MakeBooks(const fs::path& root, Beside beside) {
     draft.Save();
   }
   if (beside == Beside::kNothing) return;
+  std::ofstream(root / "data" / "0001" / "marked") << "\xD7\xE0\xE9\n";  // "Чай", a bare LF behind
   CreateDatabase(data, u"Вторая"_s);
   MakeBackup(data, {ListDatabases(data).at(1)}, QString::fromStdString(root / "backups"),
              kBooksDay);

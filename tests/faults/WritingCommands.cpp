@@ -3,6 +3,7 @@
 #include <QFile>
 #include <memory>
 
+#include "books/check/Repairs.h"
 #include "books/directories/GoodsDirectory.h"
 #include "books/directories/GoodsMarks.h"
 #include "books/directories/MainCurrency.h"
@@ -236,6 +237,13 @@ std::vector<WritingCommand> StoreCommands() {
          };
        },
        Beside::kNothing, true},
+      {"проверка, починка", "books/check/Repairs.cpp",
+       [](FaultBooks& books) {
+         return [&books] {
+           MakeRepair(books.Data(), books.Opened(), {u"marked"_s, 1, {}, Repair::kLineEnds});
+         };
+       },
+       Beside::kSecondDatabaseAndBackup},
       {"импорт, все области", "books/store/Import.cpp",
        [](FaultBooks& books) {
          return [&books] {

@@ -77,8 +77,8 @@ TEST(Hints, NoPlaceOfTheTableIsLostOrDoubled) {
       ++places;
     }
   }
-  EXPECT_EQ(ScreensWithHints().size(), 28);
-  EXPECT_EQ(different.size(), 87u);
+  EXPECT_EQ(ScreensWithHints().size(), 29);
+  EXPECT_EQ(different.size(), 88u);
   EXPECT_EQ(HintPlaces(u"Main").size(), 20);
   EXPECT_GE(places, 145);
 }

@@ -289,6 +289,15 @@ std::vector<GoldenCase> StoreCases() {
        Changed("data/0002.us", u"0002\\\nИная"_s), Beside::kSecondDatabaseAndBackup},
       {"Bases", "базы: удаление", Menu(u"mnubases"_s, u"Bases"_s) >> Select(u"Вторая"_s),
        Click(u"GoldButton2"_s) >> Yes(), Gone("data/0002"), Beside::kSecondDatabaseAndBackup},
+      {"check", "проверка: починка",
+       Menu(u"mnuCheck"_s, u"check"_s) >> Open(u"place"_s, u"checkplace"_s) >>
+           [](Robot& robot) {
+             robot.Press(Qt::Key_Escape);
+             robot.WaitFor(u"check"_s);
+             robot.SelectRow(u"findings"_s, u"marked, строка 1"_s);
+           },
+       Click(u"mend"_s) >> Yes(), Changed(kBase + "marked", u"Чай"_s),
+       Beside::kSecondDatabaseAndBackup},
       {"BasesImport Import", "импорт",
        Menu(u"mnuimp"_s, u"BasesImport"_s) >> Select(u"Вторая"_s) >>
            Open(u"Command1"_s, u"Import"_s) >> CheckAt(u"Check1"_s),
