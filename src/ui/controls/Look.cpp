@@ -1,11 +1,13 @@
 #include "ui/controls/Look.h"
 
-#include <QFontMetrics>
+#include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QFrame>
 #include <QLayout>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <cmath>
 #include <map>
 
 namespace kladez::look {
@@ -46,6 +48,15 @@ const char* OutlineOf(IconName name) {
   return outlines.at(name);
 }
 
+bool HasEqualFigures(const QFont& font) {
+  const QFontMetricsF metrics(font);
+  const qreal wanted = metrics.horizontalAdvance(u'0');
+  for (char16_t figure = u'1'; figure <= u'9'; ++figure) {
+    if (std::abs(metrics.horizontalAdvance(QChar(figure)) - wanted) > 0.01) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 QIcon Icon(IconName name, const QColor& color) {
@@ -66,10 +77,15 @@ QIcon Icon(IconName name, const QColor& color) {
 }
 
 QFont NumberFont(const QFont& base) {
+  static std::map<QString, QFont> fonts;
+  const auto known = fonts.find(base.key());
+  if (known != fonts.end()) return known->second;
   QFont font(base);
-  font.setStyleHint(QFont::SansSerif);
-  font.setFixedPitch(false);
-  return font;
+  QStringList families = {QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans"),
+                          QStringLiteral("Noto Sans"),
+                          QFontDatabase::systemFont(QFontDatabase::FixedFont).family()};
+  while (!HasEqualFigures(font) && !families.isEmpty()) font.setFamily(families.takeFirst());
+  return fonts.emplace(base.key(), font).first->second;
 }
 
 QFont HeadingFont(const QFont& base) {

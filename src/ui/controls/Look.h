@@ -72,7 +72,8 @@ enum class IconName {
 // A line drawing in the given colour, sharp at every size.
 QIcon Icon(IconName name, const QColor& color = kAccent);
 
-// Figures of equal width, so that numbers in a column stand under each other.
+// The font itself where all its figures have one width, so that numbers in a column stand under
+// each other; else the nearest one of the machine in which they have.
 QFont NumberFont(const QFont& base);
 QFont HeadingFont(const QFont& base);
 

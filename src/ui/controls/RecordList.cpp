@@ -9,10 +9,10 @@
 #include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 
+#include "ui/controls/ListRows.h"
 #include "ui/controls/Look.h"
 #include "ui/controls/TypeAhead.h"
 
@@ -29,14 +29,6 @@ class RoomyStyle : public QProxyStyle {
     if (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin) return look::kTight + 1;
     if (metric == PM_FocusFrameVMargin) return look::kTight / 2;
     return QProxyStyle::pixelMetric(metric, option, widget);
-  }
-};
-
-class RoomyRows : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return QStyledItemDelegate::sizeHint(option, index).grownBy({0, 0, 0, look::kTight});
   }
 };
 
@@ -58,7 +50,7 @@ RecordList::RecordList(QWidget* parent)
                                        .select = [this](int row) { SelectRow(row); }})) {
   setStyle(ListStyle());
   header()->setStyle(ListStyle());
-  setItemDelegate(new RoomyRows(this));
+  setItemDelegate(new ListRows(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setUniformRowHeights(true);
@@ -221,12 +213,13 @@ int RecordList::NumberWidth(int column) const {
   int row = std::max(0, indexAt(QPoint(0, 0)).row());
   const int below = indexAt(viewport()->rect().bottomLeft()).row();
   const int end = below < 0 ? model()->rowCount() : below + 1;
-  QFont bold(font());
+  const QFont plain = look::NumberFont(font());
+  QFont bold(plain);
   bold.setBold(true);
   int widest = 0;
   for (; row < end; ++row) {
-    const QString text = model()->index(row, column).data().toString();
-    const QFontMetrics metrics(Records()->IsGroup(row) ? bold : font());
+    const QString text = WithThinGaps(model()->index(row, column).data().toString());
+    const QFontMetrics metrics(Records()->IsGroup(row) ? bold : plain);
     widest = std::max(widest, metrics.horizontalAdvance(text));
   }
   const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;

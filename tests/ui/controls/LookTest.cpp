@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFontMetricsF>
+
+#include "ui/controls/ListRows.h"
+#include "ui/controls/Look.h"
+
+namespace kladez {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(Look, ThinGapsPartTheThousandsOfNumbersAlone) {
+  const struct {
+    QStringView text;
+    QStringView shown;
+  } cases[] = {{u"1234567.50", u"1\u2009234\u2009567.50"},
+               {u"-123456", u"-123\u2009456"},
+               {u"-1234.5", u"-1\u2009234.5"},
+               {u"999.99", u"999.99"},
+               {u"12.3456", u"12.3456"},
+               {u"1e10", u"1e10"},
+               {u"1234 кг", u"1234 кг"},
+               {u"05.03.2026", u"05.03.2026"},
+               {u"", u""},
+               {u"-", u"-"}};
+  for (const auto& c : cases) EXPECT_EQ(WithThinGaps(c.text.toString()), c.shown.toString());
+}
+
+TEST(Look, FiguresOfANumberHaveOneWidth) {
+  for (const QString& family : {QApplication::font().family(), u"DejaVu Serif"_s, u"Cantarell"_s}) {
+    const QFontMetricsF metrics(look::NumberFont(QFont(family, 11)));
+    for (const char figure : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9'}) {
+      EXPECT_NEAR(metrics.horizontalAdvance(QLatin1Char(figure)), metrics.horizontalAdvance(u'0'),
+                  0.01);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kladez
