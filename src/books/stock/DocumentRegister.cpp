@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "books/stock/DocumentScan.h"
 #include "formats/Dates.h"
 #include "formats/Numbers.h"
 
@@ -45,21 +44,19 @@ void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filt
   TextPool numbers;
   std::vector<int> counts;
   int until_progress = 0;
-  ScanDocuments(data_, kind_, DocumentDirectory(session_, kind_, warehouse), Unreadable::kStop,
-                [&](ScannedDocument& document) {
-                  if (until_progress-- == 0) {
-                    until_progress = kFilesBetweenProgress;
-                    progress.Tell(document.Part());
-                  }
-                  const auto number = static_cast<size_t>(numbers.Add(document.Head(&H::number)));
-                  counts.resize(std::max(counts.size(), number + 1));
-                  ++counts[number];
-                  const auto date = document.Date();
-                  if (date && filter.Passes(*date, today)) {
-                    rows.push_back({document.File(), RowHead(format, document)});
-                  }
-                  return true;
-                });
+  heads_.Scan(data_, DocumentDirectory(session_, kind_, warehouse), [&](ScannedDocument& document) {
+    if (until_progress-- == 0) {
+      until_progress = kFilesBetweenProgress;
+      progress.Tell(document.Part());
+    }
+    const auto number = static_cast<size_t>(numbers.Add(document.Head(&H::number)));
+    counts.resize(std::max(counts.size(), number + 1));
+    ++counts[number];
+    const auto date = document.Date();
+    if (date && filter.Passes(*date, today)) {
+      rows.push_back({document.File(), RowHead(format, document)});
+    }
+  });
   if (descending) std::reverse(rows.begin(), rows.end());
   rows_ = std::move(rows);
   numbers_ = std::move(numbers);

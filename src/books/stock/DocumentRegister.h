@@ -1,5 +1,6 @@
 // The register of a kind of documents: the heads of the files of a directory that a filter lets
-// pass, and their total. The files are the books; a register is read anew for each showing.
+// pass, and their total. The files are the books: what another showing asks for again is what has
+// changed in them.
 #pragma once
 
 #include <QDate>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "books/stock/DocumentBook.h"
+#include "books/stock/DocumentHeads.h"
 #include "books/store/DataDir.h"
 #include "books/store/Progress.h"
 #include "formats/TextPool.h"
@@ -37,7 +39,7 @@ struct RegisterRow {
 class DocumentRegister {
  public:
   DocumentRegister(const DataDir& data, const Session& session, DocumentKind kind)
-      : data_(data), session_(session), kind_(kind) {}
+      : data_(data), session_(session), kind_(kind), heads_(kind) {}
 
   // Reads the documents of a warehouse in the order of their file names, or from the last to the
   // first. One without a valid date is left out. Throws filesystem_error for a directory or file
@@ -58,6 +60,7 @@ class DocumentRegister {
   std::reference_wrapper<const DataDir> data_;
   std::reference_wrapper<const Session> session_;
   DocumentKind kind_;
+  DocumentHeads heads_;
   std::vector<RegisterRow> rows_;
   // Of all documents, and how many bear each.
   TextPool numbers_;

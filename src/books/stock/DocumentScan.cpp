@@ -19,11 +19,12 @@ size_t PlaceOf(const std::vector<Field>& fields, Field field) {
 
 ScannedDocument::ScannedDocument(const DocumentFormat& format, const QString& file,
                                  QByteArrayView bytes, double part)
-    : format_(format), file_(file), part_(part), rest_(bytes) {
+    : format_(format), file_(file), part_(part), bytes_(bytes), rest_(bytes) {
   Q_ASSERT(format.head.size() <= kMostLines && format.line.size() <= kMostLines);
   while (head_lines_ < format_.head.size() && !rest_.AtEnd()) {
     head_[head_lines_++] = rest_.NextRaw();
   }
+  after_head_ = rest_.Left();
 }
 
 QByteArrayView ScannedDocument::Head(QString DocumentHead::*field) const {

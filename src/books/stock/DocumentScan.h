@@ -36,6 +36,8 @@ class ScannedDocument {
   // Whether the file reaches that line of the head, all of them.
   bool Has(QString DocumentHead::*field) const;
   bool HasWholeHead() const { return head_lines_ == format_.head.size(); }
+  // The lines of the head as they stand in the file, and nothing after them.
+  QByteArrayView HeadBytes() const { return bytes_.first(bytes_.size() - after_head_); }
   // Nothing for a document without a valid date: no register and no report counts it.
   std::optional<QDate> Date() const;
 
@@ -52,7 +54,9 @@ class ScannedDocument {
   const DocumentFormat& format_;
   const QString& file_;
   double part_;
+  QByteArrayView bytes_;
   LineReader rest_;
+  qsizetype after_head_ = 0;
   std::array<QByteArrayView, kMostLines> head_;
   std::array<QByteArrayView, kMostLines> line_;
   size_t head_lines_ = 0;

@@ -67,6 +67,41 @@ TEST_F(Register, FiguresAreNumberTextsAndADateHasNoBlankAtItsEnd) {
   EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:7.10"_s);
 }
 
+// The bytes that this process has read so far.
+qint64 BytesRead() {
+  QFile counters(u"/proc/self/io"_s);
+  if (!counters.open(QIODevice::ReadOnly)) return 0;
+  const QByteArray line = counters.readLine();
+  return line.mid(line.indexOf(' ')).trimmed().toLongLong();
+}
+
+TEST_F(Register, AnotherShowingSeesWhateverHasChangedAndReadsNothingElse) {
+  const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
+  for (int i = 1; i < 6; ++i) Receipt(u"000%1.prh"_s.arg(i), u"05.11.2026"_s);
+  DocumentRegister rows(temp_.Data(), session_, DocumentKind::kReceipt);
+  const auto shown = [&](bool descending) {
+    rows.Load(u"Склад"_s, year, kToday, descending);
+    QStringList all;
+    for (const RegisterRow& row : rows.Rows()) all << row.file.first(4) + u'=' + row.head.sum;
+    return all.join(u' ');
+  };
+  EXPECT_EQ(shown(false), u"0001=1.00 0002=1.00 0003=1.00 0004=1.00 0005=1.00"_s);
+  temp_.PutLines(u"0001\\Склад\\PRH\\0001.prh"_s,
+                 {u"1"_s, u"05.11.2026"_s, u"-"_s, u"1.00"_s, u"нет"_s, QString(100'000, u'x')});
+  shown(false);
+  const qint64 read = BytesRead();
+  EXPECT_EQ(shown(true), u"0005=1.00 0004=1.00 0003=1.00 0002=1.00 0001=1.00"_s);
+  EXPECT_LT(BytesRead() - read, 50'000);
+  Receipt(u"0002.prh"_s, u"05.11.2026"_s, u"2.00"_s);  // in place
+  Receipt(u"0003.prh"_s, u"05.11.2025"_s);             // left the filter
+  QFile::remove(temp_.Data().Resolve(u"0001\\Склад\\PRH\\0004.prh"_s));
+  Receipt(u"0000.prh"_s, u"05.11.2026"_s, u"7.00"_s);
+  EXPECT_EQ(shown(false), u"0000=7.00 0001=1.00 0002=2.00 0005=1.00"_s);
+  QDir(temp_.Root()).rename(u"0001/Склад/PRH"_s, u"0001/Склад/old"_s);
+  Receipt(u"0009.prh"_s, u"05.11.2026"_s, u"9.00"_s);
+  EXPECT_EQ(shown(false), u"0009=9.00"_s) << "another directory under the old path";
+}
+
 TEST_F(Register, OrderGoesByFileNamesNotByDateOrNumber) {
   const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
   Receipt(u"0002.prh"_s, u"01.01.2026"_s);
