@@ -62,7 +62,12 @@ RecordList::RecordList(QWidget* parent)
   setTextElideMode(Qt::ElideRight);
   setTabKeyNavigation(false);
   QPalette colors = palette();
-  colors.setColor(QPalette::AlternateBase, look::kStripe);
+  // On a dark desktop its own stripe is the one that its letters can be read on.
+  const bool light =
+      colors.color(QPalette::Base).lightness() > colors.color(QPalette::Text).lightness();
+  if (light) colors.setColor(QPalette::AlternateBase, look::kStripe);
+  colors.setColor(QPalette::Highlight, look::kAccent);
+  colors.setColor(QPalette::HighlightedText, look::kOnAccent);
   setPalette(colors);
   header()->setSectionsMovable(false);
   header()->setHighlightSections(false);

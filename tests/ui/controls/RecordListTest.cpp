@@ -162,6 +162,21 @@ TEST_F(RecordListTest, AListWithoutASearchFieldGoesToWhatIsTyped) {
   EXPECT_EQ(list.CurrentRow(), 2);
 }
 
+TEST_F(RecordListTest, EveryRowCanBeReadOnAnyDesktop) {
+  const QPalette before = QApplication::palette();
+  for (const QColor ground : {QColor(Qt::white), QColor(0x1A, 0x1F, 0x21)}) {
+    QApplication::setPalette(QPalette(ground, ground));
+    const RecordList fresh;
+    const QPalette& colors = fresh.palette();
+    const auto apart = [&](QPalette::ColorRole text, QPalette::ColorRole behind) {
+      return std::abs(colors.color(text).lightness() - colors.color(behind).lightness());
+    };
+    EXPECT_GT(apart(QPalette::Text, QPalette::AlternateBase), 120);
+    EXPECT_GT(apart(QPalette::HighlightedText, QPalette::Highlight), 120);
+  }
+  QApplication::setPalette(before);
+}
+
 TEST_F(RecordListTest, NumbersAreNeverCut) {
   number = u"123456789012.50"_s;
   model.Reset();
