@@ -14,7 +14,6 @@
 #include "formats/DatabaseFiles.h"
 #include "formats/Dates.h"
 #include "screens/store/BackupWizard.h"
-#include "screens/store/CatalogueDialog.h"
 #include "screens/store/CheckDialog.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
@@ -84,7 +83,6 @@ MainWindow::MainWindow(AppContext& context)
                            static_cast<QWidget*>(menuBar())}) {
     LongWork::LetPass(way_out);
   }
-  bases_ = new CatalogueDialog(context_, *this, this);
   // The desktop session ends: whoever has unsaved work may call that off.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [](QSessionManager& session) {
     if (session.allowsInteraction() && !MayLeave()) session.cancel();
@@ -265,7 +263,8 @@ void MainWindow::ShowHome() {
 void MainWindow::ShowLanding() {
   CloseChildScreens();
   auto* landing = new LandingScreen(host_);
-  connect(landing, &LandingScreen::OpenWanted, this, &MainWindow::OpenFromCatalogue);
+  connect(landing, &LandingScreen::OpenWanted, this,
+          [this] { OpenFromCatalogue(CatalogueDialog::Mode::kOpen); });
   connect(landing, &LandingScreen::CreateWanted, this, &MainWindow::Create);
   ShowPanels(false);
   ShowChild(landing);
@@ -321,14 +320,10 @@ void MainWindow::Do(Command command) {
       Create();
       break;
     case Command::kOpen:
-      OpenFromCatalogue();
+      OpenFromCatalogue(CatalogueDialog::Mode::kOpen);
       break;
     case Command::kCatalogue:
-      if (bases_->Run(CatalogueDialog::Mode::kCatalogue)) {
-        OpenDatabase();
-      } else {
-        Return();
-      }
+      OpenFromCatalogue(CatalogueDialog::Mode::kCatalogue);
       break;
     case Command::kImport:
       if (!context_.session.IsOpen()) break;
@@ -368,13 +363,15 @@ void MainWindow::Do(Command command) {
   }
 }
 
-void MainWindow::OpenFromCatalogue() {
-  bases_->Run(CatalogueDialog::Mode::kOpen);
-  // A cancelled choice opens the same Database once more.
-  if (context_.session.chosen_base.isEmpty()) {
-    Return();
-  } else {
+void MainWindow::OpenFromCatalogue(CatalogueDialog::Mode mode) {
+  const bool chosen = CatalogueDialog(context_, *this, mode, this).exec() == QDialog::Accepted;
+  // A cancelled "Открыть..." opens the same Database once more.
+  const bool again =
+      mode == CatalogueDialog::Mode::kOpen && !context_.session.chosen_base.isEmpty();
+  if (chosen || again) {
     OpenDatabase();
+  } else {
+    Return();
   }
 }
 

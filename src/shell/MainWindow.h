@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "screens/store/CatalogueDialog.h"
 #include "screens/store/CatalogueHost.h"
 #include "shell/MainMenu.h"
 #include "shell/Places.h"
@@ -19,7 +20,6 @@ class QVBoxLayout;
 
 namespace kladez {
 
-class CatalogueDialog;
 class LinksPanel;
 class LinksStrip;
 
@@ -51,7 +51,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   bool MustWait(const std::function<void()>& command);
   void Go(Place place);
   void Do(Command command);
-  void OpenFromCatalogue();
+  void OpenFromCatalogue(CatalogueDialog::Mode mode);
   void Create();
   void CloseDatabase();
   void Exit();
@@ -74,7 +74,6 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   QLabel* role_;
   QLabel* today_;
   QProgressBar* progress_bar_;  // how far a price list is loaded
-  CatalogueDialog* bases_ = nullptr;
   QPointer<QWidget> child_;
   QTimer way_home_;  // from a child screen that closed itself
   DialogsFirst dialogs_first_;

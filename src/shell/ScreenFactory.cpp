@@ -5,10 +5,8 @@
 #include "formats/InOrder.h"
 #include "screens/directories/CurrencyDialog.h"
 #include "screens/directories/GoodsDirectoryScreen.h"
+#include "screens/directories/PartyBrowser.h"
 #include "screens/directories/WarehousesDialog.h"
-#include "screens/directories/sprFirm.h"
-#include "screens/directories/sprPost.h"
-#include "screens/directories/sprklient.h"
 #include "screens/prices/PriceScreen.h"
 #include "screens/reports/ChartForms.h"
 #include "screens/reports/ReportForms.h"
@@ -46,6 +44,12 @@ QWidget* Run(AppContext& context, QWidget* parent) {
   return nullptr;
 }
 
+template <PartyKind kind>
+QWidget* RunParties(AppContext& context, QWidget* parent) {
+  PartyBrowser(context, kind, parent).exec();
+  return nullptr;
+}
+
 template <const ReportForm& (*form)()>
 QWidget* RunReport(AppContext& context, QWidget* parent) {
   ReportDialog(context, form(), parent).exec();
@@ -77,10 +81,10 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {kSalesChart, &RunChart<&SalesChartForm>},
     {kGoodsChart, &RunChart<&GoodsChartForm>},
     {kFlowReport, &RunReport<&FlowReportForm>},
-    {kFirms, &Run<sprFirm>},
+    {kFirms, &RunParties<PartyKind::kFirm>},
     {kGoods, &MakeGoodsDirectory},
-    {kSuppliers, &Run<sprPost>},
-    {kClients, &Run<sprklient>},
+    {kSuppliers, &RunParties<PartyKind::kSupplier>},
+    {kClients, &RunParties<PartyKind::kClient>},
     {kWarehouses, &Run<WarehousesDialog>},
     {kHome, &MakeNothing},
     {kCurrency, &Run<CurrencyDialog>},

@@ -455,7 +455,7 @@ TEST_F(MainWindowShown, NewDatabaseIsOpenAtOnce) {
   EXPECT_EQ(ChildName(), u"Main"_s);
   EXPECT_TRUE(Panel("Picture1")->isVisible());
   EXPECT_TRUE(Entry(u"mnuimp"_s)->isEnabled());
-  EXPECT_EQ(TheSession().chosen_base, QString());
+  EXPECT_EQ(TheSession().chosen_base, TheSession().base_path);
 }
 
 TEST_F(MainWindowShown, CancelledChoiceOpensTheSameDatabaseAgain) {

@@ -1,6 +1,7 @@
 #include "books/directories/GoodsDirectory.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "books/directories/GoodsOrder.h"
 #include "books/store/SaveSet.h"
@@ -49,6 +50,8 @@ void GoodsDirectory::Reload(GoodsView view) {
 void GoodsDirectory::Show(std::vector<GoodsRecord> records, GoodsView view) {
   rows_ = std::move(records);
   view_ = view;
+  saved_.reset();
+  renamed_.clear();
   if (view == GoodsView::kGroups) return;
   std::erase_if(rows_, [](const GoodsRecord& record) { return record.IsGroup(); });
   rows_ = SortedByName(std::move(rows_));
@@ -63,15 +66,26 @@ void GoodsDirectory::ShowGoodsOnly() {
   copy_ = std::move(copy);
 }
 
+bool GoodsDirectory::IsChanged() const {
+  return view_ == GoodsView::kGroups ? saved_ && *saved_ != rows_ : !renamed_.empty();
+}
+
+void GoodsDirectory::BeforeChange() {
+  if (!saved_) saved_ = rows_;
+}
+
 int GoodsDirectory::Insert(int below, const GoodsRecord& record) {
+  BeforeChange();
   const int row = below < 0 ? static_cast<int>(rows_.size()) : below + 1;
   rows_.insert(rows_.begin() + row, record);
   return row;
 }
 
 int GoodsDirectory::Change(int row, const GoodsRecord& record) {
-  rows_[row] = record;
+  BeforeChange();
+  const GoodsRecord before = std::exchange(rows_[row], record);
   if (view_ == GoodsView::kGroups) return row;
+  if (before != record) renamed_.push_back({before, record});
   // The goods alone keep themselves in order.
   rows_.erase(rows_.begin() + row);
   const QString key = OrderKey(record.name);
@@ -84,6 +98,7 @@ int GoodsDirectory::Change(int row, const GoodsRecord& record) {
 int GoodsDirectory::MoveUp(int row) {
   if (view_ == GoodsView::kGoodsOnly || row < 1) return row;
   if (row == 1 && !rows_[row].IsGroup()) return row;
+  BeforeChange();
   std::swap(rows_[row], rows_[row - 1]);
   return row - 1;
 }
@@ -92,13 +107,20 @@ int GoodsDirectory::MoveDown(int row) {
   if (view_ == GoodsView::kGoodsOnly || row < 0 || row + 1 >= static_cast<int>(rows_.size())) {
     return row;
   }
+  BeforeChange();
   std::swap(rows_[row], rows_[row + 1]);
   return row + 1;
 }
 
-void GoodsDirectory::Remove(int row) { rows_.erase(rows_.begin() + row); }
+void GoodsDirectory::Remove(int row) {
+  BeforeChange();
+  rows_.erase(rows_.begin() + row);
+}
 
-void GoodsDirectory::Sort() { rows_ = SortedInGroups(rows_); }
+void GoodsDirectory::Sort() {
+  BeforeChange();
+  rows_ = SortedInGroups(rows_);
+}
 
 void GoodsDirectory::SaveChange(int row) {
   if (view_ == GoodsView::kGroups) return;
@@ -112,12 +134,32 @@ void GoodsDirectory::SaveChange(int row) {
   if (same == copy_.end()) return;
   *same = changed;
   Write(WriteGoods(copy_));
+  if (!renamed_.empty() && renamed_.back().after == changed) renamed_.pop_back();
 }
 
-void GoodsDirectory::Save() { Write(WriteGoods(view_ == GoodsView::kGroups ? rows_ : copy_)); }
+void GoodsDirectory::Save() {
+  Write(WriteGoods(view_ == GoodsView::kGroups ? rows_ : copy_));
+  saved_.reset();
+}
+
+void GoodsDirectory::SaveAll() {
+  std::vector<GoodsRecord> copy = copy_;
+  for (const Renamed& renamed : renamed_) {
+    const auto same = std::find(copy.begin(), copy.end(), renamed.before);
+    if (same != copy.end()) *same = renamed.after;
+  }
+  std::swap(copy, copy_);
+  try {
+    Save();
+  } catch (...) {
+    std::swap(copy, copy_);
+    throw;
+  }
+  renamed_.clear();
+}
 
 void GoodsDirectory::SaveBeforePick() {
-  if (view_ == GoodsView::kGroups) Write(WriteGoods(rows_));
+  if (view_ == GoodsView::kGroups) Save();
 }
 
 void GoodsDirectory::Write(const QByteArray& bytes) {

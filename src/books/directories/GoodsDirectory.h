@@ -3,6 +3,7 @@
 // them. Nothing is in the file before one of the saves.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "books/directories/GoodsView.h"
@@ -20,6 +21,9 @@ class GoodsDirectory {
 
   const std::vector<GoodsRecord>& Rows() const { return rows_; }
   GoodsView View() const { return view_; }
+  // Whether somebody's work would be lost by now: rows that the file does not hold, or, with the
+  // goods alone shown, changes that did not reach it.
+  bool IsChanged() const;
   // No further row may be added: more than 1000 of them are shown.
   bool IsFull() const;
 
@@ -45,6 +49,9 @@ class GoodsDirectory {
   void SaveChange(int row);
   // Writes the file: the rows, or the copy while the goods alone are shown.
   void Save();
+  // The same with all work in it: each change that did not reach the copy goes to the record that
+  // was changed.
+  void SaveAll();
   // Writes the file only while the groups are shown, as a pick does.
   void SaveBeforePick();
   // Whether the file is still what was read or saved last.
@@ -53,13 +60,21 @@ class GoodsDirectory {
  private:
   void Show(std::vector<GoodsRecord> records, GoodsView view);
   void Write(const QByteArray& bytes);
+  void BeforeChange();
+
+  struct Renamed {
+    GoodsRecord before;
+    GoodsRecord after;
+  };
 
   const DataDir& data_;
   QString path_;
   FileState file_;
   GoodsView view_ = GoodsView::kGroups;
   std::vector<GoodsRecord> rows_;
+  std::optional<std::vector<GoodsRecord>> saved_;  // the rows before the first change to them
   std::vector<GoodsRecord> copy_;
+  std::vector<Renamed> renamed_;  // with the goods alone shown: what is not in the copy
 };
 
 // Whether any warehouse has a quantity other than 0 of the goods in some record of its ledger.

@@ -11,7 +11,7 @@ PartyDirectory::PartyDirectory(const DataDir& data, Session& session, PartyKind 
 
 void PartyDirectory::Reload() {
   FileState file;
-  rows_ = ReadParties(kind_, ReadIfThere(data_, Path(), file));
+  rows_ = saved_ = ReadParties(kind_, ReadIfThere(data_, Path(), file));
   file_ = file;
 }
 
@@ -19,6 +19,7 @@ void PartyDirectory::Save() {
   SaveSet save(data_);
   save.Write(Path(), WriteParties(rows_), file_);
   save.Commit();
+  saved_ = rows_;
   QStringList names;
   for (const Party& party : rows_) names.append(party.constFirst());
   session_.Parties(kind_) = names;

@@ -20,6 +20,8 @@ class PartyDirectory {
   PartyKind Kind() const { return kind_; }
   const std::vector<Party>& Rows() const { return rows_; }
 
+  bool IsChanged() const { return rows_ != saved_; }  // by what was not saved
+
   void Add(const Party& party) { rows_.push_back(party); }
   void Change(int row, const Party& party) { rows_[row] = party; }
   void Remove(int row) { rows_.erase(rows_.begin() + row); }
@@ -39,6 +41,7 @@ class PartyDirectory {
   PartyKind kind_;
   std::vector<Party> rows_;
   FileState file_;
+  std::vector<Party> saved_;
 };
 
 }  // namespace kladez

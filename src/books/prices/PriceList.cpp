@@ -1,6 +1,7 @@
 #include "books/prices/PriceList.h"
 
 #include <QSet>
+#include <algorithm>
 #include <optional>
 
 #include "books/directories/GoodsOrder.h"
@@ -68,9 +69,19 @@ PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView
   if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
 }
 
+bool PriceList::IsChanged() const {
+  return saved_ && !std::equal(saved_->begin(), saved_->end(), rows_.begin(), rows_.end(),
+                               [](const PriceRecord& a, const PriceRecord& b) { return a == b; });
+}
+
+void PriceList::BeforeChange() {
+  if (!saved_) saved_ = rows_;
+}
+
 bool PriceList::SetSalePrice(int row, const QString& price) {
   const auto value = ParseStrict(price);
   if (!value || rows_.at(row).IsGroup()) return false;
+  BeforeChange();
   rows_[row].sale = FormatMoney(*value);
   return true;
 }
@@ -84,15 +95,20 @@ int PriceList::InsertPick(int below, const GoodsPick& pick) {
     row.purchase = pick.price;
     row.sale = pick.quantity;
   }
+  BeforeChange();
   const int count = static_cast<int>(rows_.size());
   const int at = below < 0 || below >= count ? count : below + 1;
   rows_.insert(rows_.begin() + at, std::move(row));
   return at;
 }
 
-void PriceList::Remove(int row) { rows_.erase(rows_.begin() + row); }
+void PriceList::Remove(int row) {
+  BeforeChange();
+  rows_.erase(rows_.begin() + row);
+}
 
 void PriceList::Paste(QByteArrayView prices) {
+  BeforeChange();
   QSet<QString> ticked;
   for (const PriceRow& row : rows_) {
     if (row.ticked) ticked.insert(row.name);

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "books/directories/GoodsPick.h"
@@ -33,6 +34,10 @@ class PriceList {
 
   const std::vector<PriceRow>& Rows() const { return rows_; }
 
+  // Whether rows or prices are not as they were read or saved last; ticks do not count.
+  bool IsChanged() const;
+  void TakeAsSaved() { saved_.reset(); }
+
   void SetTick(int row, bool on) { rows_.at(row).ticked = on; }
   // `price` is a number text. False for a group, which has none, and for what is no number.
   bool SetSalePrice(int row, const QString& price);
@@ -52,7 +57,10 @@ class PriceList {
   FileState marks_file = FileState::Missing();
 
  private:
+  void BeforeChange();
+
   std::vector<PriceRow> rows_;
+  std::optional<std::vector<PriceRow>> saved_;  // the rows before the first change to them
 };
 
 }  // namespace kladez

@@ -35,6 +35,12 @@ inline constexpr Setting kGoodsGroups{u"Kladez4", u"Spr", u"op1", u"True"};
 inline constexpr Setting kGoodsGoodsOnly{u"Kladez4", u"Spr", u"op2", u"False"};
 // Column widths "c1" to "c6" of the goods directory are written and never read back.
 inline constexpr Setting kGoodsColumn{u"Kladez4", u"SPRSklad", u"c", u""};
+// Ours, beside the told ones: the goods picked last, whether the receipt's picker stays open, and
+// the folders that copies were made in and brought back from.
+inline constexpr Setting kLastPick{u"Kladez4", u"Picking", u"Last", u""};
+inline constexpr Setting kKeepPicking{u"Kladez4", u"Picking", u"Stay", u"False"};
+inline constexpr Setting kBackupFolder{u"Kladez4", u"Copies", u"Backup", u""};
+inline constexpr Setting kRestoreFolder{u"Kladez4", u"Copies", u"Restore", u""};
 inline constexpr Setting kSort{u"Kladez4", u"Sorting", u"Sort", u"AZ"};
 // The register of transfers keeps its order apart from the others, under the shorter root.
 inline constexpr Setting kTransferSort{u"Kladez", u"Sorting", u"Sort", u"AZ"};

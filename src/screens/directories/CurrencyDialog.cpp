@@ -9,6 +9,8 @@
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/TabOrder.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 namespace {
@@ -39,12 +41,15 @@ CurrencyDialog::CurrencyDialog(AppContext& context, QWidget* parent)
   layout->addWidget(NewTaxes());
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
-  setTabOrder(sales_tax_, ok);
-  setTabOrder(ok, cancel);
+  TabByEye(this);
   const Currency currency = LoadMainCurrency(context.data, context.session, file_);
   for (size_t i = 0; i < fields_.size(); ++i) fields_[i]->setText(currency.forms[i]);
   fields_.front()->setFocus();
-  connect(ok, &QPushButton::clicked, this, &CurrencyDialog::Ok);
+  new UnsavedWork(this, {.is_changed = [this, before = Texts()] { return Texts() != before; },
+                         .save = [this] { return Save(); }});
+  connect(ok, &QPushButton::clicked, this, [this] {
+    if (Save()) accept();
+  });
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -108,7 +113,13 @@ QGroupBox* CurrencyDialog::NewTaxes() {
   return frame;
 }
 
-void CurrencyDialog::Ok() {
+QStringList CurrencyDialog::Texts() const {
+  QStringList texts = {vat_->text(), sales_tax_->text()};
+  for (const TextLine* field : fields_) texts.append(field->text());
+  return texts;
+}
+
+bool CurrencyDialog::Save() {
   Currency currency;
   for (size_t i = 0; i < fields_.size(); ++i) currency.forms[i] = fields_[i]->text();
   TaxRates rates;
@@ -118,13 +129,15 @@ void CurrencyDialog::Ok() {
   } taxes[] = {{vat_, &TaxRates::vat}, {sales_tax_, &TaxRates::sales_tax}};
   for (const auto& [field, percent] : taxes) {
     const std::optional<QString> kept = TaxPercent(field->text());
-    if (!kept) return ShowError(this, u"Ставка налога «"_s + field->text() + u"» - не число."_s);
+    if (!kept) {
+      ShowError(this, u"Ставка налога «"_s + field->text() + u"» - не число."_s);
+      return false;
+    }
     rates.*percent = *kept;
   }
-  const bool saved = Guarded(this, [&] {
+  return Guarded(this, [&] {
     SaveMainCurrency(context_.data, context_.session, currency, file_, rates, rates_file_);
   });
-  if (saved) accept();
 }
 
 }  // namespace kladez

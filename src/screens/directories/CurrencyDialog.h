@@ -24,7 +24,8 @@ class CurrencyDialog : public QDialog {
  private:
   QGroupBox* NewFrame(const QString& title, const QString& name, int first);
   QGroupBox* NewTaxes();
-  void Ok();
+  QStringList Texts() const;  // of all fields
+  bool Save();
 
   AppContext& context_;
   FileState file_;

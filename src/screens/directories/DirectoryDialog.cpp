@@ -6,6 +6,8 @@
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/ListSearch.h"
+#include "ui/controls/TabOrder.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 
@@ -38,7 +40,10 @@ DirectoryDialog::DirectoryDialog(const QString& name, const QString& title, Endi
   look::SetDialogMargins(layout);
   layout->addWidget(list_, 1);
   layout->addLayout(commands);
+  TabByEye(this);
   list_->setFocus();
+  new UnsavedWork(this, {.is_changed = [this] { return IsChanged(); },
+                         .save = [this] { return Guarded(this, [this] { Save(); }); }});
 
   ShareListKeys(this, list_);
   connect(add_, &QPushButton::clicked, this, [this] { Add(); });

@@ -29,6 +29,8 @@ class DirectoryDialog : public QDialog {
   virtual void Remove(int row) = 0;
   // Makes the changes last; throws when that fails, and the dialog stays.
   virtual void Save() = 0;
+  // Whether there are changes that Save has not made last.
+  virtual bool IsChanged() const = 0;
 
  private:
   void OnRow(void (DirectoryDialog::*command)(int row));

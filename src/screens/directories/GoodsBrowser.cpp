@@ -72,6 +72,18 @@ void GoodsBrowser::ShowAnew(const std::function<void()>& change) {
   list_->SelectRow(same == rows.end() ? 0 : static_cast<int>(same - rows.begin()));
 }
 
+void GoodsBrowser::SelectForPick(const QString& name) {
+  const auto& rows = directory_.Rows();
+  auto row = std::find_if(rows.begin(), rows.end(), [&](const GoodsRecord& record) {
+    return !record.IsGroup() && !name.isEmpty() && record.name == name;
+  });
+  if (row == rows.end()) {
+    row = std::find_if(rows.begin(), rows.end(),
+                       [](const GoodsRecord& record) { return !record.IsGroup(); });
+  }
+  list_->SelectRow(row == rows.end() ? 0 : static_cast<int>(row - rows.begin()));
+}
+
 void GoodsBrowser::SaveWidths() {
   const std::vector<int> widths = list_->ColumnTwips();
   for (int i = 0; i < static_cast<int>(widths.size()); ++i) {

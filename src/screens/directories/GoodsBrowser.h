@@ -33,6 +33,9 @@ class GoodsBrowser : public QWidget {
   // Shows all rows anew and keeps the record selected that was, or else selects the first row.
   void ShowAnew(const std::function<void()>& change);
 
+  // Selects the goods of a name, or else the first row that is no group.
+  void SelectForPick(const QString& name);
+
   // Writes the widths of the columns as they are now, in twips, under "c1" to "c5".
   void SaveWidths();
 

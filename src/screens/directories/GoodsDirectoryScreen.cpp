@@ -12,6 +12,8 @@
 #include "screens/directories/PickQuestion.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/TabOrder.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 
@@ -22,18 +24,21 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
     : QWidget(parent),
       context_(context),
       browser_(new GoodsBrowser(context, u"sprTovar", {}, this)),
+      unsaved_(new UnsavedWork(
+          this, {.is_changed = [this] { return Directory().IsChanged(); },
+                 .save = [this] { return Guarded(this, [this] { Directory().SaveAll(); }); }})),
       add_(NewCommand(this, u"add"_s, u"&Добавить"_s, IconName::kAdd)),
       change_(NewCommand(this, u"change"_s, u"&Изменить"_s, IconName::kChange)),
       remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
       sort_(NewCommand(this, u"sort"_s, u"Сортиро&вка"_s, IconName::kSort)),
       chart_(NewCommand(this, u"chart"_s, u"Г&рафик..."_s, IconName::kChart)),
-      Command7(NewCommand(this, u"Command7"_s, u"Вы&брать"_s, IconName::kPick)),
-      Command9(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
+      choose_(NewCommand(this, u"Command7"_s, u"Вы&брать"_s, IconName::kPick)),
+      close_(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
       up_(NewMove(u"up"_s, u"Порядок: вверх"_s, Qt::Key_Up, true)),
       down_(NewMove(u"down"_s, u"Порядок: вниз"_s, Qt::Key_Down, false)) {
   setObjectName(u"sprTovar"_s);
   setWindowTitle(u"Справочник товаров"_s);
-  Command7->hide();
+  choose_->hide();
   BuildLayout();
   Wire();
   ShowView();
@@ -46,8 +51,9 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, PickFor pick_for
   setWindowFlag(Qt::Window);
   setAttribute(Qt::WA_DeleteOnClose);
   resize(100 * look::kGrid, 70 * look::kGrid);
-  Command7->show();
+  choose_->show();
   chart_->hide();
+  browser_->SelectForPick(context.settings.Read(settings::kLastPick));
 }
 
 QAction* GoodsDirectoryScreen::NewMove(const QString& name, const QString& caption, Qt::Key key,
@@ -68,7 +74,8 @@ void GoodsDirectoryScreen::BuildLayout() {
   auto* layout = new QVBoxLayout(this);
   look::SetPanelMargins(layout);
   layout->addWidget(browser_, 1);
-  layout->addLayout(NewCommandRow({add_, change_, remove_, sort_, chart_}, {Command7, Command9}));
+  layout->addLayout(NewCommandRow({add_, change_, remove_, sort_, chart_}, {choose_, close_}));
+  TabByEye(this);
 }
 
 void GoodsDirectoryScreen::Wire() {
@@ -77,8 +84,8 @@ void GoodsDirectoryScreen::Wire() {
   connect(remove_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Remove);
   connect(sort_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Sort);
   connect(chart_, &QPushButton::clicked, this, &GoodsDirectoryScreen::AskForChart);
-  connect(Command7, &QPushButton::clicked, this, &GoodsDirectoryScreen::Choose);
-  connect(Command9, &QPushButton::clicked, this, &GoodsDirectoryScreen::CloseSaved);
+  connect(choose_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Choose);
+  connect(close_, &QPushButton::clicked, this, &GoodsDirectoryScreen::CloseSaved);
   RecordList* list = browser_->List();
   // Adding and deleting rest with their commands while only goods are shown; changing does not.
   connect(list, &RecordList::InsertPressed, add_, &QPushButton::click);
@@ -112,7 +119,7 @@ void GoodsDirectoryScreen::Add() {
 void GoodsDirectoryScreen::Change() {
   const GoodsRecord* record = browser_->Selected();
   if (record == nullptr) return;
-  GoodsForm form({.change = true, .record = *record}, this);
+  GoodsForm form({.record = *record}, this);
   if (form.exec() != QDialog::Accepted) return;
   const int before = browser_->List()->CurrentRow();
   const int row = Directory().Change(before, form.Record());
@@ -127,9 +134,12 @@ void GoodsDirectoryScreen::Change() {
 
 void GoodsDirectoryScreen::Remove() {
   browser_->List()->setFocus();
-  // Asked over an empty list too: that is the order in which it has always gone.
-  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
   const GoodsRecord* record = browser_->Selected();
+  // Asked over an empty list too: that is the order in which it has always gone.
+  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s, DefaultAnswer::kYes,
+                record != nullptr ? WhatGoes(*record) : QString())) {
+    return;
+  }
   if (record == nullptr) return;
   Guarded(this, [&] {
     if (!record->IsGroup() && IsOnHand(context_.data, context_.session, record->name)) {
@@ -140,6 +150,15 @@ void GoodsDirectoryScreen::Remove() {
     browser_->Model()->Remove(row, [&] { Directory().Remove(row); });
     browser_->List()->SelectRow(std::min(row, browser_->Model()->rowCount() - 1));
   });
+}
+
+QString GoodsDirectoryScreen::WhatGoes(const GoodsRecord& record) const {
+  if (record.IsGroup()) {
+    return u"Группа «%1» уйдёт из справочника, её товары останутся и перейдут в группу выше."_s.arg(
+        record.name.mid(1));
+  }
+  return u"Товар «%1» уйдёт из справочника. Накладные и прайс-листы не изменятся."_s.arg(
+      record.name);
 }
 
 void GoodsDirectoryScreen::Sort() {
@@ -156,7 +175,7 @@ void GoodsDirectoryScreen::Move(bool up) {
 }
 
 void GoodsDirectoryScreen::ChangeOrChoose() {
-  if (Command7->isHidden()) {
+  if (choose_->isHidden()) {
     Change();
   } else {
     Choose();
@@ -169,6 +188,7 @@ void GoodsDirectoryScreen::Choose() {
   if (record == nullptr) return;
   const auto pick = AskPick(this, *record, pick_for_);
   if (!pick) return;
+  context_.settings.Write(settings::kLastPick, pick->name);
   emit Picked(*pick);
   close();
 }
@@ -179,10 +199,19 @@ void GoodsDirectoryScreen::AskForChart() {
 }
 
 void GoodsDirectoryScreen::CloseSaved() {
+  // With the goods alone shown the told save leaves changed names out.
+  const bool leaves_out = Directory().View() == GoodsView::kGoodsOnly;
+  if (leaves_out && !unsaved_->MayGo()) return;
   if (Guarded(this, [this] { Directory().Save(); })) close();
 }
 
 void GoodsDirectoryScreen::ChooseView(GoodsView view) {
+  // What the rows hold now gets into the file by this switch, and is undone by the next save; or
+  // it is lost with the way back.
+  if (!unsaved_->MayGo()) {
+    browser_->Filter()->SetView(Directory().View());
+    return;
+  }
   browser_->SaveWidths();
   Guarded(this, [&] {
     browser_->ShowAnew([&] {

@@ -1,6 +1,6 @@
 // "Справочник товаров": the editor of the goods directory, and the non-modal picker of price lists.
-// The file is written by "Закрыть", a pick, and as switching to the goods alone tells; closing in
-// any other way loses what was not saved by then.
+// The file is written by "Закрыть", a pick, and as switching to the goods alone tells; any other
+// way out asks about what was not saved by then.
 #pragma once
 
 #include <QWidget>
@@ -16,6 +16,8 @@ namespace kladez {
 
 class GoodsBrowser;
 class GoodsDirectory;
+class UnsavedWork;
+struct GoodsRecord;
 
 class GoodsDirectoryScreen : public QWidget {
   Q_OBJECT
@@ -52,20 +54,22 @@ class GoodsDirectoryScreen : public QWidget {
   void ChooseView(GoodsView view);
   void ShowView();
   void Refresh();
+  QString WhatGoes(const GoodsRecord& record) const;
   GoodsDirectory& Directory();
 
   AppContext& context_;
   PickFor pick_for_ = PickFor::kPriceList;
   GoodsBrowser* browser_;
-  QPushButton* add_;      // "Добавить"
-  QPushButton* change_;   // "Изменить"
-  QPushButton* remove_;   // "Удалить"
-  QPushButton* sort_;     // "Сортировка"
-  QPushButton* chart_;    // "График..."
-  QPushButton* Command7;  // "Выбрать"
-  QPushButton* Command9;  // "Закрыть"
-  QAction* up_;           // "Порядок: вверх"
-  QAction* down_;         // "Порядок: вниз"
+  UnsavedWork* unsaved_;
+  QPushButton* add_;     // "Добавить"
+  QPushButton* change_;  // "Изменить"
+  QPushButton* remove_;  // "Удалить"
+  QPushButton* sort_;    // "Сортировка"
+  QPushButton* chart_;   // "График..."
+  QPushButton* choose_;  // "Выбрать"
+  QPushButton* close_;   // "Закрыть"
+  QAction* up_;          // "Порядок: вверх"
+  QAction* down_;        // "Порядок: вниз"
 };
 
 }  // namespace kladez

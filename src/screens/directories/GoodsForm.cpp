@@ -14,6 +14,8 @@
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Look.h"
+#include "ui/controls/TabOrder.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 namespace {
@@ -63,12 +65,18 @@ GoodsForm::GoodsForm(const GoodsEntry& entry, QWidget* parent)
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok_, cancel_));
   setMinimumWidth(60 * look::kGrid);
+  TabByEye(this);
 
   connect(ok_, &QPushButton::clicked, this, &GoodsForm::Ok);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
-  for (QWidget* field : {name_, country_, declaration_, unit_, group_})
-    field->installEventFilter(this);
-  price_->installEventFilter(this);
+  new UnsavedWork(this, {.is_changed = [this, before = Texts()] { return Texts() != before; },
+                         .save =
+                             [this] {
+                               Ok();
+                               return isHidden();
+                             }});
+  for (TextLine* field : Fields()) field->installEventFilter(this);
+  connect(name_, &TextLine::Change, this, [this] { name_->SetFault({}); });
 }
 
 QWidget* GoodsForm::NewGoodsPage(const GoodsRecord& record) {
@@ -93,26 +101,36 @@ QWidget* GoodsForm::NewGroupPage(const GoodsEntry& entry) {
   auto* page = new QWidget(tabs_);
   group_ = NewField<TextLine>(page, u"group"_s,
                               entry.record.IsGroup() ? entry.record.name.mid(1) : QString());
-  Label7 = new QLabel(
+  group_first_ = new QLabel(
       u"Чтобы добавить товар в справочник, Вам необходимо создать хотя бы одну группу товаров, в "
       u"которую Вы сможете добавлять товары. В поле наименование введите название создаваемой "
       u"группы товаров, после чего нажмите кнопку \"OK\". Для отмены добавления группы нажмите "
       u"кнопку \"Отмена\""_s,
       page);
-  Label7->setObjectName(u"Label7"_s);
-  Label7->setWordWrap(true);
-  Label7->setVisible(entry.group_only);
+  group_first_->setObjectName(u"Label7"_s);
+  group_first_->setWordWrap(true);
+  group_first_->setVisible(entry.group_only);
   auto* layout = new QVBoxLayout(page);
   look::SetDialogMargins(layout);
   auto* form = new QFormLayout;
   AddRow(form, u"&Наименование группы:"_s, group_, u"Наименование группы");
   layout->addLayout(form);
-  layout->addWidget(Label7);
+  layout->addWidget(group_first_);
   layout->addStretch();
   return page;
 }
 
+std::array<TextLine*, 6> GoodsForm::Fields() const {
+  return {name_, country_, declaration_, unit_, price_, group_};
+}
+
 bool GoodsForm::IsGroupShown() const { return tabs_->currentIndex() == kGroupPage; }
+
+QStringList GoodsForm::Texts() const {
+  QStringList texts;
+  for (const TextLine* field : Fields()) texts.append(field->text());
+  return texts;
+}
 
 GoodsRecord GoodsForm::Record() const {
   if (IsGroupShown()) {
@@ -129,6 +147,12 @@ GoodsRecord GoodsForm::Record() const {
 
 void GoodsForm::Ok() {
   if (!IsGroupShown()) {
+    // In the file it would be a group from then on, without unit and price.
+    if (IsGroupName(name_->text())) {
+      name_->setFocus();
+      name_->SetFault(u"Название товара не может начинаться с пробела"_s);
+      return;
+    }
     const auto price = ParseStrict(price_->text());
     if (!price) {
       price_->setFocus();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <array>
 
 #include "formats/GoodsFile.h"
 
@@ -15,7 +16,6 @@ class TextLine;
 class TextLineDecimal;
 
 struct GoodsEntry {
-  bool change = false;      // a record is changed, otherwise one is added
   bool group_only = false;  // the first record of a directory must be a group
   GoodsRecord record;       // what the fields show at first
 };
@@ -37,6 +37,8 @@ class GoodsForm : public QDialog {
   QWidget* NewGoodsPage(const GoodsRecord& record);
   QWidget* NewGroupPage(const GoodsEntry& entry);
   bool IsGroupShown() const;
+  std::array<TextLine*, 6> Fields() const;
+  QStringList Texts() const;  // of all fields, whichever page is shown
   void Ok();
 
   QTabWidget* tabs_;        // "Товар", "Группа"
@@ -46,7 +48,7 @@ class GoodsForm : public QDialog {
   TextLine* unit_;          // "Единица измерения:"
   TextLineDecimal* price_;  // "Цена:"
   TextLine* group_;         // "Наименование группы:"
-  QLabel* Label7;           // why only a group can be added to an empty directory
+  QLabel* group_first_;     // why only a group can be added to an empty directory
   QPushButton* ok_;         // "OK"
   QPushButton* cancel_;     // "Отмена"
 };

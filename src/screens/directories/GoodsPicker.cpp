@@ -1,5 +1,8 @@
 #include "screens/directories/GoodsPicker.h"
 
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QLabel>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -9,6 +12,7 @@
 #include "screens/directories/PickQuestion.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/TabOrder.h"
 
 namespace kladez {
 
@@ -23,17 +27,21 @@ GoodsPicker::GoodsPicker(AppContext& context, PickFor pick_for, QWidget* parent)
       {.checked = [this](int row) { return row < int(ticks_.size()) && ticks_[row]; },
        .set_checked = [this](int row, bool on) { ticks_[row] = on; }},
       this);
-  Command7 = NewCommand(this, u"Command7"_s, u"&Выбрать"_s, look::IconName::kPick);
+  choose_ = NewCommand(this, u"Command7"_s, u"&Выбрать"_s, look::IconName::kPick);
   auto* cancel = NewCommand(this, u"cancel"_s, u"Отм&ена"_s);
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addWidget(browser_, 1);
-  layout->addLayout(NewEndingRow(Command7, cancel));
+  auto* ending = NewEndingRow(choose_, cancel);
+  if (pick_for == PickFor::kReceipt) AddStayTick(ending);
+  layout->addLayout(ending);
+  TabByEye(this);
   resize(90 * look::kGrid, 60 * look::kGrid);
+  browser_->SelectForPick(context.settings.Read(settings::kLastPick));
   browser_->List()->setFocus();
 
   ShareListKeys(this, browser_->List());
-  connect(Command7, &QPushButton::clicked, this, &GoodsPicker::Choose);
+  connect(choose_, &QPushButton::clicked, this, &GoodsPicker::Choose);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(browser_->List(), &RecordList::EnterPressed, this, &GoodsPicker::Choose);
   connect(browser_->List(), &RecordList::DoubleClicked, this, &GoodsPicker::Choose);
@@ -58,13 +66,37 @@ void GoodsPicker::Choose() {
     reject();
     return;
   }
-  pick_ = AskPick(this, *record, pick_for_);
-  if (pick_) {
+  const auto pick = AskPick(this, *record, pick_for_, on_hand_);
+  if (pick) Take(*pick);
+  // The screen is active again, and each time it becomes so the file's marks count.
+  if (isVisible()) TickAnew();
+}
+
+void GoodsPicker::Take(const GoodsPick& pick) {
+  pick_ = pick;
+  context_.settings.Write(settings::kLastPick, pick.name);
+  emit Picked(pick);
+  if (stay_ == nullptr || !stay_->isChecked()) {
     accept();
-  } else {
-    // The screen is active again, and each time it becomes so the file's marks count.
-    TickAnew();
+    return;
   }
+  count_->setText(u"Выбрано строк: %1"_s.arg(++picks_));
+  // The next goods are searched for from here.
+  browser_->List()->setFocus();
+}
+
+void GoodsPicker::AddStayTick(QBoxLayout* row) {
+  stay_ = new QCheckBox(u"&Не закрывать"_s, this);
+  stay_->setObjectName(u"stay"_s);
+  stay_->setChecked(context_.settings.ReadBool(settings::kKeepPicking));
+  connect(stay_, &QCheckBox::toggled, this,
+          [this](bool on) { context_.settings.WriteBool(settings::kKeepPicking, on); });
+  count_ = new QLabel(this);
+  count_->setObjectName(u"count"_s);
+  look::MakeQuiet(count_);
+  row->insertWidget(0, stay_);
+  row->insertSpacing(1, look::kGrid);
+  row->insertWidget(2, count_);
 }
 
 void GoodsPicker::ChooseView(GoodsView view) {

@@ -49,7 +49,12 @@ void PartyBrowser::Change(int row) {
 }
 
 void PartyBrowser::Remove(int row) {
-  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
+  const QString name = directory_.Rows()[row].value(0);
+  if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s, DefaultAnswer::kYes,
+                u"Запись «%1» уйдёт из списка. Накладные, в которых она есть, не изменятся."_s.arg(
+                    name))) {
+    return;
+  }
   directory_.Remove(row);
   ShowAnew(row);
 }

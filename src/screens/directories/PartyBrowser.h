@@ -1,5 +1,5 @@
-// The directory of parties of one kind. "OK" writes the file; any other end loses all that was
-// added, changed and deleted.
+// The directory of parties of one kind. "OK" writes the file; "Отмена" loses all that was
+// added, changed and deleted, and any other end asks about it.
 #pragma once
 
 #include "books/directories/PartyDirectory.h"
@@ -11,14 +11,16 @@ namespace kladez {
 class PartyBrowser : public DirectoryDialog {
   Q_OBJECT
 
- protected:
+ public:
   // Throws filesystem_error when the file can't be read.
   PartyBrowser(AppContext& context, PartyKind kind, QWidget* parent);
 
+ protected:
   void Add() override;
   void Change(int row) override;
   void Remove(int row) override;
   void Save() override;
+  bool IsChanged() const override { return directory_.IsChanged(); }
 
  private:
   PartyDirectory directory_;

@@ -6,6 +6,8 @@
 #include "screens/directories/PartyTexts.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
+#include "ui/controls/TabOrder.h"
+#include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
 namespace {
@@ -59,8 +61,15 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
   layout->addLayout(grid);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
+  TabByEye(this);
   resize(sizeHint().expandedTo(QSize(85 * look::kGrid, 0)));
   fields_.front()->setFocus();
+  new UnsavedWork(this, {.is_changed = [this, before = Record()] { return Record() != before; },
+                         .save =
+                             [this] {
+                               Ok();
+                               return isHidden();
+                             }});
   connect(ok, &QPushButton::clicked, this, &PartyForm::Ok);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -7,11 +7,13 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 const PartyScreens& ScreensOf(PartyKind kind) {
+  // In the order of PartyKind.
   static const std::array<PartyScreens, 3> screens = {{
       {u"sprFirm"_s, u"Фирмы"_s, u"sprFirmNew"_s, u"Фирма"_s},
       {u"sprklient"_s, u"Клиенты"_s, u"sprklientnew"_s, u"Клиент"_s},
       {u"sprPost"_s, u"Поставщики"_s, u"sprpostnew"_s, u"Поставщик"_s},
   }};
+  static_assert(screens.size() == static_cast<size_t>(PartyKind::kSupplier) + 1);
   return screens[static_cast<size_t>(kind)];
 }
 
@@ -36,6 +38,7 @@ const PartyCaption& CaptionOf(PartyField field) {
       {u"Директор"_s, u"Директор:"_s, 1800},
       {u"Гл. бухгалтер"_s, u"Гл. бухгалтер:"_s, 1800},
   }};
+  static_assert(captions.size() == static_cast<size_t>(PartyField::kAccountant) + 1);
   return captions[static_cast<size_t>(field)];
 }
 

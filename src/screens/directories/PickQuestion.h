@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "books/directories/GoodsPick.h"
+#include "books/stock/LineNotes.h"
 
 class QWidget;
 
@@ -11,7 +12,8 @@ namespace kladez {
 
 // Asks the quantity of goods, and their purchase price where the pick has one; a group, and the
 // goods of a chart, are handed over unasked. Nothing when cancelled, or when the quantity is no
-// number.
-std::optional<GoodsPick> AskPick(QWidget* parent, const GoodsRecord& record, PickFor pick_for);
+// number. `on_hand`, where somebody knows it, is told beside the quantity.
+std::optional<GoodsPick> AskPick(QWidget* parent, const GoodsRecord& record, PickFor pick_for,
+                                 const StockAfter& on_hand = {});
 
 }  // namespace kladez

@@ -50,7 +50,12 @@ void WarehousesDialog::Change(int row) {
 }
 
 void WarehousesDialog::Remove(int row) {
-  if (row == 0 || !AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) return;
+  if (row == 0 ||
+      !AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s, DefaultAnswer::kNo,
+                u"Склад «%1» будет удалён сразу и навсегда: остатки, прайс-листы и все накладные, "
+                u"которые в нём лежат."_s.arg(directory_.Names()[row]))) {
+    return;
+  }
   Guarded(this, [&] {
     directory_.Delete(row);
     ShowAnew(row);

@@ -15,7 +15,10 @@
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
+#include "ui/controls/Forms.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/TabOrder.h"
+#include "ui/controls/UnsavedWork.h"
 #include "ui/controls/WrapRow.h"
 
 namespace kladez {
@@ -25,7 +28,7 @@ using look::IconName;
 
 namespace {
 
-QString ScreenName(PriceUse kind) { return kind == PriceUse::kEditor ? u"Price"_s : u"price2"_s; }
+QString ScreenName(PriceUse use) { return use == PriceUse::kEditor ? u"Price"_s : u"price2"_s; }
 
 const QString& CellOf(const PriceRow& row, int column) {
   const std::array cells = {&row.name, &row.unit, &row.purchase, &row.sale};
@@ -34,9 +37,8 @@ const QString& CellOf(const PriceRow& row, int column) {
 
 }  // namespace
 
-// The commands of each kind of screen, in the order in which they stand.
+// The commands of each use, in the order in which they stand.
 struct PriceBrowser::Command {
-  QPushButton* PriceBrowser::*button;
   QString name;
   QString caption;
   std::optional<IconName> icon;
@@ -44,33 +46,31 @@ struct PriceBrowser::Command {
   Place place = Place::kLeft;
 };
 
-std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceUse kind) {
+std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceUse use) {
   using P = PriceBrowser;
-  const Command copy = {&P::Command7, u"Command7"_s, u"Копи&ровать"_s, IconName::kCopy, &P::Copy};
-  const Command paste = {&P::Command8, u"Command8"_s, u"&Вставить"_s, IconName::kPaste, &P::Paste};
-  const Command pick = {&P::Command6,    u"Command6"_s, u"В&ыбрать"_s,
-                        IconName::kPick, &P::Pick,      Place::kRight};
+  const Command copy = {u"Command7"_s, u"Копи&ровать"_s, IconName::kCopy, &P::Copy};
+  const Command paste = {u"Command8"_s, u"&Вставить"_s, IconName::kPaste, &P::Paste};
+  const Command pick = {u"Command6"_s, u"В&ыбрать"_s, IconName::kPick, &P::Pick, Place::kRight};
   const auto close = [](const QString& caption) {
-    return Command{&P::Command3, u"Command3"_s, caption, {}, &P::CloseAsked, Place::kRight};
+    return Command{u"Command3"_s, caption, {}, &P::CloseAsked, Place::kRight};
   };
-  if (kind == PriceUse::kPicker) return {copy, paste, pick, close(u"&Отмена"_s)};
-  return {
-      {&P::GoldButton1, u"GoldButton1"_s, u"&Добавить"_s, IconName::kAdd, &P::Add},
-      {&P::GoldButton2, u"GoldButton2"_s, u"&Удалить"_s, IconName::kRemove, &P::Remove},
-      {&P::Command2, u"Command2"_s, u"&Изменить"_s, IconName::kChange, &P::Change},
-      copy,
-      paste,
-      {&P::Command9, u"Command9"_s, u"П&ечать"_s, IconName::kPrint, &P::Print},
-      {&P::Command10, u"Command10"_s, u"О&бновить"_s, IconName::kRefresh, &P::Load, Place::kPanel},
-      {&P::Command5, u"Command5"_s, u"Со&хранить"_s, IconName::kSave, &P::Save, Place::kRight},
-      pick,
-      close(u"&Закрыть"_s)};
+  if (use == PriceUse::kPicker) return {copy, paste, pick, close(u"&Отмена"_s)};
+  return {{u"GoldButton1"_s, u"&Добавить"_s, IconName::kAdd, &P::Add},
+          {u"GoldButton2"_s, u"&Удалить"_s, IconName::kRemove, &P::Remove},
+          {u"Command2"_s, u"&Изменить"_s, IconName::kChange, &P::Change},
+          copy,
+          paste,
+          {u"Command9"_s, u"П&ечать"_s, IconName::kPrint, &P::Print},
+          {u"Command10"_s, u"О&бновить"_s, IconName::kRefresh, &P::Refresh, Place::kPanel},
+          {u"Command5"_s, u"Со&хранить"_s, IconName::kSave, &P::SaveList, Place::kRight},
+          pick,
+          close(u"&Закрыть"_s)};
 }
 
-PriceBrowser::PriceBrowser(AppContext& context, PriceUse kind, QWidget* parent)
+PriceBrowser::PriceBrowser(AppContext& context, PriceUse use, QWidget* parent)
     : QWidget(parent),
       context_(context),
-      kind_(kind),
+      use_(use),
       session_(context.session),
       store_(context.data, session_) {
   auto* layout = new QVBoxLayout(this);
@@ -78,45 +78,62 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceUse kind, QWidget* parent)
   layout->setSpacing(look::kGrid);
   BuildPanel(layout);
   BuildList();
-  layout->addWidget(ListView1, 1);
+  layout->addWidget(list_, 1);
+  if (use == PriceUse::kPicker) {
+    taken_ = NewLabel({}, nullptr, this);
+    taken_->setObjectName(u"taken"_s);
+    taken_->setWordWrap(true);
+    look::MakeQuiet(taken_);
+    layout->addWidget(taken_);
+  }
   auto* commands = new WrapRow(look::kGrid, look::kTight);
   AddCommands(commands, Place::kLeft);
   commands->AddStretch();
   AddCommands(commands, Place::kRight);
   layout->addLayout(commands);
   // A document brings its own warehouse to the picker; the editor picks nothing.
-  Combo1->setEnabled(kind == PriceUse::kEditor);
-  Command6->setVisible(kind == PriceUse::kPicker);
-  setFocusProxy(ListView1);
-  ShareListKeys(this, ListView1, Command9);
+  warehouse_->setEnabled(use == PriceUse::kEditor);
+  pick_->setVisible(use == PriceUse::kPicker);
+  setFocusProxy(list_);
+  TabByEye(this);
+  ShareListKeys(this, list_, findChild<QPushButton*>(u"Command9"_s));
+  Wire();
+}
 
-  connect(Combo1, &QComboBox::currentIndexChanged, this, &PriceBrowser::ListLists);
-  connect(Combo2, &QComboBox::currentIndexChanged, this, &PriceBrowser::Load);
+void PriceBrowser::Wire() {
+  connect(warehouse_, &QComboBox::currentIndexChanged, this, &PriceBrowser::ListLists);
+  connect(price_list_, &QComboBox::currentIndexChanged, this, &PriceBrowser::ChooseList);
   connect(filter_, &GoodsFilter::ViewChosen, this, &PriceBrowser::SwitchView);
-  connect(ListView1, &RecordList::EnterPressed, this, &PriceBrowser::ChangeOrPick);
-  connect(ListView1, &RecordList::DoubleClicked, this, &PriceBrowser::ChangeOrPick);
-  if (kind == PriceUse::kEditor) {
-    connect(ListView1, &RecordList::InsertPressed, this, &PriceBrowser::Add);
-    connect(ListView1, &RecordList::DeletePressed, this, &PriceBrowser::Remove);
+  connect(list_, &RecordList::EnterPressed, this, &PriceBrowser::ChangeOrPick);
+  connect(list_, &RecordList::DoubleClicked, this, &PriceBrowser::ChangeOrPick);
+  if (use_ == PriceUse::kPicker) {
+    connect(list_, &RecordList::CurrentRowChanged, this, &PriceBrowser::ShowWhatIsTaken);
+    connect(model_, &RecordModel::dataChanged, this, &PriceBrowser::ShowWhatIsTaken);
+  } else {
+    unsaved_ = new UnsavedWork(parentWidget(),
+                               {.is_changed = [this] { return loaded_ && prices_.IsChanged(); },
+                                .save = [this] { return Save(); }});
+    connect(list_, &RecordList::InsertPressed, this, &PriceBrowser::Add);
+    connect(list_, &RecordList::DeletePressed, this, &PriceBrowser::Remove);
   }
 }
 
 void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
-  const QString screen = ScreenName(kind_);
-  Combo1 = new QComboBox(this);
-  Combo1->setObjectName(u"Combo1"_s);
-  Combo1->addItems(session_.warehouses);
-  Combo1->setCurrentIndex(-1);
-  Combo2 = new QComboBox(this);
-  Combo2->setObjectName(u"Combo2"_s);
+  const QString screen = ScreenName(use_);
+  warehouse_ = new QComboBox(this);
+  warehouse_->setObjectName(u"Combo1"_s);
+  warehouse_->addItems(session_.warehouses);
+  warehouse_->setCurrentIndex(-1);
+  price_list_ = new QComboBox(this);
+  price_list_->setObjectName(u"Combo2"_s);
   auto* choices = new Columns(look::kMargin);
   const auto add_choice = [&](const QString& caption, QComboBox* field, QStringView place) {
     auto* choice = new QHBoxLayout;
     AddChoice(choice, caption, field, HintFor(screen, place));
     choices->Add(choice);
   };
-  add_choice(u"Ск&лад:"_s, Combo1, u"Склад");
-  add_choice(u"Пра&йс:"_s, Combo2, u"Прайс");
+  add_choice(u"Ск&лад:"_s, warehouse_, u"Склад");
+  add_choice(u"Пра&йс:"_s, price_list_, u"Прайс");
   auto* commands = new QHBoxLayout;
   commands->setSpacing(look::kTight);
   AddCommands(commands, Place::kPanel);
@@ -129,35 +146,35 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
 }
 
 void PriceBrowser::BuildList() {
-  const auto row = [this](int at) -> const PriceRow& { return list_.Rows()[at]; };
+  const auto row = [this](int at) -> const PriceRow& { return prices_.Rows()[at]; };
   const int cost_twips = context_.session.IsSeller() ? 0 : 1500;
   model_ =
       new RecordModel({{.title = u"Наименование"_s, .twips = 3100, .stretch = true},
                        {.title = u"Ед.изм."_s, .twips = 1000},
                        {.title = u"Цена закупа"_s, .twips = cost_twips, .number = true},
                        {.title = u"Цена реализации"_s, .twips = 2000, .number = true}},
-                      {.count = [this] { return static_cast<int>(list_.Rows().size()); },
+                      {.count = [this] { return static_cast<int>(prices_.Rows().size()); },
                        .text = [row](int at, int column) { return CellOf(row(at), column); },
                        .is_group = [row](int at) { return row(at).IsGroup() || row(at).picked; },
                        .checked = [row](int at) { return row(at).ticked; },
-                       .set_checked = [this](int at, bool on) { list_.SetTick(at, on); },
+                       .set_checked = [this](int at, bool on) { prices_.SetTick(at, on); },
                        .checkable = [row](int at) { return !row(at).IsGroup(); }},
                       this);
-  ListView1 = new RecordList(this);
-  ListView1->setObjectName(u"ListView1"_s);
-  ListView1->SetRecords(model_);
-  // The print-out can take the selected rows alone.
-  ListView1->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  filter_->SearchIn(ListView1);
+  list_ = new RecordList(this);
+  list_->setObjectName(u"ListView1"_s);
+  list_->SetRecords(model_);
+  // The print-out can take the selected rows alone; a pick is always one row.
+  if (use_ == PriceUse::kEditor) list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  filter_->SearchIn(list_);
 }
 
 void PriceBrowser::AddCommands(QLayout* row, Place place) {
-  for (const Command& command : CommandsOf(kind_)) {
+  for (const Command& command : CommandsOf(use_)) {
     if (command.place != place) continue;
     QPushButton* button = command.icon
                               ? NewCommand(this, command.name, command.caption, *command.icon)
                               : NewCommand(this, command.name, command.caption);
-    this->*command.button = button;
+    if (command.run == &PriceBrowser::Pick) pick_ = button;
     connect(button, &QPushButton::clicked, this, command.run);
     row->addWidget(button);
   }
@@ -170,31 +187,69 @@ bool PriceBrowser::RefusedToSeller() {
 }
 
 void PriceBrowser::ChooseWarehouse(const QString& warehouse) {
-  Combo1->setCurrentIndex(Combo1->findText(warehouse, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  warehouse_->setCurrentIndex(
+      warehouse_->findText(warehouse, Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+// Asked before other rows come in the place of those that were changed.
+bool PriceBrowser::MayReplace() { return unsaved_ == nullptr || unsaved_->MayGo(); }
+
+void PriceBrowser::ChooseList() {
+  if (MayReplace()) {
+    Load();
+  } else {
+    const QSignalBlocker blocker(price_list_);
+    price_list_->setCurrentIndex(shown_.list);
+  }
+}
+
+void PriceBrowser::Refresh() {
+  if (MayReplace()) Load();
 }
 
 void PriceBrowser::ListLists() {
+  if (!MayReplace()) {
+    const QSignalBlocker blocker(warehouse_);
+    warehouse_->setCurrentIndex(shown_.warehouse_row);
+    return;
+  }
   {
-    const QSignalBlocker blocker(Combo2);
-    Combo2->clear();
-    Combo2->addItems(store_.Names(Combo1->currentText()));
+    const QSignalBlocker blocker(price_list_);
+    price_list_->clear();
+    price_list_->addItems(store_.Names(warehouse_->currentText()));
   }
   Load();
 }
 
 QString PriceBrowser::SelectedName() const {
-  const int row = ListView1->CurrentRow();
-  return row < 0 ? QString() : list_.Rows()[row].name;
+  const int row = list_->CurrentRow();
+  return row < 0 ? QString() : prices_.Rows()[row].name;
+}
+
+// A picker opens on what was picked last, or else on goods: a group can't be picked.
+int PriceBrowser::FirstRow() const {
+  if (use_ == PriceUse::kEditor) return 0;
+  const auto& rows = prices_.Rows();
+  const QString last = context_.settings.Read(settings::kLastPick);
+  auto first = std::find_if(rows.begin(), rows.end(), [&](const PriceRow& row) {
+    return !last.isEmpty() && row.name == last;
+  });
+  if (first == rows.end()) {
+    first =
+        std::find_if(rows.begin(), rows.end(), [](const PriceRow& row) { return !row.IsGroup(); });
+  }
+  return first == rows.end() ? 0 : static_cast<int>(first - rows.begin());
 }
 
 void PriceBrowser::ShowRows(const QString& selected_name) {
   model_->Reset();
-  const auto& rows = list_.Rows();
+  const auto& rows = prices_.Rows();
   const auto same = std::find_if(rows.begin(), rows.end(),
                                  [&](const PriceRow& row) { return row.name == selected_name; });
-  ListView1->SelectRow(same == rows.end() ? 0 : static_cast<int>(same - rows.begin()));
-  ListView1->SetEmptyText(
-      Combo2->currentIndex() < 0
+  list_->SelectRow(same == rows.end() ? FirstRow() : static_cast<int>(same - rows.begin()));
+  if (use_ == PriceUse::kPicker) ShowWhatIsTaken();
+  list_->SetEmptyText(
+      price_list_->currentIndex() < 0
           ? u"У этого склада нет прайс-листов: нет файла price.usd с их названиями."_s
           : u"Список пуст. Внесите товары в справочник и нажмите «Обновить»."_s);
 }
@@ -203,20 +258,21 @@ void PriceBrowser::Load() {
   const QString selected = SelectedName();
   PriceList list;
   loaded_ = false;
-  if (Combo1->currentIndex() >= 0 && Combo2->currentIndex() >= 0) {
+  shown_ = {warehouse_->currentText(), warehouse_->currentIndex(), price_list_->currentIndex()};
+  if (warehouse_->currentIndex() >= 0 && price_list_->currentIndex() >= 0) {
     context_.show_progress.Tell(0);
     loaded_ = Guarded(this, [&] {
-      list = store_.Load(Combo1->currentText(), Combo2->currentIndex(), filter_->View(),
+      list = store_.Load(warehouse_->currentText(), price_list_->currentIndex(), filter_->View(),
                          context_.show_progress);
     });
     context_.show_progress.Tell(1);
   }
-  list_ = std::move(list);
+  prices_ = std::move(list);
   ShowRows(selected);
 }
 
 void PriceBrowser::SwitchView(GoodsView view) {
-  if (loaded_ && !Guarded(this, [this] { store_.SaveTicks(list_); })) {
+  if (!MayReplace() || (loaded_ && !Guarded(this, [this] { store_.SaveTicks(prices_); }))) {
     filter_->SetView(view == GoodsView::kGroups ? GoodsView::kGoodsOnly : GoodsView::kGroups);
     return;
   }
@@ -226,7 +282,7 @@ void PriceBrowser::SwitchView(GoodsView view) {
 void PriceBrowser::Leave() {
   // Destroyed with this screen it would not keep its view.
   if (goods_) goods_->close();
-  if (loaded_) Guarded(this, [this] { store_.SaveTicks(list_); });
+  if (loaded_) Guarded(this, [this] { store_.SaveTicks(prices_); });
   filter_->Remember();
 }
 
@@ -244,42 +300,42 @@ void PriceBrowser::Add() {
 }
 
 void PriceBrowser::InsertPicked(const GoodsPick& pick) {
-  const int below = ListView1->CurrentRow();
-  const int count = static_cast<int>(list_.Rows().size());
+  const int below = list_->CurrentRow();
+  const int count = static_cast<int>(prices_.Rows().size());
   const int at = below < 0 ? count : below + 1;
-  model_->Insert(at, [&] { list_.InsertPick(below, pick); });
-  ListView1->SelectRow(at);
+  model_->Insert(at, [&] { prices_.InsertPick(below, pick); });
+  list_->SelectRow(at);
 }
 
 void PriceBrowser::Remove() {
-  std::vector<int> rows = ListView1->SelectedRows();
+  std::vector<int> rows = list_->SelectedRows();
   if (rows.empty()) return;
   for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-    model_->Remove(*row, [&] { list_.Remove(*row); });
+    model_->Remove(*row, [&] { prices_.Remove(*row); });
   }
-  ListView1->SelectRow(std::min(rows.front(), static_cast<int>(list_.Rows().size()) - 1));
-  ListView1->setFocus();
+  list_->SelectRow(std::min(rows.front(), static_cast<int>(prices_.Rows().size()) - 1));
+  list_->setFocus();
 }
 
 void PriceBrowser::Change() {
   if (RefusedToSeller()) return;
-  const int row = ListView1->CurrentRow();
-  ListView1->setFocus();
-  if (row < 0 || list_.Rows()[row].IsGroup()) return;
-  SalePriceDialog dialog(list_.Rows()[row].name, list_.Rows()[row].sale, this);
+  const int row = list_->CurrentRow();
+  list_->setFocus();
+  if (row < 0 || prices_.Rows()[row].IsGroup()) return;
+  SalePriceDialog dialog(prices_.Rows()[row], this);
   if (dialog.exec() != QDialog::Accepted) return;
-  PriceList changed = list_;
+  PriceList changed = prices_;
   changed.SetSalePrice(row, dialog.Price());
-  if (!Guarded(this,
-               [&] { store_.Save(changed, Combo1->currentText(), Combo2->currentIndex()); })) {
+  if (!Guarded(this, [&] { store_.Save(changed, shown_.warehouse, shown_.list); })) {
     return;
   }
-  list_ = std::move(changed);
+  changed.TakeAsSaved();
+  prices_ = std::move(changed);
   model_->Update(row);
 }
 
 void PriceBrowser::ChangeOrPick() {
-  if (kind_ == PriceUse::kPicker) {
+  if (use_ == PriceUse::kPicker) {
     Pick();
   } else {
     Change();
@@ -287,40 +343,73 @@ void PriceBrowser::ChangeOrPick() {
 }
 
 void PriceBrowser::Pick() {
-  const int at = ListView1->CurrentRow();
-  if (at < 0 || list_.Rows()[at].sale.isEmpty()) return;
-  const PriceRow& row = list_.Rows()[at];
-  const auto answer = AskQuantity(this, u"Товар"_s, u"Кол-во:"_s, u"1"_s, MoneyText(row.sale));
+  const int at = list_->CurrentRow();
+  if (at < 0 || prices_.Rows()[at].sale.isEmpty()) return;
+  const PriceRow& row = prices_.Rows()[at];
+  const QuantityNotes notes = {
+      .goods = row.name,
+      .unit = row.unit,
+      .on_hand = on_hand_ ? on_hand_(row.name) : std::nullopt,
+      .flow = Flow::kOut,
+      .cost = row.purchase,
+      .cost_is = context_.session.IsSeller() ? CostIs::kSecret : CostIs::kShown};
+  const auto answer = AskQuantity(this, u"Товар"_s, u"Кол-во:"_s, u"1"_s, MoneyText(row.sale),
+                                  u"Цена реализации:"_s, notes);
   if (!answer || !ParseStrict(answer->quantity)) return;
+  context_.settings.Write(settings::kLastPick, row.name);
   emit Picked({.name = row.name,
                .quantity = answer->quantity,
                .unit = row.unit,
                .cost = row.purchase,
                .price = answer->price});
+  ++picks_;
+  ShowWhatIsTaken();
+}
+
+// Ticks look like a choice of several rows, which they are for the print-out only.
+void PriceBrowser::ShowWhatIsTaken() {
+  QStringList words = {u"Выбрано строк: %1."_s.arg(picks_)};
+  const int at = list_->CurrentRow();
+  if (at >= 0 && !prices_.Rows()[at].IsGroup()) {
+    words.append(u"«Выбрать» берёт строку под курсором: «%1»."_s.arg(
+        prices_.Rows()[at].name.left(look::kLongestText)));
+  }
+  const auto ticked = std::count_if(prices_.Rows().begin(), prices_.Rows().end(),
+                                    [](const PriceRow& row) { return row.ticked; });
+  if (ticked > 0) {
+    words.append(
+        u"Галочки (%1) отмечают товары для печати прайс-листа, их «Выбрать» не берёт."_s.arg(
+            ticked));
+  }
+  taken_->setText(words.join(u' '));
 }
 
 void PriceBrowser::Copy() {
   if (RefusedToSeller() || !loaded_) return;
-  Guarded(this, [this] { store_.Copy(list_); });
+  Guarded(this, [this] { store_.Copy(prices_); });
 }
 
 void PriceBrowser::Paste() {
   if (RefusedToSeller() || !loaded_) return;
   Guarded(this, [this] {
     const QString selected = SelectedName();
-    if (store_.Paste(list_, Combo1->currentText(), Combo2->currentIndex())) ShowRows(selected);
+    if (store_.Paste(prices_, warehouse_->currentText(), price_list_->currentIndex()))
+      ShowRows(selected);
   });
 }
 
 void PriceBrowser::Print() {
-  PricePrintScreen screen(context_,
-                          {Combo1->currentText(), {list_.Rows(), ListView1->SelectedRows()}}, this);
-  screen.exec();
+  PricePrintScreen(context_, {shown_.warehouse, {prices_.Rows(), list_->SelectedRows()}}, this)
+      .exec();
 }
 
-void PriceBrowser::Save() {
-  if (!loaded_) return;
-  Guarded(this, [this] { store_.Save(list_, Combo1->currentText(), Combo2->currentIndex()); });
+void PriceBrowser::SaveList() { Save(); }
+
+bool PriceBrowser::Save() {
+  const bool saved =
+      loaded_ && Guarded(this, [this] { store_.Save(prices_, shown_.warehouse, shown_.list); });
+  if (saved) prices_.TakeAsSaved();
+  return saved;
 }
 
 }  // namespace kladez

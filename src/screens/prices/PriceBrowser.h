@@ -1,23 +1,26 @@
 // A price list on the screen, as `Price` edits it and `price2` picks from it: the two are one
-// machinery, told apart by the commands that they show. The rows are a working copy; what is not
-// saved by a command is lost, except the ticks, which are saved on leaving too.
+// machinery, told apart by the commands that they show. The rows are a working copy; what no
+// command has saved is asked about on the way out, except the ticks, which are saved then.
 #pragma once
 
 #include <QPointer>
 #include <QWidget>
 
 #include "books/prices/PriceStore.h"
+#include "books/stock/LineNotes.h"
 #include "screens/directories/GoodsFilter.h"
 #include "ui/AppContext.h"
 
 class QComboBox;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
 namespace kladez {
 
 class GoodsDirectoryScreen;
+class UnsavedWork;
 
 enum class PriceUse { kEditor, kPicker };
 
@@ -25,28 +28,18 @@ class PriceBrowser : public QWidget {
   Q_OBJECT
 
  public:
-  PriceBrowser(AppContext& context, PriceUse kind, QWidget* parent);
+  PriceBrowser(AppContext& context, PriceUse use, QWidget* parent);
 
   // Chooses a warehouse and shows its first list. A list that can't be read is told in a message
   // and leaves the screen empty.
   void ChooseWarehouse(const QString& warehouse);
   // Saves the ticks and the chosen view, as every way out does.
   void Leave();
+  // What the document that picks says of the goods in its warehouse.
+  void TellOnHand(StockAfter on_hand) { on_hand_ = std::move(on_hand); }
 
-  QComboBox* Combo1;  // "Склад:"
-  QComboBox* Combo2;  // "Прайс:"
-  RecordList* ListView1;
-  // A command that the screen does not have is null.
-  QPushButton* GoldButton1 = nullptr;  // "Добавить"
-  QPushButton* GoldButton2 = nullptr;  // "Удалить"
-  QPushButton* Command2 = nullptr;     // "Изменить"
-  QPushButton* Command3 = nullptr;     // "Закрыть", of the picker "Отмена"
-  QPushButton* Command5 = nullptr;     // "Сохранить"
-  QPushButton* Command6 = nullptr;     // "Выбрать"
-  QPushButton* Command7 = nullptr;     // "Копировать"
-  QPushButton* Command8 = nullptr;     // "Вставить"
-  QPushButton* Command9 = nullptr;     // "Печать"
-  QPushButton* Command10 = nullptr;    // "Обновить"
+  RecordList* List() const { return list_; }
+  QPushButton* PickCommand() const { return pick_; }
 
  signals:
   void Picked(const GoodsPick& pick);
@@ -55,14 +48,19 @@ class PriceBrowser : public QWidget {
  private:
   enum class Place { kLeft, kRight, kPanel };
   struct Command;
-  static std::vector<Command> CommandsOf(PriceUse kind);
+  static std::vector<Command> CommandsOf(PriceUse use);
   void BuildPanel(QVBoxLayout* layout);
   void BuildList();
   void AddCommands(QLayout* row, Place place);
+  void Wire();
 
   bool RefusedToSeller();
+  bool MayReplace();
+  void ChooseList();
+  void Refresh();
   void ListLists();
   void Load();
+  int FirstRow() const;
   void ShowRows(const QString& selected_name);
   QString SelectedName() const;
   void SwitchView(GoodsView view);
@@ -76,16 +74,33 @@ class PriceBrowser : public QWidget {
   void Copy();
   void Paste();
   void Print();
-  void Save();
+  void SaveList();
+  bool Save();
+  void ShowWhatIsTaken();
 
   AppContext& context_;
-  const PriceUse kind_;
+  const PriceUse use_;
   const Session session_;  // of the Database that it was opened on, which it leaves last
   const PriceStore store_;
+  QComboBox* warehouse_;   // "Склад:"
+  QComboBox* price_list_;  // "Прайс:"
   GoodsFilter* filter_;
+  RecordList* list_;
   RecordModel* model_;
-  PriceList list_;
+  QPushButton* pick_;  // "Выбрать"
+  PriceList prices_;
   bool loaded_ = false;  // without a list nothing is saved, least of all no ticks
+  // What is shown, and saved: the fields may be ahead of it for as long as a question stands.
+  struct Shown {
+    QString warehouse;
+    int warehouse_row = -1;
+    int list = -1;
+  };
+  Shown shown_;
+  UnsavedWork* unsaved_ = nullptr;  // of the editor
+  QLabel* taken_ = nullptr;         // of the picker: what "Выбрать" takes, and has taken
+  StockAfter on_hand_;
+  int picks_ = 0;
   QPointer<GoodsDirectoryScreen> goods_;
 };
 

@@ -18,12 +18,14 @@ PricePicker::PricePicker(AppContext& context, const QString& warehouse, QWidget*
   look::SetDialogMargins(layout);
   layout->addWidget(browser_);
   resize(90 * look::kGrid, 64 * look::kGrid);
-  browser_->Command6->setDefault(true);
-  browser_->ListView1->setFocus();
+  browser_->PickCommand()->setDefault(true);
+  browser_->List()->setFocus();
   connect(browser_, &PriceBrowser::CloseAsked, this, &QDialog::reject);
   connect(browser_, &PriceBrowser::Picked, this, &PricePicker::Picked);
   browser_->ChooseWarehouse(warehouse);
 }
+
+void PricePicker::TellOnHand(StockAfter on_hand) { browser_->TellOnHand(std::move(on_hand)); }
 
 void PricePicker::done(int result) {
   browser_->Leave();

@@ -6,6 +6,7 @@
 #include <QDialog>
 
 #include "books/directories/GoodsPick.h"
+#include "books/stock/LineNotes.h"
 #include "ui/AppContext.h"
 
 namespace kladez {
@@ -18,6 +19,9 @@ class PricePicker : public QDialog {
  public:
   // Shows the price lists of the warehouse that the goods leave.
   PricePicker(AppContext& context, const QString& warehouse, QWidget* parent = nullptr);
+
+  // What the document says of the goods in its warehouse, told beside the quantity.
+  void TellOnHand(StockAfter on_hand);
 
   void done(int result) override;
 

@@ -1,25 +1,23 @@
 // "Изменить цену в прайсе": the sale price of one row of a price list.
 #pragma once
 
-#include <QDialog>
-
-class QPushButton;
+#include "screens/directories/NumbersDialog.h"
 
 namespace kladez {
 
 class TextLineDecimal;
+struct PriceRow;
 
-class SalePriceDialog : public QDialog {
+class SalePriceDialog : public NumbersDialog {
   Q_OBJECT
 
  public:
-  SalePriceDialog(const QString& name, const QString& price, QWidget* parent = nullptr);
+  explicit SalePriceDialog(const PriceRow& row, QWidget* parent = nullptr);
 
   QString Price() const;  // "#0.00"
 
-  TextLineDecimal* Text1;  // "Цена:"
-  QPushButton* Command1;   // "OK"
-  QPushButton* Command2;   // "Отмена"
+ private:
+  TextLineDecimal* price_;
 };
 
 }  // namespace kladez

@@ -11,27 +11,23 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 BackupWizard::BackupWizard(AppContext& context, QWidget* parent)
-    : CopyWizard(context, u"rescopy"_s, u"Резервное корирование"_s, parent) {
+    : CopyWizard(context, u"rescopy"_s, u"Резервное корирование"_s, settings::kBackupFolder,
+                 parent) {
+  Guarded(this, [this] { list_->Fill(context_.data); });
   ShowList(u"Отметьте галочками те базы данных, которые необходимо копировать."_s);
-}
-
-int BackupWizard::exec() {
-  Guarded(this, [this] { ListView1->Fill(context_.data); });
-  ListView1->SelectRow(0);
-  if (ListView1->Count() == 0) {
-    ShowMessage(parentWidget(), u"У вас нет ни одной базы данных, чтобы копировать ее."_s);
+  if (list_->Count() == 0) {
+    ShowMessage(parent, u"У вас нет ни одной базы данных, чтобы копировать ее."_s);
   }
-  return CopyWizard::exec();
 }
 
 void BackupWizard::Next() {
   if (ListIsShown()) {
     if (!AnyChecked()) return;
     Guarded(this, [this] {
-      for (const CatalogueEntry& entry : ListView1->Checked()) {
+      for (const CatalogueEntry& entry : list_->Checked()) {
         RequirePlainPath(context_.data, entry);
       }
-      Command1->setText(u"OK"_s);
+      next_->setText(u"OK"_s);
       ShowChooser(u"Выбирите папку, куда необходимо скопировать базы данных"_s);
     });
     return;
@@ -42,7 +38,7 @@ void BackupWizard::Next() {
   }
   Copy(
       [this](const Progress& progress) {
-        MakeBackup(context_.data, ListView1->Checked(), chooser_->Folder(), context_.clock.Today(),
+        MakeBackup(context_.data, list_->Checked(), chooser_->Folder(), context_.clock.Today(),
                    progress);
       },
       u"Копирование прервано, незаконченная копия удалена."_s);

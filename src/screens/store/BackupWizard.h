@@ -9,9 +9,8 @@ class BackupWizard : public CopyWizard {
   Q_OBJECT
 
  public:
+  // Says so when there is nothing to back up.
   BackupWizard(AppContext& context, QWidget* parent);
-
-  int exec() override;
 
  private:
   void Next() override;

@@ -1,5 +1,5 @@
-// The catalogue of Databases. It stays loaded for the whole run: its list "Пользователь:" is the
-// role of the session, and what it opened last is the session's chosen_base.
+// The catalogue of Databases. What it opened last and the role that it was opened with live in the
+// session; they change only by an opening that went through.
 #pragma once
 
 #include <QDialog>
@@ -19,11 +19,9 @@ class CatalogueDialog : public QDialog {
   Q_OBJECT
 
  public:
-  CatalogueDialog(AppContext& context, CatalogueHost& host, QWidget* parent);
-
   enum class Mode { kCatalogue, kOpen };
-  // Shows it modally; true when a Database was chosen, and OpenDatabase is due.
-  bool Run(Mode mode);
+  // Accepted when a Database was chosen: OpenDatabase is due.
+  CatalogueDialog(AppContext& context, CatalogueHost& host, Mode mode, QWidget* parent);
 
   void reject() override;  // "Отмена", Escape
 
@@ -31,8 +29,11 @@ class CatalogueDialog : public QDialog {
   void closeEvent(QCloseEvent* event) override;  // its frame
 
  private:
+  void BuildLayout(Mode mode);
+  void Wire();
   void Fill();
   void Open();
+  UserRole Role() const;  // as it is chosen on the screen
   bool MayEnter();
   void Rename();
   void Delete();
@@ -42,15 +43,14 @@ class CatalogueDialog : public QDialog {
   AppContext& context_;
   CatalogueHost& host_;
 
-  CatalogueList* ListView1;
-  TextLine* Text3;           // "Имя базы данных:"
-  QComboBox* Combo1;         // "Пользователь:"
-  QPushButton* Command1;     // "Открыть"
-  QPushButton* Command2;     // "Отмена"
-  QPushButton* GoldButton1;  // "Изменить"
-  QPushButton* GoldButton2;  // "Удалить"
-  QPushButton* GoldButton3;  // "Создать"
-  QPushButton* Command3;     // "Справка"
+  CatalogueList* list_;
+  TextLine* name_;       // "Имя базы данных:"
+  QComboBox* role_;      // "Пользователь:"
+  QPushButton* open_;    // "Открыть"
+  QPushButton* cancel_;  // "Отмена"
+  QPushButton* rename_;  // "Изменить"
+  QPushButton* delete_;  // "Удалить"
+  QPushButton* create_;  // "Создать"
 };
 
 }  // namespace kladez

@@ -1,4 +1,5 @@
-// What the catalogue screens ask of the main window that they stand above.
+// What a screen of the catalogue asks of the window that shows it: the main window, which stands a
+// storey above and so can't be included here.
 #pragma once
 
 #include <QString>
@@ -10,7 +11,7 @@ class CatalogueHost {
   virtual ~CatalogueHost() = default;
 
   virtual void CloseChildScreens() = 0;
-  // "Kladez - " and the name; "Kladez" without one.
+  // "Kladez - " and the name.
   virtual void SetDatabaseTitle(const QString& name) = 0;
   virtual void HideDatabaseMenus() = 0;  // "Склад", "Отчеты", "Справочники"
   virtual void DisableDatabaseCommands() = 0;  // "Закрыть", "Импорт..."

@@ -10,6 +10,7 @@
 #include "screens/store/FolderChooser.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/TabOrder.h"
 
 namespace kladez {
 namespace {
@@ -21,58 +22,63 @@ constexpr int kProgressSteps = 1000;
 }  // namespace
 
 CopyWizard::CopyWizard(AppContext& context, const QString& name, const QString& title,
-                       QWidget* parent)
+                       const Setting& folder, QWidget* parent)
     : QDialog(parent),
       context_(context),
-      ListView1(new CatalogueList(this, CatalogueList::Checks::kBoxes)),
+      list_(new CatalogueList(this, CatalogueList::Checks::kBoxes)),
       chooser_(new FolderChooser(this)),
-      Command1(NewCommand(this, u"Command1"_s, u"&Далее"_s)),
-      Command2(NewCommand(this, u"Command2"_s, u"О&тмена"_s)),
-      Label1(new QLabel(this)),
+      next_(NewCommand(this, u"Command1"_s, u"&Далее"_s)),
+      cancel_(NewCommand(this, u"Command2"_s, u"О&тмена"_s)),
+      advice_(new QLabel(this)),
       steps_(new QStackedLayout),
-      ProgressBar1(new QProgressBar(this)) {
+      progress_(new QProgressBar(this)),
+      folder_(folder) {
   setObjectName(name);
   setWindowTitle(title);
-  Label1->setObjectName(u"Label1"_s);
-  Label1->setWordWrap(true);
-  ListView1->SetEmptyText(u"Здесь нет ни одной базы данных."_s);
-  ProgressBar1->setObjectName(u"ProgressBar1"_s);
-  ProgressBar1->setRange(0, kProgressSteps);
+  advice_->setObjectName(u"Label1"_s);
+  advice_->setWordWrap(true);
+  list_->SetEmptyText(u"Здесь нет ни одной базы данных."_s);
+  progress_->setObjectName(u"ProgressBar1"_s);
+  progress_->setRange(0, kProgressSteps);
   // Keeps its room, so that the buttons do not move when the copy starts.
-  QSizePolicy policy = ProgressBar1->sizePolicy();
+  QSizePolicy policy = progress_->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
-  ProgressBar1->setSizePolicy(policy);
-  ProgressBar1->hide();
-  steps_->addWidget(ListView1);
+  progress_->setSizePolicy(policy);
+  progress_->hide();
+  if (const QString last = context.settings.Read(folder); !last.isEmpty()) {
+    chooser_->SetFolder(last);
+  }
+  steps_->addWidget(list_);
   steps_->addWidget(chooser_);
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
-  layout->addWidget(Label1);
+  layout->addWidget(advice_);
   layout->addLayout(steps_, 1);
-  layout->addWidget(ProgressBar1);
-  layout->addLayout(NewEndingRow(Command1, Command2));
+  layout->addWidget(progress_);
+  layout->addLayout(NewEndingRow(next_, cancel_));
   resize(64 * look::kGrid, 52 * look::kGrid);
-  connect(Command1, &QPushButton::clicked, this, [this] { Next(); });
-  connect(Command2, &QPushButton::clicked, this, &CopyWizard::reject);
+  TabByEye(this);
+  connect(next_, &QPushButton::clicked, this, [this] { Next(); });
+  connect(cancel_, &QPushButton::clicked, this, &CopyWizard::reject);
 }
 
 void CopyWizard::ShowList(const QString& label) {
-  Label1->setText(label);
-  steps_->setCurrentWidget(ListView1);
-  ListView1->SelectRow(0);
-  ListView1->setFocus();
+  advice_->setText(label);
+  steps_->setCurrentWidget(list_);
+  list_->SelectRow(0);
+  list_->setFocus();
 }
 
 void CopyWizard::ShowChooser(const QString& label) {
-  Label1->setText(label);
+  advice_->setText(label);
   steps_->setCurrentWidget(chooser_);
   chooser_->setFocus();
 }
 
-bool CopyWizard::ListIsShown() const { return steps_->currentWidget() == ListView1; }
+bool CopyWizard::ListIsShown() const { return steps_->currentWidget() == list_; }
 
 bool CopyWizard::AnyChecked() {
-  if (!ListView1->Checked().empty()) return true;
+  if (!list_->Checked().empty()) return true;
   ShowMessage(this, u"Отметьте хотя бы одну базу данных"_s);
   return false;
 }
@@ -80,9 +86,9 @@ bool CopyWizard::AnyChecked() {
 void CopyWizard::Copy(const std::function<void(const Progress&)>& copy, const QString& stopped) {
   const auto set_busy = [this](bool busy) {
     copying_ = busy;
-    ProgressBar1->setValue(0);
-    ProgressBar1->setVisible(busy);
-    for (QWidget* control : std::initializer_list<QWidget*>{ListView1, chooser_, Command1}) {
+    progress_->setValue(0);
+    progress_->setVisible(busy);
+    for (QWidget* control : std::initializer_list<QWidget*>{list_, chooser_, next_}) {
       control->setEnabled(!busy);
     }
   };
@@ -92,6 +98,7 @@ void CopyWizard::Copy(const std::function<void(const Progress&)>& copy, const QS
       Guarded(this, [&] { copy(Progress([this](double done) { return ShowProgress(done); })); });
   set_busy(false);
   if (finished) {
+    context_.settings.Write(folder_, chooser_->Folder());
     accept();
   } else if (cancelled_) {
     ShowInformation(this, stopped);
@@ -99,7 +106,7 @@ void CopyWizard::Copy(const std::function<void(const Progress&)>& copy, const QS
 }
 
 bool CopyWizard::ShowProgress(double done) {
-  ProgressBar1->setValue(static_cast<int>(done * kProgressSteps));
+  progress_->setValue(static_cast<int>(done * kProgressSteps));
   QApplication::processEvents();
   return !cancelled_;
 }

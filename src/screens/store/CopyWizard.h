@@ -27,7 +27,9 @@ class CopyWizard : public QDialog {
   void reject() override;  // cancels a running copy, else closes
 
  protected:
-  CopyWizard(AppContext& context, const QString& name, const QString& title, QWidget* parent);
+  // `folder` is the setting that keeps the folder used last.
+  CopyWizard(AppContext& context, const QString& name, const QString& title, const Setting& folder,
+             QWidget* parent);
 
   void ShowList(const QString& label);
   void ShowChooser(const QString& label);
@@ -40,17 +42,18 @@ class CopyWizard : public QDialog {
   virtual void Next() = 0;  // "Далее", later "OK"
 
   AppContext& context_;
-  CatalogueList* ListView1;
+  CatalogueList* list_;
   FolderChooser* chooser_;
-  QPushButton* Command1;  // "Далее", "OK"
-  QPushButton* Command2;  // "Отмена"
+  QPushButton* next_;    // "Далее", "OK"
+  QPushButton* cancel_;  // "Отмена"
 
  private:
   bool ShowProgress(double done);
 
-  QLabel* Label1;  // what to do
+  QLabel* advice_;  // what to do
   QStackedLayout* steps_;
-  QProgressBar* ProgressBar1;
+  QProgressBar* progress_;
+  const Setting folder_;
   bool copying_ = false;
   bool cancelled_ = false;
 };

@@ -1,15 +1,16 @@
 // A drive and folder chooser inside a screen: the drives of the machine, the tree of folders, and
-// the path of the chosen one, which may be typed too.
+// the path of the chosen one, which may be typed too. It opens on the user's own folder.
 #pragma once
 
 #include <QWidget>
 
 class QComboBox;
-class QFileSystemModel;
 class QLineEdit;
 class QTreeView;
 
 namespace kladez {
+
+class FolderModel;
 
 class FolderChooser : public QWidget {
   Q_OBJECT
@@ -30,10 +31,10 @@ class FolderChooser : public QWidget {
   void Chosen(const QString& folder);
 
   QString folder_;
-  QFileSystemModel* folders_;
-  QComboBox* Drive1;  // "Диск:"
-  QTreeView* Dir1;
-  QLineEdit* Path1;  // "Папка:"
+  FolderModel* folders_;
+  QComboBox* drives_;  // "Диск:"
+  QTreeView* tree_;
+  QLineEdit* path_;  // "Папка:"
 };
 
 }  // namespace kladez

@@ -9,6 +9,7 @@
 #include "ui/Hints.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
+#include "ui/controls/TabOrder.h"
 
 namespace kladez {
 namespace {
@@ -36,20 +37,15 @@ constexpr std::array<AreaRow, kImportAreas> kAreas = {{
 }  // namespace
 
 ImportDialog::ImportDialog(AppContext& context, const QString& source, QWidget* parent)
-    : QDialog(parent),
-      context_(context),
-      Text1(source),
-      Command1(NewCommand(this, u"Command1"_s, u"OK"_s)),
-      Command2(NewCommand(this, u"Command2"_s, u"О&тмена"_s)),
-      Command3(NewHelpCommand(this, context.data, u"workdb.htm", u"Command3")) {
+    : QDialog(parent), context_(context), source_(source) {
   setObjectName(u"Import"_s);
   setWindowTitle(u"Импорт"_s);
   // The blanks leave room for the question mark.
   auto* frame = new QGroupBox(u"     Что импортировать?"_s, this);
   frame->setObjectName(u"Frame1"_s);
-  Picture5 = new HintPicture(HintFor(u"Import", u"Picture5"), {frame}, frame);
-  Picture5->setObjectName(u"Picture5"_s);
-  Picture5->setGeometry(0, 0, look::kMargin + 2, look::kMargin + 2);
+  auto* hint = new HintPicture(HintFor(u"Import", u"Picture5"), {frame}, frame);
+  hint->setObjectName(u"Picture5"_s);
+  hint->setGeometry(0, 0, look::kMargin + 2, look::kMargin + 2);
   auto* list = new QVBoxLayout(frame);
   list->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kMargin);
   list->setSpacing(look::kGrid);
@@ -62,17 +58,20 @@ ImportDialog::ImportDialog(AppContext& context, const QString& source, QWidget* 
       ShowChoice();
     });
   }
-  auto* ending = NewEndingRow(Command1, Command2);
-  ending->insertWidget(0, Command3);
+  auto* ok = NewCommand(this, u"Command1"_s, u"OK"_s);
+  auto* cancel = NewCommand(this, u"Command2"_s, u"О&тмена"_s);
+  auto* ending = NewEndingRow(ok, cancel);
+  ending->insertWidget(0, NewHelpCommand(this, context.data, u"workdb.htm", u"Command3"));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addWidget(frame, 1);
   layout->addSpacing(look::kGrid);
   layout->addLayout(ending);
   setMinimumWidth(46 * look::kGrid);
+  TabByEye(this);
 
-  connect(Command1, &QPushButton::clicked, this, &ImportDialog::Copy);
-  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  connect(ok, &QPushButton::clicked, this, &ImportDialog::Copy);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   boxes_.front()->setFocus();
 }
 
@@ -85,8 +84,9 @@ void ImportDialog::ShowChoice() {
 }
 
 void ImportDialog::Copy() {
-  if (Guarded(this,
-              [this] { ImportAreas(context_.data, Text1, context_.session.base_path, choice_); })) {
+  if (Guarded(this, [this] {
+        ImportAreas(context_.data, source_, context_.session.base_path, choice_);
+      })) {
     accept();
   }
 }

@@ -8,11 +8,8 @@
 #include "ui/AppContext.h"
 
 class QCheckBox;
-class QPushButton;
 
 namespace kladez {
-
-class HintPicture;
 
 class ImportDialog : public QDialog {
   Q_OBJECT
@@ -26,14 +23,10 @@ class ImportDialog : public QDialog {
   void Copy();
 
   AppContext& context_;
-  QString Text1;  // the source
+  const QString source_;  // path of the source Database
   ImportChoice choice_;
 
   std::array<QCheckBox*, kImportAreas> boxes_;  // Check1 to Check9, in the order of the areas
-  HintPicture* Picture5;
-  QPushButton* Command1;  // "OK"
-  QPushButton* Command2;  // "Отмена"
-  QPushButton* Command3;  // "Справка"
 };
 
 }  // namespace kladez

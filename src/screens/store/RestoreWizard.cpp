@@ -11,9 +11,9 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 RestoreWizard::RestoreWizard(AppContext& context, QWidget* parent)
-    : CopyWizard(context, u"resrep"_s, u"Восстановление"_s, parent) {
+    : CopyWizard(context, u"resrep"_s, u"Восстановление"_s, settings::kRestoreFolder, parent) {
   ShowChooser(u"Выбрите папку, в которую Вы ранее скопировали базы данных"_s);
-  const auto look = [this] { Command1->setEnabled(IsBackupFolder(chooser_->Folder())); };
+  const auto look = [this] { next_->setEnabled(IsBackupFolder(chooser_->Folder())); };
   connect(chooser_, &FolderChooser::FolderChanged, this, look);
   look();
 }
@@ -21,8 +21,8 @@ RestoreWizard::RestoreWizard(AppContext& context, QWidget* parent)
 void RestoreWizard::Next() {
   if (!ListIsShown()) {
     Guarded(this, [this] {
-      ListView1->Fill(DataDir(chooser_->Folder()));
-      Command1->setText(u"OK"_s);
+      list_->Fill(DataDir(chooser_->Folder()));
+      next_->setText(u"OK"_s);
       ShowList(u"Выбирите базы данных, которые необходимо восстановить"_s);
     });
     return;
@@ -30,8 +30,7 @@ void RestoreWizard::Next() {
   if (!AnyChecked()) return;
   Copy(
       [this](const Progress& progress) {
-        RestoreDatabases(context_.data, DataDir(chooser_->Folder()), ListView1->Checked(),
-                         progress);
+        RestoreDatabases(context_.data, DataDir(chooser_->Folder()), list_->Checked(), progress);
       },
       u"Восстановление прервано. Базы, восстановленные до этого, остались в списке баз данных."_s);
 }

@@ -30,7 +30,11 @@ QMessageBox::StandardButton Run(QWidget* parent, QMessageBox::Icon icon, const Q
                                 const QString& consequence = {}) {
   QMessageBox box(icon, title, Shown(text), buttons, parent);
   box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(Shown(consequence));
+  if (!consequence.isEmpty()) {
+    box.setInformativeText(Shown(consequence));
+    // The box tells its format to the first label only.
+    for (auto* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  }
   box.setDefaultButton(otherwise);
   // Without a Cancel button Escape and the frame answer No.
   if (buttons == (QMessageBox::Yes | QMessageBox::No)) box.setEscapeButton(QMessageBox::No);
@@ -55,10 +59,11 @@ void NotAllowed(QWidget* parent) {
   ShowMessage(parent, u"У вас не достаточно полномочий"_s, u"Продавец"_s);
 }
 
-bool AskYesNo(QWidget* parent, const QString& text, const QString& title, DefaultAnswer otherwise) {
+bool AskYesNo(QWidget* parent, const QString& text, const QString& title, DefaultAnswer otherwise,
+              const QString& consequence) {
   return Run(parent, QMessageBox::Question, text, title, QMessageBox::Yes | QMessageBox::No,
-             otherwise == DefaultAnswer::kYes ? QMessageBox::Yes : QMessageBox::No) ==
-         QMessageBox::Yes;
+             otherwise == DefaultAnswer::kYes ? QMessageBox::Yes : QMessageBox::No,
+             consequence) == QMessageBox::Yes;
 }
 
 bool AskDelete(QWidget* parent, const QString& question, const QString& title,

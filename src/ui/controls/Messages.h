@@ -20,8 +20,9 @@ void ShowError(QWidget* parent, const QString& text, const QString& title = kAtt
 void NotAllowed(QWidget* parent);
 
 enum class DefaultAnswer { kYes, kNo };
+// `consequence` stands below the question: what thing is meant, and what happens to it.
 bool AskYesNo(QWidget* parent, const QString& text, const QString& title,
-              DefaultAnswer otherwise = DefaultAnswer::kYes);
+              DefaultAnswer otherwise = DefaultAnswer::kYes, const QString& consequence = {});
 
 // Before something is deleted: the question, and in a line below it what is meant and what happens
 // to it and the stock. "Нет" is the default: what is deleted does not come back.

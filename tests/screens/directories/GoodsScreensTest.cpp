@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -5,6 +6,7 @@
 #include "books/directories/DirectoryWorld.h"
 #include "screens/directories/GoodsDirectoryScreen.h"
 #include "screens/directories/GoodsPicker.h"
+#include "ui/controls/Fields.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -88,14 +90,32 @@ TEST_F(sprTovarTest, FirstRecordMustBeAGroup) {
 TEST_F(sprTovarTest, GoodsWithoutPriceAreNotTaken) {
   Open();
   ModalAnswers answers({[](QWidget* form) {
-    Enter(u"Чай"_s);
-    Click(form, "ok");
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>(form, "price"));
-    QTest::keyClick(form, Qt::Key_Escape);
-  }});
+                          Enter(u"Чай"_s);
+                          Click(form, "ok");
+                          EXPECT_TRUE(form->isVisible());
+                          EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>(form, "price"));
+                          QTest::keyClick(form, Qt::Key_Escape);
+                        },
+                        Press(QMessageBox::No, u"Сохранить изменения?"_s)});
   Click(screen_.get(), "add");
   EXPECT_EQ(list_->model()->rowCount(), 4);
+}
+
+TEST_F(sprTovarTest, GoodsWhoseNameWouldMakeThemAGroupAreRefused) {
+  Open();
+  list_->SelectRow(1);
+  ModalAnswers answers({[](QWidget* form) {
+                          Enter(u" Чай"_s);
+                          Click(form, "ok");
+                          EXPECT_TRUE(form->isVisible());
+                          EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>(form, "name"));
+                          EXPECT_FALSE(Find<TextLine>(form, "name")->Fault().isEmpty());
+                          QTest::keyClick(form, Qt::Key_Escape);
+                        },
+                        Press(QMessageBox::No)});
+  Click(screen_.get(), "change");
+  Click(screen_.get(), "Command9");
+  world_.ExpectUnchanged();
 }
 
 TEST_F(sprTovarTest, ChangedGroupKeepsItsBlankAndItsPlace) {
@@ -112,7 +132,12 @@ TEST_F(sprTovarTest, OnlyCloseWritesWhatWasMovedSortedAndDeleted) {
   list_->SelectRow(2);
   QTest::keyClick(list_, Qt::Key_Up, Qt::ControlModifier);
   EXPECT_EQ(list_->CurrentRow(), 1);
-  screen_->close();
+  {
+    ModalAnswers answers({Press(QMessageBox::Cancel, u"Сохранить изменения?"_s),
+                          Press(QMessageBox::No, u"Сохранить изменения?"_s)});
+    EXPECT_FALSE(screen_->close());
+    EXPECT_TRUE(screen_->close());
+  }
   world_.ExpectUnchanged();
 
   Open();
@@ -187,11 +212,33 @@ TEST_F(sprTovarTest, GoodsAloneAreChangedAtOnceAndNeitherAddedNorDeleted) {
   EXPECT_EQ(world_.Settings().Read(settings::kGoodsGoodsOnly), u"True"_s);
 }
 
+TEST_F(sprTovarTest, ANameChangedAmongTheGoodsAloneIsSavedWhereItIsWanted) {
+  struct Case {
+    const char* way;
+    QMessageBox::StandardButton answer;
+    bool saved;
+  };
+  for (const Case& c :
+       {Case{"Command9", QMessageBox::Yes, true}, Case{"Command9", QMessageBox::No, false},
+        Case{"op1", QMessageBox::Yes, true}, Case{"op1", QMessageBox::No, false}}) {
+    PutGoods(kTea + kGroup + kCoffee);
+    world_.Settings().WriteBool(settings::kGoodsGoodsOnly, true);
+    Open();
+    list_->SelectRow(1);
+    const QStringList renamed = {u"Чай листовой"_s, u"Индия"_s, u"107/1"_s, u"пач."_s, u"45.00"_s};
+    ModalAnswers answers({EnterAll(renamed), Press(c.answer, u"Сохранить изменения?"_s)});
+    QTest::keyClick(list_, Qt::Key_Return);
+    world_.ExpectUnchanged();
+    Click(screen_.get(), c.way);
+    ExpectGoods((c.saved ? renamed : kTea) + kGroup + kCoffee);
+  }
+}
+
 TEST_F(sprTovarTest, FailedSaveLeavesTheScreenWithWhatWasEntered) {
   Open();
   list_->SelectRow(1);
   ModalAnswers answers({EnterAll({u"Чай белый"_s, u"-"_s, u"-"_s, u"шт."_s, u"1"_s}),
-                        Press(QMessageBox::Ok), Press(QMessageBox::Ok)});
+                        Press(QMessageBox::Ok), Press(QMessageBox::No), Press(QMessageBox::Ok)});
   Click(screen_.get(), "add");
   world_.Protect(u"spr\\товар.spr"_s);
   Click(screen_.get(), "Command9");
@@ -283,6 +330,31 @@ TEST_F(sprtovar2Test, ReceiptPickAsksQuantityAndPurchasePrice) {
   EXPECT_EQ(screen_->Pick()->cost, u"900.50"_s);
   EXPECT_EQ(screen_->Pick()->price, u"800.00"_s);
   EXPECT_FALSE(screen_->isVisible());
+}
+
+TEST_F(sprtovar2Test, AReceiptsPickerStaysOpenWhileItIsTicked) {
+  for (const bool remembered : {false, true}) {
+    Open(PickFor::kReceipt);
+    QStringList picked;
+    QObject::connect(screen_.get(), &GoodsPicker::Picked,
+                     [&](const GoodsPick& pick) { picked.append(pick.name); });
+    EXPECT_EQ(list_->CurrentRow(), remembered ? 3 : 1) << "what was picked last, or else goods";
+    EXPECT_EQ(Find<QAbstractButton>(screen_.get(), "stay")->isChecked(), remembered);
+    if (!remembered) Click(screen_.get(), "stay");
+    ModalAnswers answers({AnswerText(u"2"_s), AnswerText(u"3"_s), AnswerText(u"4"_s)});
+    for (const int row : {1, 3}) {
+      list_->SelectRow(row);
+      QTest::keyClick(list_, Qt::Key_Return);
+    }
+    EXPECT_TRUE(screen_->isVisible());
+    EXPECT_EQ(Find<QLabel>(screen_.get(), "count")->text(), u"Выбрано строк: 2"_s);
+    if (remembered) Click(screen_.get(), "stay");
+    QTest::keyClick(list_, Qt::Key_Return);
+    EXPECT_EQ(screen_->isVisible(), !remembered);
+    EXPECT_EQ(picked, (QStringList{u"Чай"_s, u"Кофе"_s, u"Кофе"_s}));
+  }
+  Open(PickFor::kOpeningStock);
+  EXPECT_EQ(screen_->findChild<QWidget*>(u"stay"_s), nullptr);
 }
 
 TEST_F(sprtovar2Test, ChartTakesTheNameOfGoodsAndNoGroup) {

@@ -2,10 +2,8 @@
 #include "books/directories/DirectoryWorld.h"
 #include "books/directories/MainCurrency.h"
 #include "screens/directories/CurrencyDialog.h"
+#include "screens/directories/PartyBrowser.h"
 #include "screens/directories/WarehousesDialog.h"
-#include "screens/directories/sprFirm.h"
-#include "screens/directories/sprPost.h"
-#include "screens/directories/sprklient.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -15,21 +13,15 @@ struct PartyCase {
   std::string path;
   const char* form;
   int lines;
-  std::unique_ptr<QDialog> (*open)(AppContext& context);
   PartyKind kind;
 };
-
-template <typename Screen>
-std::unique_ptr<QDialog> Open(AppContext& context) {
-  return std::make_unique<Screen>(context);
-}
 
 class PartyScreensTest : public testing::TestWithParam<PartyCase> {
  protected:
   PartyScreensTest() {
     world_.PutLines(Path(), Record(u"Первый"_s) + Record(u"Второй"_s));
     world_.Remember();
-    screen_ = GetParam().open(world_.Context());
+    screen_ = std::make_unique<PartyBrowser>(world_.Context(), GetParam().kind, nullptr);
     ShowActive(screen_.get());
     list_ = Find<RecordList>(screen_.get(), "ListView1");
   }
@@ -83,15 +75,37 @@ TEST_P(PartyScreensTest, CancelLosesTheVisit) {
   world_.ExpectUnchanged();
 }
 
-TEST_P(PartyScreensTest, FormWantsAName) {
+TEST_P(PartyScreensTest, TheFrameAsksAndYesSavesARecordToo) {
   ModalAnswers answers({[](QWidget* form) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    Type(QApplication::focusWidget(), u"адрес"_s);
-    Click(form, "ok");
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>(form, "field1"));
-    QTest::keyClick(form, Qt::Key_Escape);
-  }});
+                          Type(QApplication::focusWidget(), u"Новый"_s);
+                          form->close();
+                        },
+                        Press(QMessageBox::Yes, u"Сохранить изменения?"_s),
+                        Press(QMessageBox::Cancel, u"Сохранить изменения?"_s),
+                        Press(QMessageBox::Yes, u"Сохранить изменения?"_s)});
+  QTest::keyClick(list_, Qt::Key_Insert);
+  EXPECT_EQ(list_->model()->rowCount(), 3);
+  EXPECT_FALSE(screen_->close());
+  world_.ExpectUnchanged();
+  EXPECT_TRUE(screen_->close());
+  EXPECT_EQ(world_.TheSession().Parties(GetParam().kind),
+            (QStringList{u"Первый"_s, u"Второй"_s, u"Новый"_s}));
+}
+
+TEST_P(PartyScreensTest, FormWantsAName) {
+  // "Да" is the form's "OK", which does not pass yet.
+  ModalAnswers answers({[](QWidget* form) {
+                          QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                          Type(QApplication::focusWidget(), u"адрес"_s);
+                          Click(form, "ok");
+                          EXPECT_TRUE(form->isVisible());
+                          EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>(form, "field1"));
+                          QTest::keyClick(form, Qt::Key_Escape);
+                          EXPECT_TRUE(form->isVisible());
+                          QTest::keyClick(form, Qt::Key_Escape);
+                        },
+                        Press(QMessageBox::Yes, u"Сохранить изменения?"_s),
+                        Press(QMessageBox::No, u"Сохранить изменения?"_s)});
   Click(screen_.get(), "add");
   EXPECT_EQ(list_->model()->rowCount(), 2);
 }
@@ -105,14 +119,12 @@ TEST_P(PartyScreensTest, FailedSaveLeavesTheScreenOpen) {
   EXPECT_EQ(list_->model()->rowCount(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, PartyScreensTest,
-                         testing::Values(PartyCase{"0001/SPR/firma.spr", "sprFirmNew", 15,
-                                                   &Open<sprFirm>, PartyKind::kFirm},
-                                         PartyCase{"0001/SPR/klient.spr", "sprklientnew", 14,
-                                                   &Open<sprklient>, PartyKind::kClient},
-                                         PartyCase{"0001/SPR/post.spr", "sprpostnew", 14,
-                                                   &Open<sprPost>, PartyKind::kSupplier}),
-                         [](const auto& party) { return std::string(party.param.form); });
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, PartyScreensTest,
+    testing::Values(PartyCase{"0001/SPR/firma.spr", "sprFirmNew", 15, PartyKind::kFirm},
+                    PartyCase{"0001/SPR/klient.spr", "sprklientnew", 14, PartyKind::kClient},
+                    PartyCase{"0001/SPR/post.spr", "sprpostnew", 14, PartyKind::kSupplier}),
+    [](const auto& party) { return std::string(party.param.form); });
 
 class sprSkladTest : public testing::Test {
  protected:

@@ -1,6 +1,7 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -116,6 +117,7 @@ TEST_F(PriceScreens, TicksAreSavedOnTheWayOutAndNothingElse) {
     List(&screen)->SelectRow(0);
     QTest::keyClick(List(&screen), Qt::Key_Space);
     QTest::keyClick(List(&screen), Qt::Key_Delete);
+    ModalAnswers answers({Press(QMessageBox::No, u"Сохранить изменения?"_s)});
     Click(&screen, "Command3");
     EXPECT_FALSE(screen.isVisible());
   }
@@ -154,7 +156,7 @@ TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain
   EXPECT_FALSE(picker->isModal());
   EXPECT_TRUE(QTest::qWaitForWindowActive(picker));
   List(picker)->SelectRow(2);
-  ModalAnswers answers({AnswerText(u"12"_s)});
+  ModalAnswers answers({AnswerText(u"12"_s), Press(QMessageBox::No, u"Сохранить изменения?"_s)});
   QTest::keyClick(List(picker), Qt::Key_Return);
   EXPECT_EQ(Names(&screen), (QStringList{u" Чай"_s, u"Улун"_s, u"Ассам"_s, u"Ассам"_s}));
   const QModelIndex name = List(&screen)->model()->index(2, 0);
@@ -190,6 +192,40 @@ TEST_F(PriceScreens, RemovedRowsLeaveTheFileWithTheNextSave) {
   EXPECT_EQ(Temp().Lines(kRetail), (QStringList{u"Ассам"_s, u"пач."_s, u"45.00"_s, u"60.00"_s}));
 }
 
+// Each way to other rows, and the way out. "Отмена" keeps rows and choices as they are.
+TEST_F(PriceScreens, UnsavedRowsAreAskedForBeforeOthersComeInTheirPlace) {
+  const auto choose = [](const char* combo) {
+    return [=](PriceScreen& screen) { Find<QComboBox>(&screen, combo)->setCurrentIndex(1); };
+  };
+  const std::vector<std::function<void(PriceScreen&)>> ways = {
+      choose("Combo1"),
+      choose("Combo2"),
+      [](PriceScreen& screen) { Find<QRadioButton>(&screen, "op2")->click(); },
+      [](PriceScreen& screen) { Click(&screen, "Command10"); },
+      [](PriceScreen& screen) { Click(&screen, "Command3"); },
+      [](PriceScreen& screen) { screen.close(); }};
+  for (size_t i = 0; i < ways.size(); ++i) {
+    SCOPED_TRACE(i);
+    Temp().PutLines(kRetail, Lines(u"120.00"_s, u"60.00"_s));
+    world_.Settings().WriteBool(settings::kPriceGoodsOnly, false);
+    PriceScreen screen(world_.Context());
+    ShowActive(&screen);
+    List(&screen)->SelectRow(0);
+    QTest::keyClick(List(&screen), Qt::Key_Delete);
+    const auto before = Temp().Tree();
+    ModalAnswers answers({Press(QMessageBox::Cancel, u"Сохранить изменения?"_s),
+                          Press(QMessageBox::Yes, u"Сохранить изменения?"_s)});
+    ways[i](screen);
+    EXPECT_EQ(Temp().Tree(), before);
+    EXPECT_TRUE(screen.isVisible());
+    EXPECT_EQ(Names(&screen), (QStringList{u"Улун"_s, u"Ассам"_s}));
+    EXPECT_EQ(Find<QComboBox>(&screen, "Combo1")->currentIndex(), 0);
+    EXPECT_EQ(Find<QComboBox>(&screen, "Combo2")->currentIndex(), 0);
+    EXPECT_TRUE(Find<QRadioButton>(&screen, "op1")->isChecked());
+    ways[i](screen);
+    EXPECT_EQ(Temp().Lines(kRetail), Lines(u"120.00"_s, u"60.00"_s).mid(1));
+  }
+}
 TEST_F(PriceScreens, ASellerSeesNoCostAndChangesCopiesAndPastesNothing) {
   world_.TheSession().role = UserRole::kSeller;
   Temp().PutLines(u"temp.prc"_s, {u"Улун"_s, u"пач."_s, u"1.00"_s, u"1.00"_s});

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
@@ -40,13 +41,15 @@ class CatalogueScreens : public testing::Test {
   void Create(const QStringList& names) {
     for (const QString& name : names) CreateDatabase(Data(), name);
   }
+  bool Run(CatalogueDialog::Mode mode) {
+    return CatalogueDialog(world_.Context(), host_, mode, nullptr).exec() == QDialog::Accepted;
+  }
   static ModalAnswers::Step On(const std::function<void(CatalogueDialog*)>& act) {
     return [=](QWidget* dialog) { act(qobject_cast<CatalogueDialog*>(dialog)); };
   }
 
   ScreenWorld world_;
   NotedHost host_;
-  CatalogueDialog bases_{world_.Context(), host_, nullptr};
 };
 
 void SelectRow(QWidget* screen, int row) {
@@ -70,7 +73,7 @@ TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
                          EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), u"Новая база"_s);
                          QTest::keyClick(dialog, Qt::Key_Return);
                        }};
-  EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kCatalogue));
+  EXPECT_FALSE(Run(CatalogueDialog::Mode::kCatalogue));
   EXPECT_TRUE(Tree().contains("0001.us") && Tree().contains("0001/SPR/товар.spr"));
   EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
   EXPECT_EQ(Setting(settings::kRole), u"-1"_s);
@@ -88,7 +91,7 @@ TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
     EXPECT_EQ(Find<QLineEdit>(bases, "Text3")->text(), u"Вторая"_s);
     QTest::keyClick(Find<CatalogueList>(bases, "ListView1"), Qt::Key_Return);
   })};
-  EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen));
+  EXPECT_TRUE(Run(CatalogueDialog::Mode::kOpen));
   EXPECT_EQ(host_.calls, (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s}));
   EXPECT_EQ(TheSession().chosen_base, u"0002\\"_s);
   EXPECT_TRUE(TheSession().IsSeller());
@@ -125,11 +128,32 @@ TEST_F(CatalogueScreens, OnlyTheDirectorIsAskedForThePassword) {
                            EXPECT_EQ(Setting(settings::kBaseName), QString());
                            AnswerText(u"Пароль"_s)(dialog);
                          }};
-    EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen));
+    EXPECT_TRUE(Run(CatalogueDialog::Mode::kOpen));
   }
   for (const int role : {0, -1}) {
     ModalAnswers answers{open_as(role, 1)};
-    EXPECT_TRUE(bases_.Run(CatalogueDialog::Mode::kOpen)) << role;
+    EXPECT_TRUE(Run(CatalogueDialog::Mode::kOpen)) << role;
+  }
+}
+
+TEST_F(CatalogueScreens, RightsChangeOnlyByAnOpeningThatWentThrough) {
+  Create({u"Первая"_s});
+  world_.Temp().PutLines(u"bases.psw"_s, {u"Пароль"_s});
+  for (const UserRole role : {UserRole::kSeller, UserRole::kDirector, UserRole::kNone}) {
+    for (const bool frame : {false, true}) {
+      TheSession().role = role;
+      ModalAnswers answers{On([&](CatalogueDialog* bases) {
+                             auto* choice = Find<QComboBox>(bases, "Combo1");
+                             EXPECT_EQ(choice->currentIndex(), static_cast<int>(role));
+                             choice->setCurrentIndex(1);
+                             Click(bases, "Command1");
+                             choice->setCurrentIndex(role == UserRole::kDirector ? 0 : 1);
+                             frame ? void(bases->close()) : Click(bases, "Command2");
+                           }),
+                           Escape()};  // the password
+      EXPECT_FALSE(Run(CatalogueDialog::Mode::kOpen));
+      EXPECT_EQ(TheSession().role, role);
+    }
   }
 }
 
@@ -145,7 +169,7 @@ TEST_F(CatalogueScreens, OpenDatabaseIsNeitherRenamedNorDeleted) {
       }),
       Press(QMessageBox::Ok, u"Изменение невозможно, т.к. база данных используется."_s),
       Press(QMessageBox::Ok, u"Удаление невозможно, т.к. база данных используется."_s)};
-  bases_.Run(CatalogueDialog::Mode::kCatalogue);
+  Run(CatalogueDialog::Mode::kCatalogue);
   EXPECT_EQ(Tree(), before);
 }
 
@@ -173,8 +197,15 @@ TEST_F(CatalogueScreens, RenameAndDeleteAskFirst) {
                                    u"Введите новое имя для базы: Первая"_s);
                          AnswerText(u"Новое имя"_s)(dialog);
                        },
-                       Press(QMessageBox::No, u"Вы уверены?"_s), Press(QMessageBox::Yes)};
-  bases_.Run(CatalogueDialog::Mode::kCatalogue);
+                       [](QWidget* dialog) {
+                         auto* box = qobject_cast<QMessageBox*>(dialog);
+                         EXPECT_EQ(box->text(), u"Вы уверены?"_s);
+                         EXPECT_TRUE(box->informativeText().contains(u"«Вторая»"_s));
+                         EXPECT_TRUE(box->button(QMessageBox::No) == box->defaultButton());
+                         QTest::keyClick(dialog, Qt::Key_Return);
+                       },
+                       Press(QMessageBox::Yes)};
+  Run(CatalogueDialog::Mode::kCatalogue);
   EXPECT_EQ(Tree(), expected);
 }
 
@@ -211,7 +242,7 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
         QTest::keyClick(bases, Qt::Key_Escape);
       }
     })};
-    EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kOpen));
+    EXPECT_FALSE(Run(CatalogueDialog::Mode::kOpen));
     const size_t number = size_t(&c - cases.data());
     EXPECT_EQ(TheSession().chosen_base, c.text1_after) << number;
     EXPECT_EQ(host_.calls, c.calls) << number;
@@ -233,7 +264,7 @@ TEST_F(CatalogueScreens, PathThatLeadsElsewhereIsShownButNotOpened) {
         EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"0001.us"_s));
         dialog->close();
       }};
-  EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kOpen));
+  EXPECT_FALSE(Run(CatalogueDialog::Mode::kOpen));
   EXPECT_EQ(host_.calls, QStringList());
 }
 
@@ -258,7 +289,7 @@ TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNor
                            bases->close();
                          }),
                          told, Press(QMessageBox::Yes, u"Вы уверены?"_s), told};
-    EXPECT_FALSE(bases_.Run(CatalogueDialog::Mode::kCatalogue));
+    EXPECT_FALSE(Run(CatalogueDialog::Mode::kCatalogue));
   }
   EXPECT_EQ(host_.calls, QStringList());
   EXPECT_EQ(ListDatabases(Data()).size(), 2u);
@@ -294,7 +325,7 @@ TEST_F(CatalogueScreens, BoxesKeepTheirSizeWhateverTheDescriptorHolds) {
                          EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), name);
                          dialog->close();
                        }};
-  bases_.Run(CatalogueDialog::Mode::kCatalogue);
+  Run(CatalogueDialog::Mode::kCatalogue);
 }
 
 TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
@@ -305,7 +336,7 @@ TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
       EXPECT_EQ(text.contains(u"Нажмите «Создать»"_s), there) << text.toStdString();
       bases->close();
     })};
-    bases_.Run(mode);
+    Run(mode);
   }
 }
 
@@ -329,7 +360,7 @@ TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
   EXPECT_EQ(host_.calls,
             (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s, u"ShowNewDatabase"_s}));
   EXPECT_EQ(TheSession().base_path, u"0002\\"_s);
-  EXPECT_EQ(TheSession().chosen_base, u"0001\\"_s);
+  EXPECT_EQ(TheSession().chosen_base, u"0002\\"_s);
   EXPECT_EQ(TheSession().warehouses, QStringList{u"Главный склад"_s});
   EXPECT_EQ(TheSession().Parties(PartyKind::kFirm), QStringList{u"Прежняя фирма"_s});
   EXPECT_EQ(TheSession().currency_name, u"тнг"_s);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <QDir>
 #include <QLabel>
 #include <QProgressBar>
 
@@ -9,6 +11,7 @@
 #include "screens/store/BackupWizard.h"
 #include "screens/store/CatalogueList.h"
 #include "screens/store/FolderChooser.h"
+#include "screens/store/FolderModel.h"
 #include "screens/store/RestoreWizard.h"
 
 namespace kladez {
@@ -69,10 +72,9 @@ TEST_F(CopyWizards, BackupGoesThroughBothSteps) {
 
 TEST_F(CopyWizards, NothingToBackUpIsSaidAtOnce) {
   for (const auto& entry : ListDatabases(Data())) DeleteDatabase(Data(), entry);
-  BackupWizard screen(world_.Context(), nullptr);
   ModalAnswers answers{
       Press(QMessageBox::Ok, u"У вас нет ни одной базы данных, чтобы копировать ее."_s), Escape()};
-  screen.exec();
+  BackupWizard(world_.Context(), nullptr).exec();
 }
 
 TEST_F(CopyWizards, FaultNamesTheFileAndTheScreenStays) {
@@ -119,6 +121,45 @@ TEST_F(CopyWizards, CancelWhileCopyingLeavesNothing) {
   screen.exec();
   EXPECT_GT(seen, 0);
   EXPECT_TRUE(drive_.Tree().empty());
+}
+
+TEST_F(CopyWizards, AFolderOfAnySizeIsShownAndNoFileIsLookedInto) {
+  QDir(drive_.Root()).mkpath(u"Б/в/г"_s);
+  QDir(drive_.Root()).mkpath(u"а"_s);
+  QDir(drive_.Root()).mkpath(u".скрытая"_s);
+  // Whoever opened it would wait for ever.
+  ASSERT_EQ(::mkfifo(QFile::encodeName(drive_.Root() + u"/труба"_s).constData(), 0600), 0);
+  for (int i = 0; i < 20000; ++i) {
+    QFile file(drive_.Root() + u"/файл%1"_s.arg(i));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+  FolderModel folders(nullptr);
+  const QModelIndex inner = folders.IndexOf(drive_.Root() + u"/Б/в"_s);
+  EXPECT_EQ(FolderModel::PathOf(inner), drive_.Root() + u"/Б/в"_s);
+  const QModelIndex root = inner.parent().parent();
+  ASSERT_EQ(folders.rowCount(root), 2);
+  EXPECT_EQ(folders.index(0, 0, root).data(), u"а"_s);
+  EXPECT_TRUE(folders.hasChildren(inner));
+  EXPECT_EQ(folders.rowCount(inner), 0) << "not looked into";
+  folders.fetchMore(inner);
+  EXPECT_EQ(folders.rowCount(inner), 1);
+  folders.fetchMore(folders.IndexOf(u"/proc"_s));
+  EXPECT_GT(folders.rowCount(folders.IndexOf(u"/proc"_s)), 1);
+}
+
+TEST_F(CopyWizards, TheFolderUsedLastIsProposed) {
+  for (const bool first : {true, false}) {
+    if (!first) QFile::rename(drive_.Root() + kFolder, drive_.Root() + u"/прежняя"_s);
+    BackupWizard screen(world_.Context(), nullptr);
+    ModalAnswers answers{[&](QWidget* dialog) {
+      Check(dialog, 1);
+      Click(dialog, "Command1");
+      if (first) Choose(dialog, drive_.Root());
+      Click(dialog, "Command1");
+    }};
+    screen.exec();
+    EXPECT_TRUE(QFile::exists(drive_.Root() + kFolder)) << first;
+  }
 }
 
 // The folder of the last good path would be taken in silence.

@@ -290,7 +290,10 @@ void DocumentEditor::ShowNetSum() {
 void DocumentEditor::Add() {
   TakeStock();
   Guarded(this, [&] {
-    screens_.pick(context_, draft_.Warehouse(), this,
+    const StockAfter on_hand = [this](const QString& goods) {
+      return stock_ ? stock_->OnHand(goods) : std::nullopt;
+    };
+    screens_.pick(context_, draft_.Warehouse(), this, on_hand,
                   [this](const GoodsPick& pick) { TakePick(pick); });
   });
   list_->setFocus();

@@ -25,16 +25,19 @@ void RunCashOrder(AppContext& context, const PrintSource& source, QWidget* paren
   CashOrderScreen(context, source, parent).exec();
 }
 
-void PickFromDirectory(AppContext& context, const QString&, QWidget* parent, const TakePick& take) {
+void PickFromDirectory(AppContext& context, const QString&, QWidget* parent,
+                       const StockAfter& on_hand, const TakePick& take) {
   GoodsPicker picker(context, PickFor::kReceipt, parent);
+  picker.TellOnHand(on_hand);
+  QObject::connect(&picker, &GoodsPicker::Picked, parent, take);
   picker.exec();
-  if (picker.Pick()) take(*picker.Pick());
 }
 
 // Stays open from one pick to the next.
 void PickFromPrices(AppContext& context, const QString& warehouse, QWidget* parent,
-                    const TakePick& take) {
+                    const StockAfter& on_hand, const TakePick& take) {
   PricePicker picker(context, warehouse, parent);
+  picker.TellOnHand(on_hand);
   QObject::connect(&picker, &PricePicker::Picked, parent, take);
   picker.exec();
 }

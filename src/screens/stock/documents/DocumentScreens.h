@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "books/stock/DocumentDraft.h"
+#include "books/stock/LineNotes.h"
 #include "books/stock/PrintSource.h"
 #include "ui/AppContext.h"
 #include "ui/controls/RecordModel.h"
@@ -51,8 +52,10 @@ struct DocumentScreens {
   QString sum_caption;
   QString sum_hint;
   std::vector<LineColumn> editor_columns;
-  // Opens the picker of goods of a warehouse and hands over each pick.
-  void (*pick)(AppContext&, const QString& warehouse, QWidget* parent, const TakePick& take);
+  // Opens the picker of goods of a warehouse, which tells what is on hand, and hands over each
+  // pick.
+  void (*pick)(AppContext&, const QString& warehouse, QWidget* parent, const StockAfter& on_hand,
+               const TakePick& take);
   std::vector<PrintCommand> prints;
 
   QString properties_name;
