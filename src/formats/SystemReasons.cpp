@@ -23,6 +23,7 @@ constexpr std::array kReasons = {
     Reason{ENOTDIR, u"на этом пути лежит файл, а не каталог"},
     Reason{EISDIR, u"на этом месте лежит каталог, а не файл"},
     Reason{ENAMETOOLONG, u"слишком длинное имя"},
+    Reason{ESPIPE, u"это не файл, а канал или устройство"},
     Reason{EINVAL, u"недопустимое имя"},
     Reason{ELOOP, u"ссылка ведёт за пределы каталога данных"},
     Reason{EIO, u"ошибка чтения или записи диска"},

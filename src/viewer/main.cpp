@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <memory>
 
 #include "ui/base/Toolkit.h"
@@ -28,11 +29,10 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(u"kladez-report"_s);
   QApplication::setApplicationDisplayName(QString());
+  QApplication::setWindowIcon(QIcon::fromTheme(u"kladez"_s));  // as the program is installed
   const RussianToolkit russian;
   const std::unique_ptr<ViewerWindow> window = WindowFor(QApplication::arguments());
-  if (!window->Load()) {
-    return 1;
-  }
+  if (!window->Load()) return 1;
   window->show();
   return QApplication::exec();
 }

@@ -23,9 +23,8 @@ using namespace Qt::StringLiterals;
 
 QString TextOf(const Page& page) {
   QStringList texts;
-  for (const Block& block : page.blocks) {
+  for (const Block& block : page.blocks)
     if (const auto* paragraph = std::get_if<Paragraph>(&block)) texts << paragraph->Text();
-  }
   return texts.join(u'|');
 }
 
@@ -104,9 +103,8 @@ TEST_F(GuideTest, OnlyPagesBesideItAreLinkedTo) {
   for (const QString& reference :
        {u"../a.htm"_s, u"/etc/a.htm"_s, u"http://kladez.example/a.htm"_s, u"file:///a.htm"_s,
         u"mailto:a.htm"_s, u"javascript:x.htm"_s, u"//kladez.example/a.htm"_s, u"..\\a.htm"_s,
-        u"a.htm#b"_s, u"%2e%2e%2fa.htm"_s, u"kladez.sh"_s, u""_s}) {
+        u"a.htm#b"_s, u"%2e%2e%2fa.htm"_s, u"kladez.sh"_s, u""_s})
     EXPECT_FALSE(NamesPage(reference)) << reference.toStdString();
-  }
   EXPECT_TRUE(NamesPage(u"first.htm"_s));
 
   ASSERT_TRUE(QFile::link(u"/etc/passwd"_s, folder_.filePath(u"out.htm"_s)));

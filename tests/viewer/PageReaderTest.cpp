@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "viewer/SamplePages.h"
+#include "viewer/page/PageName.h"
 #include "viewer/page/PageReader.h"
 
 namespace kladez::viewer {
@@ -33,11 +34,8 @@ QString AllText(const Page& page) {
       texts << paragraph->Text();
       continue;
     }
-    for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows) {
-      for (const Cell& cell : row.cells) {
-        texts << cell.Text();
-      }
-    }
+    for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows)
+      for (const Cell& cell : row.cells) texts << cell.Text();
   }
   return texts.join(u'|')
       .replace(QChar(QChar::Nbsp), u' ')
@@ -58,6 +56,15 @@ TEST(PageReaderTest, WaybillLosesNothingAndKeepsItsLines) {
             "включая НДС: 1 818.69 руб./НСП: 0.00 руб.//Всего наименований: 2/"
             "Сумма: Одиннадцать тысяч девятьсот двадцать два рубля 50 копеек|//|"
             "   Отпустил ___________         Получил ___________|"_s);
+}
+
+TEST(PageReaderTest, ADocumentIsCalledByItsNumberAndParty) {
+  EXPECT_EQ(NameOf(Read(WaybillPage(1, u"ООО <Ромашка>"_s))),
+            u"Накладная N 128 от 05.03.2026, ООО <Ромашка>"_s);
+  EXPECT_EQ(NameOf(Read(WaybillPage(1, u"-"_s))), u"Накладная N 128 от 05.03.2026"_s);
+  EXPECT_EQ(NameOf(Read(BillPage(2))), u"Счет N 128 от 05.03.2026, ИП Сидоров"_s);
+  EXPECT_EQ(NameOf(Read(InvoicePage(1))), u"Счет-фактура N 128 от 05.03.2026"_s);
+  EXPECT_EQ(NameOf(Read(ReportPage(3))), u"Отчет от 05 марта 2026"_s);
 }
 
 TEST(PageReaderTest, TextAfterTheCentredTableIsLeftAligned) {
@@ -120,9 +127,7 @@ QString HeadingRows(const Page& page) {
   QString marks;
   for (const Block& block : page.blocks) {
     if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block)) {
-      for (const Row& row : (*table)->rows) {
-        marks += row.heading ? u'H' : row.group ? u'g' : u'.';
-      }
+      for (const Row& row : (*table)->rows) marks += row.heading ? u'H' : row.group ? u'g' : u'.';
       marks += u'|';
     }
   }
@@ -173,9 +178,8 @@ TEST_F(PictureTest, ComesByPlainNameFromThePagesDirectoryOnly) {
   EXPECT_TRUE(Shows(u"TEMP.PNG"_s));
   for (const QString& source :
        {u"sub/far.png"_s, u"sub\\far.png"_s, u"../temp.png"_s, directory_.filePath(u"temp.png"_s),
-        u"file:temp.png"_s, u"http://127.0.0.1/x.png"_s, u"missing.png"_s}) {
+        u"file:temp.png"_s, u"http://127.0.0.1/x.png"_s, u"missing.png"_s})
     EXPECT_FALSE(Shows(source)) << source.toStdString();
-  }
 }
 
 TEST_F(PictureTest, WhatIsNoFileIsNotWaitedFor) {
@@ -202,16 +206,14 @@ void Measure(const std::vector<Block>& blocks, int depth, Extremes* found) {
       const QString text = paragraph->Text();
       found->paragraph = std::max(found->paragraph, text.size());
       for (const QString& line :
-           QString(text).replace(u' ', QChar::LineSeparator).split(QChar(QChar::LineSeparator))) {
+           QString(text).replace(u' ', QChar::LineSeparator).split(QChar(QChar::LineSeparator)))
         found->word = std::max(found->word, line.size());
-      }
       continue;
     }
     const auto& table = std::get<std::unique_ptr<Table>>(block);
     found->cells += static_cast<qsizetype>(table->rows.size()) * table->columns;
-    for (const Row& row : table->rows) {
+    for (const Row& row : table->rows)
       for (const Cell& cell : row.cells) Measure(cell.blocks, depth + 1, found);
-    }
   }
 }
 

@@ -50,9 +50,8 @@ TEST(PaperLayoutTest, EachGoodsIsOnOneSheetAndEachSheetHasTheHeading) {
     const QStringList sheets = TextsOfSheets(*layout);
     ASSERT_GT(sheets.size(), 1) << test.name;
     const QString all = sheets.join(u' ');
-    for (int row = 1; row <= test.rows; ++row) {
+    for (int row = 1; row <= test.rows; ++row)
       ASSERT_EQ(CountOf(u"№%1"_s.arg(row), all), 1) << test.name << " row " << row;
-    }
     for (int sheet = 0; sheet < sheets.size(); ++sheet) {
       const bool has_rows = sheets[sheet].contains(u'№');
       EXPECT_EQ(CountOf(test.heading, sheets[sheet]), has_rows ? 1 : 0)
@@ -229,9 +228,7 @@ int LinesWithHoles(const PaperLayout& layout, int* lines) {
   for (int y = 0; y < picture.height(); ++y) {
     const uchar* row = picture.constScanLine(y);
     const auto dark = std::count_if(row, row + paper.width(), [](uchar c) { return c < 128; });
-    if (dark < paper.width() * 0.8) {
-      continue;
-    }
+    if (dark < paper.width() * 0.8) continue;
     ++*lines;
     const auto first = std::find_if(row, row + paper.width(), [](uchar c) { return c < 128; });
     holes += std::any_of(first, first + dark, [](uchar c) { return c >= 128; });

@@ -52,9 +52,7 @@ QByteArray ToWindows1251(const QString& text) {
     return table;
   }();
   QByteArray out;
-  for (const QChar c : text) {
-    out += bytes.value(c, '?');
-  }
+  for (const QChar c : text) out += bytes.value(c, '?');
   return out;
 }
 
@@ -78,9 +76,8 @@ QString WaybillPage(int rows, const QString& party) {
   page += kEnd;
   for (const QString& line :
        {u"Всего: 12550.00 руб."_s, u"Скидка: 5%"_s, u"Итого к оплате: 11922.50 руб.,"_s,
-        u"включая НДС: 1 818.69 руб."_s, u"              НСП: 0.00 руб."_s}) {
+        u"включая НДС: 1 818.69 руб."_s, u"              НСП: 0.00 руб."_s})
     page += u"<br><FONT FACE=Arial SIZE=2><i>"_s + line + u"</FONT></i>\r\n"_s;
-  }
   page +=
       u"\r\n<br><br><FONT FACE=Arial SIZE=2><b>Всего наименований: %1</FONT></b>\r\n"_s.arg(rows);
   page +=
@@ -121,9 +118,8 @@ QString InvoicePage(int rows) {
       u"<TABLE style=\"border-Collapse:Collapse; border-right-width:0; border-bottom-width:0\" "
       "bgcolor=#ffffff bordercolor=#000000 cellspacing=0 cellpadding=0 BORDER=1 WIDTH=100% "
       "height=92><TR>\r\n"_s;
-  for (qsizetype i = 0; i < captions.size(); ++i) {
+  for (qsizetype i = 0; i < captions.size(); ++i)
     page += CellOf(widths[i], u" ALIGN=CENTER"_s, 1, captions[i]) + u"\r\n"_s;
-  }
   page += u"</TR><TR>\r\n"_s;
   for (qsizetype i = 0; i < captions.size(); ++i) {
     page += u"<TD ALIGN=CENTER><font style='font-size:7pt' face='Arial'>%1</font></TD>\r\n"_s.arg(
@@ -151,9 +147,8 @@ QString InvoicePage(int rows) {
     page += u"</TR>\r\n"_s;
   }
   page += u"<TR>"_s;
-  for (int c = 0; c < 9; ++c) {
+  for (int c = 0; c < 9; ++c)
     page += c == 0 ? CellOf(23, {}, 2, u"Всего"_s) : RightCell(widths[c], 2, u"1255.00"_s);
-  }
   page +=
       u"</TR>\r\n</center></table><br><br>\r\n"
       "<table width='100%' border='0' cellspacing='0' cellpadding='1'>\r\n"
@@ -178,17 +173,15 @@ QString BillPage(int rows) {
   QString page = Head(u"Счет"_s);
   page += u"<TABLE style=border-Collapse:Collapse width=100%><TR><TD VALIGN=TOP ALIGN=left>\r\n"_s;
   for (const QString& line : {u"<b>Продавец: ООО Ромашка</b>"_s, u"Адрес: г. Тула, ул. Мира, 5"_s,
-                              u"Расч.счет: 40702810900000000001"_s, u"БИК: 047003608"_s}) {
+                              u"Расч.счет: 40702810900000000001"_s, u"БИК: 047003608"_s})
     page += u"<FONT FACE=Arial SIZE=2>"_s + line + u"</FONT><br>\r\n"_s;
-  }
   page +=
       u"<p></p><FONT FACE=Arial SIZE=2><b>Покупатель: ИП Сидоров</b></FONT><br>\r\n"
       "</TD></TR></table>\r\n<p align=CENTER><b><FONT FACE=Arial SIZE=4>Счет N 128 от "
       "05.03.2026</FONT></B><br><br></p>\r\n<br>\r\n<CENTER>\r\n"_s;
   page += kTableOpening + u"<TR>"_s;
-  for (qsizetype c = 0; c < captions.size(); ++c) {
+  for (qsizetype c = 0; c < captions.size(); ++c)
     page += CellOf(widths[c], u" ALIGN=CENTER"_s, 2, u"<b>"_s + captions[c] + u"</b>"_s);
-  }
   page += u"</TR>\r\n"_s;
   for (int i = 1; i <= rows; ++i) {
     page += u"<TR>"_s + CellOf(1, {}, 2, QString::number(i)) +

@@ -30,9 +30,7 @@ void GiveHeading(std::vector<Unit>& units, int first, int end) {
 
 std::vector<double> BodyTops(const std::vector<Sheet>& sheets) {
   std::vector<double> tops;
-  for (const Sheet& sheet : sheets) {
-    tops.push_back(sheet.body.top);
-  }
+  for (const Sheet& sheet : sheets) tops.push_back(sheet.body.top);
   return tops;
 }
 
@@ -64,9 +62,7 @@ TEST(SheetsTest, HeadingAndGroupAreNotLeftAlone) {
 
 TEST(SheetsTest, WhatIsTooLongToBeKeptTogetherIsCutAllTheSame) {
   auto units = Stack({60, 60, 60, 60});
-  for (Unit& unit : units) {
-    unit.keep_with_next = true;
-  }
+  for (Unit& unit : units) unit.keep_with_next = true;
   EXPECT_EQ(CutIntoSheets(units, 100).size(), 4u);
 }
 
@@ -101,28 +97,19 @@ TEST(SheetsTest, EachRowOfAnyPageStandsOnOneSheet) {
   const auto up_to = [&random](int limit) { return static_cast<int>(random() % limit); };
   for (int round = 0; round < 300; ++round) {
     std::vector<double> heights;
-    for (int i = 0; i < 1 + up_to(60); ++i) {
-      heights.push_back(5 + up_to(45));
-    }
+    for (int i = 0; i < 1 + up_to(60); ++i) heights.push_back(5 + up_to(45));
     auto units = Stack(heights);
-    if (units.size() > 3) {
-      GiveHeading(units, up_to(2), 2);
-    }
-    for (Unit& unit : units) {
-      unit.keep_with_next |= up_to(6) == 0;
-    }
+    if (units.size() > 3) GiveHeading(units, up_to(2), 2);
+    for (Unit& unit : units) unit.keep_with_next |= up_to(6) == 0;
     const auto sheets = CutIntoSheets(units, 100);
     size_t sheet = 0;
     for (const Unit& unit : units) {
-      while (sheet < sheets.size() && unit.bottom > sheets[sheet].body.bottom) {
-        ++sheet;
-      }
+      while (sheet < sheets.size() && unit.bottom > sheets[sheet].body.bottom) ++sheet;
       ASSERT_LT(sheet, sheets.size());
       ASSERT_GE(unit.top, sheets[sheet].body.top) << "a row is cut in two";
     }
-    for (const Sheet& each : sheets) {
+    for (const Sheet& each : sheets)
       ASSERT_LE(each.heading.Height() + each.body.Height(), 100) << "a sheet overflows";
-    }
   }
 }
 

@@ -10,9 +10,7 @@ using namespace Qt::StringLiterals;
 
 TEST(PageTextTest, EveryRussianByteIsDecodedWithoutTheToolkitsTables) {
   QByteArray bytes;
-  for (int byte = 0x80; byte < 0x100; ++byte) {
-    bytes += static_cast<char>(byte);
-  }
+  for (int byte = 0x80; byte < 0x100; ++byte) bytes += static_cast<char>(byte);
   EXPECT_EQ(DecodePage(bytes),
             u"ЂЃ‚ѓ„…†‡€‰Љ‹ЊЌЋЏђ‘’“”•–—\uFFFD™љ›њќћџ\u00A0ЎўЈ¤Ґ¦§Ё©Є«¬\u00AD®Ї°±Ііґµ¶·ё№є»јЅѕї"
             "АБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯабвгдежзийклмнопрстуфхцчшщъыьэюя"_s);
@@ -51,9 +49,7 @@ TEST(TypedTextTest, WhatPeopleTypedIsNoMarkup) {
       {u"<table><tr><td>Болт <b> М8</td></tr></table>"_s,
        u"<table><tr><td>Болт &lt;b> М8</td></tr></table>"_s},
   };
-  for (const EscapeCase& test : cases) {
-    EXPECT_EQ(EscapeTypedText(test.page), test.escaped);
-  }
+  for (const EscapeCase& test : cases) EXPECT_EQ(EscapeTypedText(test.page), test.escaped);
 }
 
 TEST(TypedTextTest, MarkupOfPrintOutsStaysAsItIs) {
@@ -63,9 +59,8 @@ TEST(TypedTextTest, MarkupOfPrintOutsStaysAsItIs) {
         u"<p>&nbsp;<center>&#171;</center></P>"_s, u"<img src=temp.gif>"_s, u"a &lt; b &amp; c"_s,
         u"<table><tr><td><b>ИТОГО:</b></td></tr></table>"_s,
         u"<p align=CENTER><B><FONT SIZE=5>Отчет</FONT></B><br></p>\r\n<i>Всего</i>"_s,
-        u"<TITLE>Счет</TITLE></HEAD><BODY BGCOLOR=#ffffff>"_s}) {
+        u"<TITLE>Счет</TITLE></HEAD><BODY BGCOLOR=#ffffff>"_s})
     EXPECT_EQ(EscapeTypedText(page), page);
-  }
 }
 
 TEST(TypedTextTest, ScriptsAndStylesOfTheHeadGo) {

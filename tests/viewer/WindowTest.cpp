@@ -280,9 +280,8 @@ TEST(PrintingTest, SheetsThatAPersonAsksFor) {
   EXPECT_EQ(ParseSheets(u" "_s, 3), (Sheets{0, 1, 2}));
   EXPECT_EQ(ParseSheets(u"1-2, 3"_s, 3), (Sheets{0, 1, 2}));
   EXPECT_EQ(ParseSheets(u"3,1"_s, 3), (Sheets{2, 0}));
-  for (const QString& refused : {u"0"_s, u"4"_s, u"2-1"_s, u"1-"_s, u"все"_s, u"1,,2"_s}) {
+  for (const QString& refused : {u"0"_s, u"4"_s, u"2-1"_s, u"1-"_s, u"все"_s, u"1,,2"_s})
     EXPECT_EQ(ParseSheets(refused, 3), std::nullopt) << refused.toStdString();
-  }
 }
 
 TEST(PrintingTest, FileDialogTellsKindAndDayInRussian) {
@@ -333,9 +332,8 @@ TEST(ViewerSpeedTest, LongPageAnswersBeforeAllOfItIsPrepared) {
     total = all;
   });
   window.show();
-  while (reports == 0 || last_done < total) {
+  while (reports == 0 || last_done < total)
     QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
   EXPECT_GT(reports, 3) << "the page was laid out in one go";
   EXPECT_FALSE(window.findChild<QProgressBar*>(u"LoadProgress"_s)->isVisible());
 }

@@ -36,9 +36,8 @@ Run& Flow::RunFor(const Look& look) {
   }
   const int style = StyleIndex(page_, look.style);
   if (paragraph_.runs.empty() || paragraph_.runs.back().style != style ||
-      !paragraph_.runs.back().picture.isEmpty()) {
+      !paragraph_.runs.back().picture.isEmpty())
     paragraph_.runs.push_back({style, {}, {}});
-  }
   return paragraph_.runs.back();
 }
 
@@ -61,13 +60,12 @@ void Flow::AddLetter(QChar c, const Look& look) {
 
 void Flow::AddPreformatted(const QString& text, const Look& look) {
   for (const QChar c : text) {
-    if (c == u'\n') {
+    if (c == u'\n')
       AddBreak(look);
-    } else if (c == u'\t') {
+    else if (c == u'\t')
       for (int i = 0; i < kTab; ++i) AddLetter(u' ', look);
-    } else if (c != u'\r') {
+    else if (c != u'\r')
       AddLetter(c, look);
-    }
   }
 }
 
@@ -88,24 +86,21 @@ void Flow::AddText(const QString& text, const Look& look) {
       at_blank = false;
     } else if (!at_blank) {
       at_blank = true;
-      if (letters_ > limits::kLettersOfParagraph) {
+      if (letters_ > limits::kLettersOfParagraph)
         GoOnBelow();
-      } else {
+      else
         AddLetter(u' ', look);
-      }
     }
   }
 }
 
 void Flow::TrimLine() {
   if (paragraph_.keep_lines || paragraph_.runs.empty() ||
-      !paragraph_.runs.back().text.endsWith(u' ')) {
+      !paragraph_.runs.back().text.endsWith(u' '))
     return;
-  }
   paragraph_.runs.back().text.chop(1);
-  if (paragraph_.runs.back().text.isEmpty() && paragraph_.runs.size() > 1) {
+  if (paragraph_.runs.back().text.isEmpty() && paragraph_.runs.size() > 1)
     paragraph_.runs.pop_back();
-  }
 }
 
 void Flow::AddBreak(const Look& look) {
@@ -142,9 +137,7 @@ void Flow::EndParagraph(double margin) {
   TrimLine();
   if (!paragraph_.runs.empty()) {
     // A break that ends a paragraph ends its last line and begins no other.
-    if (QString& last = paragraph_.runs.back().text; last.endsWith(kBreak)) {
-      last.chop(1);
-    }
+    if (QString& last = paragraph_.runs.back().text; last.endsWith(kBreak)) last.chop(1);
     paragraph_.space_before = TakeMargin();
     blocks_.emplace_back(std::move(paragraph_));
   }

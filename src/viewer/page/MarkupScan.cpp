@@ -120,9 +120,8 @@ class RowScanner {
       if (!tag) {
         ++at_;
         // An opened tag that goes on to nowhere is left to those who know more.
-        if (c == u'<' && at_ < text_.size() && (IsLetter(text_[at_]) || text_[at_] == u'/')) {
+        if (c == u'<' && at_ < text_.size() && (IsLetter(text_[at_]) || text_[at_] == u'/'))
           return false;
-        }
         continue;
       }
       if (at_ > begin) Add(RowPart::Kind::kText, text_.sliced(begin, at_ - begin));
@@ -212,9 +211,8 @@ qsizetype ReferenceLength(QStringView text) {
     const QStringView name = walker.Since(begin);
     if (std::none_of(kReferences.begin(), kReferences.end(), [name](const auto& known) {
           return name.compare(known.first, Qt::CaseInsensitive) == 0;
-        })) {
+        }))
       return 0;
-    }
   }
   return walker.Take(u';') ? walker.At() : 0;
 }

@@ -24,15 +24,11 @@ struct OutputDeleter {
 };
 
 const GumboNode* FindElement(const GumboNode& node, GumboTag tag) {
-  if (node.type != GUMBO_NODE_ELEMENT) {
-    return nullptr;
-  }
+  if (node.type != GUMBO_NODE_ELEMENT) return nullptr;
   const GumboVector& children = node.v.element.children;
   for (unsigned i = 0; i < children.length; ++i) {
     const auto* child = static_cast<const GumboNode*>(children.data[i]);
-    if (child->type == GUMBO_NODE_ELEMENT && child->v.element.tag == tag) {
-      return child;
-    }
+    if (child->type == GUMBO_NODE_ELEMENT && child->v.element.tag == tag) return child;
   }
   return nullptr;
 }
@@ -40,9 +36,7 @@ const GumboNode* FindElement(const GumboNode& node, GumboTag tag) {
 QString TitleOf(const GumboNode& root) {
   const GumboNode* head = FindElement(root, GUMBO_TAG_HEAD);
   const GumboNode* title = head == nullptr ? nullptr : FindElement(*head, GUMBO_TAG_TITLE);
-  if (title == nullptr || title->v.element.children.length == 0) {
-    return {};
-  }
+  if (title == nullptr || title->v.element.children.length == 0) return {};
   const auto* text = static_cast<const GumboNode*>(title->v.element.children.data[0]);
   return text->type == GUMBO_NODE_ELEMENT ? QString() : QString::fromUtf8(text->v.text.text);
 }
@@ -51,18 +45,16 @@ QString TitleOf(const GumboNode& root) {
 
 void Normaliser::ReadChildren(const GumboNode& node, Flow& flow, const Flow::Look& look) {
   const GumboVector& children = node.v.element.children;
-  for (unsigned i = 0; i < children.length; ++i) {
+  for (unsigned i = 0; i < children.length; ++i)
     ReadNode(*static_cast<const GumboNode*>(children.data[i]), flow, look);
-  }
 }
 
 void Normaliser::ReadNode(const GumboNode& node, Flow& flow, const Flow::Look& look) {
   if (node.type == GUMBO_NODE_TEXT || node.type == GUMBO_NODE_WHITESPACE ||
-      node.type == GUMBO_NODE_CDATA) {
+      node.type == GUMBO_NODE_CDATA)
     AddText(flow, QString::fromUtf8(node.v.text.text), look);
-  } else if (node.type == GUMBO_NODE_ELEMENT) {
+  else if (node.type == GUMBO_NODE_ELEMENT)
     ReadElement(node, flow, look);
-  }
 }
 
 void Normaliser::ReadElement(const GumboNode& node, Flow& flow, const Flow::Look& look) {
@@ -76,9 +68,7 @@ void Normaliser::ReadElement(const GumboNode& node, Flow& flow, const Flow::Look
       ReadPicture(node, flow, look);
       break;
     case GUMBO_TAG_TABLE:
-      if (auto table = ReadTable(node, look); !table->rows.empty()) {
-        flow.AddTable(std::move(table));
-      }
+      if (auto table = ReadTable(node, look); !table->rows.empty()) flow.AddTable(std::move(table));
       break;
     case GUMBO_TAG_P:
     case GUMBO_TAG_DIV:
@@ -109,26 +99,19 @@ void Normaliser::ReadBlock(const GumboNode& node, Flow& flow, const Flow::Look& 
   const bool has_margin = tag != GUMBO_TAG_DIV && tag != GUMBO_TAG_CENTER && tag != GUMBO_TAG_LI;
   const double margin = has_margin ? inside.style.points * kPixelsPerPoint : 0;
   flow.EndParagraph(margin);
-  if (tag == GUMBO_TAG_LI) {
-    flow.AddText(u"\u2022 "_s, inside);
-  }
+  if (tag == GUMBO_TAG_LI) flow.AddText(u"\u2022 "_s, inside);
   ReadChildren(node, flow, inside);
   flow.EndParagraph(margin);
 }
 
 void Normaliser::ReadPicture(const GumboNode& node, Flow& flow, const Flow::Look& look) {
   const QString name = Tag(node).Attribute("src");
-  if (name.isEmpty()) {
-    return;
-  }
-  if (!page_.pictures.contains(name)) {
-    page_.pictures[name] = load_picture_(name);
-  }
-  if (page_.pictures[name].isNull()) {
+  if (name.isEmpty()) return;
+  if (!page_.pictures.contains(name)) page_.pictures[name] = load_picture_(name);
+  if (page_.pictures[name].isNull())
     flow.AddText(u"[нет рисунка: %1]"_s.arg(name), look);
-  } else {
+  else
     flow.AddPicture(name, look);
-  }
 }
 
 // Adds what of the text there is room for.

@@ -33,9 +33,8 @@ bool PlaceCells(Table& table) {
       cell.column = column;
       int span = 1;
       while (span < std::min(cell.column_span, limits::kColumns - column) &&
-             !is_taken(column + span)) {
+             !is_taken(column + span))
         ++span;
-      }
       cell.column_span = span;
       column += span;
       if (static_cast<int>(taken.size()) < column) taken.resize(static_cast<size_t>(column));
@@ -51,11 +50,9 @@ bool PlaceCells(Table& table) {
 }
 
 void CutSpans(Table& table) {
-  for (size_t r = 0; r < table.rows.size(); ++r) {
-    for (Cell& cell : table.rows[r].cells) {
+  for (size_t r = 0; r < table.rows.size(); ++r)
+    for (Cell& cell : table.rows[r].cells)
       cell.row_span = std::min(cell.row_span, static_cast<int>(table.rows.size() - r));
-    }
-  }
 }
 
 }  // namespace
@@ -117,9 +114,8 @@ void Normaliser::ReadRows(const GumboNode& node, const Flow::Look& look, Table& 
       Row row = ReadRow(child, look);
       if (!row.cells.empty()) table.rows.push_back(std::move(row));
     }
-    for (size_t r = before; r < table.rows.size(); ++r) {
+    for (size_t r = before; r < table.rows.size(); ++r)
       table.rows[r].heading = node.v.element.tag == GUMBO_TAG_THEAD;
-    }
   }
 }
 

@@ -6,9 +6,8 @@ namespace kladez::viewer {
 
 QString Paragraph::Text() const {
   QString text;
-  for (const Run& run : runs) {
+  for (const Run& run : runs)
     text += run.picture.isEmpty() ? run.text : QString(QChar(QChar::ObjectReplacementCharacter));
-  }
   return text;
 }
 
@@ -18,11 +17,8 @@ QString Cell::Text() const {
     if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
       text += paragraph->Text();
     } else {
-      for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows) {
-        for (const Cell& cell : row.cells) {
-          text += cell.Text();
-        }
-      }
+      for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows)
+        for (const Cell& cell : row.cells) text += cell.Text();
     }
   }
   return text;
@@ -31,9 +27,8 @@ QString Cell::Text() const {
 bool Cell::IsBlank() const {
   for (const Block& block : blocks) {
     if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
-      for (const Run& run : paragraph->runs) {
+      for (const Run& run : paragraph->runs)
         if (!run.picture.isEmpty() || !QStringView(run.text).trimmed().isEmpty()) return false;
-      }
       continue;
     }
     for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows) {
@@ -52,11 +47,9 @@ QSizeF Page::PictureSize(const QString& name) const {
 
 int Page::RowCount() const {
   int count = 0;
-  for (const Block& block : blocks) {
-    if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block)) {
+  for (const Block& block : blocks)
+    if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block))
       count += static_cast<int>((*table)->rows.size());
-    }
-  }
   return count;
 }
 

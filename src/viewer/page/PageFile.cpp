@@ -22,7 +22,7 @@ namespace {
 }
 
 // Opens a plain file to be read. What hangs or never ends, such as a pipe or a device, is refused
-// with EINVAL; nobody is waited for.
+// with ESPIPE; nobody is waited for.
 void OpenPlain(const QString& path, QFile& file) {
   const int descriptor =
       ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
@@ -31,7 +31,7 @@ void OpenPlain(const QString& path, QFile& file) {
   const int failure = ::fstat(descriptor, &status) != 0 ? errno
                       : S_ISDIR(status.st_mode)         ? EISDIR
                       : S_ISREG(status.st_mode)         ? 0
-                                                        : EINVAL;
+                                                        : ESPIPE;
   if (failure != 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
     ::close(descriptor);
     ThrowFor(path, failure);
@@ -43,9 +43,8 @@ QString BesidePrintOut(const QDir& directory, const QString& name) {
   if (name.contains(u'/')) return {};
   QString found = name;
   if (!directory.exists(name)) {
-    for (const QString& entry : directory.entryList(QDir::Files)) {
+    for (const QString& entry : directory.entryList(QDir::Files))
       if (entry.compare(name, Qt::CaseInsensitive) == 0) found = entry;
-    }
   }
   return found;
 }
@@ -71,9 +70,7 @@ QImage ReadPicture(const QString& path, qsizetype room) {
 
 Page ReadPageFile(const QDir& directory, const QString& name, const Progress& progress,
                   PageKind kind) {
-  if (kind == PageKind::kGuide && PathWithin(directory, name).isEmpty()) {
-    ThrowFor(name, ENOENT);
-  }
+  if (kind == PageKind::kGuide && PathWithin(directory, name).isEmpty()) ThrowFor(name, ENOENT);
   const QString path = directory.filePath(name);
   QString text;
   {

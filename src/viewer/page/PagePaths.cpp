@@ -14,9 +14,7 @@ QString PathWithin(const QDir& folder, const QString& reference) {
            part.contains(QChar::Null);
   });
   const QString root = QFileInfo(folder.absolutePath()).canonicalFilePath();
-  if (leads_out || root.isEmpty()) {
-    return {};
-  }
+  if (leads_out || root.isEmpty()) return {};
   const QFileInfo file(folder.absoluteFilePath(reference));
   const QString path = file.canonicalFilePath();
   const QString inside = root.endsWith(u'/') ? root : root + u'/';

@@ -20,13 +20,10 @@ bool NamesUtf8(const QByteArray& bytes) {
 }  // namespace
 
 QString DecodePage(const QByteArray& bytes) {
-  if (NamesUtf8(bytes)) {
-    return QStringDecoder(QStringDecoder::Utf8)(bytes);
-  }
+  if (NamesUtf8(bytes)) return QStringDecoder(QStringDecoder::Utf8)(bytes);
   QString text = DecodeText(bytes);
-  for (const char16_t nothing : {u'\0', u'\u0098'}) {
+  for (const char16_t nothing : {u'\0', u'\u0098'})
     text.replace(QChar(nothing), QChar::ReplacementCharacter);
-  }
   return text;
 }
 

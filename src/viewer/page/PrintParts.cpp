@@ -16,25 +16,17 @@ Table* AsTable(Block& block) { return const_cast<Table*>(AsTable(std::as_const(b
 
 QString TextOf(const Block& block) {
   const Table* table = AsTable(block);
-  if (table == nullptr) {
-    return std::get<Paragraph>(block).Text();
-  }
+  if (table == nullptr) return std::get<Paragraph>(block).Text();
   QString text;
-  for (const Row& row : table->rows) {
-    for (const Cell& cell : row.cells) {
-      text += cell.Text();
-    }
-  }
+  for (const Row& row : table->rows)
+    for (const Cell& cell : row.cells) text += cell.Text();
   return text;
 }
 
 // The row under the captions that numbers the columns: 1, 2, 3 and on.
 bool NumbersColumns(const Row& row) {
-  for (size_t i = 0; i < row.cells.size(); ++i) {
-    if (row.cells[i].Text().trimmed() != QString::number(i + 1)) {
-      return false;
-    }
-  }
+  for (size_t i = 0; i < row.cells.size(); ++i)
+    if (row.cells[i].Text().trimmed() != QString::number(i + 1)) return false;
   return row.cells.size() > 1;
 }
 
@@ -45,20 +37,15 @@ void MarkStack(const std::vector<Table*>& stack) {
   std::vector<Row*> rows;
   for (Table* table : stack) {
     columns = std::max(columns, table->columns);
-    for (Row& row : table->rows) {
-      rows.push_back(&row);
-    }
+    for (Row& row : table->rows) rows.push_back(&row);
   }
-  if (columns < 2) {
-    return;
-  }
+  if (columns < 2) return;
   const bool has_heading = stack.front()->border > 0 && rows.front()->cells.size() > 1;
   if (has_heading &&
       std::none_of(rows.begin(), rows.end(), [](Row* row) { return row->heading; })) {
     size_t count = 1;
-    for (const Cell& cell : rows.front()->cells) {
+    for (const Cell& cell : rows.front()->cells)
       count = std::max(count, static_cast<size_t>(cell.row_span));
-    }
     count += count < rows.size() && NumbersColumns(*rows[count]) ? 1 : 0;
     std::for_each_n(rows.begin(), count, [](Row* row) { row->heading = true; });
   }
@@ -76,13 +63,9 @@ void MarkSignature(Page& page) {
     begin = table != nullptr && table->border > 0 ? i + 1 : begin;
   }
   const size_t closing = begin;
-  while (begin < page.blocks.size() && !TextOf(page.blocks[begin]).contains(u"___"_s)) {
-    ++begin;
-  }
+  while (begin < page.blocks.size() && !TextOf(page.blocks[begin]).contains(u"___"_s)) ++begin;
   size_t end = page.blocks.size();
-  while (end > begin && TextOf(page.blocks[end - 1]).trimmed().isEmpty()) {
-    --end;
-  }
+  while (end > begin && TextOf(page.blocks[end - 1]).trimmed().isEmpty()) --end;
   page.closing = closing == 0 || begin == page.blocks.size() ? begin : closing;
   page.signature = begin;
   page.signature_end = end;
@@ -98,13 +81,9 @@ void MarkPrintParts(Page& page) {
       MarkStack(stack);
       stack.clear();
     }
-    if (table != nullptr) {
-      stack.push_back(table);
-    }
+    if (table != nullptr) stack.push_back(table);
   }
-  if (!stack.empty()) {
-    MarkStack(stack);
-  }
+  if (!stack.empty()) MarkStack(stack);
   MarkSignature(page);
 }
 

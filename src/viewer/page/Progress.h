@@ -15,9 +15,7 @@ class ProgressSteps {
 
   // Gives false when the work is to stop.
   bool Advance(int done) {
-    if (!progress_ || (done - told_) * 100 < total_) {
-      return true;
-    }
+    if (!progress_ || (done - told_) * 100 < total_) return true;
     told_ = done;
     return progress_(done, total_);
   }

@@ -112,11 +112,10 @@ class TypedTextEscaper {
     }
     pos_ += tag->length;
     if (!Admits(name, tag->closes)) return;
-    if (name == u"center"_s && tag->closes && !tables_.empty()) {
+    if (name == u"center"_s && tag->closes && !tables_.empty())
       ++deferred_;
-    } else {
+    else
       out_.markup += written;
-    }
     Follow(name, tag->closes);
     FollowRows(name, tag->closes);
   }
@@ -132,12 +131,10 @@ class TypedTextEscaper {
       formats_in_cell_ = 0;
       return left_out_tables_ == 0;
     }
-    if (!tables_.empty() && !in_cell && name != u"center"_s && ++stray_ > limits::kStrayTags) {
+    if (!tables_.empty() && !in_cell && name != u"center"_s && ++stray_ > limits::kStrayTags)
       return false;
-    }
-    if (formats.contains(name)) {
+    if (formats.contains(name))
       return Count(in_cell ? formats_in_cell_ : formats_, limits::kFormats, closes);
-    }
     return !blocks.contains(name) || Count(blocks_, limits::kBlocks, closes);
   }
 
@@ -172,13 +169,11 @@ class TypedTextEscaper {
   }
 
   bool IsMarkup(const TagText& tag, const QString& name, TagKind kind) {
-    if (kind == TagKind::kRaw) {
+    if (kind == TagKind::kRaw)
       return !in_body_ && !tag.closes && RawEnd(name, pos_ + tag.length) >= 0;
-    }
     if (in_title_) return tag.closes && name == u"title"_s;
-    if (kind == TagKind::kHead && in_body_) {
+    if (kind == TagKind::kHead && in_body_)
       return tag.closes && (name == u"body"_s || name == u"html"_s);
-    }
     if (name == u"title"_s && !tag.closes) return RawEnd(name, pos_ + tag.length) >= 0;
     if (kind == TagKind::kPlain && !tag.attributes.isEmpty()) return false;
     if (kind != TagKind::kPlain || tag.closes || name == u"center"_s) return true;
@@ -221,20 +216,17 @@ class TypedTextEscaper {
     }
     static const QSet<QString> head = {u"html"_s, u"head"_s, u"meta"_s};
     in_body_ = in_body_ || !head.contains(name);
-    if (name == u"table"_s) {
+    if (name == u"table"_s)
       FollowTable(closes);
-    } else if (!tables_.empty() && (name == u"td"_s || name == u"th"_s)) {
+    else if (!tables_.empty() && (name == u"td"_s || name == u"th"_s))
       tables_.back() = !closes;
-    } else if (!tables_.empty() && (name == u"tr"_s || name == u"tbody"_s)) {
+    else if (!tables_.empty() && (name == u"tr"_s || name == u"tbody"_s))
       tables_.back() = false;
-    }
   }
 
   void FollowTable(bool closes) {
     if (closes) {
-      if (!tables_.empty()) {
-        tables_.pop_back();
-      }
+      if (!tables_.empty()) tables_.pop_back();
       CloseDeferredCentring();
     } else if (tables_.empty() || tables_.back()) {
       tables_.push_back(false);

@@ -32,25 +32,20 @@ class WordMeasure {
 
   // The width of the widest word, or `known` if that is more.
   double Widest(const Cell& cell, double known) {
-    for (const Block& block : cell.blocks) {
-      if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
-        known = Widest(*paragraph, known);
-      }
-    }
+    for (const Block& block : cell.blocks)
+      if (const auto* paragraph = std::get_if<Paragraph>(&block)) known = Widest(*paragraph, known);
     return known;
   }
 
   double Widest(const Paragraph& paragraph, double known) {
     double line = 0;
-    for (const Run& run : paragraph.runs) {
-      if (!run.picture.isEmpty()) {
+    for (const Run& run : paragraph.runs)
+      if (!run.picture.isEmpty())
         known = std::max<double>(known, page_.PictureSize(run.picture).width());
-      } else if (!paragraph.keep_lines) {
+      else if (!paragraph.keep_lines)
         known = WidestWord(run, known);
-      } else {
+      else
         line = WidestLine(run, line, &known);
-      }
-    }
     return known;
   }
 
@@ -60,15 +55,11 @@ class WordMeasure {
     const double letter =
         page_.styles[static_cast<size_t>(run.style)].points * kPixelsPerPoint * kWidestLetter;
     for (const QStringView word : QStringView(run.text).split(u' ')) {
-      if (static_cast<double>(word.size()) * letter <= known) {
-        continue;
-      }
+      if (static_cast<double>(word.size()) * letter <= known) continue;
       QTextBoundaryFinder finder(QTextBoundaryFinder::Line, word.data(), word.size());
       qsizetype begin = 0;
       for (qsizetype end = finder.toNextBoundary(); end > 0; end = finder.toNextBoundary()) {
-        if (word.size() - end <= kShortTail && end < word.size()) {
-          continue;
-        }
+        if (word.size() - end <= kShortTail && end < word.size()) continue;
         const QString part = word.mid(begin, end - begin).toString();
         known = std::max(known, metrics.horizontalAdvance(part) * kSlack);
         begin = end;
@@ -107,21 +98,15 @@ std::vector<double> WishedShares(const Table& table) {
   for (const Row& row : table.rows) {
     for (const Cell& cell : row.cells) {
       double& share = shares[static_cast<size_t>(cell.column)];
-      if (cell.column_span == 1 && cell.width.kind == Width::Kind::kPercent && share == 0) {
+      if (cell.column_span == 1 && cell.width.kind == Width::Kind::kPercent && share == 0)
         share = cell.width.value;
-      }
     }
-    if (std::find(shares.begin(), shares.end(), 0) == shares.end()) {
-      break;
-    }
+    if (std::find(shares.begin(), shares.end(), 0) == shares.end()) break;
   }
   const bool all = std::find(shares.begin(), shares.end(), 0) == shares.end();
   const double sum = std::accumulate(shares.begin(), shares.end(), 0.0);
-  if (all || sum > 100) {
-    for (double& share : shares) {
-      share *= 100 / sum;
-    }
-  }
+  if (all || sum > 100)
+    for (double& share : shares) share *= 100 / sum;
   return shares;
 }
 
@@ -132,15 +117,12 @@ std::vector<double> DivideWidth(const std::vector<double>& shares,
   for (bool changed = true; changed;) {
     double rest = width;
     double rest_shares = 0;
-    for (size_t i = 0; i < shares.size(); ++i) {
+    for (size_t i = 0; i < shares.size(); ++i)
       (at_minimum[i] ? rest : rest_shares) += at_minimum[i] ? -minima[i] : shares[i];
-    }
     changed = false;
     for (size_t i = 0; i < shares.size(); ++i) {
       widths[i] = at_minimum[i] ? minima[i] : std::max(0.0, rest) * shares[i] / rest_shares;
-      if (!at_minimum[i] && widths[i] < minima[i]) {
-        at_minimum[i] = changed = true;
-      }
+      if (!at_minimum[i] && widths[i] < minima[i]) at_minimum[i] = changed = true;
     }
   }
   return widths;
@@ -158,9 +140,7 @@ void RaiseMinima(const Page& page, const Table& table, std::vector<double>& mini
   for (const Row& row : table.rows) {
     for (const Cell& cell : row.cells) {
       double& minimum = minima[static_cast<size_t>(cell.column)];
-      if (cell.column_span == 1) {
-        minimum = measure.Widest(cell, minimum - frame) + frame;
-      }
+      if (cell.column_span == 1) minimum = measure.Widest(cell, minimum - frame) + frame;
     }
   }
 }
@@ -182,12 +162,9 @@ double TableStack::ReadableWidth() const {
   double width = std::accumulate(minima_.begin(), minima_.end(), 0.0);
   for (double needed = width; HasAllShares(); width = needed) {
     needed = 0;
-    for (size_t i = 0; i < shares_.size(); ++i) {
+    for (size_t i = 0; i < shares_.size(); ++i)
       needed += std::max(minima_[i], kLeastOfShare * width * shares_[i] / 100);
-    }
-    if (needed <= width + 0.1) {
-      break;
-    }
+    if (needed <= width + 0.1) break;
   }
   return width;
 }
@@ -208,9 +185,8 @@ void TableStack::Fit(int columns, double width, double scale, QTextTableFormat& 
                                   : QTextLength(QTextLength::PercentageLength, 100));
   if (columns != columns_) return;
   QList<QTextLength> lengths;
-  for (const double column : widths) {
+  for (const double column : widths)
     lengths.append(QTextLength(QTextLength::PercentageLength, (column + kRounding) / sum * 100));
-  }
   format.setColumnWidthConstraints(lengths);
 }
 

@@ -24,12 +24,8 @@ constexpr int kPdfDpi = 600;
 bool DrawSheets(const PaperLayout& layout, const std::vector<int>& sheets,
                 QPagedPaintDevice& device, QPainter& painter, const Progress& progress) {
   for (size_t i = 0; i < sheets.size(); ++i) {
-    if (progress && !progress(static_cast<int>(i), static_cast<int>(sheets.size()))) {
-      return false;
-    }
-    if (i > 0 && !device.newPage()) {
-      return false;
-    }
+    if (progress && !progress(static_cast<int>(i), static_cast<int>(sheets.size()))) return false;
+    if (i > 0 && !device.newPage()) return false;
     layout.Draw(painter, sheets[i], device.logicalDpiX());
   }
   return true;
@@ -39,9 +35,7 @@ bool WritePdf(const PaperLayout& layout, const QString& title, const QString& pa
               const Progress& progress) {
   QSaveFile file(path);
   errno = 0;
-  if (!file.open(QIODevice::WriteOnly)) {
-    ThrowFor(path);
-  }
+  if (!file.open(QIODevice::WriteOnly)) ThrowFor(path);
   QPdfWriter writer(&file);
   writer.setTitle(title);
   writer.setResolution(kPdfDpi);
@@ -49,9 +43,7 @@ bool WritePdf(const PaperLayout& layout, const QString& title, const QString& pa
   paper.setMode(QPageLayout::FullPageMode);
   writer.setPageLayout(paper);
   QPainter painter;
-  if (!painter.begin(&writer)) {
-    ThrowFor(path);
-  }
+  if (!painter.begin(&writer)) ThrowFor(path);
   std::vector<int> sheets(static_cast<size_t>(layout.SheetCount()));
   std::iota(sheets.begin(), sheets.end(), 0);
   const bool is_whole = DrawSheets(layout, sheets, writer, painter, progress);
@@ -61,9 +53,7 @@ bool WritePdf(const PaperLayout& layout, const QString& title, const QString& pa
     return false;
   }
   errno = 0;
-  if (!file.commit()) {
-    ThrowFor(path);
-  }
+  if (!file.commit()) ThrowFor(path);
   return true;
 }
 
@@ -87,9 +77,7 @@ QStringList ExportSheetPictures(std::shared_ptr<const Page> page, const QString&
     painter.end();
     paths << QDir(directory).filePath(u"%1-%2.png"_s.arg(name).arg(sheet + 1));
     errno = 0;
-    if (!picture.save(paths.last())) {
-      ThrowFor(paths.last());
-    }
+    if (!picture.save(paths.last())) ThrowFor(paths.last());
   }
   return paths;
 }
@@ -97,9 +85,7 @@ QStringList ExportSheetPictures(std::shared_ptr<const Page> page, const QString&
 QString PdfName(const QString& title) {
   static const QRegularExpression refused(u"[\\\\/:*?\"<>|\\x00-\\x1f]+"_s);
   QString name = QString(title).replace(refused, u" "_s).simplified();
-  while (name.startsWith(u'.')) {
-    name.remove(0, 1);
-  }
+  while (name.startsWith(u'.')) name.remove(0, 1);
   return (name.isEmpty() ? u"Печатная форма"_s : name.left(100)) + u".pdf"_s;
 }
 

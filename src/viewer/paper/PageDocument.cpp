@@ -76,9 +76,8 @@ PageDocument::PageDocument(const PagePlan& plan, size_t chunk, const Measure& me
   QTextOption option;
   option.setWrapMode(QTextOption::WordWrap);
   document_.setDefaultTextOption(option);
-  for (const auto& [name, picture] : plan.page().pictures) {
+  for (const auto& [name, picture] : plan.page().pictures)
     document_.addResource(QTextDocument::ImageResource, PictureUrl(name), picture);
-  }
   QAbstractTextDocumentLayout* layout = document_.documentLayout();
   layout->registerHandler(QTextFormat::ImageObject, new PictureObject(&document_));
   layout->setPaintDevice(&device_);
@@ -125,9 +124,8 @@ void PageDocument::FillCell(QTextCursor& cursor, const std::vector<Block>& block
     if (const auto* table = std::get_if<std::unique_ptr<Table>>(&blocks[i])) {
       QTextTableFormat format = FormatOf(**table);
       const bool is_last = i + 1 == blocks.size();
-      if (const auto* below = is_last ? nullptr : std::get_if<Paragraph>(&blocks[i + 1])) {
+      if (const auto* below = is_last ? nullptr : std::get_if<Paragraph>(&blocks[i + 1]))
         format.setBottomMargin(plan_.LostUnderTable(*below));
-      }
       AddRows(cursor, **table, 0, (*table)->rows.size(), format);
       is_fresh = true;
       continue;
@@ -155,9 +153,8 @@ void PageDocument::AddParagraph(QTextCursor& cursor, const Paragraph& paragraph)
     cursor.mergeBlockCharFormat(none);
     return;
   }
-  if (HasEmptyLine(paragraph)) {
+  if (HasEmptyLine(paragraph))
     cursor.mergeBlockCharFormat(formats_[static_cast<size_t>(paragraph.runs.front().style)]);
-  }
   for (const Run& run : paragraph.runs) {
     if (run.picture.isEmpty()) {
       cursor.insertText(run.text, formats_[static_cast<size_t>(run.style)]);
@@ -197,9 +194,8 @@ QTextTable* PageDocument::AddRows(QTextCursor& cursor, const Table& table, size_
       const int row = static_cast<int>(r - begin);
       // A cell that reaches down further than its part does ends with that.
       const int down = std::min(cell.row_span, static_cast<int>(end - r));
-      if (cell.column_span > 1 || down > 1) {
+      if (cell.column_span > 1 || down > 1)
         made->mergeCells(row, cell.column, down, cell.column_span);
-      }
       QTextTableCell place = made->cellAt(row, cell.column);
       place.setFormat(formats.Of(cell, r == 0 && !table.shares_line));
       QTextCursor inside = place.firstCursorPosition();

@@ -21,9 +21,7 @@ QTextLength LengthOf(const Width& width) {
 }
 
 QTextCharFormat::VerticalAlignment VerticalOf(Qt::Alignment vertical) {
-  if (vertical == Qt::AlignTop) {
-    return QTextCharFormat::AlignTop;
-  }
+  if (vertical == Qt::AlignTop) return QTextCharFormat::AlignTop;
   return vertical == Qt::AlignBottom ? QTextCharFormat::AlignBottom : QTextCharFormat::AlignMiddle;
 }
 
@@ -34,9 +32,8 @@ QTextTableFormat FormatOf(const Table& table) {
   format.setWidth(LengthOf(table.width));
   // The toolkit centres a table between the edge of the view and the right margin: one that takes
   // the whole width would stand half a margin too far to the right.
-  if (table.width.kind != Width::Kind::kPercent || table.width.value < 100) {
+  if (table.width.kind != Width::Kind::kPercent || table.width.value < 100)
     format.setAlignment(table.align);
-  }
   format.setCellPadding(table.padding);
   format.setCellSpacing(table.collapse ? 0 : table.spacing);
   // A collapsed border is drawn by the cells: the toolkit draws that of a table out of its place.
@@ -45,9 +42,8 @@ QTextTableFormat FormatOf(const Table& table) {
   format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
   format.setTopMargin(table.space_before);
   QList<QTextLength> columns;
-  for (const double share : WishedShares(table)) {
+  for (const double share : WishedShares(table))
     columns.append(share > 0 ? QTextLength(QTextLength::PercentageLength, share) : QTextLength());
-  }
   format.setColumnWidthConstraints(columns);
   return format;
 }
@@ -57,9 +53,7 @@ QTextTableFormat FormatOf(const Table& table) {
 QTextTableCellFormat FormatOf(const Table& table, const Cell& cell, bool is_top) {
   QTextTableCellFormat format;
   format.setVerticalAlignment(VerticalOf(cell.vertical));
-  if (table.border == 0) {
-    return format;
-  }
+  if (table.border == 0) return format;
   format.setLeftPadding(std::max(table.padding, kLeastPadding));
   format.setRightPadding(std::max(table.padding, kLeastPadding));
   if (!table.collapse) return format;

@@ -23,9 +23,8 @@ constexpr size_t kLettersOfCell = 50;
 // The row after the last one that a cell of this row reaches.
 size_t ReachOf(const Table& table, size_t row) {
   size_t reach = row + 1;
-  for (const Cell& cell : table.rows[row].cells) {
+  for (const Cell& cell : table.rows[row].cells)
     reach = std::max(reach, row + static_cast<size_t>(cell.row_span));
-  }
   return reach;
 }
 
@@ -49,11 +48,10 @@ PagePlan::PagePlan(std::shared_ptr<const Page> page, const Progress& progress)
   for (size_t i = 0; i < page_->blocks.size(); ++i) {
     const int block = static_cast<int>(i);
     const size_t first = pieces_.size();
-    if (const auto* table = std::get_if<std::unique_ptr<Table>>(&page_->blocks[i])) {
+    if (const auto* table = std::get_if<std::unique_ptr<Table>>(&page_->blocks[i]))
       AddTable(block, **table);
-    } else {
+    else
       AddParagraph(block);
-    }
     for (size_t p = first; p < pieces_.size(); ++p) {
       pieces_[p].closing = i >= page_->closing && i < page_->signature_end;
       pieces_[p].signature = i >= page_->signature && i < page_->signature_end;
@@ -112,9 +110,7 @@ void PagePlan::AddRows(const Part& part, const Table& table) {
 }
 
 size_t PagePlan::WeightOf(const Piece& piece) const {
-  if (const Table* table = TableOf(piece)) {
-    return static_cast<size_t>(table->columns);
-  }
+  if (const Table* table = TableOf(piece)) return static_cast<size_t>(table->columns);
   size_t letters = 0;
   for (const Run& run : ParagraphOf(piece).runs) letters += static_cast<size_t>(run.text.size());
   return 1 + letters / kLettersOfCell;

@@ -45,9 +45,8 @@ void PageStrip::Prepare(size_t chunk) {
   Note(chunk, made->Height());
   prepared_height_ += heights_[chunk];
   prepared_cells_ += plan_->chunks()[chunk].cells;
-  if (KeptCells() + plan_->chunks()[chunk].cells <= kept_cells_) {
+  if (KeptCells() + plan_->chunks()[chunk].cells <= kept_cells_)
     kept_.push_back({chunk, std::move(made)});
-  }
 }
 
 void PageStrip::Note(size_t chunk, double height) {

@@ -24,9 +24,7 @@ void PaperLayout::DivideAcross(double layout_width, double paper_width) {
   while (layout_width - left > paper_width + 1) {
     double right = left + paper_width;
     const auto past = std::upper_bound(edges_.begin(), edges_.end(), right);
-    if (past != edges_.begin() && *(past - 1) > left) {
-      right = *(past - 1);
-    }
+    if (past != edges_.begin() && *(past - 1) > left) right = *(past - 1);
     across_.push_back({left, right});
     left = right;
   }
@@ -45,9 +43,7 @@ void PaperLayout::Draw(QPainter& painter, int sheet, double dpi) const {
   }
   DrawSlice(painter, rows.body, across);
   painter.restore();
-  if (SheetCount() > 1) {
-    DrawNumber(painter, sheet, dpi);
-  }
+  if (SheetCount() > 1) DrawNumber(painter, sheet, dpi);
 }
 
 void PaperLayout::DrawSlice(QPainter& painter, const Slice& slice, const Slice& across) const {

@@ -25,9 +25,8 @@ double BodyWidth(const PaperFormat& format) {
 
 PaperFormat Propose(PaperFormat format, double width) {
   if (format.page.orientation() == QPageLayout::Portrait &&
-      BodyWidth(format) < width * kLeastPortraitScale) {
+      BodyWidth(format) < width * kLeastPortraitScale)
     format.page.setOrientation(QPageLayout::Landscape);
-  }
   return format;
 }
 

@@ -13,9 +13,7 @@ class SheetCutter {
  public:
   SheetCutter(std::vector<Unit> units, double height)
       : units_(std::move(units)), height_(std::max(1.0, height)) {
-    while (!units_.empty() && units_.back().blank) {
-      units_.pop_back();
-    }
+    while (!units_.empty() && units_.back().blank) units_.pop_back();
   }
 
   std::vector<Sheet> Run() {
@@ -26,9 +24,7 @@ class SheetCutter {
       }
       AddSheet();
     }
-    if (sheets_.empty()) {
-      sheets_.emplace_back();
-    }
+    if (sheets_.empty()) sheets_.emplace_back();
     return std::move(sheets_);
   }
 
@@ -41,9 +37,7 @@ class SheetCutter {
     sheet.body.top = first.top - (has_heading || sheets_.empty() ? 0 : first.lead);
     const double limit = sheet.body.top + height_ - sheet.heading.Height();
     size_t end = next_;
-    while (end < units_.size() && units_[end].bottom <= limit) {
-      ++end;
-    }
+    while (end < units_.size() && units_[end].bottom <= limit) ++end;
     if (end == next_) {
       sheet.body.bottom = CutUnit(units_[next_], limit);
     } else {
@@ -56,9 +50,7 @@ class SheetCutter {
 
   Slice HeadingFor(size_t index) const {
     const Unit& unit = units_[index];
-    if (unit.heading < 0 || static_cast<int>(index) < unit.heading_end) {
-      return {};
-    }
+    if (unit.heading < 0 || static_cast<int>(index) < unit.heading_end) return {};
     const Slice heading = {units_[static_cast<size_t>(unit.heading)].top,
                            units_[static_cast<size_t>(unit.heading_end - 1)].bottom};
     return heading.Height() <= height_ * kHighestHeading ? heading : Slice();
@@ -67,24 +59,17 @@ class SheetCutter {
   // The break at or before `end` that parts nothing that belongs together, if there is one on this
   // sheet.
   size_t LastBreak(size_t end) const {
-    if (end == units_.size()) {
-      return end;
-    }
+    if (end == units_.size()) return end;
     size_t best = end;
-    while (best > next_ && units_[best - 1].keep_with_next) {
-      --best;
-    }
+    while (best > next_ && units_[best - 1].keep_with_next) --best;
     return best > next_ ? best : end;
   }
 
   // Takes what fits of a unit that no sheet can hold, and leaves the rest as the unit.
   double CutUnit(Unit& unit, double limit) {
     double cut = limit;
-    for (const double split : unit.splits) {
-      if (split > unit.top && split <= limit) {
-        cut = split;
-      }
-    }
+    for (const double split : unit.splits)
+      if (split > unit.top && split <= limit) cut = split;
     unit.top = cut;
     unit.lead = 0;
     return cut;

@@ -41,9 +41,8 @@ FindBar::FindBar(PageView* view, QWidget* parent)
 
 void FindBar::Open() {
   const QString selected = view_->SelectedText();
-  if (!selected.isEmpty() && !selected.contains(u'\n') && !selected.contains(u'\t')) {
+  if (!selected.isEmpty() && !selected.contains(u'\n') && !selected.contains(u'\t'))
     text_->setText(selected);
-  }
   show();
   text_->setFocus();
   text_->selectAll();
@@ -67,13 +66,12 @@ void FindBar::Close() {
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) {
+  if (event->key() == Qt::Key_Escape)
     Close();
-  } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+  else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
     Find((event->modifiers() & Qt::ShiftModifier) != 0);
-  } else {
+  else
     QWidget::keyPressEvent(event);
-  }
 }
 
 }  // namespace kladez::viewer

@@ -22,9 +22,8 @@ constexpr size_t kMostFormatted = 8;
 
 bool Contains(const std::vector<Block>& blocks, const QString& text) {
   return std::any_of(blocks.begin(), blocks.end(), [&text](const Block& block) {
-    if (const auto* paragraph = std::get_if<Paragraph>(&block)) {
+    if (const auto* paragraph = std::get_if<Paragraph>(&block))
       return paragraph->Text().replace(QChar::Nbsp, u' ').contains(text, Qt::CaseInsensitive);
-    }
     const auto& rows = std::get<std::unique_ptr<Table>>(block)->rows;
     return std::any_of(rows.begin(), rows.end(), [&text](const Row& row) {
       return std::any_of(row.cells.begin(), row.cells.end(),
@@ -43,9 +42,8 @@ bool MayHold(const PagePlan& plan, const Chunk& chunk, const QString& text) {
       if (words.replace(QChar::Nbsp, u' ').contains(text, Qt::CaseInsensitive)) return true;
       continue;
     }
-    for (const Cell& cell : table->rows[static_cast<size_t>(piece.row)].cells) {
+    for (const Cell& cell : table->rows[static_cast<size_t>(piece.row)].cells)
       if (Contains(cell.blocks, text)) return true;
-    }
   }
   return false;
 }
@@ -112,9 +110,8 @@ void PageView::Copy() const {
   const auto [begin, end] = std::minmax(anchor_, cursor_);
   QString formatted;
   for (size_t chunk = begin.chunk; chunk <= end.chunk && end.chunk - begin.chunk < kMostFormatted;
-       ++chunk) {
+       ++chunk)
     formatted += SelectionIn(chunk).selection().toHtml();
-  }
   if (!formatted.isEmpty()) copied->setHtml(formatted);
   QApplication::clipboard()->setMimeData(copied);
 }
@@ -155,9 +152,8 @@ void PageView::mouseReleaseEvent(QMouseEvent* event) {
     emit LinkActivated(QUrl(link));
     return;
   }
-  if (anchor_ != cursor_ && QApplication::clipboard()->supportsSelection()) {
+  if (anchor_ != cursor_ && QApplication::clipboard()->supportsSelection())
     QApplication::clipboard()->setText(SelectedText(), QClipboard::Selection);
-  }
 }
 
 void PageView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -182,11 +178,10 @@ bool PageView::FindText(const QString& text, bool backward) {
     if (!MayHold(strip_->plan(), strip_->plan().chunks()[chunk], text)) continue;
     QTextDocument* document = strip_->Document(chunk).document();
     QTextCursor start(document);
-    if (step == 0) {
+    if (step == 0)
       start.setPosition(std::min(from.position, document->characterCount() - 1));
-    } else if (backward) {
+    else if (backward)
       start.movePosition(QTextCursor::End);
-    }
     const QTextCursor found = document->find(text, start, flags);
     if (!found.isNull()) {
       SelectFound(chunk, found);
@@ -207,9 +202,8 @@ QPoint PageView::SelectionPoint() const {
   const QTextBlock block = document->findBlock(spot.position);
   const QTextLine line = block.layout()->lineForTextPosition(spot.position - block.position());
   QPointF at = document->documentLayout()->blockBoundingRect(block).topLeft();
-  if (line.isValid()) {
+  if (line.isValid())
     at += QPointF(line.cursorToX(spot.position - block.position()), line.y() + line.height() / 2);
-  }
   return QPointF(at.x() - horizontalScrollBar()->value(),
                  at.y() + strip_->Top(spot.chunk) - verticalScrollBar()->value())
       .toPoint();
@@ -276,13 +270,12 @@ void PageView::keyPressEvent(QKeyEvent* event) {
       }
     }
   }
-  if (event->key() == Qt::Key_Home) {
+  if (event->key() == Qt::Key_Home)
     verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
-  } else if (event->key() == Qt::Key_End) {
+  else if (event->key() == Qt::Key_End)
     verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
-  } else {
+  else
     QAbstractScrollArea::keyPressEvent(event);
-  }
 }
 
 }  // namespace kladez::viewer

@@ -112,9 +112,8 @@ void PageView::LayOutSight() {
   for (size_t chunk = first;
        chunk < strip_->ChunkCount() &&
        strip_->Top(chunk) < strip_->Top(first) + hidden + viewport()->height();
-       ++chunk) {
+       ++chunk)
     strip_->Document(chunk);
-  }
   SetBars();
   verticalScrollBar()->setValue(qRound(strip_->Top(first) + hidden));
 }
@@ -155,9 +154,7 @@ void PageView::PrepareMore() {
   const size_t seen = strip_->ChunkAt(top);
   const double before = strip_->Top(seen);
   const size_t count = std::min(strip_->ChunkCount(), kMostPrepared);
-  while (prepared_ < count && timer.elapsed() < kPrepareMilliseconds) {
-    strip_->Prepare(prepared_++);
-  }
+  while (prepared_ < count && timer.elapsed() < kPrepareMilliseconds) strip_->Prepare(prepared_++);
   if (prepared_ == count) prepare_timer_.stop();
   const int moved = qRound(strip_->Top(seen) - before);
   SetBars();

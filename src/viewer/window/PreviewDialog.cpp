@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "viewer/page/PageName.h"
 #include "viewer/window/Printing.h"
 #include "viewer/window/ViewerLook.h"
 #include "viewer/window/ViewerMessages.h"
@@ -73,9 +74,7 @@ void PreviewDialog::MakeControls() {
   proposal_->setWordWrap(true);
   current_ = new QLabel(this);
   current_->setObjectName(u"CurrentSheet"_s);
-  for (QPushButton* button : {page_setup_, pdf_, close_}) {
-    button->setAutoDefault(false);
-  }
+  for (QPushButton* button : {page_setup_, pdf_, close_}) button->setAutoDefault(false);
   connect(printers_, &QComboBox::activated, this, &PreviewDialog::ChoosePrinter);
   connect(portrait_, &QRadioButton::clicked, this, &PreviewDialog::ChooseOrientation);
   connect(landscape_, &QRadioButton::clicked, this, &PreviewDialog::ChooseOrientation);
@@ -229,16 +228,12 @@ void PreviewDialog::Print() {
     range_->setFocus();
     return;
   }
-  if (PrintSheets(*layout_, page_->title, *sheets, copies_->value(), *printer_, this)) {
-    accept();
-  }
+  if (PrintSheets(*layout_, page_->title, *sheets, copies_->value(), *printer_, this)) accept();
 }
 
 void PreviewDialog::SavePdf() {
-  const QString path = AskPdfPath(page_->title, this);
-  if (!path.isEmpty()) {
-    SavePdfFile(*layout_, page_->title, path, this);
-  }
+  const QString path = AskPdfPath(NameOf(*page_), this);
+  if (!path.isEmpty()) SavePdfFile(*layout_, page_->title, path, this);
 }
 
 }  // namespace kladez::viewer

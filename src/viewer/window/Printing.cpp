@@ -22,9 +22,7 @@ constexpr int kPatience = 400;  // milliseconds
 // A printer that can't make copies by itself is sent the sheets again.
 std::vector<int> Repeated(const std::vector<int>& sheets, int copies) {
   std::vector<int> all;
-  for (int copy = 0; copy < copies; ++copy) {
-    all.insert(all.end(), sheets.begin(), sheets.end());
-  }
+  for (int copy = 0; copy < copies; ++copy) all.insert(all.end(), sheets.begin(), sheets.end());
   return all;
 }
 
@@ -87,9 +85,7 @@ bool PrintSheets(const PaperLayout& layout, const QString& title, const std::vec
   if (painter.begin(&printer)) {
     is_whole = DrawSheets(layout, copies_itself ? sheets : Repeated(sheets, copies), printer,
                           painter, work.Function());
-    if (!is_whole) {
-      printer.abort();
-    }
+    if (!is_whole) printer.abort();
     painter.end();
   }
   const bool has_failed =
@@ -114,12 +110,8 @@ std::optional<std::vector<int>> ParseSheets(const QString& text, int count) {
     const auto match = part.match(piece);
     const int first = match.captured(1).toInt();
     const int last = match.capturedView(2).isEmpty() ? first : match.captured(2).toInt();
-    if (!match.hasMatch() || first < 1 || last < first || last > count) {
-      return std::nullopt;
-    }
-    for (int sheet = first; sheet <= last; ++sheet) {
-      sheets.push_back(sheet - 1);
-    }
+    if (!match.hasMatch() || first < 1 || last < first || last > count) return std::nullopt;
+    for (int sheet = first; sheet <= last; ++sheet) sheets.push_back(sheet - 1);
   }
   return sheets;
 }

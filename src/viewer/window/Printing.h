@@ -26,7 +26,7 @@ class WorkProgress {
   QProgressDialog dialog_;
 };
 
-// Asks where to write the PDF file of a page with this title; "" when the person thinks better of
+// Asks where to write the PDF file of a page with this name; "" when the person thinks better of
 // it.
 QString AskPdfPath(const QString& title, QWidget* parent);
 

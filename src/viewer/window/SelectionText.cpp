@@ -25,9 +25,8 @@ struct Place {
 };
 
 QChar SeparatorBetween(const Place& before, const Place& after) {
-  if (after.table == nullptr || before.table != after.table || before.row != after.row) {
+  if (after.table == nullptr || before.table != after.table || before.row != after.row)
     return u'\n';
-  }
   return before.column == after.column ? u' ' : u'\t';
 }
 
@@ -68,9 +67,8 @@ QString TextOfCell(const Cell& cell) {
       texts << paragraph->Text();
       continue;
     }
-    for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows) {
+    for (const Row& row : std::get<std::unique_ptr<Table>>(block)->rows)
       for (const Cell& inner : row.cells) texts << TextOfCell(inner);
-    }
   }
   return texts.join(u' ');
 }
@@ -85,12 +83,8 @@ QString PlainTextOf(const QTextCursor& selection) {
        block.isValid() && block.position() <= extent.end; block = block.next()) {
     const Place place(block);
     const bool stands_between_tables = place.table == nullptr && block.length() == 1;
-    if (stands_between_tables || !extent.Contains(place)) {
-      continue;
-    }
-    if (before.has_value()) {
-      text += SeparatorBetween(*before, place);
-    }
+    if (stands_between_tables || !extent.Contains(place)) continue;
+    if (before.has_value()) text += SeparatorBetween(*before, place);
     before = place;
     const int from = std::max(0, extent.begin - block.position());
     const int to = std::min(block.length() - 1, extent.end - block.position());

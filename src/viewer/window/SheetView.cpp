@@ -51,9 +51,8 @@ void SheetView::Arrange() {
   if (count > 0) {
     const QSizeF inches = layout_->format().page.fullRect(QPageLayout::Inch).size();
     dpi_ = (viewport()->width() - 2 * look::kSheetGap) / inches.width();
-    if (whole_) {
+    if (whole_)
       dpi_ = std::min(dpi_, (viewport()->height() - 2 * look::kSheetGap) / inches.height());
-    }
     dpi_ = std::clamp(dpi_, kLeastDpi, kMostDpi);
     const int height = count * (SheetSize().height() + look::kSheetGap) + look::kSheetGap;
     verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
@@ -73,27 +72,21 @@ QRect SheetView::SheetRect(int sheet) const {
 }
 
 int SheetView::CurrentSheet() const {
-  if (layout_ == nullptr || layout_->SheetCount() == 0) {
-    return -1;
-  }
+  if (layout_ == nullptr || layout_->SheetCount() == 0) return -1;
   const int middle = verticalScrollBar()->value() + viewport()->height() / 2 - look::kSheetGap;
   const int sheet = middle / (SheetSize().height() + look::kSheetGap);
   return std::clamp(sheet, 0, layout_->SheetCount() - 1);
 }
 
 void SheetView::GoToSheet(int sheet) {
-  if (layout_ == nullptr || layout_->SheetCount() == 0) {
-    return;
-  }
+  if (layout_ == nullptr || layout_->SheetCount() == 0) return;
   sheet = std::clamp(sheet, 0, layout_->SheetCount() - 1);
   verticalScrollBar()->setValue(sheet * (SheetSize().height() + look::kSheetGap));
   current_ = sheet;
 }
 
 QPixmap* SheetView::Picture(int sheet) {
-  if (QPixmap* kept = pictures_.object(sheet)) {
-    return kept;
-  }
+  if (QPixmap* kept = pictures_.object(sheet)) return kept;
   const qreal ratio = devicePixelRatioF();
   auto* picture = new QPixmap(SheetSize() * ratio);
   picture->setDevicePixelRatio(ratio);
@@ -110,15 +103,11 @@ void SheetView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), look::kDesk);
   const int count = layout_ == nullptr ? 0 : layout_->SheetCount();
-  if (count == 0) {
-    return;
-  }
+  if (count == 0) return;
   const int first = verticalScrollBar()->value() / (SheetSize().height() + look::kSheetGap);
   for (int sheet = first; sheet < count; ++sheet) {
     const QRect rect = SheetRect(sheet);
-    if (rect.top() > viewport()->height()) {
-      break;
-    }
+    if (rect.top() > viewport()->height()) break;
     painter.setPen(look::kShadow);
     painter.drawRect(rect.adjusted(-1, -1, 0, 0));
     painter.drawPixmap(rect.topLeft(), *Picture(sheet));

@@ -13,6 +13,7 @@
 #include <system_error>
 #include <utility>
 
+#include "viewer/page/PageName.h"
 #include "viewer/window/PreviewDialog.h"
 #include "viewer/window/Printing.h"
 #include "viewer/window/ViewerLook.h"
@@ -103,9 +104,7 @@ void ViewerWindow::MakeActions() {
   bar->addActions({print, pdf, find, reload});
   bar->addSeparator();
   AddZoomActions(menuBar()->addMenu(u"&Вид"_s));
-  if (kind_ == PageKind::kGuide) {
-    AddGuideActions(menuBar()->addMenu(u"П&ереход"_s));
-  }
+  if (kind_ == PageKind::kGuide) AddGuideActions(menuBar()->addMenu(u"П&ереход"_s));
   view_->addActions({copy, all, find, print, pdf});
   view_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -145,9 +144,7 @@ void ViewerWindow::EnableGuideActions() {
 
 bool ViewerWindow::LoadInstead(const QString& name) {
   const QString before = std::exchange(name_, name);
-  if (Load()) {
-    return true;
-  }
+  if (Load()) return true;
   name_ = before;
   return false;
 }
@@ -203,9 +200,7 @@ void ViewerWindow::ShowPage(std::shared_ptr<const Page> page, const Progress& pr
   auto plan = std::make_shared<const PagePlan>(page_, progress);
   const double width = BodyWidth(Propose(PaperFormat(), plan->ReadableWidth()));
   view_->ShowPage(std::move(plan), width);
-  if (is_first) {
-    FitToScreen();
-  }
+  if (is_first) FitToScreen();
 }
 
 void ViewerWindow::FitToScreen() {
@@ -229,21 +224,16 @@ void ViewerWindow::Find() { find_bar_->Open(); }
 
 void ViewerWindow::Preview() {
   PreviewDialog dialog(page_, this);
-  if (dialog.Prepare()) {
-    dialog.exec();
-  }
+  if (dialog.Prepare()) dialog.exec();
 }
 
 void ViewerWindow::SavePdf() {
-  const QString path = AskPdfPath(page_->title, this);
-  if (path.isEmpty()) {
-    return;
-  }
+  const QString path = AskPdfPath(NameOf(*page_), this);
+  if (path.isEmpty()) return;
   WorkProgress work(u"Разбивка на листы…"_s, this);
   PaperLayout layout(page_, work.Function());
-  if (layout.LayOut(layout.Propose(PaperFormat()), work.Function())) {
+  if (layout.LayOut(layout.Propose(PaperFormat()), work.Function()))
     SavePdfFile(layout, page_->title, path, this);
-  }
 }
 
 void RenderWindowPicture(std::shared_ptr<const Page> page, const QString& path) {
@@ -251,9 +241,8 @@ void RenderWindowPicture(std::shared_ptr<const Page> page, const QString& path) 
   window.ShowPage(std::move(page));
   window.resize(window.findChild<PageView*>()->WidthForPage(), kMostHeight);
   errno = 0;
-  if (!window.grab().save(path)) {
+  if (!window.grab().save(path))
     throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), path.toStdString());
-  }
 }
 
 }  // namespace kladez::viewer
