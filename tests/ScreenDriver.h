@@ -11,6 +11,8 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <cstdio>
+#include <cstdlib>
 #include <deque>
 #include <functional>
 
@@ -116,6 +118,10 @@ class ModalAnswers {
     if (steps_.empty()) {
       if (dialog == outer_) return;
       ADD_FAILURE() << "unexpected dialog " << dialog->windowTitle().toStdString();
+      if (++unexpected_ > 5) {
+        std::fputs("it does not go away: the program ends here\n", stderr);
+        std::_Exit(1);
+      }
       dialog->close();
       return;
     }
@@ -140,6 +146,7 @@ class ModalAnswers {
   std::deque<Step> steps_;
   QTimer timer_;
   QWidget* busy_ = nullptr;
+  int unexpected_ = 0;  // dialogs that no step awaited
   QWidget* outer_ = QApplication::activeModalWidget();
 };
 

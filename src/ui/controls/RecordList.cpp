@@ -294,7 +294,11 @@ void RecordList::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      emit EnterPressed();
+      if (command) {
+        event->ignore();  // a command of the dialog
+      } else {
+        emit EnterPressed();
+      }
       return;
     case Qt::Key_Escape:
       event->ignore();  // closes the dialog or screen
