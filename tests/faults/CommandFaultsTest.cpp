@@ -41,16 +41,20 @@ Tree WithoutUnfinishedBackups(Tree tree) {
 struct Outcome {
   bool reached = false;  // the step came up
   bool told = false;     // the command failed with words for the user
+  bool goes_on = false;  // and they say that the next start ends it
 };
 
 // Runs the command while the hook decides which of its changes fail.
-bool IsToldToFail(const std::function<void()>& command, syscalls::FaultHook hook) {
+bool IsToldToFail(const std::function<void()>& command, syscalls::FaultHook hook,
+                  bool* goes_on = nullptr) {
   bool told = false;
   syscalls::SetFaultHook(std::move(hook));
   try {
     command();
   } catch (const std::system_error& error) {
-    told = ErrorText(error).contains(QLatin1Char('/'));
+    const QString text = ErrorText(error);
+    told = text.contains(QLatin1Char('/'));
+    if (goes_on != nullptr) *goes_on = text.contains(QStringLiteral("её закончит"));
   }
   syscalls::SetFaultHook({});
   return told;
@@ -59,11 +63,16 @@ bool IsToldToFail(const std::function<void()>& command, syscalls::FaultHook hook
 Outcome Run(const std::function<void()>& command, const Fault& fault, int step) {
   if (fault.error == 0) return {.reached = DiesAtStep(step, command)};
   int calls = 0;
-  const bool told = IsToldToFail(command, [&](auto, auto&) {
-    ++calls;
-    return calls == step || (calls > step && fault.stays) ? fault.error : 0;
-  });
-  return {calls >= step, told};
+  Outcome outcome;
+  outcome.told = IsToldToFail(
+      command,
+      [&](auto, auto&) {
+        ++calls;
+        return calls == step || (calls > step && fault.stays) ? fault.error : 0;
+      },
+      &outcome.goes_on);
+  outcome.reached = calls >= step;
+  return outcome;
 }
 
 struct States {
@@ -97,9 +106,10 @@ void Try(const WritingCommand& command, const States& states, const Fault& fault
     const bool is_new = tree == states.after;
     const bool is_old = tree == states.before;
     // A failure that was told has changed nothing, what was not told has been done. On a disk that
-    // stays read-only nothing can be taken back either: the next start decides, for the whole.
-    const bool either = fault.error == 0 || command.silent || (fault.stays && outcome.told);
-    const bool right = either ? is_old || is_new : outcome.told ? is_old : is_new;
+    // stays read-only nothing can be taken back either: the words say what the next start does.
+    const bool either = fault.error == 0 || command.silent;
+    const bool done = !outcome.told || outcome.goes_on;
+    const bool right = either ? is_old || is_new : done ? is_new : is_old;
     if (right) continue;
     ++count->losses;
     ADD_FAILURE() << command.name << ", " << fault.name << " at step " << step

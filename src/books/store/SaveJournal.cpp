@@ -78,6 +78,10 @@ void SaveJournal::Commit(std::vector<Change>& changes,
     RefuseStale(expected);
     // One change is all or nothing by itself.
     if (changes.size() > 1) MakeFinal(changes);
+  } catch (const std::filesystem::filesystem_error& error) {
+    // A list of changes that can't be removed any more is carried out by the next start.
+    if (Discard() != 0 && Discard() != 0 && syscalls::Exists(Manifest())) Tell(error);
+    throw;
   } catch (...) {
     Discard();
     throw;
