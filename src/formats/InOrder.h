@@ -2,16 +2,17 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace kladez {
 
 // Whether row i of a table is the row of the i-th value of the enum, which each row holds in `key`:
 //
 //   static_assert(IsInOrder(kPlaces, &PlaceRow::place));
-template <typename Row, size_t count, typename Key>
+template <typename Row, std::size_t count, typename Key>
 constexpr bool IsInOrder(const std::array<Row, count>& table, Key Row::*key) {
-  for (size_t i = 0; i < count; ++i) {
-    if (static_cast<size_t>(table[i].*key) != i) return false;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (static_cast<std::size_t>(table[i].*key) != i) return false;
   }
   return true;
 }

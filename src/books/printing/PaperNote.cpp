@@ -1,5 +1,7 @@
 #include "books/printing/PaperNote.h"
 
+#include <QStringList>
+
 #include "books/printing/InputError.h"
 #include "formats/Numbers.h"
 

@@ -1,6 +1,7 @@
 // A picture of at most 256 colours in memory: what a drawn chart becomes on its way into a file.
 #pragma once
 
+#include <QtGlobal>
 #include <array>
 #include <vector>
 
