@@ -1,6 +1,8 @@
 #include "screens/printing/ParametersBlock.h"
 
 #include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
 
 #include "screens/printing/PrintDialog.h"
 #include "screens/printing/PrintFields.h"

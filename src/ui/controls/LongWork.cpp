@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QLabel>
+#include <QPointerEvent>
 #include <QProgressBar>
 #include <QVBoxLayout>
 #include <QWindow>
