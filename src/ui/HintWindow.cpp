@@ -18,40 +18,40 @@ using namespace Qt::StringLiterals;
 
 HintWindow::HintWindow(const Hint& hint, QWidget* parent)
     : QDialog(parent),
-      Label1(new QLabel(this)),
-      Text1(new QPlainTextEdit(hint.body, this)),
-      Command4(new QPushButton(u"&Закрыть"_s, this)),
-      Command1(new QAction(this)) {
+      heading_(new QLabel(this)),
+      body_(new QPlainTextEdit(hint.body, this)),
+      close_(new QPushButton(u"&Закрыть"_s, this)),
+      escape_(new QAction(this)) {
   setObjectName(u"helper"_s);
   setWindowTitle(u"Подсказка"_s);
   setAttribute(Qt::WA_DeleteOnClose);
-  Label1->setObjectName(u"Label1"_s);
-  Label1->setTextFormat(Qt::PlainText);
-  Label1->setText(hint.heading);
-  Label1->setFont(look::HeadingFont(font()));
-  Label1->setWordWrap(true);
-  Text1->setObjectName(u"Text1"_s);
-  Text1->setReadOnly(true);
-  Text1->setAccessibleName(hint.heading);
-  Text1->setFrameShape(QFrame::NoFrame);
-  Text1->viewport()->setAutoFillBackground(false);
-  Text1->setMinimumSize(52 * look::kGrid, 13 * look::kGrid);
-  Command4->setObjectName(u"Command4"_s);
-  Command4->setDefault(true);
-  Command1->setObjectName(u"Command1"_s);
-  Command1->setShortcut(Qt::Key_Escape);
-  addAction(Command1);
+  heading_->setObjectName(u"Label1"_s);
+  heading_->setTextFormat(Qt::PlainText);
+  heading_->setText(hint.heading);
+  heading_->setFont(look::HeadingFont(font()));
+  heading_->setWordWrap(true);
+  body_->setObjectName(u"Text1"_s);
+  body_->setReadOnly(true);
+  body_->setAccessibleName(hint.heading);
+  body_->setFrameShape(QFrame::NoFrame);
+  body_->viewport()->setAutoFillBackground(false);
+  body_->setMinimumSize(52 * look::kGrid, 13 * look::kGrid);
+  close_->setObjectName(u"Command4"_s);
+  close_->setDefault(true);
+  escape_->setObjectName(u"Command1"_s);
+  escape_->setShortcut(Qt::Key_Escape);
+  addAction(escape_);
   auto* commands = new QHBoxLayout;
   commands->addStretch();
-  commands->addWidget(Command4);
+  commands->addWidget(close_);
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
-  layout->addWidget(Label1);
-  layout->addWidget(Text1, 1);
+  layout->addWidget(heading_);
+  layout->addWidget(body_, 1);
   layout->addLayout(commands);
-  connect(Command4, &QPushButton::clicked, this, &QWidget::close);
-  connect(Command1, &QAction::triggered, this, &QWidget::close);
-  Command4->setFocus();
+  connect(close_, &QPushButton::clicked, this, &QWidget::close);
+  connect(escape_, &QAction::triggered, this, &QWidget::close);
+  close_->setFocus();
 }
 
 void HintWindow::Show(QWidget* parent, const Hint& hint) {

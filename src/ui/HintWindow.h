@@ -25,10 +25,10 @@ class HintWindow : public QDialog {
  private:
   HintWindow(const Hint& hint, QWidget* parent);
 
-  QLabel* Label1;         // heading
-  QPlainTextEdit* Text1;  // body
-  QPushButton* Command4;  // "Закрыть"
-  QAction* Command1;      // Escape
+  QLabel* heading_;
+  QPlainTextEdit* body_;
+  QPushButton* close_;  // "Закрыть"
+  QAction* escape_;     // closes it by key
 };
 
 }  // namespace kladez
