@@ -11,11 +11,6 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
-DraftLine WithAmount(DocumentLine line) {
-  QString amount = LineAmount(line.quantity, line.price).value_or(u"0.00"_s);
-  return {std::move(line), std::move(amount)};
-}
-
 DocumentDraft DocumentDraft::New(const Place& place, QDate today) {
   DocumentDraft draft(place);
   const QString directory = DocumentDirectory(place.session, place.kind, place.warehouse);

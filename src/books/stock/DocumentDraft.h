@@ -8,26 +8,15 @@
 
 #include "books/directories/GoodsPick.h"
 #include "books/stock/DocumentRegister.h"
+#include "books/stock/DraftParts.h"
 #include "books/stock/PrintSource.h"
 
 namespace kladez {
 
-struct DraftLine {
-  DocumentLine line;
-  QString amount;  // quantity times price, "#0.00"; it is not stored
-};
-
-DraftLine WithAmount(DocumentLine line);
-
 class DocumentDraft {
  public:
-  // Where the document lies; both outlive the draft.
-  struct Place {
-    const DataDir& data;
-    const Session& session;
-    DocumentKind kind;
-    QString warehouse;  // chosen in the register; transfers have none
-  };
+  using Place = DraftPlace;
+  using Outcome = DraftOutcome;
 
   // A new document, with its file name and a proposed number, and a copy of the ledgers that it
   // would post to. Throws filesystem_error.
@@ -66,13 +55,6 @@ class DocumentDraft {
   void ChangeLine(size_t row, const QString& quantity, const QString& price, const QString& amount);
   void RemoveLine(size_t row);
 
-  // All but kSaved: nothing was written.
-  enum class Outcome {
-    kSaved,
-    kNoLines,        // receipts and shipments
-    kSameWarehouse,  // transfers
-    kFileExists,     // a new document, and another has its file's name
-  };
   // Throws filesystem_error, nothing written then; the draft may be saved again. StaleFile: the
   // ledgers or the document are no longer as they were taken; EEXIST for a new document whose file
   // is there by now.
