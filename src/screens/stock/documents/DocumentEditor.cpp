@@ -5,12 +5,11 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <algorithm>
-#include <cerrno>
 
-#include "books/stock/DocumentNumbers.h"
 #include "formats/Dates.h"
 #include "screens/stock/LineDialog.h"
 #include "screens/stock/documents/DocumentNotes.h"
+#include "screens/stock/documents/DraftSaving.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
@@ -356,30 +355,9 @@ void DocumentEditor::Save() {
 }
 
 bool DocumentEditor::TrySave() {
-  using Outcome = DocumentDraft::Outcome;
   if (!FieldsAreSound(this)) return false;
   TakeFields();
-  Outcome outcome = Outcome::kNoLines;
-  bool stale = false;
-  const bool good = Guarded(this, [&] {
-    try {
-      outcome = draft_.Save();
-    } catch (const StaleFile& error) {
-      if (draft_.IsNew() && error.code().value() == EEXIST) {
-        outcome = Outcome::kFileExists;  // it came between the look and the save
-        return;
-      }
-      stale = AskYesNo(this, ErrorText(error) + u"\n\nПрочитать файл заново и сохранить?"_s,
-                       kAttention.toString());
-      if (!stale) throw WorkCancelled();
-      draft_.TakeFilesAnew();
-    }
-  });
-  if (!good) return false;
-  if (stale) return TrySave();
-  if (outcome == Outcome::kFileExists && AskForFreeFile()) return TrySave();
-  if (outcome == Outcome::kSameWarehouse) ShowInformation(this, u"Выбирите разные склады"_s);
-  return outcome == Outcome::kSaved;
+  return SaveDraft(draft_, this);
 }
 
 // The way out with "Да": unlike "OK" it says why a document without lines stays where it is.
@@ -393,32 +371,10 @@ bool DocumentEditor::SaveUnasked() {
   return true;
 }
 
-bool DocumentEditor::AskForFreeFile() {
-  return Guarded(this, [this] {
-    const QString free = draft_.FreeFile();
-    const Answer answer = AskYesNoCancel(
-        this,
-        u"Накладная %1 уже есть. Сохранить под номером файла %2?\n\n«Нет» — записать поверх неё."_s
-            .arg(FileNumberText(draft_.File()), FileNumberText(free)),
-        kAttention.toString());
-    if (answer == Answer::kCancel) throw WorkCancelled();
-    if (answer == Answer::kYes) draft_.SaveAs(free);
-    if (answer == Answer::kNo) draft_.SaveOverExisting();
-  });
-}
-
 void DocumentEditor::EnterAnew() {
   if (!FieldsAreSound(this)) return;
   TakeFields();
-  const QString question =
-      u"Документ будет удалён с возвратом остатков и занесён заново с этими строками под новым "
-      u"номером файла. Продолжить?"_s;
-  if (!AskYesNo(this, question, windowTitle(), DefaultAnswer::kNo)) return;
-  using Outcome = DocumentDraft::Outcome;
-  Outcome outcome = Outcome::kNoLines;
-  if (!Guarded(this, [&] { outcome = draft_.EnterAnew(); })) return;
-  if (outcome == Outcome::kSaved) accept();
-  if (outcome == Outcome::kSameWarehouse) ShowInformation(this, u"Выбирите разные склады"_s);
+  if (EnterDraftAnew(draft_, this)) accept();
 }
 
 }  // namespace kladez

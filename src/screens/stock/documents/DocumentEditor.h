@@ -61,7 +61,6 @@ class DocumentEditor : public QDialog {
   void Save();
   bool TrySave();
   bool SaveUnasked();
-  bool AskForFreeFile();
   void EnterAnew();
   void OrderTabs();
   void ShowNotes();
