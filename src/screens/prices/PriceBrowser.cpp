@@ -8,6 +8,7 @@
 #include "formats/Numbers.h"
 #include "screens/directories/GoodsDirectoryScreen.h"
 #include "screens/directories/QuantityDialog.h"
+#include "screens/prices/PriceRows.h"
 #include "screens/prices/SalePriceDialog.h"
 #include "screens/printing/PricePrintScreen.h"
 #include "ui/Help.h"
@@ -29,11 +30,6 @@ using look::IconName;
 namespace {
 
 QString ScreenName(PriceUse use) { return use == PriceUse::kEditor ? u"Price"_s : u"price2"_s; }
-
-const QString& CellOf(const PriceRow& row, int column) {
-  const std::array cells = {&row.name, &row.unit, &row.purchase, &row.sale};
-  return *cells[column];
-}
 
 }  // namespace
 
@@ -146,20 +142,7 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
 }
 
 void PriceBrowser::BuildList() {
-  const auto row = [this](int at) -> const PriceRow& { return prices_.Rows()[at]; };
-  const int cost_twips = context_.session.IsSeller() ? 0 : 1500;
-  model_ =
-      new RecordModel({{.title = u"Наименование"_s, .twips = 3100, .stretch = true},
-                       {.title = u"Ед.изм."_s, .twips = 1000},
-                       {.title = u"Цена закупа"_s, .twips = cost_twips, .number = true},
-                       {.title = u"Цена реализации"_s, .twips = 2000, .number = true}},
-                      {.count = [this] { return static_cast<int>(prices_.Rows().size()); },
-                       .text = [row](int at, int column) { return CellOf(row(at), column); },
-                       .is_group = [row](int at) { return row(at).IsGroup() || row(at).picked; },
-                       .checked = [row](int at) { return row(at).ticked; },
-                       .set_checked = [this](int at, bool on) { prices_.SetTick(at, on); },
-                       .checkable = [row](int at) { return !row(at).IsGroup(); }},
-                      this);
+  model_ = NewPriceModel(prices_, !context_.session.IsSeller(), this);
   list_ = new RecordList(this);
   list_->setObjectName(u"ListView1"_s);
   list_->SetRecords(model_);
@@ -226,27 +209,17 @@ QString PriceBrowser::SelectedName() const {
   return row < 0 ? QString() : prices_.Rows()[row].name;
 }
 
-// A picker opens on what was picked last, or else on goods: a group can't be picked.
-int PriceBrowser::FirstRow() const {
-  if (use_ == PriceUse::kEditor) return 0;
-  const auto& rows = prices_.Rows();
-  const QString last = context_.settings.Read(settings::kLastPick);
-  auto first = std::find_if(rows.begin(), rows.end(), [&](const PriceRow& row) {
-    return !last.isEmpty() && row.name == last;
-  });
-  if (first == rows.end()) {
-    first =
-        std::find_if(rows.begin(), rows.end(), [](const PriceRow& row) { return !row.IsGroup(); });
-  }
-  return first == rows.end() ? 0 : static_cast<int>(first - rows.begin());
-}
-
 void PriceBrowser::ShowRows(const QString& selected_name) {
   model_->Reset();
   const auto& rows = prices_.Rows();
   const auto same = std::find_if(rows.begin(), rows.end(),
                                  [&](const PriceRow& row) { return row.name == selected_name; });
-  list_->SelectRow(same == rows.end() ? FirstRow() : static_cast<int>(same - rows.begin()));
+  if (same != rows.end()) {
+    list_->SelectRow(static_cast<int>(same - rows.begin()));
+  } else {
+    const bool picks = use_ == PriceUse::kPicker;
+    list_->SelectRow(picks ? FirstRowToPick(rows, context_.settings.Read(settings::kLastPick)) : 0);
+  }
   if (use_ == PriceUse::kPicker) ShowWhatIsTaken();
   list_->SetEmptyText(
       price_list_->currentIndex() < 0
@@ -366,22 +339,8 @@ void PriceBrowser::Pick() {
   ShowWhatIsTaken();
 }
 
-// Ticks look like a choice of several rows, which they are for the print-out only.
 void PriceBrowser::ShowWhatIsTaken() {
-  QStringList words = {u"Выбрано строк: %1."_s.arg(picks_)};
-  const int at = list_->CurrentRow();
-  if (at >= 0 && !prices_.Rows()[at].IsGroup()) {
-    words.append(u"«Выбрать» берёт строку под курсором: «%1»."_s.arg(
-        prices_.Rows()[at].name.left(look::kLongestText)));
-  }
-  const auto ticked = std::count_if(prices_.Rows().begin(), prices_.Rows().end(),
-                                    [](const PriceRow& row) { return row.ticked; });
-  if (ticked > 0) {
-    words.append(
-        u"Галочки (%1) отмечают товары для печати прайс-листа, их «Выбрать» не берёт."_s.arg(
-            ticked));
-  }
-  taken_->setText(words.join(u' '));
+  taken_->setText(WhatIsTaken(prices_.Rows(), list_->CurrentRow(), picks_));
 }
 
 void PriceBrowser::Copy() {

@@ -60,7 +60,6 @@ class PriceBrowser : public QWidget {
   void Refresh();
   void ListLists();
   void Load();
-  int FirstRow() const;
   void ShowRows(const QString& selected_name);
   QString SelectedName() const;
   void SwitchView(GoodsView view);

@@ -1,0 +1,24 @@
+// The rows of a price list as its screens show them and pick from them.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "books/prices/PriceList.h"
+
+class QObject;
+
+namespace kladez {
+
+class RecordModel;
+
+// The four columns, with a tick before each of the goods. `prices` outlives the model.
+RecordModel* NewPriceModel(PriceList& prices, bool with_purchase_price, QObject* parent);
+
+// Where a picker opens: on what was picked last, or else on goods, as a group can't be picked.
+int FirstRowToPick(const std::vector<PriceRow>& rows, const QString& last_pick);
+
+// What a picker says below its list: how many lines were picked so far, and what "Выбрать" takes.
+QString WhatIsTaken(const std::vector<PriceRow>& rows, int current_row, int picks);
+
+}  // namespace kladez
