@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMenuBar>
-#include <QProgressBar>
 #include <QScrollArea>
 #include <QSessionManager>
 #include <QTimer>
@@ -12,7 +10,6 @@
 
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
-#include "formats/Dates.h"
 #include "screens/store/BackupWizard.h"
 #include "screens/store/CheckDialog.h"
 #include "screens/store/ImportSourceDialog.h"
@@ -39,9 +36,7 @@ using namespace Qt::StringLiterals;
 
 constexpr QStringView kTitle = u"Kladez";  // with no Database open
 
-// In twips: the strip and the line at the foot together take 1350 from the panel's height.
-constexpr int kStripHeight = 900;
-constexpr int kFootHeight = 450;
+constexpr int kStripHeight = 900;  // in twips
 
 // Whether the child screen goes with the command, or may go.
 bool LeavesDatabase(Command command) {
@@ -72,7 +67,7 @@ MainWindow::MainWindow(AppContext& context)
   connect(links_panel_, &LinksPanel::Chosen, this, &MainWindow::Go);
   connect(links_strip_, &LinksStrip::Chosen, this, &MainWindow::Go);
   context_.show_progress = Progress([this](double part) {
-    ShowProgress(part);
+    foot_->ShowProgress(part);
     return true;
   });
   way_home_.setSingleShot(true);
@@ -114,20 +109,7 @@ void MainWindow::BuildLayout() {
   view->setWidget(host_);
   host_layout_ = new HostLayout(host_);
   host_layout_->setContentsMargins(0, 0, 0, 0);
-  foot_ = new QWidget(inner);
-  foot_->setFixedHeight(look::FromTwips(kFootHeight));
-  role_ = new QLabel(foot_);
-  role_->setObjectName(u"role"_s);
-  today_ = new QLabel(foot_);
-  today_->setObjectName(u"today"_s);
-  progress_bar_ = NewProgressBar(foot_);
-  auto* foot = new QHBoxLayout(foot_);
-  foot->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
-  foot->addWidget(role_);
-  foot->addStretch();
-  foot->addWidget(progress_bar_);
-  foot->addSpacing(look::kMargin);
-  foot->addWidget(today_);
+  foot_ = new FootLine(inner);
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(links_panel_);
@@ -201,20 +183,7 @@ void MainWindow::ShowPanels(bool show) {
   ShowFoot();
 }
 
-void MainWindow::ShowFoot() {
-  switch (context_.session.role) {
-    case UserRole::kSeller:
-      role_->setText(u"Пользователь: Продавец"_s);
-      break;
-    case UserRole::kDirector:
-      role_->setText(u"Пользователь: Директор"_s);
-      break;
-    case UserRole::kNone:
-      role_->setText(u"Пользователь не выбран"_s);
-      break;
-  }
-  today_->setText(u"Сегодня "_s + LongDateText(context_.clock.Today()));
-}
+void MainWindow::ShowFoot() { foot_->Tell(context_.session.role, context_.clock.Today()); }
 
 void MainWindow::CloseChildScreens() {
   // A screen may have opened another of them beside itself; this order is the told one.
@@ -293,13 +262,6 @@ void MainWindow::Go(Place place) {
     }
   });
   if (!child_) ShowHome();
-}
-
-// Drawn at once: the work that tells of itself leaves no time for events.
-void MainWindow::ShowProgress(double part) {
-  progress_bar_->setValue(static_cast<int>(part * progress_bar_->maximum()));
-  progress_bar_->setVisible(part < 1);
-  if (progress_bar_->isVisible()) progress_bar_->repaint();
 }
 
 // From a dialog that left the child screen where it was.

@@ -14,12 +14,11 @@
 #include "ui/AppContext.h"
 #include "ui/controls/DialogsFirst.h"
 
-class QLabel;
-class QProgressBar;
 class QVBoxLayout;
 
 namespace kladez {
 
+class FootLine;
 class LinksPanel;
 class LinksStrip;
 
@@ -62,7 +61,6 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void ShowLanding();
   void Return();
   void ShowFoot();
-  void ShowProgress(double part);
 
   AppContext& context_;
   MainMenu* menu_;
@@ -70,10 +68,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   LinksStrip* links_strip_;
   QWidget* host_;  // where the child screen lives
   QVBoxLayout* host_layout_;
-  QWidget* foot_;
-  QLabel* role_;
-  QLabel* today_;
-  QProgressBar* progress_bar_;  // how far a price list is loaded
+  FootLine* foot_;
   QPointer<QWidget> child_;
   QTimer way_home_;  // from a child screen that closed itself
   DialogsFirst dialogs_first_;

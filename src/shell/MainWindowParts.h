@@ -1,8 +1,13 @@
 // The fixed parts around the child screen of the main window.
 #pragma once
 
+#include <QDate>
 #include <QVBoxLayout>
+#include <QWidget>
 
+#include "books/store/Session.h"
+
+class QLabel;
 class QProgressBar;
 
 namespace kladez {
@@ -17,7 +22,19 @@ class HostLayout : public QVBoxLayout {
   QSize minimumSize() const override;
 };
 
-// The bar at the foot. It keeps its room while it is away, so that nothing moves when it comes.
-QProgressBar* NewProgressBar(QWidget* parent);
+// The line at the foot: who works here, how far a long piece of work is, what day it is.
+class FootLine : public QWidget {
+ public:
+  explicit FootLine(QWidget* parent);
+
+  void Tell(UserRole role, QDate today);
+  // From 0 to 1, where the bar goes away. Drawn at once: the work leaves no time for events.
+  void ShowProgress(double part);
+
+ private:
+  QLabel* role_;
+  QLabel* today_;
+  QProgressBar* progress_bar_;
+};
 
 }  // namespace kladez
