@@ -27,6 +27,7 @@
 #include "ui/controls/Guard.h"
 #include "ui/controls/HintPicture.h"
 #include "ui/controls/LongWork.h"
+#include "ui/controls/TableSaving.h"
 #include "ui/controls/UnsavedWork.h"
 
 namespace kladez {
@@ -61,6 +62,7 @@ MainWindow::MainWindow(AppContext& context)
   setWindowTitle(kTitle.toString());
   setWindowIcon(look::Icon(look::IconName::kProgram));
   HintPicture::SetOpener(&HintWindow::Show);
+  KeepTableFolder(&context.settings, &context.clock);
   BuildLayout();
   connect(menu_, &MainMenu::Chosen, this, &MainWindow::Go);
   connect(menu_, &MainMenu::Commanded, this, &MainWindow::Do);
@@ -89,6 +91,7 @@ MainWindow::MainWindow(AppContext& context)
 }
 
 MainWindow::~MainWindow() {
+  KeepTableFolder(nullptr, nullptr);
   context_.show_progress = {};
   if (child_) child_->disconnect(this);
 }

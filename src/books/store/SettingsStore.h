@@ -41,6 +41,8 @@ inline constexpr Setting kLastPick{u"Kladez4", u"Picking", u"Last", u""};
 inline constexpr Setting kKeepPicking{u"Kladez4", u"Picking", u"Stay", u"False"};
 inline constexpr Setting kBackupFolder{u"Kladez4", u"Copies", u"Backup", u""};
 inline constexpr Setting kRestoreFolder{u"Kladez4", u"Copies", u"Restore", u""};
+// The folder that tables were saved in.
+inline constexpr Setting kTableFolder{u"Kladez4", u"Tables", u"Folder", u""};
 inline constexpr Setting kSort{u"Kladez4", u"Sorting", u"Sort", u"AZ"};
 // The register of transfers keeps its order apart from the others, under the shorter root.
 inline constexpr Setting kTransferSort{u"Kladez", u"Sorting", u"Sort", u"AZ"};

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "ui/controls/Fields.h"
+#include "ui/controls/ListTable.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {
@@ -91,6 +92,7 @@ class ListKeys : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
+    if (TakesTableKey(list_, *key)) return true;
     const auto modifiers = key->modifiers() & ~Qt::KeypadModifier;
     if (modifiers == Qt::ControlModifier) return TakeCommand(key->key());
     return modifiers == Qt::NoModifier && TakeKey(key->key());
@@ -103,9 +105,6 @@ class ListKeys : public QObject {
       case Qt::Key_F:
         search != nullptr ? search->setFocus(Qt::ShortcutFocusReason)
                           : list_->setFocus(Qt::ShortcutFocusReason);
-        return true;
-      case Qt::Key_C:
-        list_->CopyRows();
         return true;
       case Qt::Key_P:
         if (print_ != nullptr) print_->click();

@@ -1,10 +1,11 @@
 #include "ui/controls/RecordList.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
@@ -13,6 +14,7 @@
 #include <algorithm>
 
 #include "ui/controls/ListRows.h"
+#include "ui/controls/ListTable.h"
 #include "ui/controls/Look.h"
 #include "ui/controls/TypeAhead.h"
 
@@ -158,18 +160,6 @@ bool RecordList::SelectNext(const QString& text) {
   return row >= 0;
 }
 
-void RecordList::CopyRows() const {
-  QStringList lines;
-  for (const int row : SelectedRows()) {
-    QStringList cells;
-    for (int column = 0; column < model()->columnCount(); ++column) {
-      if (!isColumnHidden(column)) cells << model()->index(row, column).data().toString();
-    }
-    lines << cells.join(u'\t');
-  }
-  if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(u'\n'));
-}
-
 void RecordList::SetEmptyText(const QString& text) {
   empty_text_ = text;
   viewport()->update();
@@ -284,6 +274,7 @@ void RecordList::showEvent(QShowEvent* event) {
 }
 
 void RecordList::keyPressEvent(QKeyEvent* event) {
+  if (TakesTableKey(this, *event)) return;  // the toolkit would copy one cell
   const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   switch (event->key()) {
     case Qt::Key_Insert:
@@ -302,11 +293,6 @@ void RecordList::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Escape:
       event->ignore();  // closes the dialog or screen
-      return;
-    case Qt::Key_C:
-      // The toolkit would copy one cell.
-      if (!event->matches(QKeySequence::Copy)) break;
-      CopyRows();
       return;
     case Qt::Key_Space:
       if (Records() != nullptr && Records()->HasChecks()) {
@@ -333,6 +319,15 @@ void RecordList::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QTreeView::keyPressEvent(event);
+}
+
+void RecordList::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu(this);
+  menu.addActions(actions());
+  AddTableCommands(&menu, this);
+  const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
+  menu.exec(by_key ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
+                   : event->globalPos());
 }
 
 void RecordList::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -35,8 +35,6 @@ class RecordList : public QTreeView {
   // The field "Поиск:" of the list, where it has one (ListSearch.h).
   void SetSearchField(TextLine* field) { search_field_ = field; }
   TextLine* SearchField() const { return search_field_; }
-  // Puts the selected rows on the clipboard, a line each, the columns in sight parted by tabs.
-  void CopyRows() const;
 
   // What stands in an empty list: what to do first.
   void SetEmptyText(const QString& text);
@@ -53,6 +51,7 @@ class RecordList : public QTreeView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;  // own commands, then ListTable.h
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void showEvent(QShowEvent* event) override;

@@ -45,7 +45,7 @@ QVariant RecordModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-      return source_.text(row, index.column()).left(look::kLongestText);
+      return Text(row, index.column()).left(look::kLongestText);
     case Qt::TextAlignmentRole:
       return int(Qt::AlignVCenter |
                  (columns_[index.column()].number ? Qt::AlignRight : Qt::AlignLeft));

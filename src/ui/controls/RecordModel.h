@@ -14,6 +14,7 @@ struct Column {
   bool number = false;   // right-aligned
   bool stretch = false;  // takes the room that is left
   QString sample = {};   // "00.00.0000": a text that must fit, whatever the told width
+  bool total = false;    // summed up at the foot of a table that is taken along
 };
 
 // Where the rows come from. `count` and `text` are needed; the others may stay empty.
@@ -41,6 +42,8 @@ class RecordModel : public QAbstractTableModel {
   void Update(int row);  // the row's texts have changed
 
   const std::vector<Column>& Columns() const { return columns_; }
+  // The whole text, of which a list shows no more than it can.
+  QString Text(int row, int column) const { return source_.text(row, column); }
   bool IsGroup(int row) const { return source_.is_group && source_.is_group(row); }
   bool HasChecks() const { return static_cast<bool>(source_.checked); }
   bool HasCheck(int row) const {

@@ -2,15 +2,21 @@
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QFont>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "ScreenDriver.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/ListSearch.h"
+#include "ui/controls/ListTable.h"
 #include "ui/controls/RecordList.h"
+#include "ui/controls/TableSaving.h"
 
 namespace kladez {
 namespace {
@@ -218,6 +224,58 @@ TEST_F(RecordListTest, TheSpaceKeyTicksTheRowOfTheWorkingCopy) {
 TEST_F(RecordListTest, AColumnOfWidthZeroIsHidden) {
   EXPECT_TRUE(list.isColumnHidden(2));
   EXPECT_EQ(list.columnWidth(1), 70);
+}
+
+TEST_F(RecordListTest, RowsAreTakenAlongByKeysAndMenu) {
+  const auto copied = [] { return QApplication::clipboard()->text(); };
+  number = u"1234.50"_s;
+  list.setFocus();
+  list.SelectRow(1);
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(copied(), u"Ассам\t1234,50"_s);
+  const QString all =
+      u"Наименование\tКол-во\n Чай\t1234,50\nАссам\t1234,50\nассорти\t1234,50\nЁлочный\t1234,50"_s;
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(copied(), all);
+  list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+  list.selectAll();
+  QApplication::clipboard()->clear();
+  QStringList commands;
+  QTimer::singleShot(0, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* action : menu->actions()) commands << action->objectName();
+    menu->actions().front()->trigger();
+    menu->close();
+  });
+  QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5), list.mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(list.viewport(), &asked);
+  EXPECT_EQ(commands, (QStringList{u"copy"_s, u"copy_all"_s, u"save_table"_s}));
+  EXPECT_EQ(copied(), all);  // all are selected: with their headings
+}
+
+TEST_F(RecordListTest, ATableIsSavedWhereAskedInTheKindThatItsNameSays) {
+  const QTemporaryDir folder;
+  window.setWindowTitle(u"Остатки: все/\"склады\""_s);
+  const auto save = [&](const QString& name) {
+    QString proposed;
+    QTimer::singleShot(0, [&] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      proposed = dialog->selectedFiles().value(0).section(u'/', -1);
+      dialog->setDirectory(folder.path());
+      dialog->selectFile(name);
+      static_cast<QDialog*>(dialog)->accept();
+    });
+    QTest::keyClick(&list, Qt::Key_T, Qt::ControlModifier);
+    EXPECT_TRUE(proposed.startsWith(u"Остатки все склады 20"_s)) << proposed.toStdString();
+    QFile file(folder.filePath(QDir(folder.path()).entryList({name + u'*'}).value(0)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
+  };
+  EXPECT_EQ(save(u"а.csv"_s).toStdString(),
+            "\xEF\xBB\xBFНаименование;Кол-во\r\n Чай;1\r\nАссам;1\r\nассорти;1\r\nЁлочный;1\r\n");
+  EXPECT_TRUE(save(u"б"_s).startsWith("PK"));
+  EXPECT_TRUE(save(u"в.xlsx"_s).startsWith("PK"));
 }
 
 }  // namespace

@@ -93,7 +93,6 @@ void DocumentProperties::AddPrints(QHBoxLayout* row) {
   print_ = NewCommand(this, u"print"_s, u"&Печать"_s, look::IconName::kPrint);
   row->addWidget(print_);
   // The same commands stand in the menu of the list.
-  list_->setContextMenuPolicy(Qt::ActionsContextMenu);
   const bool one = screens_.prints.size() == 1;
   auto* menu = new QMenu(this);
   for (const PrintCommand& command : screens_.prints) {

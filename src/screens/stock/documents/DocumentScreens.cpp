@@ -44,6 +44,9 @@ void PickFromPrices(AppContext& context, const QString& warehouse, QWidget* pare
 
 Column Text(const QString& title, int twips) { return {title, twips}; }
 Column Number(const QString& title, int twips) { return {title, twips, true}; }
+Column Sum(const QString& title, int twips) {
+  return {.title = title, .twips = twips, .number = true, .total = true};
+}
 Column Date() { return {u"Дата"_s, 950, false, false, u"00.00.0000"_s}; }
 Column Name(const QString& title, int twips) { return {title, twips, false, true}; }
 
@@ -65,14 +68,14 @@ LineColumn Price(const QString& title) {
 }
 // The titles of sums begin with a Latin C, as they always have.
 LineColumn Amount(const QString& title) {
-  return {Number(title, 950), [](const DraftLine& line) { return line.amount; }};
+  return {Sum(title, 950), [](const DraftLine& line) { return line.amount; }};
 }
 LineColumn NetPrice() {
   return {Number(u"Цена со скидкой"_s, 1500),
           [](const DraftLine& line) { return line.line.net_price; }};
 }
 LineColumn NetAmount() {
-  return {Number(u"Cумма со скидкой"_s, 1600), [](const DraftLine& line) {
+  return {Sum(u"Cумма со скидкой"_s, 1600), [](const DraftLine& line) {
             return LineAmount(line.line.quantity, line.line.net_price).value_or(u"0.00"_s);
           }};
 }
@@ -85,7 +88,7 @@ const DocumentScreens& Receipts() {
       .register_columns = {{Text(u"Номер"_s, 850), &H::number},
                            {Date(), &H::date},
                            {Name(u"Поставщик"_s, 2900), &H::party},
-                           {Number(u"Сумма"_s, 1400), &H::sum},
+                           {Sum(u"Сумма"_s, 1400), &H::sum},
                            {Text(u"Закрыт"_s, 1400), &H::closed},
                            {Text(u"Файл"_s, 0), nullptr}},
       .has_journal = true,
@@ -120,9 +123,9 @@ const DocumentScreens& Shipments() {
       .register_columns = {{Text(u"Номер"_s, 850), &H::number},
                            {Date(), &H::date},
                            {Name(u"Клиент"_s, 2780), &H::party},
-                           {Number(u"Сумма"_s, 1400), &H::sum},
+                           {Sum(u"Сумма"_s, 1400), &H::sum},
                            {Number(u"Скидка %"_s, 1000), &H::discount},
-                           {Number(u"Сумма со скидкой"_s, 1400), &H::net_sum},
+                           {Sum(u"Сумма со скидкой"_s, 1400), &H::net_sum},
                            {Text(u"Закрыт"_s, 1000), &H::closed},
                            {Text(u"Файл"_s, 0), nullptr}},
       .has_journal = true,
@@ -162,7 +165,7 @@ const DocumentScreens& Transfers() {
                            {Date(), &H::date},
                            {Text(u"Откуда"_s, 2000), &H::party},
                            {Name(u"Куда"_s, 2000), &H::destination},
-                           {Number(u"Сумма"_s, 1000), &H::sum},
+                           {Sum(u"Сумма"_s, 1000), &H::sum},
                            {Text(u"Файл"_s, 0), nullptr}},
       .has_journal = false,
       .delete_closed_question = u"Возвратить/списать?"_s,
