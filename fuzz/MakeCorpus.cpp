@@ -10,6 +10,7 @@
 #include "formats/DocumentFile.h"
 #include "formats/GoodsFile.h"
 #include "formats/LedgerFile.h"
+#include "formats/OwnRecords.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
 #include "formats/TaxRatesFile.h"
@@ -38,6 +39,14 @@ Party SampleParty(int lines) {
   return party;
 }
 
+OwnRecords SampleRecords() {
+  OwnRecords records;
+  records.Set(u"Рога и копыта"_s, u"Цены"_s, u"Опт"_s);
+  records.Set(u"Рога и копыта"_s, u"Скидка, %"_s, u"5"_s);
+  records.Set(u"Чай чёрный"_s, u"Штрихкод"_s, u"4601234567893"_s);
+  return records;
+}
+
 std::vector<Seed> Seeds() {
   using Kind = SaveSet::Kind;
   const std::vector<SaveSet::Change> changes = {
@@ -59,6 +68,7 @@ std::vector<Seed> Seeds() {
       {"transfers", WriteDocument(DocumentKind::kTransfer, SampleDocument(u"Лавка"_s))},
       {"currency", WriteCurrency(RoubleCurrency())},
       {"taxrates", WriteTaxRates({u"20"_s, u"5"_s})},
+      {"ownrecords", WriteOwnRecords(SampleRecords())},
       {"descriptor", WriteDescriptor({u"0001\\"_s, u"Магазин"_s})},
       {"backup", WriteBackupIndex({{u"0001.us"_s, {u"0001\\"_s, u"Магазин"_s}}})},
       {"check", WriteDocument(DocumentKind::kShipment, SampleDocument({})).replace("\r\n", "\n")},

@@ -17,6 +17,7 @@
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 #include "formats/Ordering.h"
+#include "formats/OwnRecords.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
 #include "formats/TaxRatesFile.h"
@@ -129,6 +130,15 @@ void TaxRateFiles(QByteArrayView bytes) {
           "rates that were read are written and read as the same");
 }
 
+void OwnRecordFiles(QByteArrayView bytes) {
+  const auto records = ReadOwnRecords(bytes);
+  if (!records) return;
+  const QByteArray written = WriteOwnRecords(*records);
+  Require(ReadOwnRecords(written) == records, "own records are written and read as the same");
+  Require(!ReadOwnRecords(QByteArrayView(written).chopped(1)),
+          "own records that are cut are known");
+}
+
 void Descriptors(QByteArrayView bytes) { RequireStable(bytes, ReadDescriptor, WriteDescriptor); }
 
 void Backups(QByteArrayView bytes) { RequireStable(bytes, ReadBackupIndex, WriteBackupIndex); }
@@ -219,6 +229,7 @@ constexpr FuzzTarget kTargets[] = {
     {"transfers", Documents<DocumentKind::kTransfer>},
     {"currency", Currencies},
     {"taxrates", TaxRateFiles},
+    {"ownrecords", OwnRecordFiles},
     {"descriptor", Descriptors},
     {"backup", Backups},
     {"check", Checks},

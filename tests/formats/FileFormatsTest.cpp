@@ -9,6 +9,7 @@
 #include "formats/DocumentFile.h"
 #include "formats/GoodsFile.h"
 #include "formats/LedgerFile.h"
+#include "formats/OwnRecords.h"
 #include "formats/PartyFile.h"
 #include "formats/PriceFile.h"
 #include "formats/TaxRatesFile.h"
@@ -65,6 +66,9 @@ TEST(FileFormats, WellFormedFilesKeepEveryByte) {
        WriteCurrency(RoubleCurrency())},
       {"tax rates", [](auto& b) { return WriteTaxRates(*ReadTaxRates(b)); },
        File("НДС, %\n20\nНСП, %\n\n")},
+      {"own records", [](auto& b) { return WriteOwnRecords(*ReadOwnRecords(b)); },
+       File("Рога\nСкидка, %\n5\nЦены\nОпт\n\nЧай\nМинимум\n 2\n\n\n")},
+      {"no own records", [](auto& b) { return WriteOwnRecords(*ReadOwnRecords(b)); }, File("\n")},
       {"descriptor", [](auto& b) { return WriteDescriptor(ReadDescriptor(b)); },
        File("0001\\\nМагазин на Садовой\n")},
       {"backup", [](auto& b) { return WriteBackupIndex(ReadBackupIndex(b)); },
@@ -84,6 +88,28 @@ TEST(FileFormats, TaxRatesThatAreCutOrNoNumbersAreNone) {
        {"", "НДС, %\n20\nНСП, %", "НДС, %\n20\n", "НДС, %\nмного\nНСП, %\n0\n"}) {
     EXPECT_EQ(ReadTaxRates(File(damaged)), std::nullopt) << damaged;
   }
+}
+
+TEST(FileFormats, OwnRecordsThatAreCutAnywhereAreNone) {
+  const QByteArray whole = File("Рога\nСкидка, %\n5\nЦены\nОпт\n\nЧай\nМинимум\n2\n\n\n");
+  ASSERT_TRUE(ReadOwnRecords(whole));
+  for (qsizetype size = 0; size < whole.size(); ++size) {
+    EXPECT_EQ(ReadOwnRecords(whole.first(size)), std::nullopt) << size;
+  }
+  EXPECT_EQ(ReadOwnRecords(QByteArray(whole + "\r\n")), std::nullopt);
+}
+
+TEST(FileFormats, OwnRecordsFollowNamesThatSwapGoAndMeet) {
+  OwnRecords records;
+  for (const QString& name : {u"А"_s, u"Б"_s, u"В"_s, u"Г"_s}) records.Set(name, u"поле"_s, name);
+  records.Follow(
+      {{u"А"_s, u"Б"_s}, {u"Б"_s, u"А"_s}, {u"В"_s, {}}, {{}, u"Д"_s}, {u"?"_s, u"Г"_s}});
+  EXPECT_EQ(records.Value(u"А"_s, u"поле"_s), u"Б"_s);
+  EXPECT_EQ(records.Value(u"Б"_s, u"поле"_s), u"А"_s);
+  EXPECT_EQ(records.Names(), (QStringList{u"А"_s, u"Б"_s, u"Г"_s}));
+  records.Follow({{u"А"_s, u"А"_s}, {u"А"_s, u"Е"_s}, {u"Б"_s, u"А"_s}});
+  EXPECT_EQ(records.Value(u"А"_s, u"поле"_s), u"Б"_s);
+  EXPECT_EQ(records.Value(u"Е"_s, u"поле"_s), u"Б"_s);
 }
 
 TEST(FileFormats, GoodsStandUnderTheirGroupsWithAReadablePrice) {

@@ -39,10 +39,19 @@ class Gathering {
     } else {
       IgnoreErrors([&] { Write(files::kCurrency.toString(), WriteCurrency(RoubleCurrency())); });
     }
-    if (data_.FileExists(source_ + files::kTaxRates)) {
-      MakeDirectory(files::kOwnDirectory.toString());
-      CopyFile(files::kTaxRates.toString());
-    }
+    CopyOwn(files::kTaxRates);
+  }
+
+  // A file in the folder that older programs do not know goes with the area that it belongs to.
+  void CopyOwn(QStringView name) {
+    if (!data_.FileExists(source_ + name)) return;
+    MakeDirectory(files::kOwnDirectory.toString());
+    CopyFile(name.toString());
+  }
+
+  void CopyClients() {
+    CopyFile(PartyPath(PartyKind::kClient).toString());
+    CopyOwn(files::kClientTerms);
   }
 
   void CopyStock() {
@@ -146,7 +155,7 @@ void ImportAreas(const DataDir& data, const QString& source, const QString& dest
       copy_file(files::kWarehouses),
       copy_file(PartyPath(PartyKind::kFirm)),
       copy_file(PartyPath(PartyKind::kSupplier)),
-      copy_file(PartyPath(PartyKind::kClient)),
+      [&] { gathering.CopyClients(); },
       [&] { gathering.CopyStock(); },
       [&] { gathering.CopyPrices(); },
       copy_file(u"post.ras"),

@@ -110,6 +110,16 @@ TEST_F(ImportTest, TaxRatesComeWithTheCurrency) {
                                    {"0001/kladez/ставки.usd", "\xCD\xC4\xD1, %\r\n20\r\n"}}));
 }
 
+TEST_F(ImportTest, TermsComeWithTheClients) {
+  temp_.PutLines(u"0002\\kladez\\условия.usd"_s, {u""_s});
+  const Tree before = temp_.Tree();
+  Import({Area::kSuppliers, Area::kClients});
+  EXPECT_EQ(Changed(before), (Tree{{"0001/SPR/klient.spr", Foreign(u"клиенты"_s)},
+                                   {"0001/SPR/post.spr", Foreign(u"поставщики"_s)},
+                                   {"0001/kladez/", ""},
+                                   {"0001/kladez/условия.usd", "\r\n"}}));
+}
+
 TEST_F(ImportTest, StockBringsTheSourcesWarehousesWithTheirDirectories) {
   temp_.PutLines(u"0002\\склад.usd"_s, {u"Главный склад"_s, u"Киоск"_s, u"Без остатков"_s});
   temp_.PutLines(u"0002\\Главный склад\\товар.usl"_s, {u"Чай"_s, u"5"_s, u"шт"_s});
