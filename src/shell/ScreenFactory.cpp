@@ -9,6 +9,7 @@
 #include "screens/directories/WarehousesDialog.h"
 #include "screens/prices/PriceScreen.h"
 #include "screens/reports/ChartForms.h"
+#include "screens/reports/GoodsHistoryDialog.h"
 #include "screens/reports/ReportForms.h"
 #include "screens/stock/OnHandScreen.h"
 #include "screens/stock/OpeningBalancesDialog.h"
@@ -94,6 +95,10 @@ static_assert(IsInOrder(kScreens, &ScreenRow::place));
 }  // namespace
 
 QWidget* OpenScreen(Place place, AppContext& context, QWidget* parent) {
+  context.show_goods_history = [&context](QWidget* over, const QString& goods,
+                                          const QString& warehouse) {
+    ShowGoodsHistory(context, goods, warehouse, over);
+  };
   return kScreens[static_cast<size_t>(place)].open(context, parent);
 }
 

@@ -69,6 +69,21 @@ void MakeTransfer(Robot& robot) {
   ShowDialog(robot, u"Command8"_s, u"vnutr_Ass"_s);
 }
 
+// By its key, from the search field.
+void VisitHistory(Robot& robot) {
+  robot.SelectRow(u"ListView1"_s, u"Чай «Ладья»"_s);
+  robot.FocusOn(u"search"_s);
+  robot.Press(Qt::Key_H, Qt::ControlModifier);
+  robot.WaitFor(u"history"_s);
+  robot.Choose(u"Combo1"_s, u"ВСЕ СКЛАДЫ"_s);
+  robot.FocusOn(u"ListView1"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"TovUhod_Ass"_s);
+  robot.Press(Qt::Key_Escape);
+  robot.WaitFor(u"history"_s);
+  ShowAndLeave(robot, u"history"_s);
+}
+
 void VisitCharts(Robot& robot) {
   robot.OpenMenu(u"mnu_Otchet_GP"_s);
   robot.WaitFor(u"otgr"_s);
@@ -150,6 +165,7 @@ void VisitScreens(Robot& robot) {
   MakeTransfer(robot);
   OpenChild(robot, u"mnu_Sklad_NT"_s, u"Sklad"_s);
   robot.Picture(u"Sklad"_s);
+  VisitHistory(robot);
   OpenChild(robot, u"mnu_Sklad_PL"_s, u"Price"_s);
   ShowDialog(robot, u"Command9"_s, u"pricePrint"_s);
   VisitCharts(robot);

@@ -3,12 +3,16 @@
 // the screens.
 #pragma once
 
+#include <functional>
+
 #include "books/printing/PrintOutDesk.h"
 #include "books/store/Clock.h"
 #include "books/store/DataDir.h"
 #include "books/store/Progress.h"
 #include "books/store/Session.h"
 #include "books/store/SettingsStore.h"
+
+class QWidget;
 
 namespace kladez {
 
@@ -21,6 +25,10 @@ struct AppContext {
   // Shows in the main window how much of some work is done; the bar is away again once all is.
   // Nobody watches where there is no main window.
   Progress show_progress = {};
+  // Shows all that has happened to the goods; an empty warehouse stands for all. Its window stands
+  // above the screens that offer it, so that they reach it by this.
+  std::function<void(QWidget* parent, const QString& goods, const QString& warehouse)>
+      show_goods_history = {};
 };
 
 }  // namespace kladez

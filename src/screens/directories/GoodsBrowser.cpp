@@ -62,6 +62,11 @@ const GoodsRecord* GoodsBrowser::Selected() const {
   return row < 0 ? nullptr : &directory_.Rows()[row];
 }
 
+GoodsInWarehouse GoodsBrowser::ForHistory() const {
+  const GoodsRecord* selected = Selected();
+  return {selected == nullptr ? QString() : selected->name, {}};
+}
+
 void GoodsBrowser::ShowAnew(const std::function<void()>& change) {
   const std::optional<GoodsRecord> selected =
       Selected() ? std::optional(*Selected()) : std::nullopt;

@@ -7,6 +7,7 @@
 #include "books/directories/GoodsDirectory.h"
 #include "screens/directories/GoodsFilter.h"
 #include "ui/AppContext.h"
+#include "ui/HistoryCommand.h"
 
 namespace kladez {
 
@@ -30,6 +31,8 @@ class GoodsBrowser : public QWidget {
 
   // The selected row's record; nothing where none is selected.
   const GoodsRecord* Selected() const;
+  // The same for the command "История…".
+  GoodsInWarehouse ForHistory() const;
   // Shows all rows anew and keeps the record selected that was, or else selects the first row.
   void ShowAnew(const std::function<void()>& change);
 

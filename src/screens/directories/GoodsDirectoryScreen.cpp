@@ -10,6 +10,7 @@
 #include "screens/directories/GoodsBrowser.h"
 #include "screens/directories/GoodsForm.h"
 #include "screens/directories/PickQuestion.h"
+#include "ui/HistoryCommand.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/TabOrder.h"
@@ -32,6 +33,7 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
       remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
       sort_(NewCommand(this, u"sort"_s, u"Сортиро&вка"_s, IconName::kSort)),
       chart_(NewCommand(this, u"chart"_s, u"Г&рафик..."_s, IconName::kChart)),
+      history_(NewHistoryCommand(this, context, [this] { return browser_->ForHistory(); })),
       choose_(NewCommand(this, u"Command7"_s, u"Вы&брать"_s, IconName::kPick)),
       close_(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
       up_(NewMove(u"up"_s, u"Порядок: вверх"_s, Qt::Key_Up, true)),
@@ -74,7 +76,8 @@ void GoodsDirectoryScreen::BuildLayout() {
   auto* layout = new QVBoxLayout(this);
   look::SetPanelMargins(layout);
   layout->addWidget(browser_, 1);
-  layout->addLayout(NewCommandRow({add_, change_, remove_, sort_, chart_}, {choose_, close_}));
+  layout->addLayout(
+      NewCommandRow({add_, change_, remove_, sort_, chart_, history_}, {choose_, close_}));
   TabByEye(this);
 }
 

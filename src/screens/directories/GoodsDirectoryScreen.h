@@ -61,15 +61,16 @@ class GoodsDirectoryScreen : public QWidget {
   PickFor pick_for_ = PickFor::kPriceList;
   GoodsBrowser* browser_;
   UnsavedWork* unsaved_;
-  QPushButton* add_;     // "Добавить"
-  QPushButton* change_;  // "Изменить"
-  QPushButton* remove_;  // "Удалить"
-  QPushButton* sort_;    // "Сортировка"
-  QPushButton* chart_;   // "График..."
-  QPushButton* choose_;  // "Выбрать"
-  QPushButton* close_;   // "Закрыть"
-  QAction* up_;          // "Порядок: вверх"
-  QAction* down_;        // "Порядок: вниз"
+  QPushButton* add_;      // "Добавить"
+  QPushButton* change_;   // "Изменить"
+  QPushButton* remove_;   // "Удалить"
+  QPushButton* sort_;     // "Сортировка"
+  QPushButton* chart_;    // "График..."
+  QPushButton* history_;  // "История…"
+  QPushButton* choose_;   // "Выбрать"
+  QPushButton* close_;    // "Закрыть"
+  QAction* up_;           // "Порядок: вверх"
+  QAction* down_;         // "Порядок: вниз"
 };
 
 }  // namespace kladez

@@ -10,6 +10,7 @@
 #include "books/store/SaveSet.h"
 #include "screens/directories/GoodsBrowser.h"
 #include "screens/directories/PickQuestion.h"
+#include "ui/HistoryCommand.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/TabOrder.h"
@@ -34,6 +35,8 @@ GoodsPicker::GoodsPicker(AppContext& context, PickFor pick_for, QWidget* parent)
   layout->addWidget(browser_, 1);
   auto* ending = NewEndingRow(choose_, cancel);
   if (pick_for == PickFor::kReceipt) AddStayTick(ending);
+  ending->insertWidget(ending->count() - 2,
+                       NewHistoryCommand(this, context, [this] { return browser_->ForHistory(); }));
   layout->addLayout(ending);
   TabByEye(this);
   resize(90 * look::kGrid, 60 * look::kGrid);

@@ -13,6 +13,7 @@
 #include "screens/printing/PricePrintScreen.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
+#include "ui/HistoryCommand.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
@@ -84,6 +85,9 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceUse use, QWidget* parent)
   }
   auto* commands = new WrapRow(look::kGrid, look::kTight);
   AddCommands(commands, Place::kLeft);
+  commands->addWidget(NewHistoryCommand(this, context, [this] {
+    return GoodsInWarehouse{SelectedName(), shown_.warehouse};
+  }));
   commands->AddStretch();
   AddCommands(commands, Place::kRight);
   layout->addLayout(commands);

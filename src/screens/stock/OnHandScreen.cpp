@@ -38,6 +38,7 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
       change_(NewCommand(this, u"Command1"_s, u"&Изменить"_s, IconName::kChange)),
       print_(NewCommand(this, u"Command2"_s, u"П&ечать"_s, IconName::kPrint)),
       zero_(NewCommand(this, u"Command3"_s, u"О&бнулить"_s, IconName::kRemove)),
+      history_(NewHistoryCommand(this, context, [this] { return ForHistory(); })),
       close_(NewCommand(this, u"Command4"_s, u"&Закрыть"_s)) {
   setObjectName(u"Sklad"_s);
   setWindowTitle(u"Наличие товаров на складе"_s);
@@ -91,13 +92,18 @@ void OnHandScreen::BuildLayout() {
   layout->addLayout(choice);
   layout->addWidget(filter_);
   layout->addWidget(list_, 1);
-  layout->addLayout(NewCommandRow({change_, zero_, print_}, {close_}));
+  layout->addLayout(NewCommandRow({change_, zero_, print_, history_}, {close_}));
   layout->addWidget(look::NewSeparator(this));
   layout->addWidget(status_);
 }
 
 bool OnHandScreen::AllChosen() const {
   return warehouse_->currentIndex() == warehouse_->count() - 1;
+}
+
+GoodsInWarehouse OnHandScreen::ForHistory() const {
+  const int row = list_->CurrentRow();
+  return {row < 0 ? QString() : on_hand_.Rows()[row].name, warehouse_->currentText()};
 }
 
 bool OnHandScreen::RefusedToSeller() {

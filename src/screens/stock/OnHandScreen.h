@@ -8,6 +8,7 @@
 #include "books/stock/OnHand.h"
 #include "screens/directories/GoodsFilter.h"
 #include "ui/AppContext.h"
+#include "ui/HistoryCommand.h"
 
 class QComboBox;
 class QLabel;
@@ -28,6 +29,7 @@ class OnHandScreen : public QWidget {
   void BuildList();
   void BuildLayout();
   bool AllChosen() const;
+  GoodsInWarehouse ForHistory() const;
   bool RefusedToSeller();
   void Fill();
   void Change();
@@ -42,11 +44,12 @@ class OnHandScreen : public QWidget {
   RecordModel* model_;
   QComboBox* warehouse_;  // "Склад:"
   RecordList* list_;
-  QLabel* status_;       // "Итого наименований: ...     на сумму: ..."
-  QPushButton* change_;  // "Изменить"
-  QPushButton* print_;   // "Печать"
-  QPushButton* zero_;    // "Обнулить"
-  QPushButton* close_;   // "Закрыть"
+  QLabel* status_;        // "Итого наименований: ...     на сумму: ..."
+  QPushButton* change_;   // "Изменить"
+  QPushButton* print_;    // "Печать"
+  QPushButton* zero_;     // "Обнулить"
+  QPushButton* history_;  // "История…"
+  QPushButton* close_;    // "Закрыть"
 };
 
 }  // namespace kladez
