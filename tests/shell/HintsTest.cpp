@@ -77,8 +77,8 @@ TEST(Hints, NoPlaceOfTheTableIsLostOrDoubled) {
       ++places;
     }
   }
-  EXPECT_EQ(ScreensWithHints().size(), 29);
-  EXPECT_EQ(different.size(), 88u);
+  EXPECT_GE(ScreensWithHints().size(), 30);
+  EXPECT_GE(different.size(), 90u);
   EXPECT_EQ(HintPlaces(u"Main").size(), 20);
   EXPECT_GE(places, 145);
 }
