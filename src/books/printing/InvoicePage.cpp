@@ -168,6 +168,13 @@ void WriteDollarForm(PageWriter& page, const InvoiceForm& form) {
   page.Line(u"</body></html>"_s);
 }
 
+// Beside the parties, where the table has room.
+void WritePaymentCell(PageWriter& page, const QString& picture) {
+  page.Line(u"</TD><TD VALIGN=TOP ALIGN=right>"_s);
+  page.Line(u"<IMG SRC=\""_s + picture + u"\" WIDTH=150 HEIGHT=150><br>"_s);
+  page.Line(FontHtml(kTinyFont, u"Оплата по QR-коду"_s));
+}
+
 void WriteRoubleBill(PageWriter& page, const InvoiceForm& form) {
   const auto line = [&](QStringView label, const QString& text) {
     page.Line(FontHtml(kSmallFont, label + text) + u"<br>"_s);
@@ -186,6 +193,7 @@ void WriteRoubleBill(PageWriter& page, const InvoiceForm& form) {
   page.Line(u"<p></p>"_s);
   line(u"<b>Покупатель: </b>", form.buyer[F::kName].text);
   line(u"Адрес: ", form.buyer[F::kLegalAddress].text);
+  if (!form.payment_picture.isEmpty()) WritePaymentCell(page, form.payment_picture);
   page.Line(u"</TD></TR>"_s);
   page.Line(u"</table>"_s);
   WriteTitle(page, form.title, 4);

@@ -41,6 +41,8 @@ struct InvoiceForm {
   QString trader;  // an individual entrepreneur who sells
   PaperSums sums;
   std::vector<InvoiceRow> rows;
+  QString
+      payment_picture;  // rouble bills: the file of the code to pay by, beside the page; or none
 };
 
 // The page, Windows-1251. Throws InputError for a total, discount or row figure that is no number.

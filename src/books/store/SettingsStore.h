@@ -47,9 +47,11 @@ inline constexpr Setting kSort{u"Kladez4", u"Sorting", u"Sort", u"AZ"};
 // The register of transfers keeps its order apart from the others, under the shorter root.
 inline constexpr Setting kTransferSort{u"Kladez", u"Sorting", u"Sort", u"AZ"};
 inline constexpr Setting kInvoiceTrader{u"Kladez4", u"chFact", u"IP", u""};
-// The discount of a rouble invoice taken once, and the document's discount in a cash order.
+// The discount of a rouble invoice taken once, the document's discount in a cash order, the code to
+// pay a bill by.
 inline constexpr Setting kDiscountOnce{u"Kladez4", u"Print", u"DiscountOnce", u"False"};
 inline constexpr Setting kOrderDiscount{u"Kladez4", u"Print", u"OrderDiscount", u"False"};
+inline constexpr Setting kPaymentCode{u"Kladez4", u"Print", u"PaymentCode", u"False"};
 inline constexpr Setting kRate{u"Kladez4", u"nums", u"doll", u"1"};
 inline constexpr Setting kVat{u"Kladez4", u"nums", u"nds", u""};       // written only
 inline constexpr Setting kSalesTax{u"Kladez4", u"nums", u"nsp", u""};  // written only

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -12,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "books/printing/InputError.h"
+#include "books/printing/QrPicture.h"
 #include "formats/DatabaseFiles.h"
 #include "ui/Help.h"
 #include "ui/controls/Columns.h"
@@ -72,6 +74,7 @@ InvoiceScreen::InvoiceScreen(AppContext& context, InvoiceKind kind, const PrintS
               [this](const InvoiceParty& party) {
                 ShowText(director_, party[PartyField::kDirector].text);
                 ShowText(accountant_, party[PartyField::kAccountant].text);
+                CheckPaymentCode();
               }),
       buyer_(*this, PartyKind::kClient),
       payment_number_(
@@ -83,6 +86,10 @@ InvoiceScreen::InvoiceScreen(AppContext& context, InvoiceKind kind, const PrintS
                    .recount = [this] { Attempt([this] { LoadTotals(); }); }}),
       discount_once_(NewKeptTick(u"discount_once"_s, u"С&кидка один раз"_s, settings::kDiscountOnce,
                                  [this] { Attempt([this] { LoadTotals(); }); })),
+      payment_code_(kind == InvoiceKind::kBill
+                        ? NewKeptTick(u"payment_code"_s, u"&QR-код для оплаты"_s,
+                                      settings::kPaymentCode, [this] { CheckPaymentCode(); })
+                        : nullptr),
       totals_(*this, TotalsBlock::Taxes::kShown),
       director_(NewText(this, u"Text34"_s)),
       accountant_(NewText(this, u"Text36"_s)),
@@ -90,6 +97,9 @@ InvoiceScreen::InvoiceScreen(AppContext& context, InvoiceKind kind, const PrintS
       notes_(*this, parameters_) {
   setWindowTitle(TextOf(kind).title.toString());
   Build();
+  for (const QLineEdit* field : findChildren<QLineEdit*>()) {
+    connect(field, &QLineEdit::textEdited, this, &InvoiceScreen::CheckPaymentCode);
+  }
   Reload();
 }
 
@@ -140,6 +150,10 @@ void InvoiceScreen::BuildSheet(QWidget* sheet) {
   parameters->addLayout(parameters_.NewGrid(2));
   parameters->addLayout(
       SideBySide({discount_once_, NewHint(u"Скидка один раз", {discount_once_})}));
+  if (payment_code_ != nullptr) {
+    parameters->addLayout(
+        SideBySide({payment_code_, NewHint(u"QR-код для оплаты", {payment_code_})}));
+  }
   sums->Add(NewBoxOf(this, u"Параметры"_s, parameters));
   sums->Add(NewBoxOf(this, u"Итоги"_s, totals_.NewFiguresGrid()));
   blocks->addLayout(sums);
@@ -216,20 +230,57 @@ void InvoiceScreen::LoadTotals() {
                       ReadCurrencyForms(), totals);
     rows_ = InvoiceRows(source.lines, InvoiceFactor(PageCurrency(), parameters), parameters.vat,
                         FileOf(files::kGoods));
+    due_ = AmountDue(totals.before, parameters);
     rows_ready_ = true;
     notes_.Show({.total = source.total,
                  .parameters = parameters,
-                 .due = AmountDue(totals.before, parameters),
+                 .due = due_,
                  .waybill_discount = parameters.discount},
                 PageCurrency() == InvoiceCurrency::kRoubles);
   });
+  CheckPaymentCode();
+}
+
+bool InvoiceScreen::HasPaymentCode() const {
+  return payment_code_ != nullptr && payment_code_->isChecked() &&
+         PageCurrency() == InvoiceCurrency::kRoubles;
+}
+
+PaymentDetails InvoiceScreen::Payment(const InvoiceForm& form) const {
+  using F = PartyField;
+  const InvoiceParty& seller = form.seller;
+  return {.payee = seller[F::kName].text,
+          .account = seller[F::kAccount].text,
+          .bank = seller[F::kBank].text,
+          .bank_code = seller[F::kBankCode].text,
+          .correspondent = seller[F::kCorrespondent].text,
+          .tax_number = seller[F::kTaxNumber].text,
+          .sum = due_,
+          .purpose = u"Оплата: "_s + form.title};
+}
+
+void InvoiceScreen::CheckPaymentCode() {
+  if (payment_code_ == nullptr) return;
+  payment_code_->setEnabled(PageCurrency() == InvoiceCurrency::kRoubles);
+  notes_.ShowCodeFaults(HasPaymentCode() && rows_ready_ ? PaymentFaults(Payment(Form()))
+                                                        : QStringList());
 }
 
 void InvoiceScreen::Print() {
   PrintPage(u"chet.htm"_s, [this] {
     // The rows are worked out by the load; a form without all of them is not printed.
     if (!rows_ready_) throw InputError(u"Ошибка ввода"_s);
-    const QByteArray page = InvoicePage(Form());
+    InvoiceForm form = Form();
+    if (HasPaymentCode()) {
+      const PaymentDetails payment = Payment(form);
+      const QByteArray picture =
+          PaymentFaults(payment).isEmpty() ? QrPicture(PaymentText(payment)) : QByteArray();
+      if (!picture.isEmpty()) {
+        form.payment_picture = u"oplata.bmp"_s;
+        Context().print_outs.Write(form.payment_picture, picture);
+      }
+    }
+    const QByteArray page = InvoicePage(form);
     if (TextOf(kind_).keeps_trader) {
       Context().settings.Write(settings::kInvoiceTrader, trader_->text());
     }

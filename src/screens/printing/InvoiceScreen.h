@@ -4,6 +4,7 @@
 #pragma once
 
 #include "books/printing/InvoicePage.h"
+#include "books/printing/PaymentDetails.h"
 #include "screens/printing/NoteBlock.h"
 #include "screens/printing/ParametersBlock.h"
 #include "screens/printing/PartyBlock.h"
@@ -36,6 +37,9 @@ class InvoiceScreen : public PrintDialog {
   InvoiceCurrency PageCurrency() const;
   PrintParameters Parameters() const;
   InvoiceForm Form() const;
+  bool HasPaymentCode() const;
+  void CheckPaymentCode();
+  PaymentDetails Payment(const InvoiceForm& form) const;
 
   const InvoiceKind kind_;
   TextLine* const title_;
@@ -48,12 +52,14 @@ class InvoiceScreen : public PrintDialog {
   TextLine* const note_;
   ParametersBlock parameters_;
   QCheckBox* const discount_once_;
+  QCheckBox* const payment_code_;  // bills only
   TotalsBlock totals_;
   TextLine* const director_;
   TextLine* const accountant_;
   TextLine* const trader_;
   NoteBlock notes_;
 
+  QString due_;  // "Итого к оплате:" in figures
   std::vector<InvoiceRow> rows_;
   bool rows_ready_ = false;
 };

@@ -39,6 +39,7 @@ NoteBlock::NoteBlock(PrintDialog& dialog, ParametersBlock& parameters)
       difference_(NewNote(&dialog, u"difference"_s, false)),
       words_cut_(NewNote(&dialog, u"words_cut"_s, true)),
       no_taxes_(NewNote(&dialog, u"no_taxes"_s, true)),
+      code_faults_(NewNote(&dialog, u"code_faults"_s, true)),
       parameters_(parameters) {
   auto* one = NewCommand(rate_row_, u"rate_one"_s, u"Курс &1"_s);
   QObject::connect(one, &QPushButton::clicked, &dialog, [this] { parameters_.SetOwnRate(u"1"_s); });
@@ -56,7 +57,8 @@ NoteBlock::NoteBlock(PrintDialog& dialog, ParametersBlock& parameters)
 QLayout* NoteBlock::NewRows() const {
   auto* rows = new QVBoxLayout;
   rows->setSpacing(look::kTight);
-  for (QWidget* row : std::initializer_list<QWidget*>{no_taxes_, rate_row_, effect_, difference_}) {
+  for (QWidget* row :
+       std::initializer_list<QWidget*>{no_taxes_, rate_row_, effect_, difference_, code_faults_}) {
     rows->addWidget(row);
   }
   return rows;
@@ -75,9 +77,15 @@ void NoteBlock::Show(const PaperNote& note, bool in_roubles) {
                            : QString());
 }
 
+void NoteBlock::ShowCodeFaults(const QStringList& faults) {
+  ShowNote(code_faults_, faults.isEmpty()
+                             ? QString()
+                             : u"QR-код не печатается. "_s + faults.join(u". "_s) + u'.');
+}
+
 void NoteBlock::Clear() {
   rate_row_->hide();
-  for (QLabel* note : {rate_, effect_, difference_, words_cut_}) ShowNote(note, {});
+  for (QLabel* note : {rate_, effect_, difference_, words_cut_, code_faults_}) ShowNote(note, {});
 }
 
 }  // namespace kladez

@@ -2,6 +2,7 @@
 // make of the sum, how far the paper is from the waybill, and in red what needs a second look.
 #pragma once
 
+#include <QStringList>
 #include <functional>
 
 #include "books/printing/PaperNote.h"
@@ -25,6 +26,8 @@ class NoteBlock {
 
   // `in_roubles`: a rate is told in red as long as it is the one that the paper opened with.
   void Show(const PaperNote& note, bool in_roubles);
+  // Why the code to pay by is not on the paper; nothing where there is no fault.
+  void ShowCodeFaults(const QStringList& faults);
   // While the totals can't be worked out.
   void Clear();
 
@@ -35,6 +38,7 @@ class NoteBlock {
   QLabel* difference_;
   QLabel* words_cut_;
   QLabel* no_taxes_;
+  QLabel* code_faults_;
   ParametersBlock& parameters_;
 };
 

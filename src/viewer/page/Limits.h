@@ -26,6 +26,7 @@ inline constexpr qsizetype kLettersOfParagraph = 10'000;
 inline constexpr qsizetype kLettersOfWord = 500;
 
 inline constexpr qint64 kPictureBytes = 16'000'000;      // of a file
+inline constexpr double kPictureSide = 2000;             // pixels that a page may ask for
 inline constexpr qsizetype kPicturePoints = 64'000'000;  // bytes of all that are shown
 
 }  // namespace kladez::viewer::limits

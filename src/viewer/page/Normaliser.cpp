@@ -108,6 +108,9 @@ void Normaliser::ReadPicture(const GumboNode& node, Flow& flow, const Flow::Look
   const QString name = Tag(node).Attribute("src");
   if (name.isEmpty()) return;
   if (!page_.pictures.contains(name)) page_.pictures[name] = load_picture_(name);
+  const QSizeF told(Tag(node).Attribute("width").toInt(), Tag(node).Attribute("height").toInt());
+  const QSizeF most(limits::kPictureSide, limits::kPictureSide);
+  if (!told.isEmpty() && told == told.boundedTo(most)) page_.told_sizes[name] = told;
   if (page_.pictures[name].isNull())
     flow.AddText(u"[нет рисунка: %1]"_s.arg(name), look);
   else

@@ -40,7 +40,8 @@ bool Cell::IsBlank() const {
 }
 
 QSizeF Page::PictureSize(const QString& name) const {
-  const QSizeF size = pictures.at(name).size();
+  const auto told = told_sizes.find(name);
+  const QSizeF size = told != told_sizes.end() ? told->second : QSizeF(pictures.at(name).size());
   const bool fits = widest_picture == 0 || size.width() <= widest_picture;
   return fits ? size : size * (widest_picture / size.width());
 }

@@ -94,8 +94,9 @@ struct Page {
   size_t closing = 0;
   size_t signature = 0;
   size_t signature_end = 0;
-  std::map<QString, QImage> pictures;  // by the name that the page gives
-  double widest_picture = 0;           // a wider one is drawn smaller; 0 sets no limit
+  std::map<QString, QImage> pictures;    // by the name that the page gives
+  std::map<QString, QSizeF> told_sizes;  // of those whose size the page gives, pixels
+  double widest_picture = 0;             // a wider one is drawn smaller; 0 sets no limit
 
   // How large a picture is drawn.
   QSizeF PictureSize(const QString& name) const;

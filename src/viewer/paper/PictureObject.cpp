@@ -25,7 +25,9 @@ void PictureObject::drawObject(QPainter* painter, const QRectF& rect, QTextDocum
   const QImage picture = document->resource(QTextDocument::ImageResource, name).value<QImage>();
   painter->save();
   painter->setRenderHint(QPainter::SmoothPixmapTransform);
-  painter->drawImage(rect, picture);
+  // The layout narrows what is too wide and leaves its height.
+  const QSizeF size = QSizeF(picture.size()).scaled(rect.size(), Qt::KeepAspectRatio);
+  painter->drawImage(QRectF(rect.topLeft(), size), picture);
   painter->restore();
 }
 
