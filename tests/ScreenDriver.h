@@ -1,14 +1,18 @@
 // Drives real windows from a test: finds controls by name, types and clicks, answers modal dialogs
-// as they come up, and holds what every screen is given.
+// as they come up, and holds what every screen is given. It brings the headers of the controls too.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <cstdio>
@@ -26,12 +30,11 @@ namespace kladez {
 class ScreenWorld {
  public:
   explicit ScreenWorld(QDate today = QDate(2026, 11, 22))
-      : settings_(temp_.Root() + QStringLiteral("/../") + QFileInfo(temp_.Root()).fileName() +
-                  QStringLiteral(".ini")),
+      : settings_(temp_.Root() + u"/../"_s + QFileInfo(temp_.Root()).fileName() + u".ini"_s),
         clock_(QDateTime(today, QTime(12, 0))),
         print_outs_(temp_.Data(), [this] { ++viewer_starts_; }),
         context_{temp_.Data(), session_, settings_, clock_, print_outs_} {}
-  ~ScreenWorld() { QFile::remove(temp_.Root() + QStringLiteral(".ini")); }
+  ~ScreenWorld() { QFile::remove(temp_.Root() + u".ini"_s); }
 
   AppContext& Context() { return context_; }
   TempData& Temp() { return temp_; }
@@ -164,7 +167,7 @@ inline ModalAnswers::Step Press(QMessageBox::StandardButton button, const QStrin
 }
 inline ModalAnswers::Step AnswerText(const QString& typed) {
   return [=](QWidget* dialog) {
-    auto* field = dialog->findChild<QLineEdit*>(QStringLiteral("Text1"));
+    auto* field = dialog->findChild<QLineEdit*>(u"Text1"_s);
     ASSERT_NE(field, nullptr);
     field->selectAll();
     Type(field, typed);

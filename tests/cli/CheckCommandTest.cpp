@@ -5,8 +5,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 TEST(CheckCommand, TellsItsFindingsAndEndsWithACode) {
   const TempData temp;
   CreateDatabase(temp.Data(), u"Первая"_s);

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <map>
 #include <set>
@@ -17,8 +15,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QDate kToday(2026, 11, 22);
 

@@ -2,10 +2,8 @@
 // right, a file that vanished, a disk that turns read-only, and the death of the process. What lies
 // on the disk after the next start is the old state or the new one, whole, and a command that did
 // not come to its end has said so. Prints how many faults each command met, and the losses.
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QFile>
 #include <cerrno>
 #include <cstdio>
 
@@ -16,7 +14,7 @@
 namespace kladez {
 namespace {
 
-using Tree = std::map<std::string, std::string>;
+using Tree = FileTree;
 
 struct Fault {
   const char* name;
@@ -54,7 +52,7 @@ bool IsToldToFail(const std::function<void()>& command, syscalls::FaultHook hook
   } catch (const std::system_error& error) {
     const QString text = ErrorText(error);
     told = text.contains(QLatin1Char('/'));
-    if (goes_on != nullptr) *goes_on = text.contains(QStringLiteral("её закончит"));
+    if (goes_on != nullptr) *goes_on = text.contains(u"её закончит"_s);
   }
   syscalls::SetFaultHook({});
   return told;

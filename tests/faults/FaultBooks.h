@@ -2,19 +2,16 @@
 // group and one document of each kind.
 #pragma once
 
-#include <QTemporaryDir>
 #include <filesystem>
-#include <map>
-#include <string>
 
-#include "books/store/DataDir.h"
+#include "TempData.h"
 #include "books/store/Session.h"
 
 namespace kladez {
 
 // The day of the books.
 inline const QDate kBooksDay(2026, 11, 23);
-inline const QString kMainWarehouse = QStringLiteral("Главный склад");
+inline const QString kMainWarehouse = u"Главный склад"_s;
 
 // What lies on the disk besides the open Database; most commands have to do with that alone, and
 // the books are made anew for each try.
@@ -27,10 +24,9 @@ class FaultBooks {
 
   const DataDir& Data() const { return data_; }
   Session& Opened() { return session_; }
-  QString Backups() const { return root_.path() + QStringLiteral("/backups"); }
+  QString Backups() const { return root_.path() + u"/backups"_s; }
 
-  // Every file and directory: relative path to bytes; directories end in "/".
-  std::map<std::string, std::string> Tree() const;
+  FileTree Tree() const { return TreeBelow(root_.path()); }
   std::filesystem::path Root() const { return root_.path().toStdString(); }
   // What the program does as it starts.
   void Reopen();

@@ -1,7 +1,6 @@
 // The power goes away at any instant of any writing command, and the program starts on whatever the
 // disk kept: the old state or the new one, whole; the new one once the command has ended. Small
 // here; `tools/power-cuts` takes more changes freely and prints the table.
-#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <fstream>

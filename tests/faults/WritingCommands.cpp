@@ -1,8 +1,8 @@
 #include "WritingCommands.h"
 
-#include <QFile>
 #include <memory>
 
+#include "SmallBooks.h"
 #include "books/check/Repairs.h"
 #include "books/directories/GoodsDirectory.h"
 #include "books/directories/GoodsMarks.h"
@@ -11,22 +11,17 @@
 #include "books/directories/WarehouseDirectory.h"
 #include "books/prices/PriceStore.h"
 #include "books/printing/PrintOutDesk.h"
-#include "books/stock/DocumentDraft.h"
-#include "books/stock/DocumentRegister.h"
 #include "books/stock/OnHand.h"
 #include "books/stock/OpeningBalances.h"
 #include "books/store/Backup.h"
-#include "books/store/Catalogue.h"
 #include "books/store/Import.h"
 #include "books/store/SaveSet.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-DocumentDraft::Place In(FaultBooks& books, DocumentKind kind) {
-  return {books.Data(), books.Opened(), kind,
-          kind == DocumentKind::kTransfer ? QString() : kMainWarehouse};
+DraftPlace In(FaultBooks& books, DocumentKind kind) {
+  return SmallBooks::In(books.Data(), books.Opened(), kind);
 }
 
 DocumentDraft NewDraft(FaultBooks& books, DocumentKind kind, bool closed) {

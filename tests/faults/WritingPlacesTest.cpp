@@ -1,17 +1,12 @@
 // A writing command that is added later must not be forgotten: every place in the sources that
 // gathers changes has its command in the table, and nothing else in them writes to the disk.
-#include <gtest/gtest.h>
 
-#include <QDirIterator>
-#include <QFile>
 #include <set>
 
 #include "WritingCommands.h"
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // The files below src/ that hold one of the words.
 std::set<std::string> SourcesWith(const QStringList& words) {

@@ -1,12 +1,7 @@
 // The user guide is whole: every page that a screen asks for is there, and every link and picture
 // leads somewhere.
-#include <gtest/gtest.h>
 
-#include <QDir>
-#include <QMessageBox>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QUrl>
 #include <set>
 
@@ -16,8 +11,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QString kHelp = QStringLiteral(KLADEZ_HELP);
 

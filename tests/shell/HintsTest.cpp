@@ -1,10 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <QAccessible>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <set>
 
@@ -15,8 +10,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 std::vector<HintWindow*> ShownHints() {
   std::vector<HintWindow*> shown;

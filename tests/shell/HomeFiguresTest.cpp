@@ -1,20 +1,13 @@
-#include <gtest/gtest.h>
 #include <sys/inotify.h>
 #include <unistd.h>
 
-#include <QCheckBox>
-#include <QFile>
-#include <QLabel>
-
 #include "ScreenDriver.h"
-#include "books/reports/ShipmentsOnDisk.h"
+#include "SmallBooks.h"
 #include "screens/reports/ChartWidget.h"
 #include "shell/HomeScreen.h"
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // Tells whether anything in a directory, or the directory itself, was opened.
 class OpenWatch {
@@ -38,6 +31,7 @@ class OpenWatch {
 class HomeFigures : public testing::Test, protected ScreenWorld {
  protected:
   HomeFigures() {
+    books.Warehouses(u"Главный склад|Магазин"_lines);
     books.Ship(0, u"0001.uhd"_s, u"22.11.2026"_s, u"0"_s, u"10.50"_s, {});
     books.Ship(1, u"0001.uhd"_s, u"21.11.2026"_s, u"0"_s, u"5.00"_s, {});
     books.Ship(1, u"0002.uhd"_s, u"01.02.2026"_s, u"0"_s, u"100"_s, {});
@@ -51,7 +45,7 @@ class HomeFigures : public testing::Test, protected ScreenWorld {
     return sums;
   }
 
-  DocumentsOnDisk books{Temp(), TheSession()};
+  SmallBooks books{Temp().Data(), TheSession()};
 };
 
 TEST_F(HomeFigures, EachActivationCountsAnew) {

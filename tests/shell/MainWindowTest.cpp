@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QCheckBox>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QUrl>
@@ -17,8 +13,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QStringList kDatabaseMenus = {u"mnu_Sklad"_s, u"mnu_Otchet"_s, u"mnu_Sprav"_s};
 

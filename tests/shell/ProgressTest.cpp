@@ -8,8 +8,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // Notes each value that the bar shows while it is there.
 class BarWatch : public QObject {
  public:

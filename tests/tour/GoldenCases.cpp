@@ -12,7 +12,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Step = std::function<void(Robot&)>;
 
 // Screens are told by their names, whatever they open from.

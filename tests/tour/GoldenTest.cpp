@@ -1,7 +1,6 @@
 // Every command of every screen that writes, given by keys and mouse on the real windows: first on
 // a full disk, where it must tell so, change nothing and lose nothing of what was typed, then
 // again; what it leaves is compared by whole bytes. A screen without a case fails the test.
-#include <gtest/gtest.h>
 
 #include <QMessageBox>
 #include <cerrno>
@@ -17,8 +16,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 std::string Readable(const std::string& bytes) {
   return DecodeText(QByteArrayView(bytes)).toStdString();

@@ -2,10 +2,8 @@
 // program neither crashes nor hangs, and it starts again on what was left. The same seed gives the
 // same walk. MONKEY_SEED and MONKEY_STEPS make another one; MONKEY_LOG is a file that tells each
 // step as it is taken.
-#include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
@@ -30,8 +28,6 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:libQt6"; }
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QDate kDay(2026, 3, 5);
 

@@ -1,6 +1,5 @@
 // The road of one shipment, from an empty data directory to the printed waybill, played on the real
 // windows with keys and mouse; afterwards every file on disk is compared by whole bytes.
-#include <gtest/gtest.h>
 
 #include <array>
 
@@ -10,8 +9,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 using Tree = std::map<std::string, std::string>;
 

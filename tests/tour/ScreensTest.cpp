@@ -1,7 +1,5 @@
 // A walk through every screen of the program on the demonstration books.
-#include <gtest/gtest.h>
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
 #include <set>
@@ -17,8 +15,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // Compares what the walk saw with the list that was read and approved by eye. The list as it is now
 // stays in the folder of the pictures: copied over the approved one, it becomes that.

@@ -6,8 +6,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kShop = u"Главный склад"_s;
 
 // Sound books: two goods, a supplier, a client, a document of each kind.
@@ -19,34 +17,21 @@ class BooksCheckTest : public testing::Test {
     AddNewWarehouse(save, u"0001\\Подвал"_s);
     save.Commit();
     Lines(u"склад.usd", {kShop, u"Подвал"_s});
-    Lines(u"SPR\\товар.spr", {u" Бакалея"_s,
-                              u"Чай"_s,
-                              u"Индия"_s,
-                              {},
-                              u"пач."_s,
-                              u"45.00"_s,
-                              u"Соль"_s,
-                              {},
-                              {},
-                              u"кг"_s,
-                              u"10"_s});
+    Lines(u"SPR\\товар.spr", u" Бакалея|Чай|Индия||пач.|45.00|Соль|||кг|10"_lines);
     Lines(u"SPR\\post.spr", QStringList{u"ООО Заря"_s} + QStringList(13));
     Lines(u"SPR\\klient.spr", QStringList{u"ИП Петров"_s} + QStringList(13));
     Lines(u"Главный склад\\PRH\\0001.prh", Receipt());
     Lines(u"Главный склад\\UHD\\0001.uhd",
-          {u"1"_s, u"02.03.2026"_s, u"ИП Петров"_s, u"120.00"_s, u"10"_s, u"108.00"_s, u"да"_s,
-           u"Чай"_s, u"2"_s, u"пач."_s, u"45.00"_s, u"60.00"_s, u"54.00"_s});
+          u"1|02.03.2026|ИП Петров|120.00|10|108.00|да|Чай|2|пач.|45.00|60.00|54.00"_lines);
     Lines(u"ВНПЕР\\0001.vpr", {u"1"_s, u"03.03.2026"_s, kShop, u"Подвал"_s, u"60.00"_s, u"Чай"_s,
                                u"1"_s, u"пач."_s, u"45.00"_s, u"60.00"_s});
-    Lines(u"Главный склад\\товар.usl",
-          {u"Чай"_s, u"7.00"_s, u"пач."_s, u"Соль"_s, u"5"_s, u"кг"_s});
-    Lines(u"Подвал\\товар.usl", {u"Чай"_s, u"1"_s, u"пач."_s});
+    Lines(u"Главный склад\\товар.usl", u"Чай|7.00|пач.|Соль|5|кг"_lines);
+    Lines(u"Подвал\\товар.usl", u"Чай|1|пач."_lines);
     EXPECT_TRUE(OpenDatabase(session_, temp_.Data()));
   }
 
   static QStringList Receipt() {
-    return {u"1"_s,   u"01.03.2026"_s, u"ООО Заря"_s, u"450.00"_s, u"да"_s,
-            u"Чай"_s, u"10"_s,         u"пач."_s,     u"45.00"_s};
+    return u"1|01.03.2026|ООО Заря|450.00|да|Чай|10|пач.|45.00"_lines;
   }
 
   void Lines(QStringView file, const QStringList& lines) {
@@ -239,7 +224,7 @@ TEST_F(BooksCheckTest, EveryFaultIsNamedAtItsPlaceAndItsRepairMendsIt) {
 }
 
 TEST_F(BooksCheckTest, RepairsKeepWhatIsSound) {
-  Lines(u"marked", {u"Соль"_s, u"Кофе"_s, u"Чай"_s});
+  Lines(u"marked", u"Соль|Кофе|Чай"_lines);
   const Finding ticks{u"marked"_s, 2, {}, Repair::kUnknownMarks};
   EXPECT_TRUE(MakeRepair(temp_.Data(), session_, ticks));
   EXPECT_EQ(temp_.Lines(u"0001\\marked"_s), (QStringList{u"Соль"_s, u"Чай"_s}));
@@ -247,8 +232,7 @@ TEST_F(BooksCheckTest, RepairsKeepWhatIsSound) {
             EncodeText(u" Бакалея\r\nЧай\r\nпач.\r\n45\r\n60\r\nКофе\r\n\r\n\r\n\r\n"));
   const Finding prices{u"Подвал\\PRICE\\0001.prc"_s, 6, {}, Repair::kUnknownPrices};
   EXPECT_TRUE(MakeRepair(temp_.Data(), session_, prices));
-  EXPECT_EQ(temp_.Lines(u"0001\\Подвал\\PRICE\\0001.prc"_s),
-            (QStringList{u" Бакалея"_s, u"Чай"_s, u"пач."_s, u"45"_s, u"60"_s}));
+  EXPECT_EQ(temp_.Lines(u"0001\\Подвал\\PRICE\\0001.prc"_s), (u" Бакалея|Чай|пач.|45|60"_lines));
   // A copy that can't be made stops the repair.
   Lines(u"marked", {u"Кофе"_s});
   EXPECT_THROW(MakeRepair(temp_.Data(), session_, ticks,

@@ -2,23 +2,14 @@
 // named as changed may differ from what was there.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <map>
-
 #include "ScreenDriver.h"
-#include "books/store/Catalogue.h"
+#include "SmallBooks.h"
 
 namespace kladez {
 
-using namespace Qt::StringLiterals;
-
 class DirectoryWorld : public ScreenWorld {
  public:
-  DirectoryWorld() {
-    TheSession().chosen_base = CreateDatabase(Temp().Data(), u"Магазин"_s);
-    EXPECT_TRUE(OpenDatabase(TheSession(), Temp().Data()));
-  }
+  DirectoryWorld() { SmallBooks(Temp().Data(), TheSession(), u"Магазин"_s); }
 
   const DataDir& Data() { return Temp().Data(); }
   QStringList Lines(const QString& path) { return Temp().Lines(TheSession().Path(path)); }
@@ -56,7 +47,7 @@ class DirectoryWorld : public ScreenWorld {
     return DecodeText(QByteArrayView(bytes)).toStdString();
   }
 
-  std::map<std::string, std::string> before_;
+  FileTree before_;
 };
 
 }  // namespace kladez

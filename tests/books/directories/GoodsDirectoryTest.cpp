@@ -56,14 +56,14 @@ TEST_F(GoodsDirectoryTest, MovesKeepGoodsBelowTheFirstGroup) {
     QStringList after;
     int selected;
   };
-  const QStringList rows = {u" Г"_s, u"а"_s, u"б"_s, u" Д"_s};
+  const QStringList rows = u" Г|а|б| Д"_lines;
   const Case cases[] = {
       {"goods came before the first group", rows, 1, true, rows, 1},
       {"the first row moved up", rows, 0, true, rows, 0},
       {"the last row moved down", rows, 3, false, rows, 3},
       {"nothing selected", rows, -1, false, rows, -1},
-      {"up", rows, 2, true, {u" Г"_s, u"б"_s, u"а"_s, u" Д"_s}, 1},
-      {"down", rows, 1, false, {u" Г"_s, u"б"_s, u"а"_s, u" Д"_s}, 2},
+      {"up", rows, 2, true, u" Г|б|а| Д"_lines, 1},
+      {"down", rows, 1, false, u" Г|б|а| Д"_lines, 2},
       {"a group may take the first row", {u" Г"_s, u" Д"_s}, 1, true, {u" Д"_s, u" Г"_s}, 0},
   };
   for (const Case& test : cases) {
@@ -76,7 +76,7 @@ TEST_F(GoodsDirectoryTest, MovesKeepGoodsBelowTheFirstGroup) {
 }
 
 TEST_F(GoodsDirectoryTest, GoodsAloneCannotBeMovedOutOfTheirOrder) {
-  PutNames({u" Г"_s, u"б"_s, u"а"_s});
+  PutNames(u" Г|б|а"_lines);
   GoodsDirectory directory = Open(GoodsView::kGoodsOnly);
   EXPECT_EQ(directory.MoveDown(0), 0);
   EXPECT_EQ(directory.MoveUp(1), 1);
@@ -84,13 +84,11 @@ TEST_F(GoodsDirectoryTest, GoodsAloneCannotBeMovedOutOfTheirOrder) {
 }
 
 TEST_F(GoodsDirectoryTest, SortOrdersByGroupThenNameAndDropsEmptyGroups) {
-  PutNames({u"ничьё"_s, u" Яблоки"_s, u"ёж"_s, u"жёлудь"_s, u"еловый"_s, u" Пустая"_s, u" авто"_s,
-            u"Шина"_s, u"руль"_s, u" Яблоки"_s, u"Айва"_s});
+  PutNames(u"ничьё| Яблоки|ёж|жёлудь|еловый| Пустая| авто|Шина|руль| Яблоки|Айва"_lines);
   GoodsDirectory directory = Open();
   directory.Sort();
   EXPECT_EQ(Names(directory.Rows()),
-            (QStringList{u"ничьё"_s, u" авто"_s, u"руль"_s, u"Шина"_s, u" Яблоки"_s, u"Айва"_s,
-                         u"еловый"_s, u"ёж"_s, u"жёлудь"_s}));
+            (u"ничьё| авто|руль|Шина| Яблоки|Айва|еловый|ёж|жёлудь"_lines));
   EXPECT_EQ(Names(File()).size(), 11) << "sorting alone writes nothing";
 }
 
@@ -105,15 +103,15 @@ TEST_F(GoodsDirectoryTest, LimitCountsTheRowsShown) {
 }
 
 TEST_F(GoodsDirectoryTest, SwitchingSavesTheRowsButKeepsTheFormerFileAsTheCopy) {
-  PutNames({u" Г"_s, u"б"_s, u"а"_s});
+  PutNames(u" Г|б|а"_lines);
   GoodsDirectory directory = Open();
   directory.MoveDown(1);
   directory.Insert(2, Goods(u"в"_s));
   directory.ShowGoodsOnly();
-  EXPECT_EQ(Names(directory.Rows()), (QStringList{u"а"_s, u"б"_s, u"в"_s}));
-  EXPECT_EQ(Names(File()), (QStringList{u" Г"_s, u"а"_s, u"б"_s, u"в"_s}));
+  EXPECT_EQ(Names(directory.Rows()), (u"а|б|в"_lines));
+  EXPECT_EQ(Names(File()), (u" Г|а|б|в"_lines));
   directory.Save();
-  EXPECT_EQ(Names(File()), (QStringList{u" Г"_s, u"б"_s, u"а"_s})) << "the copy undoes the move";
+  EXPECT_EQ(Names(File()), (u" Г|б|а"_lines)) << "the copy undoes the move";
 }
 
 TEST_F(GoodsDirectoryTest, FailedSwitchKeepsGroupsAndUnsavedRows) {
@@ -123,7 +121,7 @@ TEST_F(GoodsDirectoryTest, FailedSwitchKeepsGroupsAndUnsavedRows) {
   world_.Protect(u"spr\\товар.spr"_s);
   EXPECT_THROW(directory.ShowGoodsOnly(), std::filesystem::filesystem_error);
   EXPECT_EQ(directory.View(), GoodsView::kGroups);
-  EXPECT_EQ(Names(directory.Rows()), (QStringList{u" Г"_s, u"б"_s, u"а"_s}));
+  EXPECT_EQ(Names(directory.Rows()), (u" Г|б|а"_lines));
 }
 
 TEST_F(GoodsDirectoryTest, ChangeOfGoodsAloneGoesToTheFirstNameThatBeginsWithIt) {
@@ -156,10 +154,10 @@ TEST_F(GoodsDirectoryTest, ChangeOfGoodsAloneGoesToTheFirstNameThatBeginsWithIt)
 }
 
 TEST_F(GoodsDirectoryTest, ChangedNameTakesItsPlaceAmongGoodsAlone) {
-  PutNames({u" Г"_s, u"а"_s, u"б"_s, u"в"_s});
+  PutNames(u" Г|а|б|в"_lines);
   GoodsDirectory directory = Open(GoodsView::kGoodsOnly);
   EXPECT_EQ(directory.Change(0, Goods(u"бб"_s)), 1);
-  EXPECT_EQ(Names(directory.Rows()), (QStringList{u"б"_s, u"бб"_s, u"в"_s}));
+  EXPECT_EQ(Names(directory.Rows()), (u"б|бб|в"_lines));
 }
 
 TEST_F(GoodsDirectoryTest, PickSavesOnlyTheGroupView) {
@@ -183,17 +181,14 @@ TEST_F(GoodsDirectoryTest, OnHandIsAskedOfEveryRecordOfEveryWarehouse) {
   };
   const Case cases[] = {
       {"no record", {}, {}, false},
-      {"zero", {u"Чай"_s, u"0.00"_s, u"пач."_s}, {}, false},
-      {"not a number", {u"Чай"_s, u"много"_s, u"пач."_s}, {}, false},
-      {"second warehouse", {}, {u"Чай"_s, u"1"_s, u"пач."_s}, true},
-      {"reversal", {u"Чай"_s, u"- 5"_s, u"пач."_s}, {}, true},
-      {"comma", {u"Чай"_s, u"0,5"_s, u"пач."_s}, {}, true},
-      {"second record",
-       {u"Чай"_s, u"0"_s, u"пач."_s, u" Г"_s, u"Чай"_s, u"2"_s, u"пач."_s},
-       {},
-       true},
-      {"a unit is no name", {u"Кофе"_s, u"5"_s, u"Чай"_s, u"3"_s, u"3"_s, u"3"_s}, {}, false},
-      {"a longer name", {u"Чай зелёный"_s, u"5"_s, u"пач."_s}, {}, false},
+      {"zero", u"Чай|0.00|пач."_lines, {}, false},
+      {"not a number", u"Чай|много|пач."_lines, {}, false},
+      {"second warehouse", {}, u"Чай|1|пач."_lines, true},
+      {"reversal", u"Чай|- 5|пач."_lines, {}, true},
+      {"comma", u"Чай|0,5|пач."_lines, {}, true},
+      {"second record", u"Чай|0|пач.| Г|Чай|2|пач."_lines, {}, true},
+      {"a unit is no name", u"Кофе|5|Чай|3|3|3"_lines, {}, false},
+      {"a longer name", u"Чай зелёный|5|пач."_lines, {}, false},
   };
   world_.TheSession().warehouses = {u"Главный склад"_s, u"Второй"_s};
   for (const Case& test : cases) {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <random>
 
 #include "TempData.h"
@@ -7,8 +5,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 std::vector<GoodsRecord> RowsOf(const QStringList& names) {
   std::vector<GoodsRecord> rows(names.size());
@@ -35,14 +31,12 @@ TEST(GoodsMarks, TicksTheFirstRowThatBeginsWithTheNameAndStopsAtAnUnknownOne) {
     QStringList names;
     std::vector<bool> ticks;
   };
-  const auto rows = RowsOf({u" Чай"_s, u"Чай чёрный"_s, u"Чай"_s, u"Кофе"_s});
+  const auto rows = RowsOf(u" Чай|Чай чёрный|Чай|Кофе"_lines);
   const Case cases[] = {
       {"a beginning finds a longer name above", {u"Чай"_s}, {false, true, false, false}},
-      {"the rest after an unknown name",
-       {u"Кофе"_s, u"Нет"_s, u"Чай"_s},
-       {false, false, false, true}},
+      {"the rest after an unknown name", u"Кофе|Нет|Чай"_lines, {false, false, false, true}},
       {"letter case counts", {u"кофе"_s}, {false, false, false, false}},
-      {"a name twice", {u"Кофе"_s, u"Кофе"_s, u" Чай"_s}, {true, false, false, true}},
+      {"a name twice", u"Кофе|Кофе| Чай"_lines, {true, false, false, true}},
       {"no marks", {}, {false, false, false, false}},
   };
   for (const Case& test : cases) {
@@ -69,8 +63,7 @@ TEST(GoodsMarks, TicksAsTheSearchFromTheFirstRowDoes) {
 }
 
 TEST(GoodsMarks, WritesTickedNamesInListOrder) {
-  EXPECT_EQ(WriteMarks(RowsOf({u"б"_s, u"в"_s, u"а"_s}), {true, false, true}),
-            EncodeLines({u"б"_s, u"а"_s}));
+  EXPECT_EQ(WriteMarks(RowsOf(u"б|в|а"_lines), {true, false, true}), EncodeLines({u"б"_s, u"а"_s}));
 }
 
 TEST(GoodsMarks, MissingFileTicksNothing) {

@@ -6,11 +6,9 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-const QStringList kGoods = {u" Чай"_s,  u"Чай чёрный"_s, u"Индия"_s, u"-"_s,   u"пач."_s, u"45"_s,
-                            u" Кофе"_s, u"Кофе"_s,       u"Йемен"_s, u"-"_s,   u"кг"_s,   u"1,5"_s,
-                            u"Ёлка"_s,  u"Россия"_s,     u"-"_s,     u"шт."_s, u"много"_s};
+const QStringList kGoods =
+    u" Чай|Чай чёрный|Индия|-|пач.|45| Кофе|Кофе|Йемен|-|кг|1,5|Ёлка|Россия|-|"
+    u"шт.|много"_lines;
 
 // A list as a person sees it: tick, name, unit and both prices, parted by bars.
 QStringList Shown(const PriceList& list) {
@@ -47,8 +45,7 @@ TEST_P(Loading, ShowsTheseRows) {
   EXPECT_EQ(Shown(Load(c.goods, c.prices, c.marked, c.view)), c.shown);
 }
 
-const QStringList kTwins = {u"Мёд"_s, u""_s, u""_s, u"кг"_s, u"1"_s,
-                            u"Мёд"_s, u""_s, u""_s, u"л"_s,  u"2"_s};
+const QStringList kTwins = u"Мёд|||кг|1|Мёд|||л|2"_lines;
 
 const Case kCases[] = {
     {"EmptyListShowsThePurchasePriceAsSalePrice",
@@ -60,23 +57,21 @@ const Case kCases[] = {
       u"Ёлка|шт.|0.00|0.00"_s}},
     {"SalePriceOfTheListAndPurchasePriceOfTheDirectory",
      kGoods,
-     {u" Кофе"_s, u"Кофе"_s, u"г"_s, u"999"_s, u"7.125"_s, u"Чай чёрный"_s, u"пач."_s, u"1.00"_s,
-      u"дорого"_s},
+     u" Кофе|Кофе|г|999|7.125|Чай чёрный|пач.|1.00|дорого"_lines,
      {},
      GoodsView::kGroups,
      {u" Чай"_s, u"Чай чёрный|пач.|45.00|0.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|7.13"_s,
       u"Ёлка|шт.|0.00|0.00"_s}},
     {"NamesAreJoinedExactlyAndLostOnesDropped",
      kGoods,
-     {u"Чай"_s, u""_s, u""_s, u"1"_s, u"чай чёрный"_s, u""_s, u""_s, u"2"_s, u"Чай чёрный "_s,
-      u""_s, u""_s, u"3"_s},
+     u"Чай|||1|чай чёрный|||2|Чай чёрный |||3"_lines,
      {u"Чай"_s, u"кофе"_s},
      GoodsView::kGroups,
      {u" Чай"_s, u"Чай чёрный|пач.|45.00|45.00"_s, u" Кофе"_s, u"Кофе|кг|1.50|1.50"_s,
       u"Ёлка|шт.|0.00|0.00"_s}},
     {"FirstRowOfANameGetsPriceAndTick",
      kTwins,
-     {u"Мёд"_s, u"кг"_s, u"1.00"_s, u"5.00"_s},
+     u"Мёд|кг|1.00|5.00"_lines,
      {u"Мёд"_s},
      GoodsView::kGroups,
      {u"+Мёд|кг|1.00|5.00"_s, u"Мёд|л|2.00|2.00"_s}},
@@ -89,7 +84,7 @@ const Case kCases[] = {
       u"+Ёлка|шт.|0.00|0.00"_s}},
     {"GoodsAloneAreSortedAndGroupsLeftOut",
      kGoods,
-     {u" Чай"_s, u"Кофе"_s, u"кг"_s, u"0.00"_s, u"9.00"_s},
+     u" Чай|Кофе|кг|0.00|9.00"_lines,
      {u"Кофе"_s},
      GoodsView::kGoodsOnly,
      {u"Ёлка|шт.|0.00|0.00"_s, u"+Кофе|кг|1.50|9.00"_s, u"Чай чёрный|пач.|45.00|45.00"_s}},
@@ -106,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(PriceList, Loading, testing::ValuesIn(kCases),
 
 TEST(PriceListFiles, LoadingTellsHowMuchOfTheListIsRead) {
   QStringList prices;
-  for (int i = 0; i < 1000; ++i) prices += {u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s};
+  for (int i = 0; i < 1000; ++i) prices += u"Кофе|кг|1.50|2.00"_lines;
   std::vector<double> told;
   const PriceList list(EncodeLines(kGoods), EncodeLines(prices), {}, GoodsView::kGroups,
                        Progress([&](double part) {
@@ -120,13 +115,12 @@ TEST(PriceListFiles, LoadingTellsHowMuchOfTheListIsRead) {
 }
 
 TEST(PriceListFiles, GroupsAreOneLineAndGoodsFour) {
-  PriceList list = Load(kGoods, {u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s}, {});
+  PriceList list = Load(kGoods, u"Кофе|кг|1.50|2.00"_lines, {});
   list.SetTick(1, true);
   list.SetTick(4, true);
   EXPECT_EQ(DecodeLines(list.PriceBytes()),
-            (QStringList{u" Чай"_s, u"Чай чёрный"_s, u"пач."_s, u"45.00"_s, u"45.00"_s, u" Кофе"_s,
-                         u"Кофе"_s, u"кг"_s, u"1.50"_s, u"2.00"_s, u"Ёлка"_s, u"шт."_s, u"0.00"_s,
-                         u"0.00"_s}));
+            (u" Чай|Чай чёрный|пач.|45.00|45.00| Кофе|Кофе|кг|1.50|2.00|Ёлка|шт.|0.00|"
+             u"0.00"_lines));
   EXPECT_EQ(DecodeLines(list.MarkedBytes()), (QStringList{u"Чай чёрный"_s, u"Ёлка"_s}));
 }
 
@@ -159,8 +153,7 @@ TEST(PriceListRows, OnlyGoodsTakeANewPriceAndOnlyANumber) {
 
 TEST(PriceListRows, PasteTakesEveryRowAsItStandsAndKeepsTicksOfTheSameGoods) {
   PriceList list = Load(kGoods, {}, {u"Кофе"_s, u"Ёлка"_s}, GoodsView::kGoodsOnly);
-  list.Paste(EncodeLines({u" Разное"_s, u"Кофе"_s, u"кг"_s, u"1"_s, u"3"_s, u"Кофе"_s, u"кг"_s,
-                          u"1"_s, u"4"_s, u"Арбуз"_s, u"шт."_s, u"2.00"_s, u"нет"_s}));
+  list.Paste(EncodeLines(u" Разное|Кофе|кг|1|3|Кофе|кг|1|4|Арбуз|шт.|2.00|нет"_lines));
   EXPECT_EQ(Shown(list), (QStringList{u" Разное"_s, u"+Кофе|кг|1|3"_s, u"Кофе|кг|1|4"_s,
                                       u"Арбуз|шт.|2.00|нет"_s}));
 }

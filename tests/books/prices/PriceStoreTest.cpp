@@ -1,24 +1,20 @@
 #include <filesystem>
 
-#include "TempData.h"
+#include "SmallBooks.h"
 #include "books/prices/PriceStore.h"
 #include "books/store/SystemCalls.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kShop = u"Лавка"_s;
 
 class Prices : public testing::Test {
  protected:
   Prices() : store_(temp_.Data(), session_) {
-    session_.base_path = u"0001\\"_s;
-    temp_.PutLines(u"0001\\SPR\\товар.spr"_s,
-                   {u" Чай"_s, u"Чай"_s, u"Индия"_s, u"-"_s, u"пач."_s, u"45.00"_s});
+    SmallBooks(temp_.Data(), session_).Goods(u" Чай|Чай|Индия|-|пач.|45.00"_lines);
     temp_.PutLines(u"0001\\marked"_s, {u"Чай"_s});
-    temp_.PutLines(u"0001\\Лавка\\price.usd"_s, {u"Розница"_s, u"Опт"_s, u"Опт"_s});
+    temp_.PutLines(u"0001\\Лавка\\price.usd"_s, u"Розница|Опт|Опт"_lines);
     temp_.PutLines(u"0001\\Лавка\\PRICE\\0002.prc"_s, PriceLines(u"2.00"_s));
     temp_.PutLines(u"0001\\Лавка\\PRICE\\0001.PRC"_s, PriceLines(u"1.00"_s));
     temp_.PutLines(u"0001\\Лавка\\PRICE\\0000.txt"_s, {u"не прайс"_s});
@@ -37,7 +33,7 @@ class Prices : public testing::Test {
 };
 
 TEST_F(Prices, AListIsTheFileInItsPlaceOfTheListing) {
-  EXPECT_EQ(store_.Names(kShop), (QStringList{u"Розница"_s, u"Опт"_s, u"Опт"_s}));
+  EXPECT_EQ(store_.Names(kShop), (u"Розница|Опт|Опт"_lines));
   EXPECT_EQ(SaleOf(0), u"1.00"_s);
   EXPECT_EQ(SaleOf(1), u"2.00"_s);
   EXPECT_EQ(SaleOf(2), u"45.00"_s) << "a name without a file shows the purchase price";
@@ -62,8 +58,7 @@ TEST_F(Prices, SavingWritesTicksAndTheListOfThatPlaceOnly) {
 TEST_F(Prices, SavingInGoodsOnlyDropsTheGroupRows) {
   PriceList list = store_.Load(kShop, 0, GoodsView::kGoodsOnly);
   store_.Save(list, kShop, 0);
-  EXPECT_EQ(temp_.Lines(u"0001\\Лавка\\PRICE\\0001.prc"_s),
-            (QStringList{u"Чай"_s, u"пач."_s, u"45.00"_s, u"1.00"_s}));
+  EXPECT_EQ(temp_.Lines(u"0001\\Лавка\\PRICE\\0001.prc"_s), (u"Чай|пач.|45.00|1.00"_lines));
 }
 
 TEST_F(Prices, AListWithoutAFileIsNotSavedNorAreItsTicks) {

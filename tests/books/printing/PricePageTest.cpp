@@ -1,19 +1,17 @@
 #include <filesystem>
 
-#include "TempData.h"
+#include "SmallBooks.h"
 #include "books/printing/Pages.h"
 #include "books/printing/PricePage.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kOpenTable = QStringLiteral(
     "<TABLE style=border-Collapse:Collapse bgcolor=#ffffff bordercolor=#000000 cellspacing=0 "
     "cellpadding=0 BORDER=0 WIDTH=100%>");
-const QString kTableEnd = QStringLiteral("</TABLE>");
-const QString kPageEnd = QStringLiteral("</body></html>");
+const QString kTableEnd = u"</TABLE>"_s;
+const QString kPageEnd = u"</body></html>"_s;
 
 PriceRow Item(const QString& name, const QString& purchase, const QString& sale,
               bool ticked = false) {
@@ -91,14 +89,14 @@ TEST(PricePage, InGroupsWithEveryPartAndColumn) {
               u"<p align=CENTER><FONT FACE=Arial SIZE=4><b><i>Прайс</i></b></FONT></p>"_s,
               u"<FONT FACE=Arial SIZE=1.5>22 ноября 2026</FONT><br>"_s,
               kLineTable,
-              HeadRow({u"Склад"_s, u"Ед."_s, u"Закуп"_s, u"Цена"_s}),
+              HeadRow(u"Склад|Ед.|Закуп|Цена"_lines),
               kTableEnd,
               kLineTable,
               GroupLine(u"Чай"_s),
               kTableEnd,
               kOpenTable,
-              Row(u"Улун"_s, {u"5"_s, u"шт."_s, u"11.00"_s, u"16.67"_s}),
-              Row(u"Ассам"_s, {u"0"_s, u"шт."_s, u"49.50"_s, u"30.00"_s}),
+              Row(u"Улун"_s, u"5|шт.|11.00|16.67"_lines),
+              Row(u"Ассам"_s, u"0|шт.|49.50|30.00"_lines),
               kTableEnd,
               kLineTable,
               GroupLine(u"Пусто"_s),
@@ -107,8 +105,8 @@ TEST(PricePage, InGroupsWithEveryPartAndColumn) {
               GroupLine(u"Кофе"_s),
               kTableEnd,
               kOpenTable,
-              Row(u"абрикос <1>"_s, {u"0.5"_s, u"шт."_s, u"1.10"_s, u"0.00"_s}),
-              Row(u"Арабика"_s, {u"1"_s, u"шт."_s, u"0.06"_s, u"3.50"_s}),
+              Row(u"абрикос <1>"_s, u"0.5|шт.|1.10|0.00"_lines),
+              Row(u"Арабика"_s, u"1|шт.|0.06|3.50"_lines),
               kTableEnd,
               u"<p align=CENTER><FONT FACE=Arial SIZE=2>Ждём вас</FONT></p>"_s,
               kPageEnd});
@@ -160,7 +158,7 @@ TEST(PricePage, EachFilterLeavesItsGoodsAndEveryGroup) {
     double at_most;
     QStringList printed;
   } cases[] = {
-      {PrintedGoods::kAll, 0, {u"абрикос <1>"_s, u"Арабика"_s, u"Ассам"_s, u"Улун"_s}},
+      {PrintedGoods::kAll, 0, u"абрикос <1>|Арабика|Ассам|Улун"_lines},
       {PrintedGoods::kPresent, 5, {u"Арабика"_s, u"Улун"_s}},
       {PrintedGoods::kPresent, 4, {u"Арабика"_s}},
       {PrintedGoods::kPresent, 0, {}},
@@ -172,8 +170,7 @@ TEST(PricePage, EachFilterLeavesItsGoodsAndEveryGroup) {
   for (const auto& c : cases) {
     EXPECT_EQ(Printed(c.goods, c.at_most, false), c.printed) << int(c.goods) << ' ' << c.at_most;
   }
-  EXPECT_EQ(Printed(PrintedGoods::kPresent, 0, true),
-            (QStringList{u"[Чай]"_s, u"[Пусто]"_s, u"[Кофе]"_s}));
+  EXPECT_EQ(Printed(PrintedGoods::kPresent, 0, true), (u"[Чай]|[Пусто]|[Кофе]"_lines));
 }
 
 TEST(PricePage, GoodsThatTheDirectoryLacksAreAbsent) {
@@ -189,13 +186,10 @@ TEST(PricePage, GoodsThatTheDirectoryLacksAreAbsent) {
 TEST(PriceStock, SumsRecordsOfOneNameOverTheGivenWarehousesOnly) {
   TempData temp;
   Session session;
-  session.base_path = u"0001\\"_s;
-  temp.PutLines(u"0001\\spr\\товар.spr"_s, {u" Чай"_s, u"Чай чёрный"_s, u""_s, u""_s, u""_s, u"1"_s,
-                                            u"Чай"_s, u""_s, u""_s, u""_s, u"1"_s});
-  temp.PutLines(u"0001\\А\\товар.usl"_s, {u"Чай"_s, u"0.1"_s, u""_s, u" Чай"_s, u"Чай"_s,
-                                          u"- 0.3"_s, u""_s, u"чай"_s, u"9"_s, u""_s});
-  temp.PutLines(u"0001\\Б\\товар.usl"_s,
-                {u"Чай"_s, u"0.2"_s, u""_s, u"Чай чёрный"_s, u"5.00"_s, u""_s});
+  SmallBooks(temp.Data(), session)
+      .Goods(u" Чай|Чай чёрный||||1|Чай||||1"_lines)
+      .Ledger(u"А"_s, u"Чай|0.1|| Чай|Чай|- 0.3||чай|9|"_lines)
+      .Ledger(u"Б"_s, u"Чай|0.2||Чай чёрный|5.00|"_lines);
   EXPECT_EQ(LoadStockByName(temp.Data(), session, {u"А"_s}),
             (StockByName{{u"Чай"_s, u"-0.2"_s}, {u"Чай чёрный"_s, u"0"_s}}));
   EXPECT_EQ(LoadStockByName(temp.Data(), session, {u"А"_s, u"Б"_s}),

@@ -5,8 +5,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // A long report is made before the directory is taken: another program saves meanwhile.
 TEST(PrintOutDesk, NobodyWaitsForAPageThatIsBeingMade) {
   const TempData temp;

@@ -1,4 +1,4 @@
-#include "ShipmentsOnDisk.h"
+#include "SmallBooks.h"
 #include "books/directories/WarehouseDirectory.h"
 #include "books/reports/GoodsHistory.h"
 #include "formats/Dates.h"
@@ -7,34 +7,19 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class History : public testing::Test, protected ShipmentsOnDisk {
+class History : public testing::Test, protected BooksOnDisk {
  protected:
   History() {
-    Ledger(0, {u"Чай"_s, u"6.5"_s, u"пач."_s, u"Чай зелёный"_s, u"50"_s, u"пач."_s, u"Чай"_s,
-               u"- 1"_s, u"пач."_s});
-    Ledger(1, {u"Чай"_s, u"3"_s, u"пач."_s});
+    Ledger(u"Главный склад"_s, u"Чай|6.5|пач.|Чай зелёный|50|пач.|Чай|- 1|пач."_lines);
+    Ledger(u"Магазин"_s, u"Чай|3|пач."_lines);
     Put(u"Главный склад\\PRH\\0001.prh"_s,
-        {u"1"_s, u"05.11.2026 "_s, u"Заря"_s, u"450.00"_s, u"да"_s, u"Чай"_s, u"10"_s, u"пач."_s,
-         u"45.00"_s, u"Чай зелёный"_s, u"50"_s, u"пач."_s, u"45.00"_s});
-    Put(u"Главный склад\\PRH\\0002.prh"_s, {u"2"_s, u"06.11.2026"_s, u"Заря"_s, u"45.00"_s,
-                                            u"нет"_s, u"Чай"_s, u"100"_s, u"пач."_s, u"45.00"_s});
-    Put(u"Главный склад\\PRH\\0003.prh"_s,
-        {u"3"_s, u"без числа"_s, u"Заря"_s, u"0"_s, u"да"_s, u"Чай"_s, u"2"_s, u"пач."_s, u"1"_s});
+        u"1|05.11.2026 |Заря|450.00|да|Чай|10|пач.|45.00|Чай зелёный|50|пач.|45.00"_lines);
+    Put(u"Главный склад\\PRH\\0002.prh"_s, u"2|06.11.2026|Заря|45.00|нет|Чай|100|пач.|45.00"_lines);
+    Put(u"Главный склад\\PRH\\0003.prh"_s, u"3|без числа|Заря|0|да|Чай|2|пач.|1"_lines);
     Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"10"_s, u"0"_s,
-         {u"Чай"_s, u"2.5"_s, u"пач."_s, u"45.00"_s, u"60.00"_s, u"54.00"_s});
-    Put(u"ВНПЕР\\0001.vpr"_s, {u"4"_s, u"07.11.2026"_s, u"Главный склад"_s, u"Магазин"_s, u"0"_s,
-                               u"Чай"_s, u"3"_s, u"пач."_s, u"45.00"_s, u"60.00"_s});
-    Put(u"ВНПЕР\\0002.vpr"_s, {u"5"_s, u"07.11.2026"_s, u"Снесённый"_s, u"Магазин"_s, u"0"_s,
-                               u"Чай"_s, u"1"_s, u"пач."_s, u"45.00"_s, u"60.00"_s});
-  }
-
-  void Put(const QString& file, const QStringList& lines) {
-    temp.PutLines(session.Path(file), lines);
-  }
-  void Ledger(int warehouse, const QStringList& lines) {
-    temp.PutLines(LedgerPath(session, session.warehouses[warehouse]), lines);
+         u"Чай|2.5|пач.|45.00|60.00|54.00"_lines);
+    Put(u"ВНПЕР\\0001.vpr"_s, u"4|07.11.2026|Главный склад|Магазин|0|Чай|3|пач.|45.00|60.00"_lines);
+    Put(u"ВНПЕР\\0002.vpr"_s, u"5|07.11.2026|Снесённый|Магазин|0|Чай|1|пач.|45.00|60.00"_lines);
   }
 
   QStringList Rows(const QString& warehouse) {
@@ -53,14 +38,12 @@ class History : public testing::Test, protected ShipmentsOnDisk {
 };
 
 TEST_F(History, EndsWithWhatTheLedgersHoldAndBeginsWithWhatNoDocumentTells) {
-  EXPECT_EQ(Rows(u"Главный склад"_s),
-            (QStringList{u"-: 1 = 1"_s, u"05.11 0001.prh Заря 45.00: 10 = 11"_s,
-                         u"05.11 0001.uhd Клиент 54.00: -2.5 = 8.5"_s,
-                         u"06.11 0002.prh открыт Заря 45.00: 100 = 8.5"_s,
-                         u"07.11 0001.vpr Магазин : -3 = 5.5"_s}));
-  EXPECT_EQ(Rows(u"Магазин"_s),
-            (QStringList{u"-: -1 = -1"_s, u"07.11 0001.vpr Главный склад : 3 = 2"_s,
-                         u"07.11 0002.vpr Снесённый : 1 = 3"_s}));
+  EXPECT_EQ(Rows(u"Главный склад"_s), (u"-: 1 = 1|05.11 0001.prh Заря 45.00: 10 = 11|"
+                                       u"05.11 0001.uhd Клиент 54.00: -2.5 = 8.5|"
+                                       u"06.11 0002.prh открыт Заря 45.00: 100 = 8.5|"
+                                       u"07.11 0001.vpr Магазин : -3 = 5.5"_lines));
+  EXPECT_EQ(Rows(u"Магазин"_s), (u"-: -1 = -1|07.11 0001.vpr Главный склад : 3 = 2|"
+                                 u"07.11 0002.vpr Снесённый : 1 = 3"_lines));
   const QStringList all = Rows(kAllWarehouses.toString());
   EXPECT_EQ(all.size(), 6) << "without untold stock no first row, and a transfer has two";
   EXPECT_EQ(all.last(), u"07.11 0002.vpr Снесённый : 1 = 8.5"_s);

@@ -1,14 +1,12 @@
 #include <filesystem>
 
-#include "books/stock/Books.h"
-#include "books/stock/DocumentDraft.h"
+#include "SmallBooks.h"
 #include "books/stock/DraftStock.h"
 #include "books/store/SystemCalls.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Files = std::map<QString, QStringList>;
 using Outcome = DocumentDraft::Outcome;
 
@@ -20,28 +18,20 @@ const QString kShop = u"Магазин/товар.usl"_s;
 
 class Drafts : public testing::Test {
  protected:
-  Drafts() { SeedBooks(temp_, session_); }
+  Drafts() { books_.Warehouses(u"Склад|Магазин"_lines); }
 
-  DocumentDraft::Place In(DocumentKind kind) const {
-    return {temp_.Data(), session_, kind, kind == DocumentKind::kTransfer ? QString() : u"Склад"_s};
-  }
   DocumentDraft New(DocumentKind kind) const {
-    return DocumentDraft::New(In(kind), QDate(2026, 11, 22));
+    return DocumentDraft::New(books_.In(kind), QDate(2026, 11, 22));
   }
   // Opens the only document there is, as its register shows it.
-  DocumentDraft Reopen(DocumentKind kind) const {
-    DocumentRegister rows(temp_.Data(), session_, kind);
-    rows.Load(In(kind).warehouse, {.period = RegisterFilter::Period::kYear, .year = u"2026"_s},
-              QDate(2026, 11, 22), false);
-    EXPECT_EQ(rows.Rows().size(), 1);
-    return DocumentDraft::Open(In(kind), rows.Rows().at(0));
-  }
+  DocumentDraft Reopen(DocumentKind kind) const { return books_.Open(kind); }
   void Stock(const QString& warehouse, const QStringList& lines) const {
     temp_.PutLines(LedgerPath(session_, warehouse), lines);
   }
 
   TempData temp_;
   Session session_;
+  SmallBooks books_{temp_.Data(), session_};
 };
 
 GoodsPick Pick(const QString& name, const QString& quantity, const QString& price,
@@ -55,14 +45,14 @@ TEST_F(Drafts, AnOpenReceiptMovesNoStock) {
   EXPECT_TRUE(draft.AddLine(Pick(u"Чай"_s, u"3"_s, u"45.00"_s)));
   EXPECT_TRUE(draft.AddLine(Pick(u"Чай"_s, u"0.333"_s, u"10"_s)));
   EXPECT_EQ(draft.Save(), Outcome::kSaved);
-  EXPECT_EQ(Filled(temp_),
-            (Files{{kPrh,
-                    {u"1"_s, u"22.11.2026"_s, u"ООО Заря"_s, u"138.33"_s, u"нет"_s, u"Чай"_s,
-                     u"3"_s, u"шт."_s, u"45.00"_s, u"Чай"_s, u"0.333"_s, u"шт."_s, u"10.00"_s}}}));
+  EXPECT_EQ(
+      Filled(temp_),
+      (Files{
+          {kPrh, u"1|22.11.2026|ООО Заря|138.33|нет|Чай|3|шт.|45.00|Чай|0.333|шт.|10.00"_lines}}));
 }
 
 TEST_F(Drafts, AReceiptPostsOnceWhenItIsClosed) {
-  Stock(u"Склад"_s, {u"Чай"_s, u"1.5"_s, u"шт."_s});
+  Stock(u"Склад"_s, u"Чай|1.5|шт."_lines);
   DocumentDraft draft = New(DocumentKind::kReceipt);
   draft.AddLine(Pick(u"Чай"_s, u"0.125"_s, u"45.00"_s));
   draft.AddLine(Pick(u"Кофе"_s, u"2"_s, u"100.00"_s));
@@ -71,7 +61,7 @@ TEST_F(Drafts, AReceiptPostsOnceWhenItIsClosed) {
   EXPECT_FALSE(again.WasClosed());
   again.SetClosed(true);
   again.Save();
-  const QStringList posted = {u"Чай"_s, u"1.625"_s, u"шт."_s, u"Кофе"_s, u"2"_s, u"шт."_s};
+  const QStringList posted = u"Чай|1.625|шт.|Кофе|2|шт."_lines;
   EXPECT_EQ(Filled(temp_)[kStock], posted);
   // Its lines may still change; the ledger does not follow.
   DocumentDraft closed = Reopen(DocumentKind::kReceipt);
@@ -79,14 +69,12 @@ TEST_F(Drafts, AReceiptPostsOnceWhenItIsClosed) {
   closed.RemoveLine(1);
   closed.ChangeLine(0, u"7"_s, u"45"_s, u"315.00"_s);
   EXPECT_EQ(closed.Save(), Outcome::kSaved);
-  EXPECT_EQ(Filled(temp_), (Files{{kPrh,
-                                   {u"1"_s, u"22.11.2026"_s, u"-"_s, u"315.00"_s, u"да"_s, u"Чай"_s,
-                                    u"7"_s, u"шт."_s, u"45.00"_s}},
-                                  {kStock, posted}}));
+  EXPECT_EQ(Filled(temp_),
+            (Files{{kPrh, u"1|22.11.2026|-|315.00|да|Чай|7|шт.|45.00"_lines}, {kStock, posted}}));
 }
 
 TEST_F(Drafts, AShipmentTakesTheDiscountOffSumAndPrices) {
-  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  Stock(u"Склад"_s, u"Чай|10|шт."_lines);
   DocumentDraft draft = New(DocumentKind::kShipment);
   draft.SetParty(u"ООО Свет"_s);
   draft.AddLine(Pick(u"Чай"_s, u"0.125"_s, u"60.01"_s, u"45,5"_s));
@@ -97,26 +85,9 @@ TEST_F(Drafts, AShipmentTakesTheDiscountOffSumAndPrices) {
   // 0.125 x 60.01 is 7.50; 207.48 less 7.5 percent is 191.919.
   EXPECT_EQ(Filled(temp_),
             (Files{{kUhd,
-                    {u"1"_s,
-                     u"22.11.2026"_s,
-                     u"ООО Свет"_s,
-                     u"207.48"_s,
-                     u"7.5"_s,
-                     u"191.92"_s,
-                     u"да"_s,  //
-                     u"Чай"_s,
-                     u"0.125"_s,
-                     u"шт."_s,
-                     u"45,5"_s,
-                     u"60.01"_s,
-                     u"55.51"_s,  //
-                     u"Кофе"_s,
-                     u"2"_s,
-                     u"шт."_s,
-                     {},
-                     u"99.99"_s,
-                     u"92.49"_s}},
-                   {kStock, {u"Чай"_s, u"9.88"_s, u"шт."_s, u"Кофе"_s, u"-2.00"_s, u"шт."_s}}}));
+                    u"1|22.11.2026|ООО Свет|207.48|7.5|191.92|да|Чай|0.125|шт.|45,5|60.01|"
+                    u"55.51|Кофе|2|шт.||99.99|92.49"_lines},
+                   {kStock, u"Чай|9.88|шт.|Кофе|-2.00|шт."_lines}}));
 }
 
 TEST_F(Drafts, WithoutADiscountBothSumsAreOne) {
@@ -124,29 +95,26 @@ TEST_F(Drafts, WithoutADiscountBothSumsAreOne) {
   draft.AddLine(Pick(u"Чай"_s, u"3"_s, u"60"_s, u"45"_s));
   draft.Save();
   EXPECT_EQ(Filled(temp_)[kUhd],
-            QStringList({u"1"_s, u"22.11.2026"_s, u"-"_s, u"180.00"_s, u"0"_s, u"180.00"_s,
-                         u"нет"_s, u"Чай"_s, u"3"_s, u"шт."_s, u"45"_s, u"60.00"_s, u"60.00"_s}));
+            QStringList(u"1|22.11.2026|-|180.00|0|180.00|нет|Чай|3|шт.|45|60.00|60.00"_lines));
 }
 
 TEST_F(Drafts, ATransferPostsAtItsFirstSaveAndRoundsTheSourceOnly) {
-  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
-  Stock(u"Магазин"_s, {u"Чай"_s, u"1"_s, u"шт."_s});
+  Stock(u"Склад"_s, u"Чай|10|шт."_lines);
+  Stock(u"Магазин"_s, u"Чай|1|шт."_lines);
   DocumentDraft draft = New(DocumentKind::kTransfer);
   draft.AddLine(Pick(u"Чай"_s, u"1.125"_s, u"60"_s, u"45"_s));
   draft.AddLine(Pick(u"Кофе"_s, u"0.500"_s, u"10"_s, u"5"_s));
   EXPECT_EQ(draft.Save(), Outcome::kSaved);
-  Files after = {
-      {kVpr,
-       {u"1"_s, u"22.11.2026"_s, u"Склад"_s, u"Магазин"_s, u"72.50"_s, u"Чай"_s, u"1.125"_s,
-        u"шт."_s, u"45"_s, u"60.00"_s, u"Кофе"_s, u"0.500"_s, u"шт."_s, u"5"_s, u"10.00"_s}},
-      {kStock, {u"Чай"_s, u"8.88"_s, u"шт."_s, u"Кофе"_s, u"-0.50"_s, u"шт."_s}},
-      {kShop, {u"Чай"_s, u"2.125"_s, u"шт."_s, u"Кофе"_s, u"0.5"_s, u"шт."_s}}};
+  Files after = {{kVpr,
+                  u"1|22.11.2026|Склад|Магазин|72.50|Чай|1.125|шт.|45|60.00|Кофе|0.500|шт.|"
+                  u"5|10.00"_lines},
+                 {kStock, u"Чай|8.88|шт.|Кофе|-0.50|шт."_lines},
+                 {kShop, u"Чай|2.125|шт.|Кофе|0.5|шт."_lines}};
   EXPECT_EQ(Filled(temp_), after);
   DocumentDraft again = Reopen(DocumentKind::kTransfer);
   again.RemoveLine(0);
   EXPECT_EQ(again.Save(), Outcome::kSaved);
-  after[kVpr] = {u"1"_s,    u"22.11.2026"_s, u"Склад"_s, u"Магазин"_s, u"5.00"_s,
-                 u"Кофе"_s, u"0.500"_s,      u"шт."_s,   u"5"_s,       u"10.00"_s};
+  after[kVpr] = u"1|22.11.2026|Склад|Магазин|5.00|Кофе|0.500|шт.|5|10.00"_lines;
   EXPECT_EQ(Filled(temp_), after);
 }
 
@@ -159,7 +127,7 @@ TEST_F(Drafts, ATransferWithinOneWarehouseIsRefused) {
 }
 
 TEST_F(Drafts, ATransferTurnedRoundPostsToTheLedgersChosenLast) {
-  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  Stock(u"Склад"_s, u"Чай|10|шт."_lines);
   DocumentDraft draft = New(DocumentKind::kTransfer);
   draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"60"_s));
   draft.ChooseWarehouse(&DocumentHead::party, u"Магазин"_s);
@@ -167,8 +135,8 @@ TEST_F(Drafts, ATransferTurnedRoundPostsToTheLedgersChosenLast) {
   EXPECT_THROW(draft.ChooseWarehouse(&DocumentHead::destination, u"Нет такого"_s),
                std::filesystem::filesystem_error);
   draft.Save();
-  EXPECT_EQ(Filled(temp_)[kStock], QStringList({u"Чай"_s, u"11"_s, u"шт."_s}));
-  EXPECT_EQ(Filled(temp_)[kShop], QStringList({u"Чай"_s, u"-1.00"_s, u"шт."_s}));
+  EXPECT_EQ(Filled(temp_)[kStock], QStringList(u"Чай|11|шт."_lines));
+  EXPECT_EQ(Filled(temp_)[kShop], QStringList(u"Чай|-1.00|шт."_lines));
 }
 
 TEST_F(Drafts, WithoutLinesNothingIsWritten) {
@@ -217,7 +185,7 @@ TEST_F(Drafts, WithoutALedgerNoDocumentIsBegun) {
 
 // A save that the disk refuses half-way leaves neither half, and a second try posts once.
 TEST_F(Drafts, ARefusedSaveChangesNothingAndMayBeRepeated) {
-  Stock(u"Склад"_s, {u"Чай"_s, u"10"_s, u"шт."_s});
+  Stock(u"Склад"_s, u"Чай|10|шт."_lines);
   const auto before = temp_.Tree();
   DocumentDraft draft = New(DocumentKind::kTransfer);
   draft.AddLine(Pick(u"Чай"_s, u"1"_s, u"60"_s));
@@ -238,8 +206,8 @@ TEST_F(Drafts, ARefusedSaveChangesNothingAndMayBeRepeated) {
     ASSERT_LT(fail_at, 100);
   }
   EXPECT_GT(calls, 5);
-  EXPECT_EQ(Filled(temp_)[kStock], QStringList({u"Чай"_s, u"9.00"_s, u"шт."_s}));
-  EXPECT_EQ(Filled(temp_)[kShop], QStringList({u"Чай"_s, u"1"_s, u"шт."_s}));
+  EXPECT_EQ(Filled(temp_)[kStock], QStringList(u"Чай|9.00|шт."_lines));
+  EXPECT_EQ(Filled(temp_)[kShop], QStringList(u"Чай|1|шт."_lines));
 }
 
 TEST_F(Drafts, DamagedDocumentsOpenWithWhatTheyHave) {
@@ -272,9 +240,8 @@ TEST_F(Drafts, PrintScreensGetWhatTheEditorShows) {
 }
 
 TEST_F(Drafts, StockCountsTheLinesOfTheDraftUntilTheyHavePosted) {
-  temp_.PutLines(u"0001\\spr\\товар.spr"_s, {u"Чай"_s, u"-"_s, u"-"_s, u"шт."_s, u"1"_s, u"Соль"_s,
-                                             u"-"_s, u"-"_s, u"кг"_s, u"1"_s});
-  temp_.PutLines(u"0001\\Склад\\товар.usl"_s, {u"Чай"_s, u"1"_s, u"шт."_s});
+  temp_.PutLines(u"0001\\spr\\товар.spr"_s, u"Чай|-|-|шт.|1|Соль|-|-|кг|1"_lines);
+  temp_.PutLines(u"0001\\Склад\\товар.usl"_s, u"Чай|1|шт."_lines);
   for (const auto& [kind, left] :
        {std::pair(DocumentKind::kShipment, 0.7), std::pair(DocumentKind::kReceipt, 1.3)}) {
     DocumentDraft draft = New(kind);

@@ -1,13 +1,12 @@
 #include <filesystem>
 
-#include "books/stock/Books.h"
+#include "SmallBooks.h"
 #include "books/stock/DocumentNumbers.h"
 #include "books/stock/DocumentRegister.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Files = std::map<QString, QStringList>;
 using Period = RegisterFilter::Period;
 
@@ -15,7 +14,7 @@ const QDate kToday(2026, 11, 22);
 
 class Register : public testing::Test {
  protected:
-  Register() { SeedBooks(temp_, session_); }
+  Register() { SmallBooks(temp_.Data(), session_).Warehouses(u"Склад|Магазин"_lines); }
 
   void Receipt(const QString& file, const QString& date, const QString& sum = u"1.00"_s,
                const QString& number = u"1"_s) const {
@@ -58,12 +57,11 @@ TEST_F(Register, EachFilterKeepsItsDocuments) {
 }
 
 TEST_F(Register, FiguresAreNumberTextsAndADateHasNoBlankAtItsEnd) {
-  temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
-                 {u"1"_s, u"5.11.2026 "_s, u"-"_s, u"1 200,5"_s, u"много"_s, u" 7.10"_s, u"да"_s});
+  temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s, u"1|5.11.2026 |-|1 200,5|много| 7.10|да"_lines);
   ASSERT_EQ(Shown(DocumentKind::kShipment, {.period = Period::kMonth, .month = 11}).size(), 1);
   const DocumentHead& head = rows_->Rows()[0].head;
   EXPECT_EQ(QStringList({head.date, head.sum, head.discount, head.net_sum}),
-            QStringList({u"5.11.2026"_s, u"1 200.5"_s, u"0"_s, u" 7.10"_s}));
+            QStringList(u"5.11.2026|1 200.5|0| 7.10"_lines));
   EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:7.10"_s);
 }
 
@@ -107,7 +105,7 @@ TEST_F(Register, OrderGoesByFileNamesNotByDateOrNumber) {
   Receipt(u"0002.prh"_s, u"01.01.2026"_s);
   Receipt(u"10000.prh"_s, u"02.01.2026"_s);
   Receipt(u"0010.PRH"_s, u"03.01.2026"_s);
-  const QStringList files = {u"0002.prh"_s, u"0010.PRH"_s, u"10000.prh"_s};
+  const QStringList files = u"0002.prh|0010.PRH|10000.prh"_lines;
   EXPECT_EQ(Shown(DocumentKind::kReceipt, year), files);
   EXPECT_EQ(Shown(DocumentKind::kReceipt, year, true), QStringList(files.rbegin(), files.rend()));
   EXPECT_EQ(rows_->RowOf(u"0010.PRH"_s), 1);
@@ -181,7 +179,7 @@ TEST_F(Register, FileNamesAndNumbersCountApart) {
 
 class Deletion : public Register {
  protected:
-  const QStringList tea_ = {u"Чай"_s, u"10"_s, u"шт."_s};
+  const QStringList tea_ = u"Чай|10|шт."_lines;
   void SetUp() override {
     for (const QString& name : session_.warehouses)
       temp_.PutLines(LedgerPath(session_, name), tea_);
@@ -189,35 +187,31 @@ class Deletion : public Register {
 };
 
 TEST_F(Deletion, ReversalIsASecondRecordAtTheEnd) {
-  const QStringList lines = {u"Чай"_s,  u"2,5"_s, u"шт."_s, u"45"_s,
-                             u"Кофе"_s, u"-1"_s,  u"кг"_s,  u"9"_s};
+  const QStringList lines = u"Чай|2,5|шт.|45|Кофе|-1|кг|9"_lines;
   temp_.PutLines(u"0001\\Склад\\PRH\\0001.prh"_s,
-                 QStringList({u"1"_s, u"01.01.2026"_s, u"-"_s, u"1.00"_s, u"да"_s}) + lines);
+                 QStringList(u"1|01.01.2026|-|1.00|да"_lines) + lines);
   DeleteDocument(temp_.Data(), session_, DocumentKind::kReceipt, u"Склад"_s, u"0001.prh"_s, true);
   EXPECT_EQ(Filled(temp_),
-            (Files{{u"Склад/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"- 2,5"_s, u"шт."_s,
-                                                              u"Кофе"_s, u"- -1"_s, u"кг"_s})},
+            (Files{{u"Склад/товар.usl"_s, tea_ + QStringList(u"Чай|- 2,5|шт.|Кофе|- -1|кг"_lines)},
                    {u"Магазин/товар.usl"_s, tea_}}));
 }
 
 TEST_F(Deletion, AReturnedShipmentKeepsTheTextOfItsQuantity) {
   temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
-                 {u"1"_s, u"01.01.2026"_s, u"-"_s, u"1"_s, u"0"_s, u"1"_s, u"да"_s,  //
-                  u"Чай"_s, u"0.125"_s, u"шт."_s, u"4"_s, u"5"_s, u"5"_s});
+                 u"1|01.01.2026|-|1|0|1|да|Чай|0.125|шт.|4|5|5"_lines);
   DeleteDocument(temp_.Data(), session_, DocumentKind::kShipment, u"Склад"_s, u"0001.uhd"_s, true);
   EXPECT_EQ(Filled(temp_),
-            (Files{{u"Склад/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"0.125"_s, u"шт."_s})},
+            (Files{{u"Склад/товар.usl"_s, tea_ + QStringList(u"Чай|0.125|шт."_lines)},
                    {u"Магазин/товар.usl"_s, tea_}}));
 }
 
 TEST_F(Deletion, ATransferIsTakenBackFromBothLedgers) {
-  const QStringList document = {u"1"_s,   u"01.01.2026"_s, u"Магазин"_s, u"Склад"_s, u"1"_s,
-                                u"Чай"_s, u"3"_s,          u"шт."_s,     u"4"_s,     u"5"_s};
+  const QStringList document = u"1|01.01.2026|Магазин|Склад|1|Чай|3|шт.|4|5"_lines;
   temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s, document);
   DeleteDocument(temp_.Data(), session_, DocumentKind::kTransfer, {}, u"0001.vpr"_s, true);
   EXPECT_EQ(Filled(temp_),
-            (Files{{u"Магазин/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"3"_s, u"шт."_s})},
-                   {u"Склад/товар.usl"_s, tea_ + QStringList({u"Чай"_s, u"- 3"_s, u"шт."_s})}}));
+            (Files{{u"Магазин/товар.usl"_s, tea_ + QStringList(u"Чай|3|шт."_lines)},
+                   {u"Склад/товар.usl"_s, tea_ + QStringList(u"Чай|- 3|шт."_lines)}}));
 }
 
 TEST_F(Deletion, WithoutReversalOnlyTheFileGoes) {
@@ -227,9 +221,7 @@ TEST_F(Deletion, WithoutReversalOnlyTheFileGoes) {
 }
 
 TEST_F(Deletion, AWarehouseThatIsGoneStopsItWhole) {
-  temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s,
-                 {u"1"_s, u"01.01.2026"_s, u"Склад"_s, u"Снесённый"_s, u"1"_s,  //
-                  u"Чай"_s, u"3"_s, u"шт."_s, u"4"_s, u"5"_s});
+  temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s, u"1|01.01.2026|Склад|Снесённый|1|Чай|3|шт.|4|5"_lines);
   const auto before = temp_.Tree();
   EXPECT_THROW(
       DeleteDocument(temp_.Data(), session_, DocumentKind::kTransfer, {}, u"0001.vpr"_s, true),

@@ -1,21 +1,19 @@
 #include <filesystem>
 #include <random>
 
-#include "TempData.h"
+#include "SmallBooks.h"
 #include "books/stock/OnHand.h"
 #include "books/stock/PrefixIndex.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // Name, unit, price of each item; a name that begins with a blank is a group.
 QByteArray Goods(const QStringList& names) {
   QStringList lines;
   for (const QString& name : names) {
     lines.append(name);
-    if (!name.startsWith(u' ')) lines += QStringList{u"Россия"_s, u"-"_s, u"шт."_s, u"10.00"_s};
+    if (!name.startsWith(u' ')) lines += u"Россия|-|шт.|10.00"_lines;
   }
   return EncodeLines(lines);
 }
@@ -59,46 +57,43 @@ const JoinCase kJoinCases[] = {
      u"Итого наименований: 0     на сумму: 0.00"_s},
     {"RecordsOfOneNameAndOfAllWarehousesSum",
      {u"Ассам"_s, u"Кимун"_s},
-     {{u"Ассам"_s, u"5"_s, u"шт."_s, u" группа"_s, u"Ассам"_s, u"- 1.5"_s, u"шт."_s},
-      {u"Кимун"_s, u"2,5"_s, u"0"_s},
-      {u"Ассам"_s, u"1"_s, u"шт."_s}},
+     {u"Ассам|5|шт.| группа|Ассам|- 1.5|шт."_lines, u"Кимун|2,5|0"_lines, u"Ассам|1|шт."_lines},
      GoodsView::kGroups,
      {u"Ассам=4.5"_s, u"Кимун=2.5"_s},
      u"Итого наименований: 2     на сумму: 70.00"_s},
     {"AShorterNameAddsToTheFirstLongerRowThatItBegins",
-     {u"Чай зелёный"_s, u"Чай"_s, u"Чай чёрный"_s},
-     {{u"Чай"_s, u"3"_s, u"шт."_s, u"Чай ч"_s, u"4"_s, u"шт."_s}},
+     u"Чай зелёный|Чай|Чай чёрный"_lines,
+     {u"Чай|3|шт.|Чай ч|4|шт."_lines},
      GoodsView::kGroups,
-     {u"Чай зелёный=3"_s, u"Чай=0"_s, u"Чай чёрный=4"_s},
+     u"Чай зелёный=3|Чай=0|Чай чёрный=4"_lines,
      u"Итого наименований: 2     на сумму: 70.00"_s},
     {"LetterCaseCountsAndLostNamesAreNotSeen",
      {u"Чай"_s},
-     {{u"чай"_s, u"3"_s, u"шт."_s, u"Чай чёрный"_s, u"4"_s, u"шт."_s}},
+     {u"чай|3|шт.|Чай чёрный|4|шт."_lines},
      GoodsView::kGroups,
      {u"Чай=0"_s},
      u"Итого наименований: 0     на сумму: 0.00"_s},
     {"TheFirstRowIsThatOfTheListAsItIsShown",
-     {u" Б"_s, u"Чай чёрный"_s, u" А"_s, u"Чай белый"_s},
-     {{u"Чай"_s, u"3"_s, u"шт."_s}},
+     u" Б|Чай чёрный| А|Чай белый"_lines,
+     {u"Чай|3|шт."_lines},
      GoodsView::kGoodsOnly,
      {u"Чай белый=3"_s, u"Чай чёрный=0"_s},
      u"Итого наименований: 1     на сумму: 30.00"_s},
     {"NegativeStockCountsAndLowersTheSum",
      {u"Ассам"_s, u"Кимун"_s},
-     {{u"Ассам"_s, u"-2"_s, u"шт."_s, u"Кимун"_s, u"много"_s, u"шт."_s}},
+     {u"Ассам|-2|шт.|Кимун|много|шт."_lines},
      GoodsView::kGroups,
      {u"Ассам=-2"_s, u"Кимун=0"_s},
      u"Итого наименований: 1     на сумму: -20.00"_s},
     {"TenthsThatCancelLeaveNothing",
      {u"Ассам"_s},
-     {{u"Ассам"_s, u"0.1"_s, u"кг"_s, u"Ассам"_s, u"0.2"_s, u"кг"_s, u"Ассам"_s, u"-0.3"_s,
-       u"кг"_s}},
+     {u"Ассам|0.1|кг|Ассам|0.2|кг|Ассам|-0.3|кг"_lines},
      GoodsView::kGroups,
      {u"Ассам=0"_s},
      u"Итого наименований: 0     на сумму: 0.00"_s},
     {"ARecordWithoutANameGivesNoStockToAGroup",
      {u" Чай"_s, u"Ассам"_s},
-     {{u""_s, u"5"_s, u"шт."_s}},
+     {u"|5|шт."_lines},
      GoodsView::kGroups,
      {u" Чай"_s, u"Ассам=0"_s},
      u"Итого наименований: 0     на сумму: 0.00"_s},
@@ -135,11 +130,9 @@ TEST(OnHandIndex, FindsTheFirstRowThatBeginsSo) {
 class OnHandFiles : public testing::Test {
  protected:
   OnHandFiles() {
-    session_.base_path = u"0001\\"_s;
-    temp_.Put(u"0001\\spr\\товар.spr"_s, Goods({u" Чай"_s, u"Ассам"_s, u"Кимун"_s, u"Пуэр"_s}));
-    temp_.PutLines(u"0001\\Лавка\\товар.usl"_s,
-                   {u"Пуэр"_s, u"7"_s, u"кор."_s, u" группа"_s, u"Ассам"_s, u"5"_s, u"шт."_s,
-                    u"Сенча"_s, u"9"_s, u"шт."_s, u"Кимун"_s, u"0"_s, u"шт."_s});
+    SmallBooks(temp_.Data(), session_)
+        .Goods(DecodeLines(Goods(u" Чай|Ассам|Кимун|Пуэр"_lines)))
+        .Ledger(u"Лавка"_s, u"Пуэр|7|кор.| группа|Ассам|5|шт.|Сенча|9|шт.|Кимун|0|шт."_lines);
   }
   OnHandList Load() const {
     return LoadOnHand(temp_.Data(), session_, {u"Лавка"_s}, GoodsView::kGroups);
@@ -154,7 +147,7 @@ TEST_F(OnHandFiles, ACorrectionRewritesTheLedgerFromTheList) {
   OnHandList list = Load();
   ASSERT_TRUE(list.ChangeQuantity(1, u"12"_s));
   SaveOnHand(list, temp_.Data(), session_, u"Лавка"_s);
-  EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"12"_s, u"шт."_s, u"Пуэр"_s, u"7"_s, u"шт."_s}));
+  EXPECT_EQ(Ledger(), (u"Ассам|12|шт.|Пуэр|7|шт."_lines));
 }
 
 TEST_F(OnHandFiles, OnlyTheTextZeroDropsARow) {
@@ -162,13 +155,13 @@ TEST_F(OnHandFiles, OnlyTheTextZeroDropsARow) {
   ASSERT_TRUE(list.ChangeQuantity(1, u"0.00"_s));
   ASSERT_TRUE(list.ChangeQuantity(3, u"0"_s));
   SaveOnHand(list, temp_.Data(), session_, u"Лавка"_s);
-  EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"0.00"_s, u"шт."_s}));
+  EXPECT_EQ(Ledger(), (u"Ассам|0.00|шт."_lines));
 }
 
 TEST_F(OnHandFiles, ZeroingKeepsTheRowsThatHadStock) {
   OnHandList list = Load();
   ZeroOnHand(list, temp_.Data(), session_, u"Лавка"_s);
-  EXPECT_EQ(Ledger(), (QStringList{u"Ассам"_s, u"0"_s, u"0"_s, u"Пуэр"_s, u"0"_s, u"0"_s}));
+  EXPECT_EQ(Ledger(), (u"Ассам|0|0|Пуэр|0|0"_lines));
   EXPECT_EQ(Load().StatusText(), u"Итого наименований: 0     на сумму: 0.00"_s);
 }
 

@@ -4,8 +4,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 class Opening : public testing::Test {
  protected:
   Opening() { session_.base_path = u"0001\\"_s; }
@@ -29,22 +27,19 @@ TEST_F(Opening, AddsToWhatIsThereAndEntersWhatIsNot) {
   balances_.Add(Pick(u"Мёд"_s, u"2.50"_s, u"кг"_s));
   balances_.Add(Pick(u"Чай"_s, u"4"_s, u"пач."_s));
   balances_.Add(Pick(u"Мёд"_s, u"1"_s, u"л"_s));
-  EXPECT_EQ(
-      Book({u" Группа"_s, u"Чай"_s, u"- 5"_s, u"кор."_s}),
-      (QStringList{u" Группа"_s, u"Чай"_s, u"-0.875"_s, u"кор."_s, u"Мёд"_s, u"3.5"_s, u"кг"_s}));
+  EXPECT_EQ(Book(u" Группа|Чай|- 5|кор."_lines), (u" Группа|Чай|-0.875|кор.|Мёд|3.5|кг"_lines));
 }
 
 TEST_F(Opening, EveryLineOfTheLedgerIsComparedWithAName) {
   balances_.Add(Pick(u"шт."_s, u"3"_s, u"уп."_s));
-  EXPECT_EQ(Book({u"Чай"_s, u"1"_s, u"шт."_s, u"2"_s, u"7"_s, u"кг"_s}),
-            (QStringList{u"Чай"_s, u"1"_s, u"шт."_s, u"5"_s, u"7"_s, u"кг"_s}));
+  EXPECT_EQ(Book(u"Чай|1|шт.|2|7|кг"_lines), (u"Чай|1|шт.|5|7|кг"_lines));
 }
 
 TEST_F(Opening, APickedGroupIsNotBooked) {
   balances_.Add(Pick(u" Чай"_s, {}, {}));
   balances_.Add(Pick(u"Чай"_s, u"3"_s, u"пач."_s));
   EXPECT_FALSE(balances_.ChangeQuantity(0, u"5"_s));
-  EXPECT_EQ(Book({}), (QStringList{u"Чай"_s, u"3"_s, u"пач."_s}));
+  EXPECT_EQ(Book({}), (u"Чай|3|пач."_lines));
 }
 
 TEST_F(Opening, ChangedAndRemovedEntriesAreBookedAsTheyAreThen) {
@@ -54,7 +49,7 @@ TEST_F(Opening, ChangedAndRemovedEntriesAreBookedAsTheyAreThen) {
   EXPECT_FALSE(balances_.ChangeQuantity(1, u"два"_s));
   EXPECT_TRUE(balances_.ChangeQuantity(1, u"2.0"_s));
   balances_.Remove(0);
-  EXPECT_EQ(Book({}), (QStringList{u"Мёд"_s, u"2.0"_s, u"кг"_s}));
+  EXPECT_EQ(Book({}), (u"Мёд|2.0|кг"_lines));
 }
 
 }  // namespace

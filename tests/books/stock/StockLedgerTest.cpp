@@ -7,8 +7,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct PostingCase {
   const char* name;
   Posting posting;

@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,7 +9,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Tree = std::map<std::string, std::string>;
 
 const QDate kDay(2026, 11, 22);

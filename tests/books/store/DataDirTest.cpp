@@ -11,8 +11,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // The errno with which an action is refused, 0 for none.
 template <typename Action>
 int Refusal(const Action& action) {

@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <algorithm>
 #include <memory>
 #include <random>
@@ -13,8 +9,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // Names as they are told to be ordered, without a thought for speed.
 QStringList Ordered(QStringList names) {

@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "TempData.h"
@@ -10,7 +9,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Tree = std::map<std::string, std::string>;
 using Area = ImportArea;
 
@@ -94,11 +92,10 @@ TEST_F(ImportTest, CurrencyOfTheSourceIsNeverCopied) {
   QFile::remove(temp_.Data().Resolve(u"0002\\currency.usd"_s));
   before = temp_.Tree();
   Import({Area::kCurrency});
-  EXPECT_EQ(
-      Changed(before),
-      (Tree{{"0001/currency.usd", EncodeLines({u"руб."_s, u"рубль"_s, u"рубля"_s, u"рублей"_s,
-                                               u"коп."_s, u"копейка"_s, u"копейки"_s, u"копеек"_s})
-                                      .toStdString()}}));
+  EXPECT_EQ(Changed(before),
+            (Tree{{"0001/currency.usd",
+                   EncodeLines(u"руб.|рубль|рубля|рублей|коп.|копейка|копейки|копеек"_lines)
+                       .toStdString()}}));
 }
 
 TEST_F(ImportTest, TaxRatesComeWithTheCurrency) {
@@ -121,9 +118,9 @@ TEST_F(ImportTest, TermsComeWithTheClients) {
 }
 
 TEST_F(ImportTest, StockBringsTheSourcesWarehousesWithTheirDirectories) {
-  temp_.PutLines(u"0002\\склад.usd"_s, {u"Главный склад"_s, u"Киоск"_s, u"Без остатков"_s});
-  temp_.PutLines(u"0002\\Главный склад\\товар.usl"_s, {u"Чай"_s, u"5"_s, u"шт"_s});
-  temp_.PutLines(u"0002\\Киоск\\товар.usl"_s, {u"Мёд"_s, u"2"_s, u"кг"_s});
+  temp_.PutLines(u"0002\\склад.usd"_s, u"Главный склад|Киоск|Без остатков"_lines);
+  temp_.PutLines(u"0002\\Главный склад\\товар.usl"_s, u"Чай|5|шт"_lines);
+  temp_.PutLines(u"0002\\Киоск\\товар.usl"_s, u"Мёд|2|кг"_lines);
   temp_.PutLines(u"0001\\Старый\\товар.usl"_s, {u"остаётся"_s});
   const Tree before = temp_.Tree();
   Import({Area::kStock});
@@ -162,8 +159,7 @@ TEST_F(ImportTest, PriceListsKeepThoseThatTheSourceLacks) {
 
 TEST_F(ImportTest, WhatStandsInTheWayIsPassedOver) {
   // A warehouse that leads out, one whose place a file takes, one spelled twice, an empty line.
-  temp_.PutLines(u"0002\\склад.usd"_s,
-                 {u"..\\0003"_s, u".."_s, u"Занято"_s, u"Киоск"_s, u"КИОСК"_s, u""_s});
+  temp_.PutLines(u"0002\\склад.usd"_s, u"..\\0003|..|Занято|Киоск|КИОСК|"_lines);
   temp_.PutLines(u"0002\\Занято\\товар.usl"_s, {u"a"_s});
   temp_.PutLines(u"0002\\Киоск\\товар.usl"_s, {u"b"_s});
   temp_.PutLines(u"0001\\Занято"_s, {u"это файл"_s});

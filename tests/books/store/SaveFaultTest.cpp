@@ -8,8 +8,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // The error of a scenario's commit on a failing disk, 0 for none; it must name a path of the data
 // directory.
 int CommitError(const SaveScenario& scenario, const TempData& temp) {

@@ -5,8 +5,6 @@
 
 namespace kladez {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 void PrepareDatabase(const TempData& temp) {

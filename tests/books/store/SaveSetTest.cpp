@@ -16,8 +16,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct Failure {
   int error = 0;  // 0: there was none
   std::string path;

@@ -1,5 +1,3 @@
-#include <QLabel>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 
@@ -43,9 +41,9 @@ class GoodsScreensTest : public testing::Test {
     return world_.Settings().Read(setting);
   }
 
-  const QStringList kTea = {u"Чай"_s, u"Индия"_s, u"107/1"_s, u"пач."_s, u"45.00"_s};
+  const QStringList kTea = u"Чай|Индия|107/1|пач.|45.00"_lines;
   const QStringList kGroup = {u" Зерно"_s};
-  const QStringList kCoffee = {u"Кофе"_s, u"Россия"_s, u""_s, u"кг"_s, u"900.50"_s};
+  const QStringList kCoffee = u"Кофе|Россия||кг|900.50"_lines;
   DirectoryWorld world_;
 };
 
@@ -64,13 +62,12 @@ class sprTovarTest : public GoodsScreensTest {
 TEST_F(sprTovarTest, GoodsEnteredByKeysReachTheFileWithClose) {
   Open();
   list_->SelectRow(1);
-  ModalAnswers answers({EnterAll({u"Чай белый"_s, u"Китай"_s, u"107/2"_s, u"шт."_s, u"120.5"_s})});
+  ModalAnswers answers({EnterAll(u"Чай белый|Китай|107/2|шт.|120.5"_lines)});
   QTest::keyClick(list_, Qt::Key_Insert);
   EXPECT_EQ(list_->CurrentRow(), 2);
   world_.ExpectUnchanged();
   Click(screen_.get(), "Command9");
-  ExpectGoods(kTea + QStringList{u"Чай белый"_s, u"Китай"_s, u"107/2"_s, u"шт."_s, u"120.50"_s} +
-              kGroup + kCoffee);
+  ExpectGoods(kTea + u"Чай белый|Китай|107/2|шт.|120.50"_lines + kGroup + kCoffee);
   EXPECT_FALSE(screen_->isVisible());
 }
 
@@ -152,7 +149,7 @@ TEST_F(sprTovarTest, OnlyCloseWritesWhatWasMovedSortedAndDeleted) {
 }
 
 TEST_F(sprTovarTest, GoodsOnHandAreNotDeleted) {
-  world_.PutLines(u"Главный склад\\товар.usl"_s, {u"Чай"_s, u"2"_s, u"пач."_s});
+  world_.PutLines(u"Главный склад\\товар.usl"_s, u"Чай|2|пач."_lines);
   Open();
   list_->SelectRow(1);
   ModalAnswers answers(
@@ -200,9 +197,9 @@ TEST_F(sprTovarTest, GoodsAloneAreChangedAtOnceAndNeitherAddedNorDeleted) {
   QTest::keyClick(list_, Qt::Key_Insert);
   QTest::keyClick(list_, Qt::Key_Delete);
   list_->SelectRow(1);
-  ModalAnswers answers({EnterAll({u"Чай"_s, u"Китай"_s, u"107/1"_s, u"пач."_s, u"50"_s})});
+  ModalAnswers answers({EnterAll(u"Чай|Китай|107/1|пач.|50"_lines)});
   QTest::keyClick(list_, Qt::Key_Return);
-  const QStringList changed = {u"Чай"_s, u"Китай"_s, u"107/1"_s, u"пач."_s, u"50.00"_s};
+  const QStringList changed = u"Чай|Китай|107/1|пач.|50.00"_lines;
   ExpectGoods(changed + kGroup + kCoffee);
   ShowActive(screen_.get());
   QTest::keyClick(screen_.get(), Qt::Key_F5);
@@ -225,7 +222,7 @@ TEST_F(sprTovarTest, ANameChangedAmongTheGoodsAloneIsSavedWhereItIsWanted) {
     world_.Settings().WriteBool(settings::kGoodsGoodsOnly, true);
     Open();
     list_->SelectRow(1);
-    const QStringList renamed = {u"Чай листовой"_s, u"Индия"_s, u"107/1"_s, u"пач."_s, u"45.00"_s};
+    const QStringList renamed = u"Чай листовой|Индия|107/1|пач.|45.00"_lines;
     ModalAnswers answers({EnterAll(renamed), Press(c.answer, u"Сохранить изменения?"_s)});
     QTest::keyClick(list_, Qt::Key_Return);
     world_.ExpectUnchanged();
@@ -237,8 +234,8 @@ TEST_F(sprTovarTest, ANameChangedAmongTheGoodsAloneIsSavedWhereItIsWanted) {
 TEST_F(sprTovarTest, FailedSaveLeavesTheScreenWithWhatWasEntered) {
   Open();
   list_->SelectRow(1);
-  ModalAnswers answers({EnterAll({u"Чай белый"_s, u"-"_s, u"-"_s, u"шт."_s, u"1"_s}),
-                        Press(QMessageBox::Ok), Press(QMessageBox::No), Press(QMessageBox::Ok)});
+  ModalAnswers answers({EnterAll(u"Чай белый|-|-|шт.|1"_lines), Press(QMessageBox::Ok),
+                        Press(QMessageBox::No), Press(QMessageBox::Ok)});
   Click(screen_.get(), "add");
   world_.Protect(u"spr\\товар.spr"_s);
   Click(screen_.get(), "Command9");
@@ -294,7 +291,7 @@ class sprtovar2Test : public GoodsScreensTest {
 };
 
 TEST_F(sprtovar2Test, TicksAreReadWhenActiveAndWrittenWhenClosed) {
-  world_.PutLines(u"marked"_s, {u"Кофе"_s, u"Нет такого"_s, u"Чай"_s});
+  world_.PutLines(u"marked"_s, u"Кофе|Нет такого|Чай"_lines);
   world_.Remember();
   Open(PickFor::kReceipt);
   EXPECT_EQ(Ticked(), QStringList{u"Кофе"_s});
@@ -351,7 +348,7 @@ TEST_F(sprtovar2Test, AReceiptsPickerStaysOpenWhileItIsTicked) {
     if (remembered) Click(screen_.get(), "stay");
     QTest::keyClick(list_, Qt::Key_Return);
     EXPECT_EQ(screen_->isVisible(), !remembered);
-    EXPECT_EQ(picked, (QStringList{u"Чай"_s, u"Кофе"_s, u"Кофе"_s}));
+    EXPECT_EQ(picked, (u"Чай|Кофе|Кофе"_lines));
   }
   Open(PickFor::kOpeningStock);
   EXPECT_EQ(screen_->findChild<QWidget*>(u"stay"_s), nullptr);

@@ -1,12 +1,8 @@
 #include <QAbstractItemModelTester>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 
 #include "ScreenDriver.h"
-#include "books/directories/GoodsPick.h"
+#include "SmallBooks.h"
 #include "books/store/SystemCalls.h"
 #include "screens/prices/PricePicker.h"
 #include "screens/prices/PriceScreen.h"
@@ -15,8 +11,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kRetail = u"0001\\Лавка\\PRICE\\0001.prc"_s;
 const QString kWholesale = u"0001\\Лавка\\PRICE\\0002.prc"_s;
 const QString kMarked = u"0001\\marked"_s;
@@ -24,16 +18,11 @@ const QString kMarked = u"0001\\marked"_s;
 class PriceScreens : public testing::Test {
  protected:
   PriceScreens() {
-    Session& session = world_.TheSession();
-    session.base_path = u"0001\\"_s;
-    session.warehouses = {u"Лавка"_s, u"Подвал"_s};
-    Temp().PutLines(u"0001\\spr\\товар.spr"_s,
-                    {u" Чай"_s, u"Улун"_s, u"Китай"_s, u"-"_s, u"пач."_s, u"90"_s, u"Ассам"_s,
-                     u"Индия"_s, u"-"_s, u"пач."_s, u"45.00"_s});
+    SmallBooks(Temp().Data(), world_.TheSession())
+        .Warehouses(u"Лавка|Подвал"_lines)
+        .Goods(u" Чай|Улун|Китай|-|пач.|90|Ассам|Индия|-|пач.|45.00"_lines)
+        .PriceLists(u"Лавка"_s, u"Розница|Опт"_lines, {Lines(u"120.00"_s, u"60.00"_s), {}});
     Temp().PutLines(kMarked, {u"Ассам"_s});
-    Temp().PutLines(u"0001\\Лавка\\price.usd"_s, {u"Розница"_s, u"Опт"_s});
-    Temp().PutLines(kRetail, Lines(u"120.00"_s, u"60.00"_s));
-    Temp().PutLines(kWholesale, {});
   }
 
   TempData& Temp() { return world_.Temp(); }
@@ -139,8 +128,7 @@ TEST_F(PriceScreens, SwitchingToGoodsOnlySavesTicksAndASaveThereDropsTheGroups) 
     Click(&screen, "Command5");
     screen.close();
   }
-  EXPECT_EQ(Temp().Lines(kRetail), (QStringList{u"Ассам"_s, u"пач."_s, u"45.00"_s, u"60.00"_s,
-                                                u"Улун"_s, u"пач."_s, u"90.00"_s, u"120.00"_s}));
+  EXPECT_EQ(Temp().Lines(kRetail), (u"Ассам|пач.|45.00|60.00|Улун|пач.|90.00|120.00"_lines));
   PriceScreen again(world_.Context());
   EXPECT_EQ(Names(&again), (QStringList{u"Ассам"_s, u"Улун"_s})) << "the view is remembered";
 }
@@ -158,7 +146,7 @@ TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain
   List(picker)->SelectRow(2);
   ModalAnswers answers({AnswerText(u"12"_s), Press(QMessageBox::No, u"Сохранить изменения?"_s)});
   QTest::keyClick(List(picker), Qt::Key_Return);
-  EXPECT_EQ(Names(&screen), (QStringList{u" Чай"_s, u"Улун"_s, u"Ассам"_s, u"Ассам"_s}));
+  EXPECT_EQ(Names(&screen), (u" Чай|Улун|Ассам|Ассам"_lines));
   const QModelIndex name = List(&screen)->model()->index(2, 0);
   EXPECT_EQ(Cell(&screen, 2, 2), u"45.00"_s);
   EXPECT_EQ(Cell(&screen, 2, 3), u"12"_s);
@@ -166,7 +154,7 @@ TEST_F(PriceScreens, APickedRowIsBlueBelowTheCurrentOneUntilTheListIsLoadedAgain
   EXPECT_TRUE(name.data(Qt::FontRole).value<QFont>().bold());
   EXPECT_EQ(Temp().Tree(), before);
   Click(&screen, "Command10");
-  EXPECT_EQ(Names(&screen), (QStringList{u" Чай"_s, u"Улун"_s, u"Ассам"_s}));
+  EXPECT_EQ(Names(&screen), (u" Чай|Улун|Ассам"_lines));
 }
 
 TEST_F(PriceScreens, APickerLeftOpenClosesWithTheScreenAndKeepsItsView) {
@@ -189,7 +177,7 @@ TEST_F(PriceScreens, RemovedRowsLeaveTheFileWithTheNextSave) {
   Click(&screen, "GoldButton2");
   EXPECT_EQ(Temp().Lines(kRetail), Lines(u"120.00"_s, u"60.00"_s));
   Click(&screen, "Command5");
-  EXPECT_EQ(Temp().Lines(kRetail), (QStringList{u"Ассам"_s, u"пач."_s, u"45.00"_s, u"60.00"_s}));
+  EXPECT_EQ(Temp().Lines(kRetail), (u"Ассам|пач.|45.00|60.00"_lines));
 }
 
 // Each way to other rows, and the way out. "Отмена" keeps rows and choices as they are.
@@ -228,7 +216,7 @@ TEST_F(PriceScreens, UnsavedRowsAreAskedForBeforeOthersComeInTheirPlace) {
 }
 TEST_F(PriceScreens, ASellerSeesNoCostAndChangesCopiesAndPastesNothing) {
   world_.TheSession().role = UserRole::kSeller;
-  Temp().PutLines(u"temp.prc"_s, {u"Улун"_s, u"пач."_s, u"1.00"_s, u"1.00"_s});
+  Temp().PutLines(u"temp.prc"_s, u"Улун|пач.|1.00|1.00"_lines);
   PriceScreen screen(world_.Context());
   ShowActive(&screen);
   EXPECT_TRUE(List(&screen)->isColumnHidden(2));

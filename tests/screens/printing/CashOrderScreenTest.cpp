@@ -1,5 +1,3 @@
-#include <QCheckBox>
-#include <QLabel>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
@@ -10,8 +8,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 constexpr double kUnits = 6;  // pixels a millimetre
 

@@ -1,14 +1,9 @@
-#include <QCheckBox>
-#include <QLabel>
-
 #include "screens/printing/InvoiceScreen.h"
 #include "screens/printing/PrintWorld.h"
 #include "ui/controls/Fields.h"
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // The lines of a page from the first that begins with a text.
 QStringList From(const QByteArray& page, const QString& beginning) {

@@ -1,14 +1,9 @@
-#include <QCheckBox>
-#include <QLabel>
-#include <QRadioButton>
-
 #include "ScreenDriver.h"
+#include "SmallBooks.h"
 #include "screens/printing/PricePrintScreen.h"
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 PriceRow Item(const QString& name, bool ticked = false) {
   PriceRow row;
@@ -23,21 +18,17 @@ PriceRow Item(const QString& name, bool ticked = false) {
 class PricePrinting : public testing::Test {
  protected:
   PricePrinting() {
-    Session& session = world_.TheSession();
-    session.base_path = u"0001\\"_s;
-    session.warehouses = {u"А"_s, u"Б"_s};
-    TempData& temp = world_.Temp();
     QStringList firm(15, u"-"_s);
     firm[0] = u"ООО Ромашка"_s;
     firm[1] = u"Самара, юр."_s;
     firm[3] = u"11-22"_s;
     firm[4] = u"33"_s;
-    temp.PutLines(u"0001\\spr\\firma.spr"_s, firm);
-    temp.PutLines(u"0001\\spr\\товар.spr"_s,
-                  {u" Чай"_s, u"Улун"_s, u""_s, u""_s, u"шт."_s, u"10.00"_s, u"Ассам"_s, u""_s,
-                   u""_s, u"шт."_s, u"10.00"_s});
-    temp.PutLines(u"0001\\А\\товар.usl"_s, {u"Улун"_s, u"3"_s, u"шт."_s});
-    temp.PutLines(u"0001\\Б\\товар.usl"_s, {u"Улун"_s, u"4"_s, u"шт."_s});
+    SmallBooks(world_.Temp().Data(), world_.TheSession())
+        .Warehouses(u"А|Б"_lines)
+        .PartyFile(PartyKind::kFirm, firm)
+        .Goods(u" Чай|Улун|||шт.|10.00|Ассам|||шт.|10.00"_lines)
+        .Ledger(u"А"_s, u"Улун|3|шт."_lines)
+        .Ledger(u"Б"_s, u"Улун|4|шт."_lines);
     PriceRow group;
     group.name = u" Чай"_s;
     source_ = {u"А"_s, {{group, Item(u"Улун"_s, true), Item(u"Ассам"_s)}, {2}}};

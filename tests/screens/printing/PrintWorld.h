@@ -2,39 +2,31 @@
 // the screens hand to the viewer.
 #pragma once
 
-#include <QComboBox>
-
 #include "ScreenDriver.h"
+#include "SmallBooks.h"
 #include "books/printing/Pages.h"
-#include "books/stock/PrintSource.h"
-#include "formats/CurrencyFile.h"
 
 namespace kladez {
 
 class PrintWorld {
  public:
   PrintWorld() {
-    using namespace Qt::StringLiterals;
-    Session& session = world_.TheSession();
-    session.base_path = u"0001\\"_s;
-    session.currency_name = u"руб."_s;
-    session.Parties(PartyKind::kFirm) = {u"Первая"_s, u"Вторая <&>"_s};
-    session.Parties(PartyKind::kClient) = {u"Ромашка"_s};
-    session.Parties(PartyKind::kSupplier) = {u"Завод"_s};
-    session.warehouses = {u"Главный склад"_s, u"Магазин"_s};
-    const TempData& temp = world_.Temp();
-    temp.Put(u"0001\\currency.usd"_s, WriteCurrency(RoubleCurrency()));
     QStringList firms;
-    for (const QString& name : session.Parties(PartyKind::kFirm)) {
+    for (const QString& name : {u"Первая"_s, u"Вторая <&>"_s}) {
       firms << name;
       for (int line = 2; line <= 15; ++line) firms << name.left(6) + QString::number(line);
     }
-    temp.PutLines(u"0001\\SPR\\firma.spr"_s, firms);
     QStringList client = {u"Ромашка"_s};
     for (int line = 2; line <= 14; ++line) client << u"к"_s + QString::number(line);
-    temp.PutLines(u"0001\\SPR\\klient.spr"_s, client);
-    temp.PutLines(u"0001\\SPR\\товар.spr"_s,
-                  {u" Чай"_s, u"Чай <&>"_s, u"Индия"_s, u"ГТД/1"_s, u"пач."_s, u"1.00"_s});
+    SmallBooks(world_.Temp().Data(), world_.TheSession())
+        .Warehouses(u"Главный склад|Магазин"_lines)
+        .Parties(PartyKind::kFirm, u"Первая|Вторая <&>"_lines)
+        .Parties(PartyKind::kClient, {u"Ромашка"_s})
+        .Parties(PartyKind::kSupplier, {u"Завод"_s})
+        .PartyFile(PartyKind::kFirm, firms)
+        .PartyFile(PartyKind::kClient, client)
+        .Goods(u" Чай|Чай <&>|Индия|ГТД/1|пач.|1.00"_lines)
+        .Roubles();
     source.number = u"5"_s;
     source.date = u"12.03.2026"_s;
     source.party = u"Ромашка"_s;
@@ -52,7 +44,7 @@ class PrintWorld {
   void Watch(QWidget* screen) { screen_ = screen; }
   bool ScreenWasClosedFirst() const { return closed_first_; }
   int ViewerStarts() const { return viewer_starts_; }
-  QByteArray PageShown() { return world_.Temp().Bytes(QStringLiteral("out.htm")); }
+  QByteArray PageShown() { return world_.Temp().Bytes(u"out.htm"_s); }
 
   PrintSource source;
 
@@ -74,8 +66,8 @@ inline ModalAnswers::Step InputErrorTold() {
   return [](QWidget* dialog) {
     auto* box = qobject_cast<QMessageBox*>(dialog);
     ASSERT_NE(box, nullptr);
-    EXPECT_EQ(box->text(), QStringLiteral("Ошибка ввода"));
-    EXPECT_EQ(box->windowTitle(), QStringLiteral("Внимание!"));
+    EXPECT_EQ(box->text(), u"Ошибка ввода"_s);
+    EXPECT_EQ(box->windowTitle(), u"Внимание!"_s);
     EXPECT_EQ(box->icon(), QMessageBox::Critical);
     box->accept();
   };

@@ -1,5 +1,3 @@
-#include <QLabel>
-
 #include "books/printing/WaybillParts.h"
 #include "screens/printing/PrintWorld.h"
 #include "screens/printing/WaybillScreen.h"
@@ -8,8 +6,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // What stands between the parties and the footer of a document with one line.
 QStringList OneRow(const char* name, const char* price, const char* sum) {

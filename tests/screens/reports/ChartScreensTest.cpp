@@ -1,13 +1,7 @@
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QLabel>
-#include <QRadioButton>
-
 #include "ScreenDriver.h"
+#include "SmallBooks.h"
 #include "books/reports/GifReader.h"
 #include "books/reports/ReportPageLines.h"
-#include "books/reports/ShipmentsOnDisk.h"
 #include "screens/reports/ChartForms.h"
 #include "screens/reports/ChartImage.h"
 #include "screens/reports/ChartPrinting.h"
@@ -21,18 +15,14 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 class ChartScreens : public testing::Test, protected ScreenWorld {
  protected:
   ChartScreens() {
-    Temp().PutLines(u"0001\\spr\\товар.spr"_s,
-                    {u" Бакалея"_s, u"Чай"_s, u"Индия"_s, {}, u"пач."_s, u"30"_s});
-    Temp().Put(u"0001\\marked"_s, {});
+    books.Warehouses(u"Главный склад|Магазин"_lines).Goods(u" Бакалея|Чай|Индия||пач.|30"_lines);
     books.Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"10"_s, u"36.00"_s,
-               {u"Чай"_s, u"2"_s, u"шт."_s, u"10"_s, u"20"_s, u"18.00"_s});
+               u"Чай|2|шт.|10|20|18.00"_lines);
     books.Ship(1, u"0001.uhd"_s, u"28.02.2025"_s, u"0"_s, u"20.00"_s,
-               {u"Соль"_s, u"1"_s, u"шт."_s, u"5"_s, u"20"_s, u"20.00"_s});
+               u"Соль|1|шт.|5|20|20.00"_lines);
   }
 
   // Presses "Построить" and gives the grid that the chart screen shows.
@@ -51,7 +41,7 @@ class ChartScreens : public testing::Test, protected ScreenWorld {
     return grid;
   }
 
-  DocumentsOnDisk books{Temp(), TheSession()};
+  SmallBooks books{Temp().Data(), TheSession()};
 };
 
 TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {

@@ -1,9 +1,5 @@
 #include <QAbstractItemModelTester>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
 
 #include "DocumentWorld.h"
 #include "screens/directories/QuantityDialog.h"
@@ -16,8 +12,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 class Editors : public testing::Test {
  protected:
@@ -37,8 +31,7 @@ TEST_F(Editors, AReceiptIsEnteredPickedClosedAndPosted) {
         Click(editor, "ok");  // nothing to save yet: it stays
         EXPECT_TRUE(editor->isVisible());
         QTest::keyClick(ListOf(editor), Qt::Key_Insert);
-        EXPECT_EQ(RowTexts(editor, 0),
-                  QStringList({u"Чай"_s, u"2.5"_s, u"шт."_s, u"45.50"_s, u"113.75"_s}));
+        EXPECT_EQ(RowTexts(editor, 0), QStringList(u"Чай|2.5|шт.|45.50|113.75"_lines));
         EXPECT_EQ(TextOf(editor, "Text2"), u"113.75");
         Enter(editor, "number", u"15/а"_s);
         Find<TextChoice>(editor, "party")->Choose(u"ООО Заря"_s);
@@ -62,9 +55,8 @@ TEST_F(Editors, AReceiptIsEnteredPickedClosedAndPosted) {
   });
   QTest::keyClick(ListOf(&screen), Qt::Key_Insert);
   EXPECT_EQ(Lines(u"Склад\\PRH\\0001.prh"_s),
-            QStringList({u"15/а"_s, u"05.11.2026"_s, u"ООО Заря"_s, u"113.75"_s, u"да"_s, u"Чай"_s,
-                         u"2.5"_s, u"шт."_s, u"45.50"_s}));
-  EXPECT_EQ(Lines(u"Склад\\товар.usl"_s), QStringList({u"Чай"_s, u"2.5"_s, u"шт."_s}));
+            QStringList(u"15/а|05.11.2026|ООО Заря|113.75|да|Чай|2.5|шт.|45.50"_lines));
+  EXPECT_EQ(Lines(u"Склад\\товар.usl"_s), QStringList(u"Чай|2.5|шт."_lines));
   EXPECT_EQ(ListOf(&screen)->Records()->rowCount(), 1);
 }
 
@@ -162,16 +154,15 @@ TEST_F(Editors, AChangedClosedDocumentTellsThatStockStaysAndIsEnteredAnewOnReque
   emit note->linkActivated(u"anew"_s);
   EXPECT_FALSE(editor.isVisible());
   EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s), QStringList(u"<none>"_s));
-  EXPECT_EQ(Lines(u"Склад\\UHD\\0002.uhd"_s).mid(6, 3), QStringList({u"да"_s, u"Чай"_s, u"5"_s}));
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0002.uhd"_s).mid(6, 3), QStringList(u"да|Чай|5"_lines));
   // -3 of the first posting, 3 back, 5 out again.
-  EXPECT_EQ(Lines(u"Склад\\товар.usl"_s),
-            QStringList({u"Чай"_s, u"-8.00"_s, u"шт."_s, u"Чай"_s, u"3"_s, u"шт."_s}));
+  EXPECT_EQ(Lines(u"Склад\\товар.usl"_s), QStringList(u"Чай|-8.00|шт.|Чай|3|шт."_lines));
 }
 
 TEST_F(Editors, LinesThatTheWarehouseLacksAreRed) {
-  world_.Temp().PutLines(u"0001\\Склад\\товар.usl"_s, {u"Чай"_s, u"4"_s, u"шт."_s});
+  world_.Temp().PutLines(u"0001\\Склад\\товар.usl"_s, u"Чай|4|шт."_lines);
   DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kShipment), QDate(2026, 11, 22));
-  for (const QString& quantity : {u"3"_s, u"1"_s, u"0.5"_s}) {
+  for (const QString& quantity : u"3|1|0.5"_lines) {
     draft.AddLine({.name = u"Чай"_s,
                    .quantity = quantity,
                    .unit = u"шт."_s,
@@ -216,9 +207,8 @@ TEST_F(Editors, TheTabKeyGoesAsTheEyeDoes) {
   }
   order.removeAll(u"DecText1"_s);
   EXPECT_EQ(order,
-            QStringList({u"number"_s, u"date"_s, u"party"_s, u"add"_s, u"change"_s, u"remove"_s,
-                         u"ListView1"_s, u"Check1"_s, u"prn"_s, u"prs"_s, u"prp"_s, u"pri"_s,
-                         u"Text2"_s, u"Text19"_s, u"ok"_s, u"cancel"_s}));
+            QStringList(u"number|date|party|add|change|remove|ListView1|Check1|prn|prs|prp|pri|"
+                        u"Text2|Text19|ok|cancel"_lines));
 }
 
 TEST_F(Editors, TheDivideKeyChangesALineAndTheSumFollows) {
@@ -236,8 +226,7 @@ TEST_F(Editors, TheDivideKeyChangesALineAndTheSumFollows) {
     QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
   }});
   QTest::keyClick(ListOf(&editor), Qt::Key_Slash, Qt::KeypadModifier);
-  EXPECT_EQ(RowTexts(&editor, 0),
-            QStringList({u"Чай"_s, u"0.333"_s, u"шт."_s, u"10.00"_s, u"3.33"_s}));
+  EXPECT_EQ(RowTexts(&editor, 0), QStringList(u"Чай|0.333|шт.|10.00|3.33"_lines));
   EXPECT_EQ(TextOf(&editor, "Text2"), u"3.33");
 }
 
@@ -286,8 +275,7 @@ TEST_F(Editors, TheDiscountedSumFollowsSumAndPercent) {
   Enter(&editor, "Text2", u"100"_s);
   EXPECT_EQ(TextOf(&editor, "DecText1"), u"87.50");
   Click(&editor, "ok");
-  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3),
-            QStringList({u"100.00"_s, u"12.5"_s, u"87.50"_s}));
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3), QStringList(u"100.00|12.5|87.50"_lines));
 }
 
 TEST_F(Editors, AnEmptiedSumOrDiscountIsSavedAsTheZeroThatItsFieldShows) {
@@ -302,8 +290,7 @@ TEST_F(Editors, AnEmptiedSumOrDiscountIsSavedAsTheZeroThatItsFieldShows) {
     EXPECT_EQ(field->text(), u"0"_s) << name;
   }
   Click(&editor, "ok");
-  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3),
-            QStringList({u"0.00"_s, u"0"_s, u"0.00"_s}));
+  EXPECT_EQ(Lines(u"Склад\\UHD\\0001.uhd"_s).mid(3, 3), QStringList(u"0.00|0|0.00"_lines));
 }
 
 TEST_F(Editors, TheCaretStaysWhereADigitOfTheSumIsTyped) {
@@ -391,8 +378,7 @@ TEST_F(Editors, PropertiesShowTheFileAndOpenThePrints) {
   EXPECT_EQ(TextOf(&properties, "Text3"), u"0");
   EXPECT_EQ(TextOf(&properties, "closed"), u"да");
   EXPECT_EQ(RowTexts(&properties, 0),
-            QStringList({u"Чай"_s, u"3"_s, u"шт."_s, u"45.50"_s, u"60.00"_s, u"60.00"_s,
-                         u"180.00"_s, u"180.00"_s}));
+            QStringList(u"Чай|3|шт.|45.50|60.00|60.00|180.00|180.00"_lines));
   const std::pair<const char*, QString> prints[] = {{"prn", u"PrihNakl"_s},
                                                     {"prs", u"chFactPrint"_s},
                                                     {"prp", u"PrihPrint"_s},
@@ -409,8 +395,7 @@ TEST_F(Editors, PropertiesShowTheFileAndOpenThePrints) {
 // Documents from before the decimal point was fixed have a comma in their figures.
 TEST_F(Editors, PropertiesPrintTheFiguresOfADocumentWithDecimalCommas) {
   world_.Temp().PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
-                         {u"1"_s, u"22.11.2026"_s, u"-"_s, u"180,00"_s, u"2,5"_s, u"175,50"_s,
-                          u"да"_s, u"Чай"_s, u"3"_s, u"шт."_s, u"45.50"_s, u"60.00"_s, u"58.50"_s});
+                         u"1|22.11.2026|-|180,00|2,5|175,50|да|Чай|3|шт.|45.50|60.00|58.50"_lines);
   DocumentProperties properties(world_.Context(), DocumentKind::kShipment, u"Склад"_s,
                                 u"0001.uhd"_s);
   ShowActive(&properties);

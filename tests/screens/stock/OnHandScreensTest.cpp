@@ -1,10 +1,7 @@
 #include <QAbstractItemModelTester>
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 
 #include "ScreenDriver.h"
+#include "SmallBooks.h"
 #include "books/printing/OnHandPage.h"
 #include "screens/stock/OnHandScreen.h"
 #include "screens/stock/OpeningBalancesDialog.h"
@@ -13,22 +10,16 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kShopLedger = u"0001\\Лавка\\товар.usl"_s;
 
 class StockScreens : public testing::Test {
  protected:
   StockScreens() {
-    Session& session = world_.TheSession();
-    session.base_path = u"0001\\"_s;
-    session.warehouses = {u"Лавка"_s, u"Подвал"_s};
-    Temp().PutLines(u"0001\\spr\\товар.spr"_s,
-                    {u" Чай"_s, u"Улун"_s, u"Китай"_s, u"-"_s, u"пач."_s, u"90.00"_s, u"Ассам"_s,
-                     u"Индия"_s, u"-"_s, u"пач."_s, u"45.00"_s});
-    Temp().PutLines(u"0001\\marked"_s, {});
-    Temp().PutLines(kShopLedger, {u"Ассам"_s, u"5"_s, u"пач."_s, u"Сенча"_s, u"9"_s, u"пач."_s});
-    Temp().PutLines(u"0001\\Подвал\\товар.usl"_s, {u"Улун"_s, u"1.5"_s, u"пач."_s});
+    SmallBooks(Temp().Data(), world_.TheSession())
+        .Warehouses(u"Лавка|Подвал"_lines)
+        .Goods(u" Чай|Улун|Китай|-|пач.|90.00|Ассам|Индия|-|пач.|45.00"_lines)
+        .Ledger(u"Лавка"_s, u"Ассам|5|пач.|Сенча|9|пач."_lines)
+        .Ledger(u"Подвал"_s, u"Улун|1.5|пач."_lines);
   }
 
   TempData& Temp() { return world_.Temp(); }
@@ -61,7 +52,7 @@ class OnHandShown : public StockScreens {
 
 TEST_F(OnHandShown, ACorrectionRewritesTheLedgerAndTheStatusLine) {
   const QAbstractItemModelTester tester(List(&screen_)->model());
-  EXPECT_EQ(Rows(&screen_), (QStringList{u" Чай="_s, u"Улун=0"_s, u"Ассам=5"_s}));
+  EXPECT_EQ(Rows(&screen_), (u" Чай=|Улун=0|Ассам=5"_lines));
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 1     на сумму: 225.00"_s);
   ModalAnswers answers({[](QWidget* dialog) {
     EXPECT_EQ(dialog->windowTitle(), u"Товар"_s);
@@ -69,7 +60,7 @@ TEST_F(OnHandShown, ACorrectionRewritesTheLedgerAndTheStatusLine) {
     AnswerText(u"12.5"_s)(dialog);
   }});
   Click(&screen_, "Command1");
-  EXPECT_EQ(Temp().Lines(kShopLedger), (QStringList{u"Ассам"_s, u"12.5"_s, u"пач."_s}));
+  EXPECT_EQ(Temp().Lines(kShopLedger), (u"Ассам|12.5|пач."_lines));
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 1     на сумму: 562.50"_s);
 }
 
@@ -90,7 +81,7 @@ TEST_F(OnHandShown, CancelTheSameTextAndAGroupWriteNothing) {
 
 TEST_F(OnHandShown, OverAllWarehousesOnlyEnterChangesAndOnlyTheShownRow) {
   ChooseAll();
-  EXPECT_EQ(Rows(&screen_), (QStringList{u" Чай="_s, u"Улун=1.5"_s, u"Ассам=5"_s}));
+  EXPECT_EQ(Rows(&screen_), (u" Чай=|Улун=1.5|Ассам=5"_lines));
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 2     на сумму: 360.00"_s);
   EXPECT_FALSE(Find<QPushButton>(&screen_, "Command1")->isEnabled());
   EXPECT_FALSE(Find<QPushButton>(&screen_, "Command3")->isEnabled());
@@ -114,7 +105,7 @@ TEST_F(OnHandShown, ZeroingAsksFirstAndKeepsTheRows) {
   EXPECT_EQ(Temp().Tree(), before);
   ModalAnswers answers({Press(QMessageBox::Yes, question)});
   Click(&screen_, "Command3");
-  EXPECT_EQ(Temp().Lines(kShopLedger), (QStringList{u"Ассам"_s, u"0"_s, u"0"_s}));
+  EXPECT_EQ(Temp().Lines(kShopLedger), (u"Ассам|0|0"_lines));
   EXPECT_EQ(Status(&screen_), u"Итого наименований: 0     на сумму: 0.00"_s);
 }
 
@@ -188,9 +179,8 @@ TEST_F(StockScreens, OpeningBalancesAreAddedToTheChosenWarehouse) {
   Click(&screen, "Command4");
   EXPECT_FALSE(screen.isVisible());
   auto expected = before;
-  expected["0001/Лавка/товар.usl"] = EncodeLines({u"Ассам"_s, u"7.5"_s, u"пач."_s, u"Сенча"_s,
-                                                  u"9"_s, u"пач."_s, u"Улун"_s, u"6"_s, u"пач."_s})
-                                         .toStdString();
+  expected["0001/Лавка/товар.usl"] =
+      EncodeLines(u"Ассам|7.5|пач.|Сенча|9|пач.|Улун|6|пач."_lines).toStdString();
   EXPECT_EQ(Temp().Tree(), expected);
 }
 

@@ -1,7 +1,4 @@
 #include <QAbstractItemModelTester>
-#include <QComboBox>
-#include <QLabel>
-#include <QRadioButton>
 
 #include "DocumentWorld.h"
 #include "screens/stock/documents/DocumentRegisterScreen.h"
@@ -10,8 +7,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 class RegisterScreens : public testing::Test {
  protected:
@@ -36,10 +31,9 @@ TEST_F(RegisterScreens, ShowTheirColumnsAndTotals) {
   DocumentRegisterScreen receipts(world_.Context(), DocumentKind::kReceipt);
   DocumentRegisterScreen shipments(world_.Context(), DocumentKind::kShipment);
   DocumentRegisterScreen transfers(world_.Context(), DocumentKind::kTransfer);
-  EXPECT_EQ(RowTexts(&receipts, 0),
-            QStringList({u"1"_s, u"22.11.2026"_s, u"-"_s, u"180.00"_s, u"да"_s, u"0001.prh"_s}));
-  EXPECT_EQ(RowTexts(&shipments, 0), QStringList({u"1"_s, u"22.11.2026"_s, u"-"_s, u"180.00"_s,
-                                                  u"0"_s, u"180.00"_s, u"нет"_s, u"0001.uhd"_s}));
+  EXPECT_EQ(RowTexts(&receipts, 0), QStringList(u"1|22.11.2026|-|180.00|да|0001.prh"_lines));
+  EXPECT_EQ(RowTexts(&shipments, 0),
+            QStringList(u"1|22.11.2026|-|180.00|0|180.00|нет|0001.uhd"_lines));
   EXPECT_EQ(RowTexts(&transfers, 0), QStringList({u"1"_s, u"22.11.2026"_s, u"Склад"_s, u"Магазин"_s,
                                                   u"180.00"_s, u"0001.vpr"_s}));
   const QWidget* const screens[] = {&receipts, &shipments, &transfers};
@@ -154,10 +148,10 @@ const QString kSure = u"Вы уверены?"_s;
 const QString kWriteOff = u"Списать товар со склада?"_s;
 const QString kReturn = u"Возвратить товар на склад?"_s;
 const QString kBoth = u"Возвратить/списать?"_s;
-const QStringList kReceived = {u"Чай"_s, u"3"_s, u"шт."_s};
-const QStringList kIssued = {u"Чай"_s, u"-3.00"_s, u"шт."_s};
-const QStringList kMinus = {u"Чай"_s, u"- 3"_s, u"шт."_s};
-const QStringList kPlus = {u"Чай"_s, u"3"_s, u"шт."_s};
+const QStringList kReceived = u"Чай|3|шт."_lines;
+const QStringList kIssued = u"Чай|-3.00|шт."_lines;
+const QStringList kMinus = u"Чай|- 3|шт."_lines;
+const QStringList kPlus = u"Чай|3|шт."_lines;
 
 const DeletionCase kDeletions[] = {
     {"OpenReceiptYes", DocumentKind::kReceipt, false, kYes, kSure, true, {}},
@@ -314,8 +308,7 @@ TEST_F(RegisterScreens, DamagedDocumentsNeitherCrashNorHang) {
   put(u"0006.prh"_s, head + EncodeText(u"Чай\r\n3"));
   DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
-  EXPECT_EQ(Files(&screen),
-            QStringList({u"0003.prh"_s, u"0004.prh"_s, u"0005.prh"_s, u"0006.prh"_s}));
+  EXPECT_EQ(Files(&screen), QStringList(u"0003.prh|0004.prh|0005.prh|0006.prh"_lines));
   for (int row = 0; row < 4; ++row) {
     ListOf(&screen)->SelectRow(row);
     ModalAnswers answers({Escape(), Escape()});

@@ -1,9 +1,4 @@
-#include <gtest/gtest.h>
 #include <unistd.h>
-
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
@@ -16,8 +11,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // Stands for the main window and keeps what it was asked, in order.
 class NotedHost : public CatalogueHost {

@@ -1,22 +1,16 @@
-#include <gtest/gtest.h>
-
-#include <QLabel>
 #include <QTabWidget>
 
 #include "ScreenDriver.h"
-#include "books/store/Catalogue.h"
+#include "SmallBooks.h"
 #include "screens/store/CheckDialog.h"
 
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 class CheckDialogTest : public testing::Test {
  protected:
   CheckDialogTest() {
-    TheSession().chosen_base = CreateDatabase(world_.Temp().Data(), u"Лавка"_s);
-    OpenDatabase(TheSession(), world_.Temp().Data());
+    SmallBooks(world_.Temp().Data(), TheSession(), u"Лавка"_s);
     world_.Temp().PutLines(u"0001\\SPR\\товар.spr"_s, {u"Чай"_s, {}, {}, u"пач."_s, u"45.00"_s});
     world_.Temp().Put(u"0001\\marked"_s, EncodeText(u"Чай\nЧай\r\n"));
     world_.Temp().PutLines(u"0001\\Главный склад\\товар.usl"_s, {u"Чай"_s, u"- 2"_s, u"пач."_s});

@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QDir>
-#include <QLabel>
 #include <QProgressBar>
 
 #include "ScreenDriver.h"
@@ -16,8 +13,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QString kFolder = u"/Копия БД Kladez от 22-11-26"_s;
 

@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <QCalendarWidget>
 #include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -13,8 +10,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 const QDate kToday(2026, 11, 22);
 

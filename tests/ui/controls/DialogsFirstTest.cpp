@@ -1,14 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <QDialog>
-
 #include "ScreenDriver.h"
 #include "ui/controls/DialogsFirst.h"
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(DialogsFirst, WhatStandsBelowADialogClosesOnlyAfterIt) {
   QWidget main_window;

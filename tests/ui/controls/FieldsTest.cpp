@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QClipboard>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QTest>
 
 #include "ScreenDriver.h"
 #include "ui/controls/FieldNote.h"
@@ -11,8 +8,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 struct TypingCase {
   QString before;

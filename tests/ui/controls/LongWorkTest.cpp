@@ -1,14 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <QPushButton>
-
 #include "ScreenDriver.h"
 #include "ui/controls/LongWork.h"
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // Works until it is told to end, and acts once when the bar has come up.
 class LongWorkTest : public testing::Test {

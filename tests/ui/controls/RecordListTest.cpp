@@ -1,15 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <QAbstractItemModelTester>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFont>
 #include <QMenu>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 
 #include "ScreenDriver.h"
 #include "ui/controls/Fields.h"
@@ -20,8 +14,6 @@
 
 namespace kladez {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 class RecordListTest : public ::testing::Test {
  protected:

@@ -4,8 +4,6 @@
 namespace kladez {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kQuestion = u"Сохранить изменения?"_s;
 constexpr QMessageBox::StandardButton kYes = QMessageBox::Yes;
 constexpr QMessageBox::StandardButton kNo = QMessageBox::No;
