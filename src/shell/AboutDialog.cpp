@@ -22,7 +22,7 @@ class Banner : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     PaintTitleGround(painter, rect());
-    painter.setPen(look::kOnAccent);
+    painter.setPen(look::kOnPanel);
     painter.setFont(TitleFont(font()));
     painter.drawText(rect().adjusted(look::kGap, 0, -look::kGap, 0),
                      Qt::AlignVCenter | Qt::AlignLeft, u"Kladez"_s);

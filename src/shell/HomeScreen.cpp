@@ -31,9 +31,7 @@ int LinkNumber(Place place) {
 QLabel* NewColumnHeading(QStringView text, QWidget* parent) {
   auto* heading = new QLabel(text.toString(), parent);
   heading->setFont(look::HeadingFont(heading->font()));
-  QPalette palette = heading->palette();
-  palette.setColor(QPalette::WindowText, look::kAccent);
-  heading->setPalette(palette);
+  look::Paint(heading, QPalette::WindowText, look::kAccent);
   heading->setForegroundRole(QPalette::WindowText);  // on a card it would be that of a field
   return heading;
 }

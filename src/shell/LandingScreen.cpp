@@ -32,9 +32,7 @@ QLabel* NewText(const QString& name, const QString& text, const QFont& font, QWi
   label->setObjectName(name);
   label->setFont(font);
   label->setWordWrap(true);
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, look::kOnAccent);
-  label->setPalette(palette);
+  look::Paint(label, QPalette::WindowText, look::kOnPanel);
   return label;
 }
 

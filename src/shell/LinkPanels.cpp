@@ -12,10 +12,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-void FillGround(QWidget* panel, const QColor& color) {
-  QPalette palette = panel->palette();
-  palette.setColor(QPalette::Window, color);
-  panel->setPalette(palette);
+void FillGround(QWidget* panel, const look::Shade& shade) {
+  look::Paint(panel, QPalette::Window, shade);
   panel->setAutoFillBackground(true);
 }
 
@@ -24,9 +22,7 @@ QLabel* NewHeading(QStringView text, QWidget* parent) {
   QFont font = heading->font();
   font.setWeight(QFont::DemiBold);
   heading->setFont(font);
-  QPalette palette = heading->palette();
-  palette.setColor(QPalette::WindowText, look::kOnAccent);
-  heading->setPalette(palette);
+  look::Paint(heading, QPalette::WindowText, look::kOnPanel);
   return heading;
 }
 
@@ -39,7 +35,7 @@ LinksPanel::LinksPanel(QWidget* parent) : QScrollArea(parent) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setWidgetResizable(true);
   auto* ground = new QWidget(this);
-  FillGround(ground, look::kAccent);
+  FillGround(ground, look::kPanel);
   auto* layout = new QVBoxLayout(ground);
   layout->setContentsMargins(look::kMargin, look::kMargin, look::kMargin, look::kMargin);
   layout->setSpacing(0);

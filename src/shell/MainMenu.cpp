@@ -1,9 +1,13 @@
 #include "shell/MainMenu.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
 #include <array>
+
+#include "books/store/SettingsStore.h"
+#include "ui/base/Colours.h"
 
 namespace kladez {
 namespace {
@@ -37,7 +41,8 @@ constexpr auto kCommands = std::to_array<CommandRow>({
 }  // namespace
 
 MainMenu::MainMenu(QMenuBar* bar, QObject* parent) : QObject(parent) {
-  AddCommands(AddMenu(bar, u"mnuFile"_s, u"&Файл"_s), u"mnuFile");
+  file_menu_ = AddMenu(bar, u"mnuFile"_s, u"&Файл"_s);
+  AddCommands(file_menu_, u"mnuFile");
   store_menu_ = AddMenu(bar, u"mnu_Sklad"_s, u"&Склад"_s);
   reports_menu_ = AddMenu(bar, u"mnu_Otchet"_s, u"&Отчеты"_s);
   directories_menu_ = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
@@ -66,6 +71,39 @@ void MainMenu::AddCommands(QMenu* menu, QStringView name) {
     connect(action, &QAction::triggered, this,
             [this, command = row.command] { emit Commanded(command); });
     commands_[row.command] = action;
+  }
+}
+
+void MainMenu::OfferSchemes(SettingsStore& settings) {
+  struct SchemeRow {
+    look::Scheme scheme;
+    QStringView name;
+    QStringView caption;
+  };
+  static constexpr SchemeRow kRows[] = {
+      {look::Scheme::kSystem, u"scheme_system", u"&Как в системе"},
+      {look::Scheme::kLight, u"scheme_light", u"&Светлое"},
+      {look::Scheme::kDark, u"scheme_dark", u"&Тёмное"},
+  };
+  file_menu_->addSeparator();
+  QMenu* choice = file_menu_->addMenu(u"О&формление"_s);
+  choice->setObjectName(u"scheme"_s);
+  auto* group = new QActionGroup(this);
+  const int chosen = settings.ReadInt(settings::kScheme);
+  for (const SchemeRow& row : kRows) {
+    QAction* action = choice->addAction(row.caption.toString());
+    action->setObjectName(row.name.toString());
+    action->setCheckable(true);
+    group->addAction(action);
+    const int number = static_cast<int>(row.scheme);
+    connect(action, &QAction::triggered, this, [&settings, &row, number] {
+      look::UseScheme(row.scheme);
+      settings.Write(settings::kScheme, QString::number(number));
+    });
+    if (number == chosen || row.scheme == look::Scheme::kSystem) {
+      action->setChecked(true);
+      look::UseScheme(row.scheme);
+    }
   }
 }
 

@@ -12,6 +12,8 @@ class QMenuBar;
 
 namespace kladez {
 
+class SettingsStore;
+
 enum class Command {
   kCreate,
   kOpen,
@@ -39,6 +41,8 @@ class MainMenu : public QObject {
   void EnableDatabaseCommands(bool enable);  // "Импорт...", "Закрыть", "Проверка базы…"
   // What the seller may not do is greyed; everything else is enabled.
   void ApplyRole(bool seller);
+  // The choice "Оформление", at the end of "Файл"; the stored one holds from now on.
+  void OfferSchemes(SettingsStore& settings);
 
  signals:
   void Chosen(Place place);
@@ -49,6 +53,7 @@ class MainMenu : public QObject {
   void AddCommands(QMenu* menu, QStringView name);
   void AddPlaces(QMenu* menu, PlaceGroup group);
 
+  QMenu* file_menu_;
   QMenu* store_menu_;
   QMenu* reports_menu_;
   QMenu* directories_menu_;

@@ -63,6 +63,7 @@ MainWindow::MainWindow(AppContext& context)
   setWindowIcon(look::Icon(look::IconName::kProgram));
   HintPicture::SetOpener(&HintWindow::Show);
   KeepTableFolder(&context.settings, &context.clock);
+  menu_->OfferSchemes(context_.settings);
   BuildLayout();
   connect(menu_, &MainMenu::Chosen, this, &MainWindow::Go);
   connect(menu_, &MainMenu::Commanded, this, &MainWindow::Do);

@@ -36,9 +36,9 @@ void SplashScreen::paintEvent(QPaintEvent*) {
   QRect room =
       rect().adjusted(4 * look::kGrid, 4 * look::kGrid, -4 * look::kGrid, -4 * look::kGrid);
   const int icon = 9 * look::kGrid;
-  look::Icon(look::IconName::kProgram, look::kOnAccent)
+  look::Icon(look::IconName::kProgram, look::kOnPanel)
       .paint(&painter, QRect(room.topLeft(), QSize(icon, icon)));
-  painter.setPen(look::kOnAccent);
+  painter.setPen(look::kOnPanel);
   painter.setFont(TitleFont(font()));
   painter.drawText(room.adjusted(0, icon + look::kMargin, 0, 0), Qt::AlignLeft | Qt::AlignTop,
                    kProgramTitle.toString());

@@ -27,7 +27,7 @@ Link::Link(const QString& name, QStringView text, look::IconName icon, Ground gr
   setFocusPolicy(Qt::TabFocus);
 }
 
-QColor Link::Color(bool hot) const {
+const look::Shade& Link::Color(bool hot) const {
   if (ground_ == Ground::kDark) return hot ? look::kLinkHover : look::kLink;
   return hot ? look::kAccentHover : look::kAccent;
 }
@@ -58,13 +58,13 @@ void Link::paintEvent(QPaintEvent*) {
   QFont font = painter.font();
   font.setUnderline(hot);
   painter.setFont(font);
-  painter.setPen(Color(hot));
+  painter.setPen(QColor(Color(hot)));
   painter.drawText(
       text_room,
       form_ == Form::kRow ? Qt::AlignVCenter | Qt::AlignLeft : Qt::AlignCenter | Qt::TextSingleLine,
       text());
   if (!hasFocus()) return;
-  painter.setPen(QPen(Color(hot), 1, Qt::DotLine));
+  painter.setPen(QPen(QColor(Color(hot)), 1, Qt::DotLine));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -27,7 +27,7 @@ class Link : public QAbstractButton {
   void leaveEvent(QEvent* event) override;
 
  private:
-  QColor Color(bool hot) const;
+  const look::Shade& Color(bool hot) const;
 
   Ground ground_;
   Form form_;

@@ -27,6 +27,8 @@ inline constexpr Setting kRole{u"Kladez4", u"Options", u"Chel",
 inline constexpr Setting kTip{u"Kladez4", u"Options", u"Tip", u"1"};
 inline constexpr Setting kReport{u"Kladez4", u"Options", u"Report", u"1"};
 inline constexpr Setting kPanel{u"Kladez4", u"Options", u"Panel", u"1"};
+// 0 the colours of the desktop, 1 light, 2 dark.
+inline constexpr Setting kScheme{u"Kladez4", u"Options", u"Scheme", u"0"};
 inline constexpr Setting kPriceGroups{u"Kladez4", u"Price", u"op1", u"True"};
 inline constexpr Setting kPriceGoodsOnly{u"Kladez4", u"Price", u"op2", u"False"};
 inline constexpr Setting kStockGroups{u"Kladez4", u"Sklad", u"op1", u"True"};

@@ -15,9 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 void ShowNote(QLabel* label, const LineNote& note) {
-  QPalette colors = label->parentWidget()->palette();
-  colors.setColor(QPalette::WindowText, note.amiss ? look::kWarning : look::kQuiet);
-  label->setPalette(colors);
+  look::Paint(label, QPalette::WindowText, note.amiss ? look::kWarning : look::kQuiet);
   label->setText(note.text);
 }
 

@@ -48,7 +48,7 @@ class SheetView : public QWidget {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     for (const SheetField& field : SheetFields()) {
-      painter.fillRect(scale_.Map(field.place), look::kAccentLight);
+      painter.fillRect(scale_.Map(field.place), look::kAccentLight.light);
     }
     painter.setRenderHint(QPainter::TextAntialiasing);
     PaintSheet(painter, scale_);
@@ -75,7 +75,7 @@ CashOrderScreen::CashOrderScreen(AppContext& context, const PrintSource& source,
 QWidget* CashOrderScreen::NewSheet() {
   const SheetScale scale({look::kMargin, look::kMargin}, logicalDpiX() / kMmOfInch * kMagnified);
   auto* sheet = new SheetView(scale, this);
-  QPalette palette = this->palette();
+  QPalette palette = look::PaperPalette();
   palette.setColor(QPalette::Base, Qt::transparent);
   for (const SheetField& field : SheetFields()) {
     QWidget* editor = nullptr;

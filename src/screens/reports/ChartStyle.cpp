@@ -8,6 +8,10 @@
 namespace kladez {
 namespace {
 
+constexpr look::Shade kInk{{0x6B, 0x76, 0x7B}, {0xC0, 0xCC, 0xD1}};
+// The second series: light enough to differ from the first in a black and white print.
+constexpr look::Shade kWarm{{0xE0, 0x9F, 0x4A}, {0xE0, 0x9F, 0x4A}};
+
 QColor Mix(const QColor& from, const QColor& to, double share) {
   const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
   return QColor(part(from.red(), to.red()), part(from.green(), to.green()),
@@ -15,8 +19,8 @@ QColor Mix(const QColor& from, const QColor& to, double share) {
 }
 
 // Shade is fuller and light is paler than the face; grey mixed in would make both look dusty.
-SeriesStyle SeriesOf(const QColor& face, const QColor& hatch) {
-  SeriesStyle style{face, Mix(face, Qt::white, 0.9), hatch, {}};
+SeriesStyle SeriesOf(const QColor& face, const QColor& hatch, const QColor& ground) {
+  SeriesStyle style{face, Mix(face, ground, 0.9), hatch, {}};
   const float hue = face.hsvHueF();
   const float fullness = face.hsvSaturationF();
   const float value = face.valueF();
@@ -28,22 +32,34 @@ SeriesStyle SeriesOf(const QColor& face, const QColor& hatch) {
   return style;
 }
 
-}  // namespace
-
-ChartStyle DefaultChartStyle() {
+ChartStyle StyleOn(const QColor& ground, bool dark) {
+  const auto pick = [dark](const look::Shade& shade) { return dark ? shade.dark : shade.light; };
+  const QColor stripe = pick(look::kStripe);
+  const QColor line = pick(look::kLine);
+  const QColor accent = pick(look::kAccent);
+  const QColor warm = pick(kWarm);
+  const QColor ink = pick(kInk);
   ChartStyle style;
-  style.ground = Qt::white;
-  style.wall = look::kStripe;
-  style.side_wall = Mix(look::kStripe, look::kLine, 0.4);
-  style.floor = Mix(look::kStripe, look::kLine, 0.8);
-  style.grid = look::kLine;
-  style.zero_line = Mix(look::kLine, look::kQuiet, 0.7);
-  style.text = Mix(look::kQuiet, Qt::black, 0.35);
-  style.band = look::kAccentLight;
-  style.series = {SeriesOf(look::kAccent, look::kAccent),
-                  SeriesOf(look::kWarm, Mix(look::kWarm, Qt::white, 0.4))};
+  style.ground = ground;
+  style.wall = stripe;
+  style.side_wall = Mix(stripe, line, 0.4);
+  style.floor = Mix(stripe, line, 0.8);
+  style.grid = line;
+  style.zero_line = Mix(line, ink, 0.7);
+  style.text = Mix(ink, dark ? Qt::white : Qt::black, 0.35);
+  style.band = pick(look::kAccentLight);
+  style.series = {SeriesOf(accent, accent, style.ground),
+                  SeriesOf(warm, Mix(warm, style.ground, 0.4), style.ground)};
   style.font = QGuiApplication::font();
   return style;
+}
+
+}  // namespace
+
+ChartStyle DefaultChartStyle() { return StyleOn(Qt::white, false); }
+
+ChartStyle ScreenChartStyle() {
+  return StyleOn(QGuiApplication::palette().color(QPalette::Base), look::IsDark());
 }
 
 std::vector<QColor> OwnColours(const ChartStyle& style) {

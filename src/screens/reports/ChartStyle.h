@@ -34,9 +34,12 @@ struct ChartStyle {
   int marked_row = -1;  // the row with a band behind it; -1 is none
 };
 
-// The program's own style on a white ground. The two columns differ in lightness as much as in hue,
-// so that a black and white print tells them apart.
+// The program's own style on white paper. The two columns differ in lightness as much as in hue, so
+// that a black and white print tells them apart.
 ChartStyle DefaultChartStyle();
+
+// The same with the colours that the screen has now.
+ChartStyle ScreenChartStyle();
 
 // Every colour that the style may put on whole pixels.
 std::vector<QColor> OwnColours(const ChartStyle& style);

@@ -15,7 +15,7 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
-ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent), style_(DefaultChartStyle()) {
+ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent), style_(ScreenChartStyle()) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -40,6 +40,11 @@ QSize ChartWidget::sizeHint() const { return {600, 400}; }
 QSize ChartWidget::minimumSizeHint() const { return {240, 150}; }
 
 bool ChartWidget::event(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) {
+    const int marked = style_.marked_row;
+    style_ = ScreenChartStyle();
+    style_.marked_row = marked;
+  }
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   ShowRowTip(RowAt(help->pos()), help->globalPos());

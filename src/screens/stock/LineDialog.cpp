@@ -96,9 +96,7 @@ void LineDialog::Recompute() {
 
 void LineDialog::ShowNotes() {
   const auto show = [](QLabel* label, const LineNote& note) {
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, note.amiss ? look::kWarning : look::kQuiet);
-    label->setPalette(palette);
+    look::Paint(label, QPalette::WindowText, note.amiss ? look::kWarning : look::kQuiet);
     label->setText(note.text);
     label->setVisible(!note.text.isEmpty());
   };

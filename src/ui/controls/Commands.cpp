@@ -18,6 +18,7 @@ QPushButton* NewCommand(QWidget* parent, const QString& name, const QString& cap
                         look::IconName icon) {
   QPushButton* button = NewCommand(parent, name, caption);
   button->setIcon(look::Icon(icon));
+  button->setIconSize(look::IconSize(button));
   return button;
 }
 

@@ -150,7 +150,7 @@ void TextLine::paintEvent(QPaintEvent* event) {
   const bool fault = !fault_.isEmpty();
   if ((!hover_ && !fault) || !isEnabled()) return;
   QPainter painter(this);
-  painter.setPen(fault ? QPen(look::kWarning, 2) : QPen(look::kAccent));
+  painter.setPen(fault ? QPen(QColor(look::kWarning), 2) : QPen(QColor(look::kAccent)));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -34,9 +34,7 @@ QBoxLayout* WithHint(QWidget* field, const Hint& hint) {
 void MakeReadOnly(QLineEdit* field) {
   field->setReadOnly(true);
   field->setFocusPolicy(Qt::ClickFocus);
-  QPalette colors = field->palette();
-  colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-  field->setPalette(colors);
+  look::Paint(field, QPalette::Base, look::kStill);
 }
 
 TextChoice::TextChoice(const QStringList& texts, QWidget* parent)

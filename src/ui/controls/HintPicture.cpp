@@ -19,7 +19,7 @@ HintPicture::Opener& TheOpener() {
 HintPicture::HintPicture(const Hint& hint, std::initializer_list<QWidget*> about, QWidget* parent)
     : QToolButton(parent), hint_(hint) {
   setIcon(look::Icon(look::IconName::kHint, look::kQuiet));
-  setIconSize(QSize(look::kMargin, look::kMargin));
+  setIconSize(look::IconSize(this));
   setAutoRaise(true);
   // Tabbing goes from field to field.
   setFocusPolicy(about.size() > 0 ? Qt::NoFocus : Qt::TabFocus);

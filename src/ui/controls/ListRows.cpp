@@ -39,7 +39,7 @@ void ListRows::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& 
   option->fontMetrics = QFontMetrics(option->font);
   const QString text = WithThinGaps(option->text);
   if (text.startsWith(u'-') && text.size() > 1 && text[1].isDigit()) {
-    option->palette.setColor(QPalette::Text, look::kWarning);
+    option->palette.setColor(QPalette::Text, QColor(look::kWarning));
   }
   option->text = text;
 }

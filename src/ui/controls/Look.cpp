@@ -3,15 +3,20 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QFrame>
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QLayout>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <cmath>
 #include <map>
 
 namespace kladez::look {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 // Outlines on a field of 24 by 24, drawn with a pen of 1.6.
 const char* OutlineOf(IconName name) {
@@ -48,6 +53,42 @@ const char* OutlineOf(IconName name) {
   return outlines.at(name);
 }
 
+// Drawn when it is needed: in the size that is wanted and the colour of that moment.
+class Outline : public QIconEngine {
+ public:
+  Outline(IconName name, const Shade& shade) : name_(name), shade_(shade) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    QColor colour = shade_;
+    if (mode == QIcon::Disabled) {
+      colour = QGuiApplication::palette().color(QPalette::Disabled, QPalette::ButtonText);
+    }
+    const QByteArray svg =
+        QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24"><path )"
+                   R"(fill="none" stroke-width="1.6" stroke-linecap="round" )"
+                   R"(stroke-linejoin="round" stroke=")") +
+        colour.name().toLatin1() + R"(" d=")" + OutlineOf(name_) + R"("/></svg>)";
+    QSvgRenderer(svg).render(painter, rect);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return picture;
+  }
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+    QList<QSize> sizes;
+    for (const int side : {16, 20, 24, 32, 48, 64, 128}) sizes.append(QSize(side, side));
+    return sizes;
+  }
+  QIconEngine* clone() const override { return new Outline(*this); }
+
+ private:
+  IconName name_;
+  Shade shade_;
+};
+
 bool HasEqualFigures(const QFont& font) {
   const QFontMetricsF metrics(font);
   const qreal wanted = metrics.horizontalAdvance(u'0');
@@ -59,21 +100,11 @@ bool HasEqualFigures(const QFont& font) {
 
 }  // namespace
 
-QIcon Icon(IconName name, const QColor& color) {
-  const QByteArray svg =
-      QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24"><path fill="none" )"
-                 R"(stroke-width="1.6" stroke-linecap="round" stroke-linejoin="round" stroke=")") +
-      color.name().toLatin1() + R"(" d=")" + OutlineOf(name) + R"("/></svg>)";
-  QSvgRenderer renderer(svg);
-  QIcon icon;
-  for (const int size : {16, 20, 24, 32, 48, 64, 128}) {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter);
-    icon.addPixmap(pixmap);
-  }
-  return icon;
+QIcon Icon(IconName name, const Shade& shade) { return QIcon(new Outline(name, shade)); }
+
+QSize IconSize(const QWidget* widget) {
+  const int side = std::max(kMargin, widget->fontMetrics().height() * 9 / 20 * 2);
+  return {side, side};
 }
 
 QFont NumberFont(const QFont& base) {
@@ -81,8 +112,7 @@ QFont NumberFont(const QFont& base) {
   const auto known = fonts.find(base.key());
   if (known != fonts.end()) return known->second;
   QFont font(base);
-  QStringList families = {QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans"),
-                          QStringLiteral("Noto Sans"),
+  QStringList families = {u"DejaVu Sans"_s, u"Liberation Sans"_s, u"Noto Sans"_s,
                           QFontDatabase::systemFont(QFontDatabase::FixedFont).family()};
   while (!HasEqualFigures(font) && !families.isEmpty()) font.setFamily(families.takeFirst());
   return fonts.emplace(base.key(), font).first->second;
@@ -105,17 +135,12 @@ void SetPanelMargins(QLayout* layout) {
   layout->setSpacing(kGrid);
 }
 
-void MakeQuiet(QWidget* widget) {
-  QPalette palette = widget->palette();
-  palette.setColor(QPalette::WindowText, kQuiet);
-  widget->setPalette(palette);
-}
+void MakeQuiet(QWidget* widget) { Paint(widget, QPalette::WindowText, kQuiet); }
 
 void MakeWarning(QWidget* widget) {
-  QPalette palette = widget->palette();
-  palette.setColor(QPalette::WindowText, kWarning);
-  palette.setColor(QPalette::Window, palette.color(QPalette::Base));
-  widget->setPalette(palette);
+  widget->setBackgroundRole(QPalette::Base);
+  Paint(widget, QPalette::WindowText, kWarning);
+  widget->setForegroundRole(QPalette::WindowText);
 }
 
 QString PlainToolTip(const QString& text) {
@@ -127,9 +152,7 @@ QWidget* NewSeparator(QWidget* parent) {
   auto* line = new QFrame(parent);
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Plain);
-  QPalette palette = line->palette();
-  palette.setColor(QPalette::WindowText, kLine);
-  line->setPalette(palette);
+  Paint(line, QPalette::WindowText, kLine);
   return line;
 }
 

@@ -1,10 +1,11 @@
-// The look of every screen, in one place: colours, spacings, fonts and icons. No other file names a
-// colour or counts pixels.
+// The look of every screen, in one place: spacings, fonts and icons, and with them the colours. No
+// other file names a colour or counts pixels.
 #pragma once
 
-#include <QColor>
 #include <QFont>
 #include <QIcon>
+
+#include "ui/base/Colours.h"
 
 class QLayout;
 class QWidget;
@@ -22,22 +23,6 @@ inline constexpr int kLongestText = 512;
 
 // Column widths are told in twips; 15 of them are one pixel at 96 dpi.
 constexpr int FromTwips(int twips) { return twips / 15; }
-
-inline constexpr QColor kAccent{0x1F, 0x4E,
-                                0x5F};  // deep blue-green: panel, chart, default command
-inline constexpr QColor kAccentDeep{0x12, 0x30, 0x3B};   // where the accent fades out
-inline constexpr QColor kAccentHover{0xB0, 0x5A, 0x14};  // a link on a light ground, pointed at
-inline constexpr QColor kAccentLight{0xE3, 0xEE, 0xF1};  // the strip, chosen options
-// The second series of a chart: light enough to differ from the accent in a black and white print.
-inline constexpr QColor kWarm{0xE0, 0x9F, 0x4A};
-inline constexpr QColor kOnAccent{0xFF, 0xFF, 0xFF};   // headings on the panel
-inline constexpr QColor kLink{0xFF, 0xFF, 0xC0};       // links on the panel: light yellow
-inline constexpr QColor kLinkHover{0xFF, 0xE0, 0xC0};  // the link under the pointer: peach
-inline constexpr QColor kGroupRow{0, 0, 255};          // rows of goods groups
-inline constexpr QColor kQuiet{0x6B, 0x76, 0x7B};      // notes, empty lists
-inline constexpr QColor kLine{0xD5, 0xDC, 0xDF};       // thin separators
-inline constexpr QColor kStripe{0xF6, 0xF9, 0xFA};     // every second row of a list
-inline constexpr QColor kWarning{0xA8, 0x32, 0x1E};    // a field at fault, and why
 
 enum class IconName {
   kAdd,
@@ -69,8 +54,10 @@ enum class IconName {
   kOpen,
   kProgram,
 };
-// A line drawing in the given colour, sharp at every size.
-QIcon Icon(IconName name, const QColor& color = kAccent);
+// A line drawing, sharp at every size, in the colour for the ground that the program has then.
+QIcon Icon(IconName name, const Shade& shade = kAccent);
+// As large as the letters of the widget ask for.
+QSize IconSize(const QWidget* widget);
 
 // The font itself where all its figures have one width, so that numbers in a column stand under
 // each other; else the nearest one of the machine in which they have.

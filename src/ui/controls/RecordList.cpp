@@ -9,10 +9,10 @@
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
-#include <QProxyStyle>
 #include <QToolTip>
 #include <algorithm>
 
+#include "ui/base/EdgedStyle.h"
 #include "ui/controls/ListRows.h"
 #include "ui/controls/ListTable.h"
 #include "ui/controls/Look.h"
@@ -24,13 +24,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Texts of neighbouring columns keep apart, and rows have air for eyes that read them all day.
-class RoomyStyle : public QProxyStyle {
+class RoomyStyle : public look::EdgedStyle {
  public:
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     if (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin) return look::kTight + 1;
     if (metric == PM_FocusFrameVMargin) return look::kTight / 2;
-    return QProxyStyle::pixelMetric(metric, option, widget);
+    return EdgedStyle::pixelMetric(metric, option, widget);
   }
 };
 
@@ -63,14 +63,7 @@ RecordList::RecordList(QWidget* parent)
   setSelectionMode(SingleSelection);
   setTextElideMode(Qt::ElideRight);
   setTabKeyNavigation(false);
-  QPalette colors = palette();
-  // On a dark desktop its own stripe is the one that its letters can be read on.
-  const bool light =
-      colors.color(QPalette::Base).lightness() > colors.color(QPalette::Text).lightness();
-  if (light) colors.setColor(QPalette::AlternateBase, look::kStripe);
-  colors.setColor(QPalette::Highlight, look::kAccent);
-  colors.setColor(QPalette::HighlightedText, look::kOnAccent);
-  setPalette(colors);
+  look::Paint(this, QPalette::AlternateBase, look::kStripe);
   header()->setSectionsMovable(false);
   header()->setHighlightSections(false);
   header()->setMinimumSectionSize(look::kGrid);
@@ -339,7 +332,7 @@ void RecordList::paintEvent(QPaintEvent* event) {
   QTreeView::paintEvent(event);
   if (empty_text_.isEmpty() || (model() != nullptr && model()->rowCount() > 0)) return;
   QPainter painter(viewport());
-  painter.setPen(look::kQuiet);
+  painter.setPen(QColor(look::kQuiet));
   const QRect room = viewport()->rect().adjusted(look::kMargin, look::kMargin, -look::kMargin, 0);
   painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
 }

@@ -57,8 +57,8 @@ QVariant RecordModel::data(const QModelIndex& index, int role) const {
         return bold;
       }
     case Qt::ForegroundRole:
-      if (IsGroup(row)) return QBrush(look::kGroupRow);
-      if (source_.is_amiss && source_.is_amiss(row)) return QBrush(look::kWarning);
+      if (IsGroup(row)) return QBrush(QColor(look::kGroupRow));
+      if (source_.is_amiss && source_.is_amiss(row)) return QBrush(QColor(look::kWarning));
       return {};
     case Qt::CheckStateRole:
       if (index.column() != 0 || !HasCheck(row)) return {};

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFontMetricsF>
+#include <QLabel>
 
 #include "ui/controls/ListRows.h"
 #include "ui/controls/Look.h"
@@ -36,6 +36,24 @@ TEST(Look, FiguresOfANumberHaveOneWidth) {
                   0.01);
     }
   }
+}
+
+TEST(Look, WhatIsPaintedFollowsTheGround) {
+  QLabel note;
+  look::MakeQuiet(&note);
+  for (const auto scheme : {look::Scheme::kDark, look::Scheme::kLight}) {
+    look::UseScheme(scheme);
+    const bool dark = scheme == look::Scheme::kDark;
+    EXPECT_EQ(look::IsDark(), dark);
+    EXPECT_EQ(note.palette().color(QPalette::WindowText),
+              dark ? look::kQuiet.dark : look::kQuiet.light);
+  }
+  look::UseScheme(look::Scheme::kSystem);
+  const QPalette colours = QApplication::palette();
+  EXPECT_GE(
+      look::Contrast(colours.color(QPalette::Highlight), colours.color(QPalette::HighlightedText)),
+      4.5);
+  EXPECT_NEAR(look::Contrast(Qt::black, Qt::white), 21, 0.01);
 }
 
 }  // namespace

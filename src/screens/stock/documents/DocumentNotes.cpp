@@ -15,9 +15,7 @@ QLabel* NewNote(const QString& name, Qt::TextFormat format, QWidget* parent) {
   note->setObjectName(name);
   note->setTextFormat(format);
   note->setWordWrap(true);
-  QPalette palette = note->palette();
-  palette.setColor(QPalette::WindowText, look::kWarning);
-  note->setPalette(palette);
+  look::Paint(note, QPalette::WindowText, look::kWarning);
   note->hide();
   return note;
 }
