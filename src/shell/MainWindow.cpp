@@ -57,7 +57,7 @@ bool LeavesDatabase(Command command) {
 }  // namespace
 
 MainWindow::MainWindow(AppContext& context)
-    : context_(context), menu_(new MainMenu(menuBar(), this)) {
+    : context_(context), menu_(new MainMenu(menuBar(), this)), remembered_sizes_(context.settings) {
   setObjectName(u"frmMain"_s);
   setWindowTitle(kTitle.toString());
   setWindowIcon(look::Icon(look::IconName::kProgram));

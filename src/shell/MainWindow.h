@@ -13,6 +13,7 @@
 #include "shell/Places.h"
 #include "ui/AppContext.h"
 #include "ui/controls/DialogsFirst.h"
+#include "ui/controls/RememberedSizes.h"
 
 class QVBoxLayout;
 
@@ -72,6 +73,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   QPointer<QWidget> child_;
   QTimer way_home_;  // from a child screen that closed itself
   DialogsFirst dialogs_first_;
+  RememberedSizes remembered_sizes_;
 };
 
 }  // namespace kladez

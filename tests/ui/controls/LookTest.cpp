@@ -1,10 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
 
+#include "books/store/SettingsStore.h"
 #include "ui/controls/ListRows.h"
 #include "ui/controls/Look.h"
+#include "ui/controls/RecordList.h"
+#include "ui/controls/RememberedSizes.h"
 
 namespace kladez {
 namespace {
@@ -54,6 +62,34 @@ TEST(Look, WhatIsPaintedFollowsTheGround) {
       look::Contrast(colours.color(QPalette::Highlight), colours.color(QPalette::HighlightedText)),
       4.5);
   EXPECT_NEAR(look::Contrast(Qt::black, Qt::white), 21, 0.01);
+}
+
+TEST(Look, AWindowKeepsTheSizeThatItWasGivenAndOpensOnTheDisplay) {
+  const QTemporaryDir folder;
+  SettingsStore settings(folder.filePath(u"settings.ini"_s));
+  const RememberedSizes remembered(settings);
+  const QRect room = QApplication::primaryScreen()->availableGeometry();
+  const auto open = [](QDialog& dialog) {
+    dialog.setObjectName(u"editor"_s);
+    dialog.show();
+  };
+  {
+    QDialog dialog;
+    dialog.resize(300, 200);
+    open(dialog);
+    dialog.resize(420, 310);
+  }
+  {
+    QDialog dialog;
+    dialog.resize(300, 200);
+    open(dialog);
+    EXPECT_EQ(dialog.size(), QSize(420, 310));
+    dialog.resize(room.size() + QSize(500, 500));
+    dialog.hide();
+    open(dialog);
+    EXPECT_TRUE(room.contains(dialog.frameGeometry()));
+    EXPECT_EQ(dialog.frameGeometry().width(), room.width());
+  }
 }
 
 }  // namespace
