@@ -125,7 +125,8 @@ void MainWindow::BuildLayout() {
   layout->addLayout(middle, 1);
   layout->addWidget(foot_);
   setCentralWidget(inner);
-  resize(140 * look::kGrid, 92 * look::kGrid);
+  // Most of the display, and no less than its parts ask for.
+  resize((screen()->availableSize() * 0.9).expandedTo(QSize(140, 92) * look::kGrid));
 }
 
 void MainWindow::Start(int splash_milliseconds) {

@@ -35,7 +35,7 @@ HintWindow::HintWindow(const Hint& hint, QWidget* parent)
   body_->setAccessibleName(hint.heading);
   body_->setFrameShape(QFrame::NoFrame);
   body_->viewport()->setAutoFillBackground(false);
-  body_->setMinimumSize(52 * look::kGrid, 13 * look::kGrid);
+  body_->setMinimumSize(look::ByLetters(body_, 52, 13));
   close_->setObjectName(u"Command4"_s);
   close_->setDefault(true);
   escape_->setObjectName(u"Command1"_s);

@@ -63,7 +63,7 @@ QGroupBox* CurrencyDialog::NewFrame(const QString& title, const QString& name, i
   for (int i = 0; i < kFormsOfUnit; ++i) {
     auto* field = new TextLine(frame);
     field->setObjectName(u"form%1"_s.arg(first + i + 1));
-    field->setMinimumWidth(25 * look::kGrid);
+    field->setMinimumWidth(look::ByLetters(field, 25));
     auto* label = new QLabel(Captions()[i], frame);
     label->setBuddy(field);
     auto* example = new QLabel(u'(' + examples.forms[first + i] + u')', frame);
@@ -89,7 +89,7 @@ QGroupBox* CurrencyDialog::NewTaxes() {
                        const QString& otherwise) {
     auto* field = new TextLine(frame);
     field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    field->setFixedWidth(8 * look::kGrid);
+    field->setFixedWidth(look::ByLetters(field, 8));
     field->setObjectName(name);
     field->setText(percent);
     auto* label = new QLabel(caption, frame);

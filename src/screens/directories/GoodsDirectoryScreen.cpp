@@ -52,7 +52,7 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, PickFor pick_for
   pick_for_ = pick_for;
   setWindowFlag(Qt::Window);
   setAttribute(Qt::WA_DeleteOnClose);
-  resize(100 * look::kGrid, 70 * look::kGrid);
+  resize(look::ByLetters(this, 100, 70));
   choose_->show();
   chart_->hide();
   browser_->SelectForPick(context.settings.Read(settings::kLastPick));

@@ -64,7 +64,7 @@ GoodsForm::GoodsForm(const GoodsEntry& entry, QWidget* parent)
   layout->addWidget(limit);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok_, cancel_));
-  setMinimumWidth(60 * look::kGrid);
+  setMinimumWidth(look::ByLetters(this, 60));
   TabByEye(this);
 
   connect(ok_, &QPushButton::clicked, this, &GoodsForm::Ok);

@@ -39,7 +39,7 @@ GoodsPicker::GoodsPicker(AppContext& context, PickFor pick_for, QWidget* parent)
                        NewHistoryCommand(this, context, [this] { return browser_->ForHistory(); }));
   layout->addLayout(ending);
   TabByEye(this);
-  resize(90 * look::kGrid, 60 * look::kGrid);
+  resize(look::ByLetters(this, 90, 60));
   browser_->SelectForPick(context.settings.Read(settings::kLastPick));
   browser_->List()->setFocus();
 

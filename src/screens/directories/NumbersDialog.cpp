@@ -34,7 +34,7 @@ NumbersDialog::NumbersDialog(const QString& name, const QString& title, const QS
   label->setVisible(!goods.isEmpty());
   layout_->addWidget(label);
   layout_->addLayout(form_);
-  setMinimumWidth(40 * look::kGrid);
+  setMinimumWidth(look::ByLetters(this, 40));
 }
 
 void NumbersDialog::AddField(const QString& caption, TextLine* field, const QString& text) {

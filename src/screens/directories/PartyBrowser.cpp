@@ -31,7 +31,7 @@ PartyBrowser::PartyBrowser(AppContext& context, PartyKind kind, QWidget* parent)
            .is_group = {},
            .checked = {},
            .set_checked = {}});
-  resize(100 * look::kGrid, 55 * look::kGrid);
+  resize(look::ByLetters(this, 100, 55));
 }
 
 void PartyBrowser::Add() {

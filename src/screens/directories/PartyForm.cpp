@@ -62,7 +62,7 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
   TabByEye(this);
-  resize(sizeHint().expandedTo(QSize(85 * look::kGrid, 0)));
+  resize(sizeHint().expandedTo(QSize(look::ByLetters(this, 85), 0)));
   fields_.front()->setFocus();
   new UnsavedWork(this, {.is_changed = [this, before = Record()] { return Record() != before; },
                          .save =

@@ -16,7 +16,7 @@ WarehousesDialog::WarehousesDialog(AppContext& context, QWidget* parent)
            .is_group = {},
            .checked = {},
            .set_checked = {}});
-  resize(65 * look::kGrid, 45 * look::kGrid);
+  resize(look::ByLetters(this, 65, 45));
 }
 
 QString WarehousesDialog::AskName(const QString& prompt, const QString& value) {

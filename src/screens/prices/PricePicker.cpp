@@ -17,7 +17,7 @@ PricePicker::PricePicker(AppContext& context, const QString& warehouse, QWidget*
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addWidget(browser_);
-  resize(90 * look::kGrid, 64 * look::kGrid);
+  resize(look::ByLetters(this, 90, 64));
   browser_->PickCommand()->setDefault(true);
   browser_->List()->setFocus();
   connect(browser_, &PriceBrowser::CloseAsked, this, &QDialog::reject);

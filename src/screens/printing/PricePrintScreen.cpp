@@ -63,7 +63,7 @@ TextLineNumber* PricePrintScreen::NewNumber(const QString& name, const QString& 
   field->setObjectName(name);
   field->setMaxLength(length);
   field->setText(value);
-  field->setFixedWidth(8 * look::kGrid);
+  field->setFixedWidth(look::ByLetters(field, 8));
   return field;
 }
 

@@ -22,7 +22,7 @@ TextLine* NewText(QWidget* parent, const QString& name, const QString& text) {
 TextLine* NewFigure(QWidget* parent, const QString& name, const QString& text) {
   TextLine* field = NewText(parent, name, text);
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  field->setMinimumWidth(8 * look::kGrid);
+  field->setMinimumWidth(look::ByLetters(field, 8));
   return field;
 }
 

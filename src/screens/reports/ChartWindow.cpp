@@ -66,7 +66,7 @@ ChartWindow::ChartWindow(AppContext& context, const ChartGrid& grid, QWidget* pa
   layout->addWidget(title_);
   layout->addWidget(chart_, 1);
   layout->addLayout(foot);
-  resize(112 * look::kGrid, 76 * look::kGrid);
+  resize(look::ByLetters(this, 112, 76));
 
   first_kind_->setChecked(true);
   first_kind_->setFocus();

@@ -47,7 +47,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   layout->addStretch();
   layout->addSpacing(look::kGrid);
   layout->addLayout(ending);
-  setMinimumWidth(56 * look::kGrid);
+  setMinimumWidth(look::ByLetters(this, 56));
 
   connect(yes_, &QPushButton::clicked, this, [this] { Ok(); });
   connect(no_, &QPushButton::clicked, this, &QDialog::reject);

@@ -70,7 +70,7 @@ LineDialog::LineDialog(const DraftLine& line, QWidget* parent, const LineSurroun
   layout->addWidget(price_note_);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
-  setMinimumWidth(52 * look::kGrid);
+  setMinimumWidth(look::ByLetters(this, 52));
 
   for (TextLine* field : {static_cast<TextLine*>(quantity_), static_cast<TextLine*>(price_)}) {
     connect(field, &TextLine::Change, this, &LineDialog::Recompute);

@@ -97,7 +97,7 @@ void OpeningBalancesDialog::BuildLayout() {
   layout->addLayout(commands);
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(ending);
-  resize(72 * look::kGrid, 56 * look::kGrid);
+  resize(look::ByLetters(this, 72, 56));
 }
 
 void OpeningBalancesDialog::Add() {

@@ -59,7 +59,7 @@ void CatalogueList::LayOut(QDialog* dialog, const QString& caption, TextLine* fi
   layout->addLayout(fields);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(command, cancel));
-  dialog->resize(50 * look::kGrid, 40 * look::kGrid);
+  dialog->resize(look::ByLetters(dialog, 50, 40));
 }
 
 CatalogueEntry CatalogueList::Selected() const {

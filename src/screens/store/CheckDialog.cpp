@@ -116,7 +116,7 @@ CheckDialog::CheckDialog(AppContext& context, QWidget* parent)
   layout->addLayout(top);
   layout->addWidget(tabs_, 1);
   layout->addLayout(ending);
-  resize(110 * look::kGrid, 65 * look::kGrid);
+  resize(look::ByLetters(this, 110, 65));
 
   for (RecordList* list : {findings_, stock_}) {
     connect(list, &RecordList::EnterPressed, this, &CheckDialog::ShowPlace);

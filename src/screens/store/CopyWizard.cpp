@@ -56,7 +56,7 @@ CopyWizard::CopyWizard(AppContext& context, const QString& name, const QString& 
   layout->addLayout(steps_, 1);
   layout->addWidget(progress_);
   layout->addLayout(NewEndingRow(next_, cancel_));
-  resize(64 * look::kGrid, 52 * look::kGrid);
+  resize(look::ByLetters(this, 64, 52));
   TabByEye(this);
   connect(next_, &QPushButton::clicked, this, [this] { Next(); });
   connect(cancel_, &QPushButton::clicked, this, &CopyWizard::reject);

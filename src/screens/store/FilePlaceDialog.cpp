@@ -56,7 +56,7 @@ FilePlaceDialog::FilePlaceDialog(const DataDir& books, const QString& base, cons
   layout->addWidget(told);
   layout->addWidget(list, 1);
   layout->addLayout(NewCommandRow({}, {cancel}));
-  resize(80 * look::kGrid, 55 * look::kGrid);
+  resize(look::ByLetters(this, 80, 55));
   list->setFocus();
 }
 

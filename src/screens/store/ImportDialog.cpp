@@ -67,7 +67,7 @@ ImportDialog::ImportDialog(AppContext& context, const QString& source, QWidget* 
   layout->addWidget(frame, 1);
   layout->addSpacing(look::kGrid);
   layout->addLayout(ending);
-  setMinimumWidth(46 * look::kGrid);
+  setMinimumWidth(look::ByLetters(this, 46));
   TabByEye(this);
 
   connect(ok, &QPushButton::clicked, this, &ImportDialog::Copy);

@@ -43,7 +43,7 @@ QBoxLayout* NewEndingRow(QPushButton* yes, QPushButton* no) {
   row->addStretch();
   for (QPushButton* button : {yes, no}) {
     if (button == nullptr) continue;
-    button->setMinimumWidth(12 * look::kGrid);
+    button->setMinimumWidth(look::ByLetters(button, 12));
     row->addWidget(button);
   }
   yes->setDefault(true);

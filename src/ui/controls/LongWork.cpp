@@ -105,7 +105,7 @@ void LongWork::ShowBar() {
   label->setText(doing_);
   bar_ = new QProgressBar(bar_window_.get());
   bar_->setRange(0, kWholeBar);
-  bar_->setMinimumWidth(40 * look::kGrid);
+  bar_->setMinimumWidth(look::ByLetters(bar_, 40));
   auto* stop = NewCommand(bar_window_.get(), u"stop"_s, u"О&тмена"_s);
   auto* layout = new QVBoxLayout(bar_window_.get());
   look::SetDialogMargins(layout);

@@ -18,6 +18,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// The height in pixels of letters of nine points at 96 dpi, which the steps are told for.
+constexpr int kUsualLetters = 15;
+
 // Outlines on a field of 24 by 24, drawn with a pen of 1.6.
 const char* OutlineOf(IconName name) {
   static const std::map<IconName, const char*> outlines = {
@@ -105,6 +108,14 @@ QIcon Icon(IconName name, const Shade& shade) { return QIcon(new Outline(name, s
 QSize IconSize(const QWidget* widget) {
   const int side = std::max(kMargin, widget->fontMetrics().height() * 9 / 20 * 2);
   return {side, side};
+}
+
+int ByLetters(const QWidget* widget, int steps) {
+  return steps * kGrid * std::max(kUsualLetters, widget->fontMetrics().height()) / kUsualLetters;
+}
+
+QSize ByLetters(const QWidget* widget, int across, int down) {
+  return {ByLetters(widget, across), ByLetters(widget, down)};
 }
 
 QFont NumberFont(const QFont& base) {

@@ -64,6 +64,10 @@ QSize IconSize(const QWidget* widget);
 QFont NumberFont(const QFont& base);
 QFont HeadingFont(const QFont& base);
 
+// So many steps of the grid, more of them where the letters of the widget are larger than usual.
+int ByLetters(const QWidget* widget, int steps);
+QSize ByLetters(const QWidget* widget, int across, int down);
+
 // The usual margins and spacing of a dialog or a panel.
 void SetDialogMargins(QLayout* layout);
 void SetPanelMargins(QLayout* layout);

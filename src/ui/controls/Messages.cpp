@@ -105,7 +105,7 @@ std::optional<QString> AskText(QWidget* parent, const QString& title, const QStr
   auto* field = new TextLine(&box);
   field->setObjectName(u"Text1"_s);
   field->setText(value);
-  field->setMinimumWidth(40 * look::kGrid);
+  field->setMinimumWidth(look::ByLetters(field, 40));
   label->setBuddy(field);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &box);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);

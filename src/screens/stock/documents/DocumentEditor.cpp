@@ -78,8 +78,9 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentDraft draft, QWidget
   list_->setFocus();
   // Wide enough for the names of two warehouses, with large letters too.
   const int room = screen()->availableSize().width() - look::kGap;
-  const int wanted = std::max(112 * look::kGrid, kLettersAcross * fontMetrics().averageCharWidth());
-  resize(std::min(room, wanted), 68 * look::kGrid);
+  const int wanted =
+      std::max(look::ByLetters(this, 112), kLettersAcross * fontMetrics().averageCharWidth());
+  resize(std::min(room, wanted), look::ByLetters(this, 68));
 }
 
 void DocumentEditor::AddField(QHBoxLayout* row, const QString& caption, QWidget* field,
@@ -102,7 +103,7 @@ QLayout* DocumentEditor::NewHead() {
   QHBoxLayout* row = new_part(0);
   number_ = new TextLine(this);
   number_->setText(draft_.Head().number);
-  number_->setFixedWidth(12 * look::kGrid);
+  number_->setFixedWidth(look::ByLetters(number_, 12));
   AddField(row, u"&N:"_s, number_, u"number"_s, u"Номер документа"_s);
   date_ = new DateField(ParseDate(draft_.Head().date).value_or(context_.clock.Today()),
                         context_.clock, this);
@@ -175,7 +176,7 @@ QLayout* DocumentEditor::NewListHead() {
 void DocumentEditor::AddTotal(QFormLayout* form, const QString& caption, TextLine* field,
                               const QString& name, const QString& hint) {
   field->setObjectName(name);
-  field->setFixedWidth(16 * look::kGrid);
+  field->setFixedWidth(look::ByLetters(field, 16));
   form->addRow(NewLabel(caption, field, this),
                WithHint(field, HintFor(screens_.editor_name, hint)));
 }

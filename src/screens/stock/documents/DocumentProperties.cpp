@@ -59,7 +59,7 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(commands);
   // A shipment has eight columns.
-  resize((screens_.HasDiscount() ? 124 : 96) * look::kGrid, 56 * look::kGrid);
+  resize(look::ByLetters(this, screens_.HasDiscount() ? 124 : 96, 56));
 }
 
 TextLine* DocumentProperties::AddField(QFormLayout* form, const QString& caption,
@@ -69,7 +69,7 @@ TextLine* DocumentProperties::AddField(QFormLayout* form, const QString& caption
   field->setText(text);
   MakeReadOnly(field);
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  field->setFixedWidth(16 * look::kGrid);
+  field->setFixedWidth(look::ByLetters(field, 16));
   form->addRow(NewLabel(caption, field, this), field);
   return field;
 }
