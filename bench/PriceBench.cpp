@@ -1,5 +1,5 @@
 // Loading a price list of 20,000 goods and a goods directory of 100,000, in both views, against
-// reading the same files, each with one call. Prints the ratios.
+// reading the same files, each with one call, and finding their lines. Prints the ratios.
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -64,7 +64,7 @@ struct Books {
 void Read(benchmark::State& state, const Books* books, const QStringList& files) {
   for (auto _ : state) {
     for (const QString& file : files) {
-      benchmark::DoNotOptimize(PlainlyReadFile(books->data.Resolve(file).toStdString(), false));
+      benchmark::DoNotOptimize(PlainlyReadFile(books->data.Resolve(file).toStdString(), true));
     }
   }
 }
@@ -89,7 +89,7 @@ void Register(const std::string& name, const Books* books, const QStringList& fi
     const std::string full = name + suffix;
     benchmark::RegisterBenchmark((full + "/ours").c_str(), load, books, view)
         ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark((full + "/baseline plain reading").c_str(), Read, books, files)
+    benchmark::RegisterBenchmark((full + "/baseline lines found").c_str(), Read, books, files)
         ->Unit(benchmark::kMillisecond);
   }
 }
