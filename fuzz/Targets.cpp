@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "books/check/DocumentCheck.h"
+#include "books/directories/GoodsOrder.h"
 #include "books/printing/AmountInWords.h"
 #include "books/stock/DocumentScan.h"
 #include "books/stock/StockLedger.h"
@@ -14,6 +15,7 @@
 #include "formats/Dates.h"
 #include "formats/DescriptorFile.h"
 #include "formats/GoodsFile.h"
+#include "formats/GoodsRows.h"
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 #include "formats/Ordering.h"
@@ -45,7 +47,16 @@ void Lines(QByteArrayView bytes) {
   Require(!whole || EncodeLines(DecodeLines(bytes)) == bytes, "no byte of a whole file is lost");
 }
 
-void Goods(QByteArrayView bytes) { RequireStable(bytes, ReadGoods, WriteGoods); }
+void Goods(QByteArrayView bytes) {
+  RequireStable(bytes, ReadGoods, WriteGoods);
+  const std::vector<GoodsRecord> records = ReadGoods(bytes);
+  const GoodsRows rows(bytes.toByteArray());
+  Require(rows.Records() == records, "a row taken apart is the record");
+  Require(rows.Bytes() == WriteGoods(records), "rows are written as their records are");
+  std::vector<GoodsRecord> goods = SortedByName(records);
+  std::erase_if(goods, [](const GoodsRecord& record) { return record.IsGroup(); });
+  Require(GoodsRows::ByName(bytes.toByteArray()).Records() == goods, "both ways to sort agree");
+}
 
 void Prices(QByteArrayView bytes) { RequireStable(bytes, ReadPrices, WritePrices); }
 

@@ -24,16 +24,17 @@ std::vector<GoodsRecord> ReadGoods(QByteArrayView bytes) {
   return records;
 }
 
+void AddGoods(LineWriter& writer, const GoodsRecord& record) {
+  writer.Add(record.name);
+  if (record.IsGroup()) return;
+  for (const QString* field : {&record.country, &record.declaration, &record.unit, &record.price}) {
+    writer.Add(*field);
+  }
+}
+
 QByteArray WriteGoods(const std::vector<GoodsRecord>& records) {
   LineWriter writer;
-  constexpr qsizetype kUsualRecord = 80;
-  writer.Reserve(static_cast<qsizetype>(records.size()) * kUsualRecord);
-  for (const GoodsRecord& record : records) {
-    writer.Add(record.name);
-    if (record.IsGroup()) continue;
-    for (const QString* field : {&record.country, &record.declaration, &record.unit, &record.price})
-      writer.Add(*field);
-  }
+  for (const GoodsRecord& record : records) AddGoods(writer, record);
   return writer.Take();
 }
 

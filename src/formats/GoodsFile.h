@@ -43,25 +43,28 @@ struct RawGoods {
   bool IsGroup() const { return name.startsWith(' '); }
 };
 
-// Calls visit(goods) with each record in the order of the file; fields that a cut file lacks are
-// empty.
+// The record that the next lines are; fields that a cut file lacks are empty.
+inline RawGoods NextGoods(LineReader& reader) {
+  RawGoods goods;
+  goods.name = reader.NextRaw();
+  if (goods.IsGroup()) return goods;
+  for (auto field :
+       {&RawGoods::country, &RawGoods::declaration, &RawGoods::unit, &RawGoods::price}) {
+    goods.*field = reader.NextRaw();
+  }
+  return goods;
+}
+
+// Calls visit(goods) with each record in the order of the file.
 template <typename Visit>
 void ForEachGoods(QByteArrayView bytes, Visit&& visit) {
-  for (LineReader reader(bytes); !reader.AtEnd();) {
-    RawGoods goods;
-    goods.name = reader.NextRaw();
-    if (!goods.IsGroup()) {
-      for (auto field :
-           {&RawGoods::country, &RawGoods::declaration, &RawGoods::unit, &RawGoods::price}) {
-        goods.*field = reader.NextRaw();
-      }
-    }
-    visit(goods);
-  }
+  for (LineReader reader(bytes); !reader.AtEnd();) visit(NextGoods(reader));
 }
 
 // A price that is no number reads as "0"; an item cut off by the end of the file keeps what it has.
 std::vector<GoodsRecord> ReadGoods(QByteArrayView bytes);
 QByteArray WriteGoods(const std::vector<GoodsRecord>& records);
+// Adds the lines of one record.
+void AddGoods(LineWriter& writer, const GoodsRecord& record);
 
 }  // namespace kladez

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 #include <limits>
+#include <new>
 #include <numeric>
 
 #include "formats/TextLines.h"
@@ -33,9 +34,14 @@ Ranks MakeRanks() {
   return ranks;
 }
 
+const Ranks& TheRanks() {
+  static const Ranks ranks = MakeRanks();
+  return ranks;
+}
+
 // False for a character that the code page lacks.
 bool AppendRanks(QStringView name, std::vector<char>& keys) {
-  static const Ranks ranks = MakeRanks();
+  const Ranks& ranks = TheRanks();
   for (const QChar c : name) {
     if (c.unicode() >= ranks.size() || ranks[c.unicode()] == 0) return false;
     keys.push_back(static_cast<char>(ranks[c.unicode()]));
@@ -47,10 +53,25 @@ struct Keyed {
   quint64 head;  // the eight bytes after what all names begin with
   quint32 begin;
   quint32 size;
-  size_t place;
+  quint32 place;
 };
 
-void Sort(std::vector<Keyed>& names, const std::vector<char>& keys) {
+// Byte by byte, the last one first; bytes that are the same in all names cost a look.
+void SortByHead(std::vector<Keyed>& names) {
+  std::vector<Keyed> sorted(names.size());
+  for (int shift = 0; shift < 64; shift += 8) {
+    std::array<size_t, 256> next{};
+    const auto byte_of = [shift](const Keyed& name) { return name.head >> shift & 0xFF; };
+    for (const Keyed& name : names) ++next[byte_of(name)];
+    if (std::find(next.begin(), next.end(), names.size()) != next.end()) continue;
+    std::exclusive_scan(next.begin(), next.end(), next.begin(), size_t{0});
+    for (const Keyed& name : names) sorted[next[byte_of(name)]++] = name;
+    names.swap(sorted);
+  }
+}
+
+// The places of the names in order.
+std::vector<size_t> Sorted(std::vector<Keyed> names, const std::vector<char>& keys) {
   size_t common = names.empty() ? 0 : names.front().size;
   for (const Keyed& name : names) {
     const char* first = keys.data() + names.front().begin;
@@ -64,13 +85,23 @@ void Sort(std::vector<Keyed>& names, const std::vector<char>& keys) {
                 std::min<size_t>(head.size(), name.size - common));
     name.head = qFromBigEndian<quint64>(head.data());
   }
-  std::sort(names.begin(), names.end(), [&](const Keyed& a, const Keyed& b) {
-    if (a.head != b.head) return a.head < b.head;
+  SortByHead(names);
+  const auto less = [&](const Keyed& a, const Keyed& b) {
     const int order =
         std::memcmp(keys.data() + a.begin, keys.data() + b.begin, std::min(a.size, b.size));
     if (order != 0) return order < 0;
     return a.size != b.size ? a.size < b.size : a.place < b.place;
-  });
+  };
+  for (auto from = names.begin(); from != names.end();) {
+    const auto to = std::find_if(
+        from, names.end(), [head = from->head](const Keyed& name) { return name.head != head; });
+    std::sort(from, to, less);
+    from = to;
+  }
+  std::vector<size_t> places;
+  places.reserve(names.size());
+  for (const Keyed& name : names) places.push_back(name.place);
+  return places;
 }
 
 }  // namespace
@@ -91,20 +122,41 @@ std::vector<size_t> PlacesInOrder(size_t count, const std::function<QStringView(
   for (size_t i = 0; i < count && plain; ++i) {
     const size_t begin = keys.size();
     plain = AppendRanks(name(i), keys) && keys.size() <= std::numeric_limits<quint32>::max();
-    names.push_back({0, static_cast<quint32>(begin), static_cast<quint32>(keys.size() - begin), i});
+    names.push_back({0, static_cast<quint32>(begin), static_cast<quint32>(keys.size() - begin),
+                     static_cast<quint32>(i)});
   }
+  if (plain) return Sorted(std::move(names), keys);
   std::vector<size_t> places(count);
-  if (plain) {
-    Sort(names, keys);
-    for (size_t i = 0; i < count; ++i) places[i] = names[i].place;
-    return places;
-  }
   std::vector<QString> texts;
   for (size_t i = 0; i < count; ++i) texts.push_back(OrderKey(name(i)));
   std::iota(places.begin(), places.end(), size_t{0});
   std::stable_sort(places.begin(), places.end(),
                    [&](size_t a, size_t b) { return texts[a] < texts[b]; });
   return places;
+}
+
+std::vector<size_t> PlacesInOrder(const std::vector<QByteArrayView>& names) {
+  std::array<char, 256> ranks;
+  for (int byte = 0; byte < 256; ++byte) {
+    const char c = static_cast<char>(byte);
+    ranks[byte] = static_cast<char>(TheRanks()[DecodeText({&c, 1}).front().unicode()]);
+  }
+  size_t length = 0;
+  for (const QByteArrayView name : names) length += static_cast<size_t>(name.size());
+  if (length > std::numeric_limits<quint32>::max()) throw std::bad_alloc();
+  std::vector<char> keys(length);
+  std::vector<Keyed> keyed;
+  keyed.reserve(names.size());
+  size_t begin = 0;
+  for (size_t i = 0; i < names.size(); ++i) {
+    std::transform(names[i].begin(), names[i].end(),
+                   keys.begin() + static_cast<std::ptrdiff_t>(begin),
+                   [&](char c) { return ranks[static_cast<unsigned char>(c)]; });
+    const auto size = static_cast<quint32>(names[i].size());
+    keyed.push_back({0, static_cast<quint32>(begin), size, static_cast<quint32>(i)});
+    begin += size;
+  }
+  return Sorted(std::move(keyed), keys);
 }
 
 }  // namespace kladez

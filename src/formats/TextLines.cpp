@@ -1,5 +1,6 @@
 #include "formats/TextLines.h"
 
+#include <algorithm>
 #include <array>
 #include <system_error>
 
@@ -54,6 +55,12 @@ QString DecodeText(QByteArrayView bytes) {
   auto* out = reinterpret_cast<char16_t*>(text.data());
   for (char byte : bytes) *out++ = kDecode[static_cast<unsigned char>(byte)];
   return text;
+}
+
+bool HoldsText(QByteArrayView bytes, QStringView text) {
+  return std::equal(bytes.begin(), bytes.end(), text.begin(), text.end(), [](char byte, QChar c) {
+    return kDecode[static_cast<unsigned char>(byte)] == c.unicode();
+  });
 }
 
 bool CanEncode(QChar c) {

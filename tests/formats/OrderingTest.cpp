@@ -48,6 +48,10 @@ TEST(Ordering, NamesCompareAsBytesInTheSameOrder) {
       EXPECT_EQ(PlacesInOrder(wanted.size(),
                               [&](size_t at) { return QStringView(names[static_cast<int>(at)]); }),
                 wanted);
+      if (foreign) continue;
+      QByteArrayList encoded;
+      for (const QString& name : names) encoded.append(EncodeText(name));
+      EXPECT_EQ(PlacesInOrder(std::vector<QByteArrayView>(encoded.begin(), encoded.end())), wanted);
     }
   }
 }

@@ -41,29 +41,30 @@ bool GoodsDirectory::IsFull() const { return rows_.size() > kMostRows; }
 
 void GoodsDirectory::Reload(GoodsView view) {
   FileState file;
-  std::vector<GoodsRecord> records = ReadGoods(ReadWithState(data_, path_, file));
+  const QByteArray bytes = ReadWithState(data_, path_, file);
   file_ = file;
-  copy_ = view == GoodsView::kGoodsOnly ? records : std::vector<GoodsRecord>();
-  Show(std::move(records), view);
+  copy_ = view == GoodsView::kGoodsOnly ? GoodsRows(bytes) : GoodsRows();
+  Show(bytes, view);
 }
 
-void GoodsDirectory::Show(std::vector<GoodsRecord> records, GoodsView view) {
-  rows_ = std::move(records);
+void GoodsDirectory::Show(const QByteArray& bytes, GoodsView view) {
+  rows_ = view == GoodsView::kGroups ? GoodsRows(bytes) : GoodsRows::ByName(bytes);
   view_ = view;
   saved_.reset();
   renamed_.clear();
-  if (view == GoodsView::kGroups) return;
-  std::erase_if(rows_, [](const GoodsRecord& record) { return record.IsGroup(); });
-  rows_ = SortedByName(std::move(rows_));
 }
 
 void GoodsDirectory::ShowGoodsOnly() {
   FileState file;
-  std::vector<GoodsRecord> copy = ReadGoods(ReadWithState(data_, path_, file));
-  const QByteArray bytes = WriteGoods(rows_);
-  Write(bytes);
-  Show(ReadGoods(bytes), GoodsView::kGoodsOnly);
-  copy_ = std::move(copy);
+  const QByteArray on_disk = ReadWithState(data_, path_, file);
+  const QByteArray bytes = rows_.Bytes();
+  if (bytes == on_disk) {
+    file_ = file;
+  } else {
+    Write(bytes);
+  }
+  Show(bytes, GoodsView::kGoodsOnly);
+  copy_ = GoodsRows(on_disk);
 }
 
 bool GoodsDirectory::IsChanged() const {
@@ -76,30 +77,33 @@ void GoodsDirectory::BeforeChange() {
 
 int GoodsDirectory::Insert(int below, const GoodsRecord& record) {
   BeforeChange();
-  const int row = below < 0 ? static_cast<int>(rows_.size()) : below + 1;
-  rows_.insert(rows_.begin() + row, record);
-  return row;
+  const size_t row = below < 0 ? rows_.size() : static_cast<size_t>(below) + 1;
+  rows_.Insert(row, record);
+  return static_cast<int>(row);
 }
 
 int GoodsDirectory::Change(int row, const GoodsRecord& record) {
   BeforeChange();
-  const GoodsRecord before = std::exchange(rows_[row], record);
-  if (view_ == GoodsView::kGroups) return row;
+  const GoodsRecord before = rows_[row];
+  if (view_ == GoodsView::kGroups) {
+    rows_.Set(row, record);
+    return row;
+  }
   if (before != record) renamed_.push_back({before, record});
   // The goods alone keep themselves in order.
-  rows_.erase(rows_.begin() + row);
+  rows_.Erase(row);
   const QString key = OrderKey(record.name);
-  const auto place = std::find_if(rows_.begin(), rows_.end(), [&](const GoodsRecord& other) {
-    return key < OrderKey(other.name);
-  });
-  return static_cast<int>(rows_.insert(place, record) - rows_.begin());
+  size_t place = 0;
+  while (place < rows_.size() && OrderKey(rows_.Text(place, &GoodsRecord::name)) <= key) ++place;
+  rows_.Insert(place, record);
+  return static_cast<int>(place);
 }
 
 int GoodsDirectory::MoveUp(int row) {
   if (view_ == GoodsView::kGoodsOnly || row < 1) return row;
-  if (row == 1 && !rows_[row].IsGroup()) return row;
+  if (row == 1 && !rows_.IsGroup(row)) return row;
   BeforeChange();
-  std::swap(rows_[row], rows_[row - 1]);
+  rows_.Swap(row, row - 1);
   return row - 1;
 }
 
@@ -108,45 +112,46 @@ int GoodsDirectory::MoveDown(int row) {
     return row;
   }
   BeforeChange();
-  std::swap(rows_[row], rows_[row + 1]);
+  rows_.Swap(row, row + 1);
   return row + 1;
 }
 
 void GoodsDirectory::Remove(int row) {
   BeforeChange();
-  rows_.erase(rows_.begin() + row);
+  rows_.Erase(row);
 }
 
 void GoodsDirectory::Sort() {
   BeforeChange();
-  rows_ = SortedInGroups(rows_);
+  rows_ = SortedInGroups(rows_.Records());
 }
 
 void GoodsDirectory::SaveChange(int row) {
   if (view_ == GoodsView::kGroups) return;
-  const GoodsRecord& changed = rows_[row];
+  const GoodsRecord changed = rows_[row];
   // An empty name begins every text and would fall on the first group.
   if (changed.name.isEmpty()) return;
   // The first beginning counts, even of a longer name: that is how changes have always been joined.
-  const auto same = std::find_if(copy_.begin(), copy_.end(), [&](const GoodsRecord& record) {
-    return record.name.startsWith(changed.name);
-  });
-  if (same == copy_.end()) return;
-  *same = changed;
-  Write(WriteGoods(copy_));
+  size_t same = 0;
+  while (same < copy_.size() && !copy_.Text(same, &GoodsRecord::name).startsWith(changed.name)) {
+    ++same;
+  }
+  if (same == copy_.size()) return;
+  copy_.Set(same, changed);
+  Write(copy_.Bytes());
   if (!renamed_.empty() && renamed_.back().after == changed) renamed_.pop_back();
 }
 
 void GoodsDirectory::Save() {
-  Write(WriteGoods(view_ == GoodsView::kGroups ? rows_ : copy_));
+  Write((view_ == GoodsView::kGroups ? rows_ : copy_).Bytes());
   saved_.reset();
 }
 
 void GoodsDirectory::SaveAll() {
-  std::vector<GoodsRecord> copy = copy_;
+  GoodsRows copy = copy_;
   for (const Renamed& renamed : renamed_) {
-    const auto same = std::find(copy.begin(), copy.end(), renamed.before);
-    if (same != copy.end()) *same = renamed.after;
+    const int same = copy.RowOf(renamed.before);
+    if (same >= 0) copy.Set(same, renamed.after);
   }
   std::swap(copy, copy_);
   try {

@@ -10,7 +10,7 @@
 #include "books/store/DataDir.h"
 #include "books/store/FileState.h"
 #include "books/store/Session.h"
-#include "formats/GoodsFile.h"
+#include "formats/GoodsRows.h"
 
 namespace kladez {
 
@@ -19,7 +19,7 @@ class GoodsDirectory {
   // Reads the file. Throws filesystem_error.
   GoodsDirectory(const DataDir& data, const Session& session, GoodsView view);
 
-  const std::vector<GoodsRecord>& Rows() const { return rows_; }
+  const GoodsRows& Rows() const { return rows_; }
   GoodsView View() const { return view_; }
   // Whether somebody's work would be lost by now: rows that the file does not hold, or, with the
   // goods alone shown, changes that did not reach it.
@@ -58,7 +58,7 @@ class GoodsDirectory {
   bool IsCurrent() const { return IsStill(file_, data_, path_); }
 
  private:
-  void Show(std::vector<GoodsRecord> records, GoodsView view);
+  void Show(const QByteArray& bytes, GoodsView view);
   void Write(const QByteArray& bytes);
   void BeforeChange();
 
@@ -71,9 +71,9 @@ class GoodsDirectory {
   QString path_;
   FileState file_;
   GoodsView view_ = GoodsView::kGroups;
-  std::vector<GoodsRecord> rows_;
-  std::optional<std::vector<GoodsRecord>> saved_;  // the rows before the first change to them
-  std::vector<GoodsRecord> copy_;
+  GoodsRows rows_;
+  std::optional<GoodsRows> saved_;  // the rows before the first change to them
+  GoodsRows copy_;
   std::vector<Renamed> renamed_;  // with the goods alone shown: what is not in the copy
 };
 

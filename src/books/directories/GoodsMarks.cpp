@@ -17,7 +17,7 @@ QStringList ReadMarks(const DataDir& data, const Session& session, FileState& fi
   return DecodeLines(bytes);
 }
 
-std::vector<bool> TickRows(const std::vector<GoodsRecord>& rows, const QStringList& names) {
+std::vector<bool> TickRows(const GoodsRows& rows, const QStringList& names) {
   // Only beginnings as long as one of the names are looked up, so that no name is searched for in
   // all rows.
   constexpr int kNowhere = -1;
@@ -28,10 +28,10 @@ std::vector<bool> TickRows(const std::vector<GoodsRecord>& rows, const QStringLi
     lengths.insert(name.size());
   }
   for (size_t row = 0; row < rows.size(); ++row) {
-    const QStringView text(rows[row].name);
+    const QString text = rows.Text(row, &GoodsRecord::name);
     for (const qsizetype length : lengths) {
       if (length > text.size()) break;
-      const auto found = first_row.find(text.first(length));
+      const auto found = first_row.find(QStringView(text).first(length));
       if (found != first_row.end() && *found == kNowhere) *found = static_cast<int>(row);
     }
   }
@@ -44,10 +44,10 @@ std::vector<bool> TickRows(const std::vector<GoodsRecord>& rows, const QStringLi
   return ticks;
 }
 
-QByteArray WriteMarks(const std::vector<GoodsRecord>& rows, const std::vector<bool>& ticks) {
+QByteArray WriteMarks(const GoodsRows& rows, const std::vector<bool>& ticks) {
   LineWriter writer;
   for (size_t row = 0; row < rows.size(); ++row) {
-    if (ticks[row]) writer.Add(rows[row].name);
+    if (ticks[row]) writer.Add(rows.Text(row, &GoodsRecord::name));
   }
   return writer.Take();
 }

@@ -9,7 +9,7 @@
 #include "books/store/DataDir.h"
 #include "books/store/FileState.h"
 #include "books/store/Session.h"
-#include "formats/GoodsFile.h"
+#include "formats/GoodsRows.h"
 
 namespace kladez {
 
@@ -21,9 +21,9 @@ QStringList ReadMarks(const DataDir& data, const Session& session, FileState& fi
 
 // The ticks of the rows as the names set them one after the other: each ticks the first row whose
 // text begins with it, and the first name that finds no row ends the ticking.
-std::vector<bool> TickRows(const std::vector<GoodsRecord>& rows, const QStringList& names);
+std::vector<bool> TickRows(const GoodsRows& rows, const QStringList& names);
 
 // The file's contents: the names of the ticked rows in the order of the list.
-QByteArray WriteMarks(const std::vector<GoodsRecord>& rows, const std::vector<bool>& ticks);
+QByteArray WriteMarks(const GoodsRows& rows, const std::vector<bool>& ticks);
 
 }  // namespace kladez

@@ -1,56 +1,80 @@
 #include "books/prices/PriceList.h"
 
 #include <QSet>
-#include <algorithm>
-#include <optional>
+#include <vector>
 
-#include "books/directories/GoodsOrder.h"
-#include "formats/GoodsFile.h"
 #include "formats/Numbers.h"
-#include "formats/SharedTexts.h"
+#include "formats/Ordering.h"
 #include "formats/TextLines.h"
 #include "formats/TextPool.h"
 
 namespace kladez {
 namespace {
 
-// Finds the first row of a name, by the bytes of the files.
-class FirstRows {
+// A line that a cut file lacks lies at its end.
+quint32 PlaceIn(const QByteArray& bytes, QByteArrayView text) {
+  return static_cast<quint32>(text.isNull() ? bytes.size() : text.data() - bytes.constData());
+}
+
+QString MoneyOf(QByteArrayView price) { return MoneyText(DecodeText(price)); }
+
+// The rows of the directory as the list shows them, and the first of each name.
+class DirectoryRows {
  public:
-  void Add(QByteArrayView name, size_t row) {
-    // Numbers of the pool count up with the names that are new to it.
-    if (static_cast<size_t>(names_.Add(name)) == rows_.size()) rows_.push_back(row);
+  DirectoryRows(const QByteArray& goods, GoodsView view) {
+    ForEachGoods(goods, [&](const RawGoods& record) {
+      if (record.IsGroup() && view == GoodsView::kGoodsOnly) return;
+      // Numbers of the pool count up with the names that are new to it.
+      if (static_cast<size_t>(names_.Add(record.name)) == first_.size()) {
+        first_.push_back(places_.size());
+      }
+      places_.push_back({.goods = PlaceIn(goods, record.name)});
+    });
   }
-  // Nothing for a name that was not added.
-  std::optional<size_t> Find(QByteArrayView name) {
-    const auto number = static_cast<size_t>(names_.Add(name));
-    return number < rows_.size() ? std::optional(rows_[number]) : std::nullopt;
+  // The first row of a name; null where there is none.
+  PricePlace* Find(QByteArrayView name) {
+    const int number = names_.Find(name);
+    return number < 0 ? nullptr : &places_[first_[static_cast<size_t>(number)]];
+  }
+  std::vector<PricePlace> Take(GoodsView view, const QByteArray& goods) const {
+    if (view == GoodsView::kGroups) return places_;
+    std::vector<QByteArrayView> names;
+    names.reserve(places_.size());
+    for (const PricePlace& place : places_) {
+      names.push_back(LineReader(QByteArrayView(goods).sliced(place.goods)).NextRaw());
+    }
+    std::vector<PricePlace> sorted;
+    sorted.reserve(places_.size());
+    for (const size_t at : PlacesInOrder(names)) sorted.push_back(places_[at]);
+    return sorted;
   }
 
  private:
-  TextPool names_;
-  std::vector<size_t> rows_;
+  TextPool names_{TextPool::Keeps::kPlaces};
+  std::vector<size_t> first_;  // by the name's number
+  std::vector<PricePlace> places_;
 };
 
 }  // namespace
 
-PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked,
+PriceRow PriceSource::Make(const PricePlace& place) const {
+  const RawGoods raw = goods.Raw(place.goods);
+  PriceRow row;
+  row.ticked = place.ticked;
+  row.name = DecodeText(raw.name);
+  if (raw.IsGroup()) return row;
+  row.unit = DecodeText(raw.unit);
+  row.purchase = MoneyOf(raw.price);
+  row.sale = row.purchase;
+  if (place.sale != PricePlace::kNone) {
+    row.sale = MoneyOf(LineReader(QByteArrayView(prices).sliced(place.sale)).NextRaw());
+  }
+  return row;
+}
+
+PriceList::PriceList(const QByteArray& goods, const QByteArray& prices, QByteArrayView marked,
                      GoodsView view, const Progress& progress) {
-  FirstRows first;
-  SharedTexts units;
-  SharedTexts purchases;
-  SharedTexts sales;
-  const auto money = [](QByteArrayView price) { return MoneyText(DecodeText(price)); };
-  ForEachGoods(goods, [&](const RawGoods& record) {
-    if (record.IsGroup() && view == GoodsView::kGoodsOnly) return;
-    first.Add(record.name, rows_.size());
-    PriceRow& row = rows_.emplace_back();
-    row.name = DecodeText(record.name);
-    if (record.IsGroup()) return;
-    row.unit = units.Text(record.unit);
-    row.purchase = purchases.Text(record.price, money);
-    row.sale = row.purchase;
-  });
+  DirectoryRows rows(goods, view);
   qsizetype told = 0;
   ForEachPrice(prices,
                [&](QByteArrayView name, QByteArrayView, QByteArrayView, QByteArrayView sale) {
@@ -60,18 +84,55 @@ PriceList::PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView
                    progress.Tell(static_cast<double>(done) / static_cast<double>(prices.size()));
                  }
                  if (name.startsWith(' ')) return;
-                 if (const auto row = first.Find(name)) rows_[*row].sale = sales.Text(sale, money);
+                 if (PricePlace* row = rows.Find(name)) row->sale = PlaceIn(prices, sale);
                });
   for (LineReader reader(marked); !reader.AtEnd();) {
-    if (const auto row = first.Find(reader.NextRaw())) rows_[*row].ticked = true;
+    if (PricePlace* row = rows.Find(reader.NextRaw())) row->ticked = true;
   }
-  // Only now: rows of one name keep their order, so the first of them is the same one.
-  if (view == GoodsView::kGoodsOnly) rows_ = SortedByName(std::move(rows_));
+  // Sorted only now: rows of one name keep their order, so the first of them is the same one.
+  rows_ = PriceRows({{goods}, prices}, rows.Take(view, goods));
 }
 
-bool PriceList::IsChanged() const {
-  return saved_ && !std::equal(saved_->begin(), saved_->end(), rows_.begin(), rows_.end(),
-                               [](const PriceRecord& a, const PriceRecord& b) { return a == b; });
+bool PriceList::IsTicked(int row) const {
+  return rows_.Ask(
+      row, [](const PricePlace& place) { return place.ticked; },
+      [](const PriceRow& made) { return made.ticked; });
+}
+
+int PriceList::TickedCount() const {
+  int count = 0;
+  for (size_t row = 0; row < rows_.size(); ++row) count += IsTicked(static_cast<int>(row)) ? 1 : 0;
+  return count;
+}
+
+template <typename OfRaw, typename OfRow>
+int PriceList::FirstRow(OfRaw of_raw, OfRow of_row) const {
+  const QByteArrayView goods = rows_.File().goods.bytes;
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    const auto of_place = [&](const PricePlace& place) {
+      return of_raw(LineReader(goods.sliced(place.goods)).NextRaw());
+    };
+    if (rows_.Ask(row, of_place, of_row)) return static_cast<int>(row);
+  }
+  return -1;
+}
+
+int PriceList::RowOfName(const QString& name) const {
+  return FirstRow([&](QByteArrayView raw) { return HoldsText(raw, name); },
+                  [&](const PriceRow& row) { return row.name == name; });
+}
+
+int PriceList::FirstGoods() const {
+  return FirstRow([](QByteArrayView raw) { return !raw.startsWith(' '); },
+                  [](const PriceRow& row) { return !row.IsGroup(); });
+}
+
+bool PriceList::IsChanged() const { return saved_ && *saved_ != rows_; }
+
+void PriceList::SetTick(int row, bool on) {
+  rows_.Change(
+      row, [on](PricePlace& place) { place.ticked = on; },
+      [on](PriceRow& made) { made.ticked = on; });
 }
 
 void PriceList::BeforeChange() {
@@ -80,9 +141,11 @@ void PriceList::BeforeChange() {
 
 bool PriceList::SetSalePrice(int row, const QString& price) {
   const auto value = ParseStrict(price);
-  if (!value || rows_.at(row).IsGroup()) return false;
+  PriceRow changed = rows_.at(row);
+  if (!value || changed.IsGroup()) return false;
   BeforeChange();
-  rows_[row].sale = FormatMoney(*value);
+  changed.sale = FormatMoney(*value);
+  rows_.Set(row, std::move(changed));
   return true;
 }
 
@@ -98,27 +161,28 @@ int PriceList::InsertPick(int below, const GoodsPick& pick) {
   BeforeChange();
   const int count = static_cast<int>(rows_.size());
   const int at = below < 0 || below >= count ? count : below + 1;
-  rows_.insert(rows_.begin() + at, std::move(row));
+  rows_.Insert(at, std::move(row));
   return at;
 }
 
 void PriceList::Remove(int row) {
   BeforeChange();
-  rows_.erase(rows_.begin() + row);
+  rows_.Erase(row);
 }
 
 void PriceList::Paste(QByteArrayView prices) {
   BeforeChange();
   QSet<QString> ticked;
-  for (const PriceRow& row : rows_) {
-    if (row.ticked) ticked.insert(row.name);
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    if (IsTicked(static_cast<int>(row))) ticked.insert(rows_[row].name);
   }
-  rows_.clear();
+  std::vector<PriceRow> rows;
   for (PriceRecord& record : ReadPrices(prices)) {
-    PriceRow& row = rows_.emplace_back(PriceRow{std::move(record)});
+    PriceRow& row = rows.emplace_back(PriceRow{std::move(record)});
     // Removed once given, so that the first row of a name gets it.
     row.ticked = ticked.remove(row.name);
   }
+  rows_ = std::move(rows);
 }
 
 QByteArray PriceList::PriceBytes() const {
@@ -129,8 +193,8 @@ QByteArray PriceList::PriceBytes() const {
 
 QByteArray PriceList::MarkedBytes() const {
   LineWriter writer;
-  for (const PriceRow& row : rows_) {
-    if (row.ticked) writer.Add(row.name);
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    if (IsTicked(static_cast<int>(row))) writer.Add(rows_[row].name);
   }
   return writer.Take();
 }

@@ -5,13 +5,15 @@
 
 #include <QByteArray>
 #include <QString>
+#include <limits>
 #include <optional>
-#include <vector>
 
 #include "books/directories/GoodsPick.h"
 #include "books/directories/GoodsView.h"
 #include "books/store/FileState.h"
 #include "books/store/Progress.h"
+#include "formats/FileRows.h"
+#include "formats/GoodsRows.h"
 #include "formats/PriceFile.h"
 
 namespace kladez {
@@ -22,6 +24,35 @@ struct PriceRow : PriceRecord {
   bool picked = false;  // put in by a pick: shown like a group until the list is loaded again
 };
 
+// Where a row's goods and its sale price stand in the two files, and its tick.
+struct PricePlace {
+  static constexpr quint32 kNone = std::numeric_limits<quint32>::max();
+
+  quint32 goods;
+  quint32 sale = kNone;  // none: the purchase price
+  bool ticked = false;
+
+  // Ticks make no difference, as between records.
+  bool operator==(const PricePlace& other) const {
+    return goods == other.goods && sale == other.sale;
+  }
+};
+
+struct PriceSource {
+  using Record = PriceRow;
+  using Place = PricePlace;
+
+  GoodsSource goods;
+  QByteArray prices;
+
+  PriceRow Make(const PricePlace& place) const;
+  bool operator==(const PriceSource& other) const {
+    return goods == other.goods && prices.isSharedWith(other.prices);
+  }
+};
+
+using PriceRows = FileRows<PriceSource>;
+
 class PriceList {
  public:
   PriceList() = default;
@@ -29,16 +60,22 @@ class PriceList {
   // lacks get their purchase price for sale price; what the directory lacks is dropped. Of several
   // rows of one name the first gets price and tick. `progress` is told up to a hundred times how
   // much of the .prc is read.
-  PriceList(QByteArrayView goods, QByteArrayView prices, QByteArrayView marked, GoodsView view,
-            const Progress& progress = {});
+  PriceList(const QByteArray& goods, const QByteArray& prices, QByteArrayView marked,
+            GoodsView view, const Progress& progress = {});
 
-  const std::vector<PriceRow>& Rows() const { return rows_; }
+  const PriceRows& Rows() const { return rows_; }
+  // What is asked of many rows: without taking all of one apart.
+  bool IsTicked(int row) const;
+  int TickedCount() const;
+  // The first row of a name, and the first that is no group; -1 where there is none.
+  int RowOfName(const QString& name) const;
+  int FirstGoods() const;
 
   // Whether rows or prices are not as they were read or saved last; ticks do not count.
   bool IsChanged() const;
   void TakeAsSaved() { saved_.reset(); }
 
-  void SetTick(int row, bool on) { rows_.at(row).ticked = on; }
+  void SetTick(int row, bool on);
   // `price` is a number text. False for a group, which has none, and for what is no number.
   bool SetSalePrice(int row, const QString& price);
   // Puts a picked line in below a row (-1, or an empty list: at the end) and gives its position.
@@ -58,9 +95,11 @@ class PriceList {
 
  private:
   void BeforeChange();
+  template <typename OfRaw, typename OfRow>
+  int FirstRow(OfRaw of_raw, OfRow of_row) const;
 
-  std::vector<PriceRow> rows_;
-  std::optional<std::vector<PriceRow>> saved_;  // the rows before the first change to them
+  PriceRows rows_;
+  std::optional<PriceRows> saved_;  // the rows before the first change to them
 };
 
 }  // namespace kladez

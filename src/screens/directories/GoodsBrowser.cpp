@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 
 #include "formats/Numbers.h"
 #include "ui/controls/Look.h"
@@ -19,17 +20,13 @@ std::vector<Column> GoodsColumns() {
           {.title = u"Цена закупа"_s, .twips = 950, .number = true}};
 }
 
-const QString& CellOf(const GoodsRecord& record, int column) {
-  const std::array cells = {&record.name, &record.country, &record.declaration, &record.unit,
-                            &record.price};
-  return *cells[column];
-}
-
 RowSource RowsOf(const GoodsDirectory& directory, const GoodsBrowser::Ticks& ticks) {
-  const auto record = [&directory](int row) -> const GoodsRecord& { return directory.Rows()[row]; };
+  using R = GoodsRecord;
+  constexpr std::array kCells = {&R::name, &R::country, &R::declaration, &R::unit, &R::price};
   return {.count = [&directory] { return static_cast<int>(directory.Rows().size()); },
-          .text = [record](int row, int column) { return CellOf(record(row), column); },
-          .is_group = [record](int row) { return record(row).IsGroup(); },
+          .text = [&directory, kCells](
+                      int row, int column) { return directory.Rows().Text(row, kCells[column]); },
+          .is_group = [&directory](int row) { return directory.Rows().IsGroup(row); },
           .checked = ticks.checked,
           .set_checked = ticks.set_checked};
 }
@@ -57,36 +54,27 @@ GoodsBrowser::GoodsBrowser(AppContext& context, QStringView screen, const Ticks&
   layout->addWidget(list_, 1);
 }
 
-const GoodsRecord* GoodsBrowser::Selected() const {
+std::optional<GoodsRecord> GoodsBrowser::Selected() const {
   const int row = list_->CurrentRow();
-  return row < 0 ? nullptr : &directory_.Rows()[row];
+  return row < 0 ? std::nullopt : std::optional(directory_.Rows()[row]);
 }
 
 GoodsInWarehouse GoodsBrowser::ForHistory() const {
-  const GoodsRecord* selected = Selected();
-  return {selected == nullptr ? QString() : selected->name, {}};
+  const int row = list_->CurrentRow();
+  return {row < 0 ? QString() : directory_.Rows().Text(row, &GoodsRecord::name), {}};
 }
 
 void GoodsBrowser::ShowAnew(const std::function<void()>& change) {
-  const std::optional<GoodsRecord> selected =
-      Selected() ? std::optional(*Selected()) : std::nullopt;
+  const std::optional<GoodsRecord> selected = Selected();
   change();
   model_->Reset();
-  const auto& rows = directory_.Rows();
-  const auto same = selected ? std::find(rows.begin(), rows.end(), *selected) : rows.end();
-  list_->SelectRow(same == rows.end() ? 0 : static_cast<int>(same - rows.begin()));
+  list_->SelectRow(selected ? std::max(0, directory_.Rows().RowOf(*selected)) : 0);
 }
 
 void GoodsBrowser::SelectForPick(const QString& name) {
-  const auto& rows = directory_.Rows();
-  auto row = std::find_if(rows.begin(), rows.end(), [&](const GoodsRecord& record) {
-    return !record.IsGroup() && !name.isEmpty() && record.name == name;
-  });
-  if (row == rows.end()) {
-    row = std::find_if(rows.begin(), rows.end(),
-                       [](const GoodsRecord& record) { return !record.IsGroup(); });
-  }
-  list_->SelectRow(row == rows.end() ? 0 : static_cast<int>(row - rows.begin()));
+  const GoodsRows& rows = directory_.Rows();
+  const int row = name.isEmpty() ? -1 : rows.RowOfGoods(name);
+  list_->SelectRow(std::max(0, row < 0 ? rows.FirstGoods() : row));
 }
 
 void GoodsBrowser::SaveWidths() {

@@ -30,7 +30,7 @@ class GoodsBrowser : public QWidget {
   RecordModel* Model() const { return model_; }
 
   // The selected row's record; nothing where none is selected.
-  const GoodsRecord* Selected() const;
+  std::optional<GoodsRecord> Selected() const;
   // The same for the command "История…".
   GoodsInWarehouse ForHistory() const;
   // Shows all rows anew and keeps the record selected that was, or else selects the first row.

@@ -120,8 +120,8 @@ void GoodsDirectoryScreen::Add() {
 }
 
 void GoodsDirectoryScreen::Change() {
-  const GoodsRecord* record = browser_->Selected();
-  if (record == nullptr) return;
+  const std::optional<GoodsRecord> record = browser_->Selected();
+  if (!record) return;
   GoodsForm form({.record = *record}, this);
   if (form.exec() != QDialog::Accepted) return;
   const int before = browser_->List()->CurrentRow();
@@ -137,13 +137,13 @@ void GoodsDirectoryScreen::Change() {
 
 void GoodsDirectoryScreen::Remove() {
   browser_->List()->setFocus();
-  const GoodsRecord* record = browser_->Selected();
+  const std::optional<GoodsRecord> record = browser_->Selected();
   // Asked over an empty list too: that is the order in which it has always gone.
   if (!AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s, DefaultAnswer::kYes,
-                record != nullptr ? WhatGoes(*record) : QString())) {
+                record ? WhatGoes(*record) : QString())) {
     return;
   }
-  if (record == nullptr) return;
+  if (!record) return;
   Guarded(this, [&] {
     if (!record->IsGroup() && IsOnHand(context_.data, context_.session, record->name)) {
       ShowMessage(this, u"На одном из складов присутствует данный товар.\nУдаление невозможно"_s);
@@ -187,8 +187,8 @@ void GoodsDirectoryScreen::ChangeOrChoose() {
 
 void GoodsDirectoryScreen::Choose() {
   if (!Guarded(this, [this] { Directory().SaveBeforePick(); })) return;
-  const GoodsRecord* record = browser_->Selected();
-  if (record == nullptr) return;
+  const std::optional<GoodsRecord> record = browser_->Selected();
+  if (!record) return;
   const auto pick = AskPick(this, *record, pick_for_);
   if (!pick) return;
   context_.settings.Write(settings::kLastPick, pick->name);
@@ -197,8 +197,8 @@ void GoodsDirectoryScreen::Choose() {
 }
 
 void GoodsDirectoryScreen::AskForChart() {
-  const GoodsRecord* record = browser_->Selected();
-  if (record != nullptr && !record->IsGroup()) emit ChartWanted(record->name);
+  const std::optional<GoodsRecord> record = browser_->Selected();
+  if (record && !record->IsGroup()) emit ChartWanted(record->name);
 }
 
 void GoodsDirectoryScreen::CloseSaved() {

@@ -63,8 +63,8 @@ void GoodsPicker::TickAnew() {
 }
 
 void GoodsPicker::Choose() {
-  const GoodsRecord* record = browser_->Selected();
-  if (record == nullptr) return;
+  const std::optional<GoodsRecord> record = browser_->Selected();
+  if (!record) return;
   if (record->IsGroup() && pick_for_ == PickFor::kGoodsChart) {
     reject();
     return;

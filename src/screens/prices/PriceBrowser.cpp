@@ -215,15 +215,11 @@ QString PriceBrowser::SelectedName() const {
 
 void PriceBrowser::ShowRows(const QString& selected_name) {
   model_->Reset();
-  const auto& rows = prices_.Rows();
-  const auto same = std::find_if(rows.begin(), rows.end(),
-                                 [&](const PriceRow& row) { return row.name == selected_name; });
-  if (same != rows.end()) {
-    list_->SelectRow(static_cast<int>(same - rows.begin()));
-  } else {
-    const bool picks = use_ == PriceUse::kPicker;
-    list_->SelectRow(picks ? FirstRowToPick(rows, context_.settings.Read(settings::kLastPick)) : 0);
-  }
+  const int same = prices_.RowOfName(selected_name);
+  const bool picks = use_ == PriceUse::kPicker;
+  const int first =
+      picks ? FirstRowToPick(prices_, context_.settings.Read(settings::kLastPick)) : 0;
+  list_->SelectRow(same < 0 ? first : same);
   if (use_ == PriceUse::kPicker) ShowWhatIsTaken();
   list_->SetEmptyText(
       price_list_->currentIndex() < 0
@@ -322,7 +318,7 @@ void PriceBrowser::ChangeOrPick() {
 void PriceBrowser::Pick() {
   const int at = list_->CurrentRow();
   if (at < 0 || prices_.Rows()[at].sale.isEmpty()) return;
-  const PriceRow& row = prices_.Rows()[at];
+  const PriceRow row = prices_.Rows()[at];
   const QuantityNotes notes = {
       .goods = row.name,
       .unit = row.unit,
@@ -344,7 +340,7 @@ void PriceBrowser::Pick() {
 }
 
 void PriceBrowser::ShowWhatIsTaken() {
-  taken_->setText(WhatIsTaken(prices_.Rows(), list_->CurrentRow(), picks_));
+  taken_->setText(WhatIsTaken(prices_, list_->CurrentRow(), picks_));
 }
 
 void PriceBrowser::Copy() {
@@ -362,7 +358,8 @@ void PriceBrowser::Paste() {
 }
 
 void PriceBrowser::Print() {
-  PricePrintScreen(context_, {shown_.warehouse, {prices_.Rows(), list_->SelectedRows()}}, this)
+  PricePrintScreen(context_, {shown_.warehouse, {prices_.Rows().Records(), list_->SelectedRows()}},
+                   this)
       .exec();
 }
 

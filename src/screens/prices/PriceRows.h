@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <vector>
 
 #include "books/prices/PriceList.h"
 
@@ -16,9 +15,9 @@ class RecordModel;
 RecordModel* NewPriceModel(PriceList& prices, bool with_purchase_price, QObject* parent);
 
 // Where a picker opens: on what was picked last, or else on goods, as a group can't be picked.
-int FirstRowToPick(const std::vector<PriceRow>& rows, const QString& last_pick);
+int FirstRowToPick(const PriceList& prices, const QString& last_pick);
 
 // What a picker says below its list: how many lines were picked so far, and what "Выбрать" takes.
-QString WhatIsTaken(const std::vector<PriceRow>& rows, int current_row, int picks);
+QString WhatIsTaken(const PriceList& prices, int current_row, int picks);
 
 }  // namespace kladez

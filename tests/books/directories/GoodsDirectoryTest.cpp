@@ -18,7 +18,7 @@ GoodsRecord Group(const QString& name) {
   return group;
 }
 
-QStringList Names(const std::vector<GoodsRecord>& rows) {
+QStringList Names(const GoodsRows& rows) {
   QStringList names;
   for (const GoodsRecord& row : rows) names.append(row.name);
   return names;
