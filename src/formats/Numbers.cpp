@@ -346,8 +346,11 @@ double RoundGeneral(double value) {
   // A number of up to 15 digits comes back as it is, and most quantities have no more than three
   // decimals.
   constexpr double kDecimals = 1000;
-  const double scaled = std::round(value * kDecimals);
-  if (std::fabs(scaled) < 1e15 && scaled / kDecimals == value) return value;
+  const double scaled = value * kDecimals;
+  if (std::fabs(scaled) < 1e15) {
+    const auto whole = static_cast<qint64>(scaled + std::copysign(0.5, scaled));
+    if (static_cast<double>(whole) / kDecimals == value) return value;
+  }
   std::array<char, 40> buffer;
   const auto text = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                   std::chars_format::scientific, 14);

@@ -1,11 +1,14 @@
 #include "books/stock/OnHand.h"
 
-#include "books/directories/GoodsOrder.h"
+#include <cmath>
+#include <utility>
+
 #include "books/stock/DocumentBook.h"
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
+#include "formats/Ordering.h"
 #include "formats/TextLines.h"
 
 namespace kladez {
@@ -15,31 +18,34 @@ using namespace Qt::StringLiterals;
 
 const QString kNothing = u"0"_s;
 
-bool IsKept(const OnHandRow& row) { return !row.IsGroup() && row.quantity != kNothing; }
-
-// The directory's rows as the view shows them, quantity "0".
-std::vector<OnHandRow> DirectoryRows(QByteArrayView goods, GoodsView view) {
-  std::vector<GoodsRecord> records = ReadGoods(goods);
-  std::vector<OnHandRow> rows;
-  rows.reserve(records.size());
-  QString group;
-  for (GoodsRecord& record : records) {
-    if (record.IsGroup()) {
-      group = record.name;
-      if (view == GoodsView::kGroups) rows.push_back({record.name, {}, {}, {}, group});
-    } else {
-      rows.push_back({std::move(record.name), kNothing, std::move(record.unit),
-                      std::move(record.price), group});
-    }
-  }
+// The directory's rows as the view shows them, none with stock.
+std::vector<OnHandPlace> DirectoryRows(const QByteArray& goods, GoodsView view) {
+  std::vector<OnHandPlace> places;
+  std::vector<QByteArrayView> names;
+  quint32 group = OnHandPlace::kNone;
+  ForEachGoods(goods, [&](const RawGoods& record) {
+    const auto place = static_cast<quint32>(record.name.data() - goods.constData());
+    if (record.IsGroup()) group = place;
+    if (record.IsGroup() && view == GoodsView::kGoodsOnly) return;
+    places.push_back({.goods = place, .group = group});
+    names.push_back(record.name);
+  });
+  if (view == GoodsView::kGroups) return places;
   // Sorted before the join: "the first row" is the first of the list as it is shown.
-  return view == GoodsView::kGoodsOnly ? SortedByName(std::move(rows)) : rows;
+  std::vector<OnHandPlace> sorted;
+  sorted.reserve(places.size());
+  for (const size_t at : PlacesInOrder(names)) sorted.push_back(places[at]);
+  return sorted;
 }
 
-std::vector<QByteArray> EncodedNames(const std::vector<OnHandRow>& rows) {
-  std::vector<QByteArray> names;
-  names.reserve(rows.size());
-  for (const OnHandRow& row : rows) names.push_back(EncodeText(row.name));
+QByteArrayView NameAt(QByteArrayView goods, quint32 place) {
+  return LineReader(goods.sliced(place)).NextRaw();
+}
+
+std::vector<QByteArrayView> NamesOf(const std::vector<OnHandPlace>& places, QByteArrayView goods) {
+  std::vector<QByteArrayView> names;
+  names.reserve(places.size());
+  for (const OnHandPlace& place : places) names.push_back(NameAt(goods, place.goods));
   return names;
 }
 
@@ -55,8 +61,20 @@ void SaveLedger(OnHandList& list, const DataDir& data, const Session& session,
 
 }  // namespace
 
-OnHandJoin::OnHandJoin(QByteArrayView goods, GoodsView view)
-    : rows_(DirectoryRows(goods, view)), index_(EncodedNames(rows_)), sums_(rows_.size()) {}
+OnHandRow OnHandSource::Make(const OnHandPlace& place) const {
+  const RawGoods raw = goods.Raw(place.goods);
+  OnHandRow row;
+  row.name = DecodeText(raw.name);
+  if (place.group != OnHandPlace::kNone) row.group = DecodeText(NameAt(goods.bytes, place.group));
+  if (raw.IsGroup()) return row;
+  row.quantity = place.touched ? GeneralText(place.quantity) : kNothing;
+  row.unit = DecodeText(raw.unit);
+  row.price = ToNumberOr(DecodeText(raw.price));
+  return row;
+}
+
+OnHandJoin::OnHandJoin(const QByteArray& goods, GoodsView view)
+    : goods_(goods), places_(DirectoryRows(goods, view)), index_(NamesOf(places_, goods_)) {}
 
 void OnHandJoin::Add(QByteArrayView ledger) {
   constexpr size_t kTogether = 32;
@@ -67,9 +85,9 @@ void OnHandJoin::Add(QByteArrayView ledger) {
     index_.FirstBeginnings(names, rows);
     for (size_t i = 0; i < names.size(); ++i) {
       if (rows[i] < 0) continue;
-      Sum& sum = sums_[rows[i]];
-      sum.value = RoundGeneral(sum.value + NumberOr(quantities[i]));
-      sum.touched = true;
+      OnHandPlace& place = places_[rows[i]];
+      place.quantity = RoundGeneral(place.quantity + NumberOr(quantities[i]));
+      place.touched = true;
     }
     names.clear();
     quantities.clear();
@@ -83,26 +101,49 @@ void OnHandJoin::Add(QByteArrayView ledger) {
   add();
 }
 
-OnHandList OnHandJoin::Take() {
-  for (size_t row = 0; row < rows_.size(); ++row) {
-    // A record without a name begins every name, a group's too, and a group has no stock.
-    if (sums_[row].touched && !rows_[row].IsGroup()) {
-      rows_[row].quantity = GeneralText(sums_[row].value);
-    }
-  }
-  return OnHandList(std::move(rows_));
+OnHandList OnHandJoin::Take() { return OnHandList(OnHandRows({{goods_}}, places_)); }
+
+// A record without a name begins every name, a group's too, and a group has no stock.
+bool OnHandList::IsKept(size_t row) const {
+  return rows_.Ask(
+      row,
+      [this](const OnHandPlace& place) {
+        return place.quantity != 0 && std::isfinite(place.quantity) &&
+               !NameAt(rows_.File().goods.bytes, place.goods).startsWith(' ');
+      },
+      [](const OnHandRow& made) { return !made.IsGroup() && made.quantity != kNothing; });
 }
 
 OnHandList::Totals OnHandList::Total() const {
   Totals total;
-  for (const OnHandRow& row : rows_) {
-    if (row.IsGroup()) continue;
-    const double quantity = NumberOr(row.quantity);
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    if (!IsKept(row)) continue;
+    const auto [quantity, price] = rows_.Ask(
+        row,
+        [this](const OnHandPlace& place) {
+          return std::pair(place.quantity, NumberOr(rows_.File().goods.Raw(place.goods).price));
+        },
+        [](const OnHandRow& made) {
+          return std::pair(NumberOr(made.quantity), NumberOr(made.price));
+        });
     if (quantity == 0) continue;
     ++total.names;
-    total.sum += quantity * NumberOr(row.price);
+    total.sum += quantity * price;
   }
   return total;
+}
+
+int OnHandList::RowOfName(const QString& name) const {
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    const bool same = rows_.Ask(
+        row,
+        [&](const OnHandPlace& place) {
+          return HoldsText(NameAt(rows_.File().goods.bytes, place.goods), name);
+        },
+        [&](const OnHandRow& made) { return made.name == name; });
+    if (same) return static_cast<int>(row);
+  }
+  return -1;
 }
 
 QString OnHandList::StatusText() const {
@@ -112,16 +153,18 @@ QString OnHandList::StatusText() const {
 }
 
 bool OnHandList::ChangeQuantity(int row, const QString& quantity) {
-  OnHandRow& changed = rows_.at(row);
+  OnHandRow changed = rows_.at(row);
   if (changed.IsGroup() || changed.quantity == quantity || !ParseStrict(quantity)) return false;
   changed.quantity = quantity;
+  rows_.Set(row, std::move(changed));
   return true;
 }
 
 QByteArray OnHandList::LedgerBytes() const {
   LineWriter writer;
-  for (const OnHandRow& row : rows_) {
-    if (!IsKept(row)) continue;
+  for (size_t at = 0; at < rows_.size(); ++at) {
+    if (!IsKept(at)) continue;
+    const OnHandRow row = rows_[at];
     for (const QString* line : {&row.name, &row.quantity, &row.unit}) writer.Add(*line);
   }
   return writer.Take();
@@ -129,8 +172,9 @@ QByteArray OnHandList::LedgerBytes() const {
 
 QByteArray OnHandList::ZeroedLedgerBytes() const {
   LineWriter writer;
-  for (const OnHandRow& row : rows_) {
-    if (!IsKept(row)) continue;
+  for (size_t at = 0; at < rows_.size(); ++at) {
+    if (!IsKept(at)) continue;
+    const OnHandRow row = rows_[at];
     for (const QString* line : {&row.name, &kNothing, &kNothing}) writer.Add(*line);
   }
   return writer.Take();
@@ -141,7 +185,9 @@ OnHandList LoadOnHand(const DataDir& data, const Session& session, const QString
   FileState goods, ledger;
   OnHandJoin join(ReadWithState(data, GoodsPath(session), goods), view);
   for (const QString& warehouse : warehouses) {
-    join.Add(ReadWithState(data, LedgerPath(session, warehouse), ledger));
+    const QString path = LedgerPath(session, warehouse);
+    // Only a list of one ledger is saved, and needs to know what it was.
+    join.Add(warehouses.size() == 1 ? ReadWithState(data, path, ledger) : data.Read(path));
   }
   OnHandList list = join.Take();
   list.goods_file = goods;

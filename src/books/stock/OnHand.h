@@ -7,13 +7,15 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <limits>
 #include <vector>
 
 #include "books/directories/GoodsView.h"
 #include "books/stock/PrefixIndex.h"
 #include "books/store/FileState.h"
 #include "books/store/Session.h"
-#include "formats/GoodsFile.h"
+#include "formats/FileRows.h"
+#include "formats/GoodsRows.h"
 
 namespace kladez {
 
@@ -28,6 +30,27 @@ struct OnHandRow {
   bool IsGroup() const { return IsGroupName(name); }
 };
 
+// Where a row's goods stand in the directory, and their stock.
+struct OnHandPlace {
+  static constexpr quint32 kNone = std::numeric_limits<quint32>::max();
+
+  quint32 goods;
+  quint32 group;         // the group above them, none before the first
+  bool touched = false;  // some ledger has them
+  double quantity = 0;
+};
+
+struct OnHandSource {
+  using Record = OnHandRow;
+  using Place = OnHandPlace;
+
+  GoodsSource goods;
+
+  OnHandRow Make(const OnHandPlace& place) const;
+};
+
+using OnHandRows = FileRows<OnHandSource>;
+
 class OnHandList {
  public:
   struct Totals {
@@ -37,9 +60,11 @@ class OnHandList {
 
   OnHandList() = default;
   // The rows in the order of the screen.
-  explicit OnHandList(std::vector<OnHandRow> rows) : rows_(std::move(rows)) {}
+  explicit OnHandList(OnHandRows rows) : rows_(std::move(rows)) {}
 
-  const std::vector<OnHandRow>& Rows() const { return rows_; }
+  const OnHandRows& Rows() const { return rows_; }
+  // The first row of a name; -1 where there is none.
+  int RowOfName(const QString& name) const;
   // Sums at the prices of the rows, which read as 0 where they are no number.
   Totals Total() const;
   // "Итого наименований: 12     на сумму: 3400.00"
@@ -56,10 +81,13 @@ class OnHandList {
 
   // What the list was read from: the directory too, as a name that it lacks leaves the ledger.
   FileState goods_file;
-  FileState ledger_file;  // of the last warehouse named
+  FileState ledger_file;  // where it was one
 
  private:
-  std::vector<OnHandRow> rows_;
+  // Whether a row goes into a ledger.
+  bool IsKept(size_t row) const;
+
+  OnHandRows rows_;
 };
 
 // Makes the list: the directory's rows with quantity "0", to which the records of the ledgers are
@@ -67,19 +95,14 @@ class OnHandList {
 class OnHandJoin {
  public:
   // `goods` is spr\товар.spr, `ledger` a товар.usl; Take gives the list once, when all are added.
-  OnHandJoin(QByteArrayView goods, GoodsView view);
+  OnHandJoin(const QByteArray& goods, GoodsView view);
   void Add(QByteArrayView ledger);
   OnHandList Take();
 
  private:
-  struct Sum {
-    double value = 0;
-    bool touched = false;
-  };
-
-  std::vector<OnHandRow> rows_;
+  QByteArray goods_;
+  std::vector<OnHandPlace> places_;
   PrefixIndex index_;
-  std::vector<Sum> sums_;
 };
 
 // Reads the directory and the ledgers of the named warehouses. Throws filesystem_error.

@@ -1,10 +1,11 @@
 // Answers, for a list of names, which is the first one that begins with a text, letter case minded.
 // A list of stock asks it for every record of every warehouse, most of which are names themselves,
 // so each different text is looked for once and its answer remembered: in the sorted names, those
-// that begin with a text are neighbours.
+// that begin with a text are neighbours. Ledgers of one shop name their goods in much the same
+// order, so what followed a text the last time is tried before any look-up.
 #pragma once
 
-#include <QByteArray>
+#include <QByteArrayView>
 #include <vector>
 
 #include "formats/TextPool.h"
@@ -13,32 +14,35 @@ namespace kladez {
 
 class PrefixIndex {
  public:
-  // The names in the list's order, in the files' encoding.
-  explicit PrefixIndex(std::vector<QByteArray> names);
+  // The names in the list's order, in the files' encoding; they outlive this.
+  explicit PrefixIndex(std::vector<QByteArrayView> names);
 
-  // The position in the list, -1 where no name begins so. Not for several threads: it remembers.
-  int FirstBeginning(QByteArrayView text) { return Answer(text, TextPool::HashOf(text)); }
-  // The same for many texts, quicker: `rows` gets as many positions.
+  // The positions in the list of many texts, one after the other, -1 where no name begins so. Not
+  // for several threads: it remembers.
   void FirstBeginnings(const std::vector<QByteArrayView>& texts, std::vector<int>& rows);
 
  private:
   struct Entry {
-    quint64 head;  // the first eight bytes, for quick comparing
+    quint64 head;  // the eight bytes after what all names begin with, for quick comparing
     int row;
   };
 
   QByteArrayView NameOf(const Entry& entry) const { return names_[entry.row]; }
-  bool Less(const Entry& a, const Entry& b) const;
-  int Answer(QByteArrayView text, quint32 hash);
+  quint64 HeadOf(QByteArrayView text) const;
   // The lowest row of the neighbours from `at` on that begin with the text.
   int FirstFrom(size_t at, QByteArrayView text) const;
   int Find(QByteArrayView text) const;
+  int Numbered(int number, QByteArrayView text);
 
-  std::vector<QByteArray> names_;
+  std::vector<QByteArrayView> names_;
+  qsizetype common_ = 0;  // bytes that all names begin with
   std::vector<Entry> sorted_;
-  // Texts asked before, all the names themselves to begin with, and their answers.
+  // Texts asked before, and by their numbers the answers and which text came next the last time.
   TextPool asked_;
   std::vector<int> answers_;
+  std::vector<int> next_;
+  int last_ = -1;
+  size_t surprises_ = 0;         // among the texts asked together last
   std::vector<quint32> hashes_;  // of the texts that are asked together
 };
 

@@ -21,7 +21,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using look::IconName;
 
-const QString& CellOf(const OnHandRow& row, int column) {
+QString CellOf(const OnHandRow& row, int column) {
   const std::array cells = {&row.name, &row.quantity, &row.unit, &row.price};
   return *cells[column];
 }
@@ -66,7 +66,7 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
 }
 
 void OnHandScreen::BuildList() {
-  const auto row = [this](int at) -> const OnHandRow& { return on_hand_.Rows()[at]; };
+  const auto row = [this](int at) { return on_hand_.Rows()[at]; };
   const int cost_twips = context_.session.IsSeller() ? 0 : 1300;
   model_ = new RecordModel({{.title = u"Наименование"_s, .twips = 3100, .stretch = true},
                             {.title = u"Кол-во"_s, .twips = 1300, .number = true},
@@ -125,10 +125,7 @@ void OnHandScreen::Fill() {
   });
   on_hand_ = std::move(filled);
   model_->Reset();
-  const auto& rows = on_hand_.Rows();
-  const auto same = std::find_if(rows.begin(), rows.end(),
-                                 [&](const OnHandRow& row) { return row.name == name; });
-  list_->SelectRow(same == rows.end() ? 0 : static_cast<int>(same - rows.begin()));
+  list_->SelectRow(std::max(0, on_hand_.RowOfName(name)));
   status_->setText(on_hand_.StatusText());
 }
 

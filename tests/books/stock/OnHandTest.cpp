@@ -114,15 +114,25 @@ TEST(OnHandIndex, FindsTheFirstRowThatBeginsSo) {
   for (int round = 0; round < 200; ++round) {
     std::vector<QByteArray> names(random() % 70);
     for (QByteArray& name : names) name = text(random() % 4 == 0 ? 14 : 5);
-    PrefixIndex index(names);
-    for (int i = 0; i < 100; ++i) {
-      const QByteArray asked = text(10);
-      const auto first = std::find_if(names.begin(), names.end(), [&](const QByteArray& name) {
-        return name.startsWith(asked);
-      });
-      EXPECT_EQ(index.FirstBeginning(asked),
-                first == names.end() ? -1 : static_cast<int>(first - names.begin()))
-          << asked.toStdString();
+    PrefixIndex index(std::vector<QByteArrayView>(names.begin(), names.end()));
+    std::vector<QByteArray> asked(100);
+    for (QByteArray& one : asked) one = text(10);
+    std::vector<QByteArrayView> together;
+    std::vector<int> rows;
+    // Asked in one order again and again, then in others.
+    for (int i = 0; i < 1000; ++i) {
+      together.push_back(asked[i < 500 ? i % asked.size() : random() % asked.size()]);
+      if (random() % 9 != 0 && i < 999) continue;
+      index.FirstBeginnings(together, rows);
+      ASSERT_EQ(rows.size(), together.size());
+      for (size_t at = 0; at < rows.size(); ++at) {
+        const auto first = std::find_if(names.begin(), names.end(), [&](const QByteArray& name) {
+          return name.startsWith(together[at]);
+        });
+        EXPECT_EQ(rows[at], first == names.end() ? -1 : static_cast<int>(first - names.begin()))
+            << together[at].toByteArray().toStdString();
+      }
+      together.clear();
     }
   }
 }
