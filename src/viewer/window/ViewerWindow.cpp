@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "viewer/page/PageName.h"
+#include "viewer/window/Mail.h"
 #include "viewer/window/PreviewDialog.h"
 #include "viewer/window/Printing.h"
 #include "viewer/window/ViewerLook.h"
@@ -78,6 +79,8 @@ void ViewerWindow::MakeActions() {
                              QKeySequence(u"Ctrl+P"_s), &ViewerWindow::Preview);
   QAction* pdf = AddAction(file, u"SavePdf"_s, u"Сохранить в P&DF…"_s, QKeySequence(u"Ctrl+E"_s),
                            &ViewerWindow::SavePdf);
+  AddAction(file, u"Mail"_s, u"О&тправить…"_s, QKeySequence(u"Ctrl+Shift+E"_s),
+            &ViewerWindow::Mail);
   QAction* reload =
       AddAction(file, u"Reload"_s, u"О&бновить"_s, QKeySequence(u"F5"_s), &ViewerWindow::Reload);
   file->addSeparator();
@@ -226,6 +229,8 @@ void ViewerWindow::Preview() {
   PreviewDialog dialog(page_, this);
   if (dialog.Prepare()) dialog.exec();
 }
+
+void ViewerWindow::Mail() { MailPage(page_, this); }
 
 void ViewerWindow::SavePdf() {
   const QString path = AskPdfPath(NameOf(*page_), this);

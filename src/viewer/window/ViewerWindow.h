@@ -33,6 +33,8 @@ class ViewerWindow : public QMainWindow {
   void Preview();
   // Asks for a file name and writes the page to it.
   void SavePdf();
+  // Hands the page as a PDF file to the desktop's mail program.
+  void Mail();
 
  private:
   // A page of the guide, and how far down it was.
