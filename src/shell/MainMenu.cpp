@@ -48,6 +48,8 @@ MainMenu::MainMenu(QMenuBar* bar, QObject* parent) : QObject(parent) {
   directories_menu_ = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
   AddPlaces(store_menu_, PlaceGroup::kStore);
   AddPlaces(reports_menu_, PlaceGroup::kReports);
+  reports_menu_->addSeparator();
+  AddPlaces(reports_menu_, PlaceGroup::kMoreReports);
   AddPlaces(directories_menu_, PlaceGroup::kDirectories);
   AddCommands(AddMenu(bar, u"mnHelp"_s, u"Спр&авка"_s), u"mnHelp");
   commands_[Command::kHelp]->setShortcut(Qt::Key_F1);

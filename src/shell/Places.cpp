@@ -156,6 +156,50 @@ constexpr auto kPlaces = std::to_array<PlaceRow>({
      {},
      {},
      u"Picture23"},
+    {Place::kClientsReport,
+     kMoreReports,
+     IconName::kParty,
+     false,
+     false,
+     u"mnu_report_clients",
+     u"Отчет по &клиентам...",
+     u"Отчет по клиентам",
+     {},
+     {},
+     {}},
+    {Place::kSuppliersReport,
+     kMoreReports,
+     IconName::kParty,
+     false,
+     false,
+     u"mnu_report_suppliers",
+     u"Отчет по поставщика&м...",
+     u"Отчет по поставщикам",
+     {},
+     {},
+     {}},
+    {Place::kMarginReport,
+     kMoreReports,
+     IconName::kReport,
+     false,
+     false,
+     u"mnu_report_margin",
+     u"Валовая при&быль...",
+     u"Валовая прибыль",
+     {},
+     {},
+     {}},
+    {Place::kAbcReport,
+     kMoreReports,
+     IconName::kSort,
+     false,
+     false,
+     u"mnu_report_abc",
+     u"&ABC-анализ...",
+     u"ABC-анализ",
+     {},
+     {},
+     {}},
 });
 static_assert(IsInOrder(kPlaces, &PlaceRow::place));
 
@@ -170,6 +214,7 @@ QStringView GroupHeading(PlaceGroup group) {
     case kStore:
       return u"Склад";
     case kReports:
+    case kMoreReports:
       return u"Отчеты";
     case kDirectories:
       return u"Справочники";

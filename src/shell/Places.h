@@ -29,9 +29,14 @@ enum class Place {
   kWarehouses,
   kHome,
   kCurrency,
+  kClientsReport,
+  kSuppliersReport,
+  kMarginReport,
+  kAbcReport,
 };
 
-enum class PlaceGroup { kStore, kReports, kDirectories, kNone };
+// What stands in a menu only, below a line, is of a group of its own.
+enum class PlaceGroup { kStore, kReports, kMoreReports, kDirectories, kNone };
 
 struct PlaceRow {
   Place place;

@@ -89,6 +89,10 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {kWarehouses, &Run<WarehousesDialog>},
     {kHome, &MakeNothing},
     {kCurrency, &Run<CurrencyDialog>},
+    {kClientsReport, &RunReport<&ClientsReportForm>},
+    {kSuppliersReport, &RunReport<&SuppliersReportForm>},
+    {kMarginReport, &RunReport<&MarginReportForm>},
+    {kAbcReport, &RunReport<&AbcReportForm>},
 });
 static_assert(IsInOrder(kScreens, &ScreenRow::place));
 

@@ -100,6 +100,31 @@ void VisitCharts(Robot& robot) {
   robot.WaitUntilGone(u"otgr"_s);
 }
 
+// From the report by a quick choice to its list, the documents of a row, one of them; and the
+// chart.
+void VisitReportList(Robot& robot) {
+  robot.OpenMenu(u"mnu_report_clients"_s);
+  robot.WaitFor(u"otklient"_s);
+  robot.Choose(u"quick"_s, u"Этот год"_s);
+  robot.Check(u"compare"_s, true);
+  robot.Picture(u"otklient"_s);
+  robot.Click(u"list"_s);
+  robot.WaitFor(u"otlist"_s);
+  robot.Picture(u"otlist"_s);
+  robot.Click(u"chart"_s);
+  ShowAndLeave(robot, u"graphic"_s);
+  robot.FocusOn(u"ListView1"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"otdocs"_s);
+  robot.Picture(u"otdocs"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"TovUhod_Ass"_s);
+  for (const QStringView screen : {u"TovUhod_Ass", u"otdocs", u"otlist", u"otklient"}) {
+    robot.Press(Qt::Key_Escape);
+    robot.WaitUntilGone(screen.toString());
+  }
+}
+
 void VisitCatalogue(Robot& robot) {
   robot.OpenMenu(u"mnuFileCreate"_s);
   ShowAndLeave(robot, u"BasesNew"_s);
@@ -133,11 +158,19 @@ void VisitDialogs(Robot& robot) {
     QStringView screen;
   };
   static constexpr std::array kVisits = {
-      Visit{u"mnu_Sklad_ZO", u"ost"},      Visit{u"mnu_Otchet_OPP", u"otppr"},
-      Visit{u"mnu_Otchet_RPVT", u"otrpt"}, Visit{u"mnu_Otchet_SR", u"otspeed"},
-      Visit{u"mnu_Otchet_DB", u"otpruh"},  Visit{u"mnu_Sprav_S", u"sprSklad"},
-      Visit{u"mnu_Sprav_OV", u"currenc"},  Visit{u"arch", u"rescopy"},
-      Visit{u"reparch", u"resrep"},        Visit{u"mnAbout", u"about"},
+      Visit{u"mnu_Sklad_ZO", u"ost"},
+      Visit{u"mnu_Otchet_OPP", u"otppr"},
+      Visit{u"mnu_Otchet_RPVT", u"otrpt"},
+      Visit{u"mnu_Otchet_SR", u"otspeed"},
+      Visit{u"mnu_Otchet_DB", u"otpruh"},
+      Visit{u"mnu_report_suppliers", u"otpost"},
+      Visit{u"mnu_report_margin", u"otval"},
+      Visit{u"mnu_report_abc", u"otabc"},
+      Visit{u"mnu_Sprav_S", u"sprSklad"},
+      Visit{u"mnu_Sprav_OV", u"currenc"},
+      Visit{u"arch", u"rescopy"},
+      Visit{u"reparch", u"resrep"},
+      Visit{u"mnAbout", u"about"},
   };
   for (const Visit& visit : kVisits) {
     robot.OpenMenu(visit.menu.toString());
@@ -176,6 +209,7 @@ void VisitScreens(Robot& robot) {
   robot.Press(Qt::Key_Escape);
   robot.WaitUntilGone(u"sprFirm"_s);
   VisitDialogs(robot);
+  VisitReportList(robot);
   VisitCheck(robot);
   VisitCatalogue(robot);
 }

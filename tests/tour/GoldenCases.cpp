@@ -341,6 +341,12 @@ std::vector<GoldenCase> PageCases() {
       Page("otppr", "отчет по продажам", Menu(u"mnu_Otchet_OPP"_s, u"otppr"_s)),
       Page("otrpt", "скорость реализации", Menu(u"mnu_Otchet_RPVT"_s, u"otrpt"_s)),
       Page("otpruh", "поступление и реализация", Menu(u"mnu_Otchet_DB"_s, u"otpruh"_s)),
+      Page("otklient", "отчет по клиентам, сравнение",
+           Menu(u"mnu_report_clients"_s, u"otklient"_s) >> ChooseIn(u"quick"_s, u"Этот год"_s) >>
+               CheckAt(u"compare"_s)),
+      Page("otpost", "отчет по поставщикам", Menu(u"mnu_report_suppliers"_s, u"otpost"_s)),
+      Page("otval", "валовая прибыль", Menu(u"mnu_report_margin"_s, u"otval"_s)),
+      Page("otabc", "ABC-анализ", Menu(u"mnu_report_abc"_s, u"otabc"_s)),
       {"otgr graphic waitplease", "график",
        Menu(u"mnu_Otchet_GP"_s, u"otgr"_s) >> Open(u"Command1"_s, u"graphic"_s),
        Click(u"GoldButton1"_s), Empty("data/temp.gif") + PageOf("waitplease"), Beside::kNothing,

@@ -18,6 +18,8 @@ inline const std::set<QString> kScreens = {
     QStringLiteral("colvo"),      QStringLiteral("currenc"),     QStringLiteral("frmSplash"),
     QStringLiteral("graphic"),    QStringLiteral("helper"),      QStringLiteral("history"),
     QStringLiteral("main2"),      QStringLiteral("ost"),         QStringLiteral("otgr"),
+    QStringLiteral("otabc"),      QStringLiteral("otdocs"),      QStringLiteral("otklient"),
+    QStringLiteral("otlist"),     QStringLiteral("otpost"),      QStringLiteral("otval"),
     QStringLiteral("otppr"),      QStringLiteral("otpruh"),      QStringLiteral("otrpt"),
     QStringLiteral("otspeed"),    QStringLiteral("prChange"),    QStringLiteral("price2"),
     QStringLiteral("pricePrint"), QStringLiteral("prihnokl"),    QStringLiteral("rescopy"),

@@ -10,6 +10,8 @@ using namespace Qt::StringLiterals;
 constexpr PageFont kHeadFont{.size = 4};
 constexpr PageFont kRowFont{.size = 3};
 
+}  // namespace
+
 QString PeriodLine(const ReportPeriod& period) {
   switch (period.kind) {
     case PeriodKind::kAll:
@@ -22,10 +24,10 @@ QString PeriodLine(const ReportPeriod& period) {
   Q_UNREACHABLE();
 }
 
-}  // namespace
-
 ReportPage::ReportPage(const QString& heading, const ReportScope& scope, const ByteSink& sink)
-    : sink_(sink), page_(u"Отчет от "_s + LongDateText(scope.period.today), LineWriter(sink)) {
+    : sink_(sink),
+      below_total_(scope.below_total),
+      page_(u"Отчет от "_s + LongDateText(scope.period.today), LineWriter(sink)) {
   page_.Line(u"<p align=CENTER><B><FONT FACE=Arial SIZE=5>"_s + heading +
              LongDateText(scope.period.today) + u"</FONT></B><br></p>"_s);
   page_.Line(FontHtml({.size = 3}, scope.warehouse) + u"<br>"_s);
@@ -58,6 +60,7 @@ void ReportPage::Rows(size_t count, const std::function<std::vector<QString>(siz
 
 void ReportPage::Total(const std::vector<QString>& values) {
   page_.TotalRow(Cells(values), kRowFont);
+  for (const std::vector<QString>& row : below_total_) page_.TotalRow(Cells(row), kRowFont);
   page_.Line(u"<tr>"_s);
   page_.Line(u"</center></table><p></p>"_s);
   page_.Line(u"</body></html>"_s);

@@ -28,17 +28,21 @@ class ReportPage {
   // Many rows, each asked for when its turn comes. Throws WorkCancelled.
   void Rows(size_t count, const std::function<std::vector<QString>(size_t)>& values,
             const Progress& progress);
-  // The bold row and the end of the page.
+  // The bold row, those that the scope sets below it, and the end of the page.
   void Total(const std::vector<QString>& values);
 
  private:
   std::vector<PageCell> Cells(const std::vector<QString>& values) const;
 
   const ByteSink& sink_;
+  const std::vector<std::vector<QString>> below_total_;
   PageWriter page_;
   std::vector<Head> heads_;
   size_t texts_ = 0;
 };
+
+// "Период: с 01.11.2026 по 30.11.2026", "Месяц: Ноябрь", empty for all documents.
+QString PeriodLine(const ReportPeriod& period);
 
 // "22.11.26" of the key 261122.
 QString DayOfKey(int day_key);

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <vector>
 
 #include "books/directories/WarehouseDirectory.h"
 #include "books/stock/DocumentScan.h"
@@ -34,6 +35,8 @@ struct ReportPeriod {
 struct ReportScope {
   QString warehouse;  // the selector's entry, as the report prints it
   ReportPeriod period;
+  // What the page prints below its total, a row each, the first cell its label: the period before.
+  std::vector<std::vector<QString>> below_total{};
 
   QStringList Warehouses(const Session& session) const;
 };

@@ -90,8 +90,11 @@ ChartLayout LayOutChart(const QRectF& rect, const ChartGrid& grid, ChartKind kin
   layout.front = inside;
   const int rows = grid.RowCount();
   layout.slot = inside.width() / std::max(rows, 1);
-  layout.shown_labels = ShownRowLabels(
-      rows, layout.slot, WidestRowLabel(grid, metrics) + metrics.horizontalAdvance(u'0'));
+  // A name may be cut to the width of its row, a number of two figures never.
+  const double figure = metrics.horizontalAdvance(u'0');
+  const double widest =
+      std::min(WidestRowLabel(grid, metrics), std::max(layout.slot - figure, 2 * figure));
+  layout.shown_labels = ShownRowLabels(rows, layout.slot, widest + figure);
   return layout;
 }
 

@@ -52,10 +52,16 @@ void DrawValueLabels(const ChartCanvas& canvas) {
 void DrawRowLabels(const ChartCanvas& canvas) {
   const ChartLayout& layout = canvas.layout;
   canvas.painter.setPen(canvas.style.text);
+  const QFontMetricsF metrics(layout.font);
+  const double figure = metrics.horizontalAdvance(u'0');
   for (const int row : layout.shown_labels) {
     const QRectF box(layout.Middle(row) - 500, layout.front.bottom() + layout.line_height * 0.3,
                      1000, layout.line_height);
-    canvas.painter.drawText(box, Qt::AlignHCenter | Qt::AlignTop, canvas.grid.row_labels[row]);
+    const QString& label = canvas.grid.row_labels[row];
+    // A number is shown whole however narrow its row is.
+    const QString text =
+        label.size() <= 2 ? label : metrics.elidedText(label, Qt::ElideRight, layout.slot - figure);
+    canvas.painter.drawText(box, Qt::AlignHCenter | Qt::AlignTop, text);
   }
 }
 

@@ -50,21 +50,6 @@ std::vector<Column> HistoryColumns(bool with_price) {
           {.title = u"Цена"_s, .twips = with_price ? 950 : 0, .number = true}};
 }
 
-QString DocumentName(const GoodsMovement& movement) {
-  QString name;
-  switch (movement.document.kind) {
-    case DocumentKind::kReceipt:
-      name = u"Приход"_s;
-      break;
-    case DocumentKind::kShipment:
-      name = u"Расход"_s;
-      break;
-    case DocumentKind::kTransfer:
-      return u"Перемещение"_s;
-  }
-  return movement.is_open ? name + u", открыт"_s : name;
-}
-
 }  // namespace
 
 GoodsHistoryDialog::GoodsHistoryDialog(AppContext& context, GoodsHistory history,
@@ -89,7 +74,7 @@ GoodsHistoryDialog::GoodsHistoryDialog(AppContext& context, GoodsHistory history
   layout->addWidget(look::NewSeparator(this));
   auto* help = NewHelpCommand(this, context.data, u"history.htm");
   layout->addLayout(NewCommandRow({open_}, {help, close_}));
-  resize(116 * look::kGrid, 64 * look::kGrid);
+  resize(look::ByLetters(this, 116, 64));
   TabByEye(this);
   ShareListKeys(this, list_);
 
@@ -148,7 +133,7 @@ QString GoodsHistoryDialog::Cell(int at, int column) const {
     case kDay:
       return DateText(movement.date);
     case kDocument:
-      return DocumentName(movement);
+      return DocumentName(movement.document.kind, movement.is_open);
     case kNumber:
       return movement.number;
     case kWarehouse:

@@ -36,8 +36,8 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
 
   yes_ = NewCommand(this, u"Command1"_s, texts.yes.toString());
   no_ = NewCommand(this, u"Command2"_s, texts.no.toString());
-  auto* ending = NewEndingRow(yes_, no_);
-  ending->insertWidget(0, NewHelpCommand(this, context_.data, texts.help));
+  ending_ = NewEndingRow(yes_, no_);
+  ending_->insertWidget(0, NewHelpCommand(this, context_.data, texts.help));
 
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
@@ -46,7 +46,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   layout->addWidget(frame_);
   layout->addStretch();
   layout->addSpacing(look::kGrid);
-  layout->addLayout(ending);
+  layout->addLayout(ending_);
   setMinimumWidth(look::ByLetters(this, 56));
 
   connect(yes_, &QPushButton::clicked, this, [this] { Ok(); });
@@ -62,6 +62,10 @@ QGroupBox* PeriodDialog::NewFrame() {
   hint->setFixedSize(look::kMargin, look::kMargin);
   hint->move(0, look::kTight / 2);
   return frame;
+}
+
+void PeriodDialog::AddCommand(QPushButton* command) {
+  ending_->insertWidget(ending_->indexOf(yes_), command);
 }
 
 QString PeriodDialog::Warehouse() const { return warehouse_->Chosen(); }

@@ -6,6 +6,7 @@
 
 #include "ui/AppContext.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
 class QPushButton;
@@ -35,6 +36,9 @@ class PeriodDialog : public QDialog {
   QGridLayout* Fields() const { return fields_; }  // caption, field, question mark; row 0 is taken
   QGroupBox* Frame() const { return frame_; }      // "     Документы", still empty
 
+  // Puts a command before the one that makes the report.
+  void AddCommand(QPushButton* command);
+
   virtual void Ok() = 0;
 
   TextChoice* warehouse_;  // "Склад:"
@@ -47,6 +51,7 @@ class PeriodDialog : public QDialog {
   AppContext& context_;
   QGridLayout* fields_;
   QGroupBox* frame_;
+  QBoxLayout* ending_;
 };
 
 }  // namespace kladez

@@ -1,4 +1,4 @@
-// In what the three reports differ.
+// In what the reports differ.
 #pragma once
 
 #include "screens/reports/ReportDialog.h"
@@ -8,5 +8,9 @@ namespace kladez {
 const ReportForm& SalesReportForm();
 const ReportForm& SpeedReportForm();
 const ReportForm& FlowReportForm();
+const ReportForm& ClientsReportForm();
+const ReportForm& SuppliersReportForm();
+const ReportForm& MarginReportForm();
+const ReportForm& AbcReportForm();
 
 }  // namespace kladez

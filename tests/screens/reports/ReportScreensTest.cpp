@@ -106,6 +106,55 @@ TEST_F(ReportScreens, SalesOfAllDocumentsComeOldestFirst) {
              ReportEnd()));
 }
 
+TEST_F(ReportScreens, AQuickChoiceFillsTheDaysAndTypingOverThemTakesItBack) {
+  ReportDialog screen(Context(), SalesReportForm());
+  ShowActive(&screen);
+  auto* quick = Find<QComboBox>(&screen, "quick");
+  quick->setCurrentIndex(quick->findText(u"Прошлый месяц"_s));
+  EXPECT_TRUE(Find<QRadioButton>(&screen, "range")->isChecked());
+  EXPECT_EQ(Find<DateField>(&screen, "from")->date(), QDate(2026, 10, 1));
+  EXPECT_EQ(Find<DateField>(&screen, "to")->date(), QDate(2026, 10, 31));
+  Enter(&screen, "to", u"15.10.2026"_s);
+  EXPECT_EQ(quick->currentIndex(), -1);
+  EXPECT_EQ(Find<DateField>(&screen, "from")->date(), QDate(2026, 10, 1));
+}
+
+TEST_F(ReportScreens, TheToldPageHasThePeriodBeforeBelowItsTotalOnlyWhenAskedFor) {
+  const auto page = Run(FlowReportForm(), [](QWidget* screen) {
+    auto* quick = Find<QComboBox>(screen, "quick");
+    quick->setCurrentIndex(quick->findText(u"Этот месяц (только этого года)"_s));
+    Find<QAbstractButton>(screen, "compare")->click();
+  });
+  const ReportTable table{{25, 10, 10, 10}, 1};
+  const QStringList below = {
+      table.Total({u"ИТОГО:"_s, u"12.50"_s, u"30.00"_s, u"17.50"_s}),
+      table.Total({u"С 01.10.2026 по 22.10.2026:"_s, u"0.00"_s, u"70.00"_s, u"70.00"_s}),
+      table.Total({u"Изменение:"_s, u"12.50"_s, u"-40.00"_s, u"-52.50"_s})};
+  EXPECT_EQ(page.mid(page.size() - 6), below + ReportEnd());
+}
+
+TEST_F(ReportScreens, ARowOfTheListOpensItsDocumentOrTheListOfThem) {
+  ReportDialog screen(Context(), ClientsReportForm());
+  ShowActive(&screen);
+  const ModalAnswers answers{[](QWidget* list) {
+                               EXPECT_EQ(RowTexts(list, 0)[4], u"102.00"_s);
+                               QTest::keyClick(ListOf(list), Qt::Key_Return);
+                               QTest::keyClick(list, Qt::Key_Escape);
+                             },
+                             [](QWidget* documents) {
+                               EXPECT_EQ(ListOf(documents)->Records()->rowCount(), 3);
+                               QTest::keyClick(ListOf(documents), Qt::Key_Return);
+                               QTest::keyClick(documents, Qt::Key_Escape);
+                             },
+                             [](QWidget* properties) {
+                               EXPECT_EQ(properties->objectName(), u"TovUhod_Ass"_s);
+                               EXPECT_EQ(RowTexts(properties, 0)[0], u"Чай"_s);
+                               QTest::keyClick(properties, Qt::Key_Escape);
+                             }};
+  Click(&screen, "list");
+  EXPECT_TRUE(screen.isVisible()) << "the next period is asked for from here";
+}
+
 TEST_F(ReportScreens, CancellingWritesNothing) {
   const auto before = Temp().Tree();
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {

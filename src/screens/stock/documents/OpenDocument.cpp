@@ -5,6 +5,15 @@
 
 namespace kladez {
 
+using namespace Qt::StringLiterals;
+
+QString DocumentName(DocumentKind kind, bool is_open) {
+  QString name = u"Перемещение"_s;
+  if (kind == DocumentKind::kReceipt) name = u"Приход"_s;
+  if (kind == DocumentKind::kShipment) name = u"Расход"_s;
+  return is_open ? name + u", открыт"_s : name;
+}
+
 void OpenDocument(AppContext& context, const DocumentRef& document, QWidget* parent) {
   if (document.file.isEmpty()) return;
   if (context.session.IsSeller() && document.kind != DocumentKind::kShipment) {
