@@ -23,6 +23,7 @@ namespace kladez {
 
 class OwnRecords {
  public:
+  // No name has a record.
   bool IsEmpty() const { return records_.empty(); }
   // The names that have a record, in the order of the file (by code).
   QStringList Names() const;
@@ -39,6 +40,7 @@ class OwnRecords {
     QString was;
     QString is;
   };
+  // Renames and deletes records as the rows of the list were.
   void Follow(const std::vector<Renaming>& rows);
 
   bool operator==(const OwnRecords&) const = default;

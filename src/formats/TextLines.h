@@ -60,8 +60,10 @@ inline qsizetype FindLineEnd(QByteArrayView bytes) {
 // a file that was cut reads as a record whose missing fields are empty.
 class LineReader {
  public:
+  // Reads from the first line on; the bytes outlive the reader.
   explicit LineReader(QByteArrayView bytes) : rest_(bytes) {}
 
+  // No line is left.
   bool AtEnd() const { return rest_.isEmpty(); }
   // The next line without its CR LF; the last line of a file may lack the CR LF.
   QByteArrayView NextRaw() {

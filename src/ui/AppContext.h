@@ -8,9 +8,9 @@
 #include "books/printing/PrintOutDesk.h"
 #include "books/store/Clock.h"
 #include "books/store/DataDir.h"
-#include "books/store/Progress.h"
 #include "books/store/Session.h"
 #include "books/store/SettingsStore.h"
+#include "formats/Progress.h"
 
 class QWidget;
 

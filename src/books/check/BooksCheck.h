@@ -4,7 +4,7 @@
 
 #include "books/check/Findings.h"
 #include "books/store/DataDir.h"
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 

@@ -20,6 +20,7 @@ class ListCheck {
   void CheckParties(PartyKind kind, KnownNames& names);
   void CheckWarehouses(QStringList& warehouses);
 
+  // Whether the words of the currency are all there; whether what is marked are goods.
   void CheckCurrency();
   void CheckMarks(const KnownNames& goods);
   // Folders that look like a warehouse and stand in no list.

@@ -17,6 +17,7 @@ class StrictLines {
   // the bytes.
   void Read(const QString& file, QByteArrayView bytes, std::vector<Finding>& findings);
 
+  // As they stand, undecoded, without their ends.
   const std::vector<QByteArrayView>& Lines() const { return lines_; }
   // The lines that stand before the empty ones at the end.
   size_t FilledLines() const;

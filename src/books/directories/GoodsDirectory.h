@@ -19,6 +19,7 @@ class GoodsDirectory {
   // Reads the file. Throws filesystem_error.
   GoodsDirectory(const DataDir& data, const Session& session, GoodsView view);
 
+  // What the view shows, in its order, and the view.
   const GoodsRows& Rows() const { return rows_; }
   GoodsView View() const { return view_; }
   // Whether somebody's work would be lost by now: rows that the file does not hold, or, with the

@@ -22,6 +22,7 @@ class PartyDirectory {
 
   bool IsChanged() const { return rows_ != saved_; }  // by what was not saved
 
+  // At the end; at a row that exists. Nothing is written before Save.
   void Add(const Party& party) { rows_.push_back(party); }
   void Change(int row, const Party& party) { rows_[row] = party; }
   void Remove(int row) { rows_.erase(rows_.begin() + row); }

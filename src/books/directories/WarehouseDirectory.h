@@ -25,6 +25,7 @@ class WarehouseDirectory {
   // Both outlive the list; the names are those that the session has.
   WarehouseDirectory(const DataDir& data, Session& session);
 
+  // In the order of the file.
   const QStringList& Names() const { return names_; }
   bool Contains(const QString& name) const { return names_.contains(name); }  // letter case counts
 

@@ -11,10 +11,10 @@
 #include "books/directories/GoodsPick.h"
 #include "books/directories/GoodsView.h"
 #include "books/store/FileState.h"
-#include "books/store/Progress.h"
 #include "formats/FileRows.h"
 #include "formats/GoodsRows.h"
 #include "formats/PriceFile.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 
@@ -63,6 +63,7 @@ class PriceList {
   PriceList(const QByteArray& goods, const QByteArray& prices, QByteArrayView marked,
             GoodsView view, const Progress& progress = {});
 
+  // What the view shows, groups among goods.
   const PriceRows& Rows() const { return rows_; }
   // What is asked of many rows: without taking all of one apart.
   bool IsTicked(int row) const;
@@ -75,6 +76,7 @@ class PriceList {
   bool IsChanged() const;
   void TakeAsSaved() { saved_.reset(); }
 
+  // Ticks a row that exists, for the print-out; SaveTicks writes it.
   void SetTick(int row, bool on);
   // `price` is a number text. False for a group, which has none, and for what is no number.
   bool SetSalePrice(int row, const QString& price);

@@ -18,6 +18,7 @@ namespace kladez {
 
 class PriceStore {
  public:
+  // The lists of the open Database; nothing is read yet. Both outlive the store.
   PriceStore(const DataDir& data, const Session& session) : data_(data), session_(session) {}
 
   // The names of a warehouse's lists; none where the file can't be read.

@@ -16,6 +16,7 @@ namespace kladez {
 // stands for the bank too. The shipper of a buyer is who receives the goods.
 class InvoiceParty {
  public:
+  // The text of a field and whether it is printed.
   TickedText& operator[](PartyField field) { return fields_[static_cast<size_t>(field)]; }
   const TickedText& operator[](PartyField field) const {
     return fields_[static_cast<size_t>(field)];

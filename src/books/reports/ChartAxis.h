@@ -15,6 +15,7 @@ struct ChartAxis {
   int first = 0;
   int last = 1;
 
+  // In the units of what the chart shows: of a mark from `first` to `last`, and of the ends.
   double Value(int mark) const { return mark * step; }
   double Lowest() const { return Value(first); }
   double Highest() const { return Value(last); }

@@ -24,6 +24,7 @@ struct ChartGrid {
   // Rows and columns count from 0 and must exist.
   int RowCount() const { return static_cast<int>(row_labels.size()); }
 
+  // The value, in the units of the chart.
   double& Cell(int row, int column) {
     return columns[static_cast<size_t>(column)].values[static_cast<size_t>(row)];
   }

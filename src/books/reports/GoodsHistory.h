@@ -12,8 +12,8 @@
 
 #include "books/stock/DocumentRef.h"
 #include "books/store/DataDir.h"
-#include "books/store/Progress.h"
 #include "books/store/Session.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 
@@ -42,6 +42,7 @@ class GoodsHistory {
     double stock = 0;  // now
   };
 
+  // Of the goods with that name, and empty: CollectGoodsHistory fills it.
   explicit GoodsHistory(QString goods) : goods_(std::move(goods)) {}
 
   const QString& Goods() const { return goods_; }

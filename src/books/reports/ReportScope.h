@@ -11,8 +11,8 @@
 #include "books/directories/WarehouseDirectory.h"
 #include "books/stock/DocumentScan.h"
 #include "books/store/DataDir.h"
-#include "books/store/Progress.h"
 #include "books/store/Session.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 
@@ -38,6 +38,7 @@ struct ReportScope {
   // What the page prints below its total, a row each, the first cell its label: the period before.
   std::vector<std::vector<QString>> below_total{};
 
+  // The one that is named, or all of the session for kAllWarehouses.
   QStringList Warehouses(const Session& session) const;
 };
 

@@ -26,6 +26,7 @@ class SalesRows {
   SalesRows(SalesRows&&) = default;
   SalesRows& operator=(SalesRows&&) = default;
 
+  // Adds a row behind those of its day; how many there are.
   void Add(const SalesRow& row);
   size_t Count() const { return count_; }
 
@@ -38,6 +39,7 @@ class SalesRows {
   // Goes through the rows in order; none may be added meanwhile.
   class Walk {
    public:
+    // Before the first row of the first day.
     explicit Walk(const SalesRows& rows);
     // False after the last row, `row` as it was then.
     bool Next(SalesRow& row);

@@ -24,6 +24,7 @@ class DocumentDraft {
   // A document of the register: its head is that of the row, its lines come from the file.
   static DocumentDraft Open(const Place& place, const RegisterRow& row);
 
+  // Head and file ("0012.prh") as they would be saved, and the kind of document.
   const DocumentHead& Head() const { return head_; }
   const QString& File() const { return file_; }
   DocumentKind Kind() const { return place_.kind; }
@@ -37,6 +38,7 @@ class DocumentDraft {
   bool HasPosted() const { return book_.has_flag ? was_closed_ : !is_new_; }
   const Place& Where() const { return place_; }
 
+  // The fields of the head, each as the editor shows it; a closed document posts when it is saved.
   void SetNumber(const QString& number) { head_.number = number; }
   void SetDate(QDate date);
   void SetParty(const QString& party) { head_.party = party; }

@@ -17,6 +17,7 @@ class DocumentHeads {
  public:
   using Visit = std::function<void(ScannedDocument&)>;
 
+  // Of documents of a kind; nothing is read yet.
   explicit DocumentHeads(DocumentKind kind) : kind_(kind) {}
 
   // Visits the documents as ScanDocuments with Unreadable::kStop does, without their lines. What

@@ -10,7 +10,7 @@
 #include "books/stock/DocumentBook.h"
 #include "books/stock/DocumentHeads.h"
 #include "books/store/DataDir.h"
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 #include "formats/TextPool.h"
 
 namespace kladez {
@@ -38,6 +38,7 @@ struct RegisterRow {
 
 class DocumentRegister {
  public:
+  // Empty until Load. Data and session outlive it.
   DocumentRegister(const DataDir& data, const Session& session, DocumentKind kind)
       : data_(data), session_(session), kind_(kind), heads_(kind) {}
 
@@ -48,6 +49,7 @@ class DocumentRegister {
             const Progress& progress = {});
   void Clear() { *this = DocumentRegister(data_, session_, kind_); }
 
+  // In the order that Load was asked for.
   const std::vector<RegisterRow>& Rows() const { return rows_; }
   // The row of a file, -1 where the filter hides it.
   int RowOf(const QString& file) const;

@@ -62,6 +62,7 @@ class OnHandList {
   // The rows in the order of the screen.
   explicit OnHandList(OnHandRows rows) : rows_(std::move(rows)) {}
 
+  // What the view shows, in its order.
   const OnHandRows& Rows() const { return rows_; }
   // The first row of a name; -1 where there is none.
   int RowOfName(const QString& name) const;

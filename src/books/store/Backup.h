@@ -12,7 +12,7 @@
 
 #include "books/store/Catalogue.h"
 #include "books/store/DataDir.h"
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 

@@ -20,6 +20,7 @@ class DataDir {
   // `root` is a directory of the machine; the program gives its working directory.
   explicit DataDir(const QString& root);
 
+  // The directory of all Databases, absolute, without a separator at the end.
   const QString& Root() const { return root_; }
 
   // The machine's path of a path of the system. Parts that exist are found by their exact spelling
@@ -50,6 +51,7 @@ class DataDir {
     qsizetype count;
   };
   using Visitor = std::function<bool(const ListedFile& file)>;
+  // Throws filesystem_error where the directory can't be listed, and what `visit` throws.
   void ForEachFile(const QString& directory, QStringView extension, const Visitor& visit) const;
 
  private:

@@ -15,6 +15,7 @@ class FileNames {
   // The plain files of an open directory whose names end in `extension`, whatever its case.
   FileNames(DIR* directory, QStringView extension);
 
+  // How many there are; places go from 0.
   qsizetype Count() const { return static_cast<qsizetype>(entries_.size()); }
   // As the file system wants it.
   const char* At(qsizetype place) const { return text_.data() + entries_[place].name; }

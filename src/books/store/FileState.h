@@ -20,6 +20,7 @@ namespace kladez {
 // Equal contents are the same file, whoever wrote them. A state that was never read stands for
 // a file that nobody has seen: no file is as it says.
 struct FileState {
+  // The state of a file that was looked for and is not there.
   static FileState Missing() { return {.known = true}; }
 
   bool known = false;
@@ -54,6 +55,7 @@ FileState StateOfWritten(const QByteArray& file, quint64 fingerprint);
 // had been there. Nothing has changed.
 class StaleFile : public std::filesystem::filesystem_error {
  public:
+  // `file` is the path of the system; `appeared`: nothing had been there.
   StaleFile(const QString& file, bool appeared);
 };
 

@@ -7,6 +7,7 @@
 
 namespace kladez {
 
+// Keeps a sentence for the next window, in the order in which they come; gives all of them.
 void AddNote(const QString& text);
 QStringList TakeNotes();  // and forgets them
 

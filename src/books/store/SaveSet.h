@@ -21,6 +21,7 @@ namespace kladez {
 
 class SaveSet {
  public:
+  // An empty set; nothing is touched before Commit. The data directory outlives it.
   explicit SaveSet(const DataDir& data) : data_(data) {}
 
   // Each takes paths of the system and throws filesystem_error for one that leads out. A path is

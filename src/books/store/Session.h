@@ -25,6 +25,7 @@ struct Session {
   QString chosen_base;        // path chosen in the catalogue; OpenDatabase makes it the base_path
   UserRole role = UserRole::kNone;
 
+  // Whether a Database is open; whether a seller uses it, who sees and may less.
   bool IsOpen() const { return !base_path.isEmpty(); }
   bool IsSeller() const { return role == UserRole::kSeller; }
   // The names of a kind's parties, in the order of their file.

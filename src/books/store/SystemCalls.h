@@ -26,6 +26,7 @@ struct Made {
   QByteArrayView bytes = {};
 };
 using Recorder = std::function<void(const Made& made)>;
+// For tests, as the hook is; an empty one ends the record.
 void SetRecorder(Recorder recorder);
 
 // All paths are absolute, in the file system's encoding and without links: one that leads through
@@ -60,12 +61,14 @@ int WriteRefusal(const QByteArray& path);
 // an errno.
 class NewFile {
  public:
+  // Nothing is made before Create. The end closes the file and leaves it where it is.
   explicit NewFile(QByteArray path) : path_(std::move(path)) {}
   ~NewFile();
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
 
   int Create(unsigned mode);  // 0 for the usual mode
+  // All of the bytes, behind what was written before; what was written reaches the disk.
   int Write(QByteArrayView bytes);
   int Sync();
 

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <vector>
 
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 

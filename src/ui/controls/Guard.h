@@ -7,7 +7,7 @@
 
 #include "books/store/Errors.h"
 #include "books/store/Notes.h"
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 #include "ui/controls/Messages.h"
 
 namespace kladez {

@@ -17,7 +17,7 @@
 #include <functional>
 #include <memory>
 
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 
 class QDialog;
 class QProgressBar;

@@ -21,6 +21,7 @@ class Flow {
   // `is_cell`: the outer margins of the content fall away, as they do in a cell.
   Flow(Page& page, bool is_cell) : page_(page), is_cell_(is_cell) {}
 
+  // Each goes behind what is there: into the paragraph that is open, a table on its own.
   void AddText(const QString& text, const Look& look);
   void AddBreak(const Look& look);
   void AddPicture(const QString& name, const Look& look);

@@ -12,6 +12,7 @@ namespace kladez::viewer {
 inline constexpr double kDotsPerInch = 96;
 inline constexpr double kPixelsPerPoint = kDotsPerInch / 72;
 
+// The toolkit's format for letters of that style, sizes in points.
 QTextCharFormat FormatOf(const TextStyle& style);
 
 // The font at 96 dots to the inch, whatever the screen has.

@@ -18,10 +18,12 @@ inline constexpr char16_t kMonospace[] = u"Courier New";
 // A tag with its attributes, as the parser found it or as it is written in a plain row.
 class Tag {
  public:
+  // Of a node of the parsed page; of a tag as it is written.
   explicit Tag(const GumboNode& node)
       : kind_(node.v.element.tag), parsed_(&node.v.element.attributes) {}
   Tag(GumboTag kind, QStringView attributes) : kind_(kind), written_(AttributesOf(attributes)) {}
 
+  // Which tag it is.
   GumboTag kind() const { return kind_; }
 
   // The value of an attribute without blanks around it; "" when it is missing.
@@ -39,6 +41,7 @@ class Tag {
 // The number that begins `text`, or `fallback`: "92px" is 92, "1.5" is 1.
 int LeadingNumber(const QString& text, int fallback);
 
+// From "30%" or "92": percent, pixels, or none where it is neither.
 Width ParseWidth(const QString& text);
 
 // What ALIGN (or text-align) and VALIGN of the tag ask for, if anything.

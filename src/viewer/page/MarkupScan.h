@@ -15,6 +15,7 @@ struct TagText {
   QStringView attributes;  // with the blanks before them
   qsizetype length = 0;    // of all of it, "<" to ">"
 
+  // Tags know no letter case.
   bool Is(QStringView other) const { return name.compare(other, Qt::CaseInsensitive) == 0; }
 };
 

@@ -142,19 +142,16 @@ Page Normaliser::Read(const GumboNode& root, const QString& family) {
 
 Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress,
               PageKind kind) {
-  // The parser itself can't be asked how far it is: half of the bar is for what goes before.
-  const auto half = [&progress](int begin) -> Progress {
-    return [&progress, begin](int done, int total) {
-      return !progress || progress(total * begin + done, 2 * total);
-    };
-  };
+  // The parser itself can't be asked how far it is.
+  const Progress before_parsing = progress.Piece(0, 0.5);
+  const Progress after_parsing = progress.Piece(0.5, 1);
   const bool guide = kind == PageKind::kGuide;
   EscapedPage escaped;
   if (guide) {
     escaped.markup = text.left(limits::kMarkup);
     escaped.is_cut = text.size() > limits::kMarkup;
   } else {
-    escaped = EscapePage(text, half(0));
+    escaped = EscapePage(text, before_parsing);
   }
   escaped.is_cut = escaped.is_cut || text.size() > limits::kBytes;
   QByteArray markup = std::exchange(escaped.markup, {}).toUtf8();
@@ -162,7 +159,7 @@ Page ReadPage(const QString& text, const PictureLoader& load_picture, const Prog
   options.max_errors = 0;
   const std::unique_ptr<GumboOutput, OutputDeleter> output(
       gumbo_parse_with_options(&options, markup.constData(), static_cast<size_t>(markup.size())));
-  Page page = Normaliser(text, escaped, load_picture, half(1))
+  Page page = Normaliser(text, escaped, load_picture, after_parsing)
                   .Read(*output->root, QString::fromUtf16(guide ? kSans : kSerif));
   page.title = TitleOf(*output->root).simplified();
   page.widest_picture = guide ? kWidestGuidePicture : 0;

@@ -9,6 +9,7 @@
 #include "viewer/page/Markup.h"
 #include "viewer/page/PageReader.h"
 #include "viewer/page/PageText.h"
+#include "viewer/page/ProgressSteps.h"
 
 namespace kladez::viewer {
 

@@ -40,6 +40,7 @@ struct Paragraph {
   std::vector<Run> runs;
 
   // The words of the paragraph; a picture counts as one character.
+  // The letters of all runs, one behind the other.
   QString Text() const;
 };
 
@@ -61,6 +62,7 @@ struct Cell {
   Qt::Alignment vertical = Qt::AlignVCenter;
   std::vector<Block> blocks;  // never empty
 
+  // Of all its paragraphs, one behind the other.
   QString Text() const;
   bool IsBlank() const;  // nothing but white space
 };

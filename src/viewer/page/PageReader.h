@@ -5,8 +5,8 @@
 #include <QDir>
 #include <functional>
 
+#include "formats/Progress.h"
 #include "viewer/page/Page.h"
-#include "viewer/page/Progress.h"
 
 namespace kladez::viewer {
 
@@ -22,8 +22,8 @@ inline constexpr char16_t kCutText[] =
 using PictureLoader = std::function<QImage(const QString& name)>;
 
 // Reads the text of a page as the browsers did for which our print-outs are written. Scripts,
-// links and styles of other programs have no effect; no text is lost. Reading does not stop at what
-// `progress` answers. Of a page larger than any print-out only the beginning is read, with kCutText
+// links and styles of other programs have no effect; no text is lost. Throws
+// WorkCancelled. Of a page larger than any print-out only the beginning is read, with kCutText
 // behind it.
 Page ReadPage(const QString& text, const PictureLoader& load_picture, const Progress& progress = {},
               PageKind kind = PageKind::kPrintOut);

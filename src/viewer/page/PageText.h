@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "viewer/page/Progress.h"
+#include "formats/Progress.h"
 
 namespace kladez::viewer {
 
@@ -29,6 +29,7 @@ struct EscapedPage {
   bool is_cut = false;  // there was more than a page may have
 };
 
+// Throws WorkCancelled.
 EscapedPage EscapePage(const QString& page, const Progress& progress = {});
 
 }  // namespace kladez::viewer

@@ -7,6 +7,7 @@
 #include "viewer/page/Limits.h"
 #include "viewer/page/MarkupScan.h"
 #include "viewer/page/PageText.h"
+#include "viewer/page/ProgressSteps.h"
 
 namespace kladez::viewer {
 using namespace Qt::StringLiterals;

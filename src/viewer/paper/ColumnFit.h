@@ -31,6 +31,7 @@ void RaiseMinima(const Page& page, const Table& table, std::vector<double>& mini
 // Tables that follow each other directly.
 class TableStack {
  public:
+  // Takes another table of the stack into account.
   void Add(const Page& page, const Table& table);
 
   // The narrowest width, in pixels at 96 dpi, at which words are whole and no column is left with

@@ -24,14 +24,14 @@ constexpr int kPdfDpi = 600;
 bool DrawSheets(const PaperLayout& layout, const std::vector<int>& sheets,
                 QPagedPaintDevice& device, QPainter& painter, const Progress& progress) {
   for (size_t i = 0; i < sheets.size(); ++i) {
-    if (progress && !progress(static_cast<int>(i), static_cast<int>(sheets.size()))) return false;
+    progress.Tell(static_cast<double>(i) / static_cast<double>(sheets.size()));
     if (i > 0 && !device.newPage()) return false;
     layout.Draw(painter, sheets[i], device.logicalDpiX());
   }
   return true;
 }
 
-bool WritePdf(const PaperLayout& layout, const QString& title, const QString& path,
+void WritePdf(const PaperLayout& layout, const QString& title, const QString& path,
               const Progress& progress) {
   QSaveFile file(path);
   errno = 0;
@@ -46,15 +46,11 @@ bool WritePdf(const PaperLayout& layout, const QString& title, const QString& pa
   if (!painter.begin(&writer)) ThrowFor(path);
   std::vector<int> sheets(static_cast<size_t>(layout.SheetCount()));
   std::iota(sheets.begin(), sheets.end(), 0);
-  const bool is_whole = DrawSheets(layout, sheets, writer, painter, progress);
+  errno = 0;
+  if (!DrawSheets(layout, sheets, writer, painter, progress)) ThrowFor(path);
   painter.end();
-  if (!is_whole) {
-    file.cancelWriting();
-    return false;
-  }
   errno = 0;
   if (!file.commit()) ThrowFor(path);
-  return true;
 }
 
 void ExportPdf(std::shared_ptr<const Page> page, const QString& path) {

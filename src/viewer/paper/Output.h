@@ -11,14 +11,13 @@
 namespace kladez::viewer {
 
 // Draws the sheets with the numbers `sheets` (from 0), in that order, a page of `device` each.
-// Gives false when `progress` stopped it or the device refused.
+// Gives false when the device refused. Throws WorkCancelled.
 bool DrawSheets(const PaperLayout& layout, const std::vector<int>& sheets,
                 QPagedPaintDevice& device, QPainter& painter, const Progress& progress);
 
 // Writes a laid-out page to a PDF file, whole or not at all: an existing file stays as it was when
-// `progress` stops the writing, which gives false. Throws std::system_error when the file can't be
-// written.
-bool WritePdf(const PaperLayout& layout, const QString& title, const QString& path,
+// it throws: WorkCancelled, or std::system_error when the file can't be written.
+void WritePdf(const PaperLayout& layout, const QString& title, const QString& path,
               const Progress& progress);
 
 // The page as a PDF file in the format that is proposed for it. Throws like WritePdf.

@@ -17,6 +17,7 @@ namespace kladez::viewer {
 // lines too, which is how the screen zooms. Nothing is painted on it.
 class ResolutionDevice : public QPaintDevice {
  public:
+  // A device that draws nothing, of so many dots per inch.
   explicit ResolutionDevice(int dpi) : dpi_(dpi) {}
   QPaintEngine* paintEngine() const override { return nullptr; }
 
@@ -40,6 +41,7 @@ class PageDocument {
   // Builds the chunk with the number `chunk` and lays it out. `plan` has to stay.
   PageDocument(const PagePlan& plan, size_t chunk, const Measure& measure);
 
+  // The document, and its height in dots of its resolution.
   QTextDocument* document() { return &document_; }
   const QTextDocument* document() const { return &document_; }
   double Height() const { return document_.size().height(); }

@@ -7,6 +7,7 @@
 
 namespace kladez::viewer {
 
+// The toolkit's format for a table: borders, widths in percent, spacing.
 QTextTableFormat FormatOf(const Table& table);
 
 // `is_top`: nothing above has a line that the cell could share.

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "viewer/page/Fonts.h"
+#include "viewer/page/ProgressSteps.h"
 
 namespace kladez::viewer {
 

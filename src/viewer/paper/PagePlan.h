@@ -6,8 +6,8 @@
 #include <memory>
 #include <vector>
 
+#include "formats/Progress.h"
 #include "viewer/page/Page.h"
-#include "viewer/page/Progress.h"
 #include "viewer/paper/ColumnFit.h"
 
 namespace kladez::viewer {
@@ -43,13 +43,16 @@ struct Chunk {
 
 class PagePlan {
  public:
+  // Takes the page apart; nothing is laid out yet. Throws WorkCancelled.
   explicit PagePlan(std::shared_ptr<const Page> page, const Progress& progress = {});
 
+  // The page, and what it was taken apart into, in its order.
   const Page& page() const { return *page_; }
   const std::vector<Piece>& pieces() const { return pieces_; }
   const std::vector<Part>& parts() const { return parts_; }
   const std::vector<Chunk>& chunks() const { return chunks_; }
   const Table* TableOf(const Piece& piece) const;  // null for a paragraph
+  // Of a piece that is one; the stack of tables that a part belongs to.
   const Paragraph& ParagraphOf(const Piece& piece) const;
   const TableStack& StackOf(const Part& part) const { return stacks_[part.stack]; }
 

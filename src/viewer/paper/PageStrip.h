@@ -15,6 +15,7 @@ class PageStrip {
   // Keeps documents of about `kept_cells` cells.
   PageStrip(std::shared_ptr<const PagePlan> plan, size_t kept_cells);
 
+  // What the strip shows, and of how many chunks it is.
   const PagePlan& plan() const { return *plan_; }
   size_t ChunkCount() const { return plan_->chunks().size(); }
 
@@ -37,6 +38,7 @@ class PageStrip {
   // The chunk that a place, in dots from the top, lies in or right below.
   size_t ChunkAt(double y) const;
 
+  // Whether the height of a chunk is known, and no longer guessed.
   bool IsMeasured(size_t chunk) const { return heights_[chunk] >= 0; }
 
  private:

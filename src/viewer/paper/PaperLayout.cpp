@@ -61,7 +61,7 @@ PaperFormat PaperLayout::Propose(const PaperFormat& format) const {
   return viewer::Propose(format, strip_->plan().ReadableWidth());
 }
 
-bool PaperLayout::LayOut(const PaperFormat& format, const Progress& progress) {
+void PaperLayout::LayOut(const PaperFormat& format, const Progress& progress) {
   format_ = format;
   sheets_.clear();
   const QSizeF body = BodyOf(format).size() * kDotsPerMillimetre;
@@ -69,21 +69,19 @@ bool PaperLayout::LayOut(const PaperFormat& format, const Progress& progress) {
   scale_ = format.fit_width ? body.width() / width : 1;
   if (width != strip_->measure().width) strip_->SetMeasure({kPaperDpi, width, 0, width});
   const double height = body.height() / scale_;
-  if (!PlacePieces(height, progress)) return false;
+  PlacePieces(height, progress);
   is_closing_short_ = IsClosingShort(height);
   sheets_ = CutIntoSheets(Units(height), height);
   DivideAcross(width, body.width() / scale_);
-  return true;
 }
 
-bool PaperLayout::PlacePieces(double height, const Progress& progress) {
+void PaperLayout::PlacePieces(double height, const Progress& progress) {
   const PagePlan& plan = strip_->plan();
   places_.clear();
   places_.reserve(plan.pieces().size());
   edges_.clear();
   for (size_t chunk = 0; chunk < strip_->ChunkCount(); ++chunk) {
-    const int total = static_cast<int>(plan.pieces().size());
-    if (progress && !progress(static_cast<int>(places_.size()), total)) return false;
+    progress.Tell(static_cast<double>(places_.size()) / static_cast<double>(plan.pieces().size()));
     const PageDocument& document = strip_->Document(chunk);
     const double top = strip_->Top(chunk);
     for (size_t p = plan.chunks()[chunk].begin; p < plan.chunks()[chunk].end; ++p) {
@@ -96,7 +94,6 @@ bool PaperLayout::PlacePieces(double height, const Progress& progress) {
       if (is_row) NoteEdges(document, p);
     }
   }
-  return true;
 }
 
 PaperLayout::Place PaperLayout::PlaceLines(const PageDocument& document, size_t piece) const {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "viewer/page/Progress.h"
+#include "formats/Progress.h"
 #include "viewer/paper/PageStrip.h"
 #include "viewer/paper/PaperFormat.h"
 #include "viewer/paper/Sheets.h"
@@ -14,11 +14,13 @@ namespace kladez::viewer {
 
 class PaperLayout {
  public:
+  // Takes the page apart; there are no sheets before LayOut. Throws WorkCancelled.
   explicit PaperLayout(std::shared_ptr<const Page> page, const Progress& progress = {});
 
-  // Lays the page out anew. Gives false when `progress` stopped it: then there are no sheets.
-  bool LayOut(const PaperFormat& format, const Progress& progress);
+  // Lays the page out anew. Throws WorkCancelled: then there are no sheets.
+  void LayOut(const PaperFormat& format, const Progress& progress);
 
+  // The format of the last LayOut, and the sheets that it gave.
   const PaperFormat& format() const { return format_; }
   int SheetCount() const;
 
@@ -43,7 +45,7 @@ class PaperLayout {
 
   static int PaperDpi();
 
-  bool PlacePieces(double height, const Progress& progress);
+  void PlacePieces(double height, const Progress& progress);
   Place PlaceLines(const PageDocument& document, size_t piece) const;
   Place PlaceRow(const PageDocument& document, size_t piece, double height) const;
   void NoteEdges(const PageDocument& document, size_t piece);

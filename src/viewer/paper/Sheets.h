@@ -22,6 +22,7 @@ struct Unit {
 struct Slice {
   double top = 0;
   double bottom = 0;
+  // In the units of the layout.
   double Height() const { return bottom - top; }
 };
 

@@ -14,6 +14,7 @@ class FindBar : public QWidget {
   Q_OBJECT
 
  public:
+  // Hidden until it is opened; finds in `view`.
   FindBar(PageView* view, QWidget* parent);
 
   // Shows the strip, with what is selected on the page to begin with.

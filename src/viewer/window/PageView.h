@@ -18,6 +18,7 @@ class PageView : public QAbstractScrollArea {
   Q_OBJECT
 
  public:
+  // Shows nothing yet.
   explicit PageView(QWidget* parent = nullptr);
   ~PageView() override;
 
@@ -25,6 +26,7 @@ class PageView : public QAbstractScrollArea {
   // at 100%, in pixels at 96 dpi; what can't be read at that width is laid out wider.
   void ShowPage(std::shared_ptr<const PagePlan> plan, double paper_width);
 
+  // In percent of the page's own size, by steps or at once.
   int ZoomPercent() const { return zoom_; }
   void ZoomIn();
   void ZoomOut();
@@ -47,6 +49,7 @@ class PageView : public QAbstractScrollArea {
   void Copy() const;
 
  signals:
+  // The page is shown at this size now.
   void ZoomChanged(int percent);
   // How much of a long page is laid out; the last report has done == total.
   void Prepared(int done, int total);

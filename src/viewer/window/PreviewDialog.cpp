@@ -160,7 +160,10 @@ void PreviewDialog::ChoosePrinter() {
 
 bool PreviewDialog::Prepare() {
   WorkProgress work(u"Разбивка на листы…"_s, this);
-  layout_ = std::make_unique<PaperLayout>(page_, work.Function());
+  const bool is_planned = work.Run([this](const Progress& progress) {
+    layout_ = std::make_unique<PaperLayout>(page_, progress);
+  });
+  if (!is_planned) return false;
   format_ = layout_->Propose(PaperFormat());
   is_proposed_landscape_ = format_.page.orientation() == QPageLayout::Landscape;
   return LayOut(format_);
@@ -169,7 +172,8 @@ bool PreviewDialog::Prepare() {
 bool PreviewDialog::LayOut(const PaperFormat& format) {
   WorkProgress work(u"Разбивка на листы…"_s, this);
   sheets_->ShowSheets(nullptr);
-  const bool is_done = layout_->LayOut(format, work.Function());
+  const bool is_done =
+      work.Run([&](const Progress& progress) { layout_->LayOut(format, progress); });
   format_ = format;
   sheets_->ShowSheets(is_done ? layout_.get() : nullptr);
   print_->setEnabled(is_done);

@@ -21,6 +21,7 @@ class PreviewDialog : public QDialog {
   Q_OBJECT
 
  public:
+  // The preview of a page; Prepare lays it out.
   PreviewDialog(std::shared_ptr<const Page> page, QWidget* parent = nullptr);
   ~PreviewDialog() override;
 
@@ -28,6 +29,7 @@ class PreviewDialog : public QDialog {
   // pressed "Отмена" meanwhile.
   bool Prepare();
 
+  // What is shown and would be printed; there is one after Prepare.
   const PaperLayout& layout() const { return *layout_; }
 
  private:

@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPatience = 400;  // milliseconds
+constexpr int kBarSteps = 1000;
 
 // A printer that can't make copies by itself is sent the sheets again.
 std::vector<int> Repeated(const std::vector<int>& sheets, int copies) {
@@ -29,7 +30,7 @@ std::vector<int> Repeated(const std::vector<int>& sheets, int copies) {
 }  // namespace
 
 WorkProgress::WorkProgress(const QString& text, QWidget* parent)
-    : dialog_(text, u"Отмена"_s, 0, 1, parent) {
+    : dialog_(text, u"Отмена"_s, 0, kBarSteps, parent) {
   dialog_.setObjectName(u"WorkProgress"_s);
   dialog_.setWindowTitle(u"Печатная форма"_s);
   dialog_.setWindowModality(Qt::WindowModal);
@@ -38,13 +39,17 @@ WorkProgress::WorkProgress(const QString& text, QWidget* parent)
   dialog_.setValue(0);
 }
 
-Progress WorkProgress::Function() {
-  return [this](int done, int total) {
-    dialog_.setMaximum(total);
-    dialog_.setValue(done);
-    QCoreApplication::processEvents();
-    return !dialog_.wasCanceled();
-  };
+bool WorkProgress::Run(const std::function<void(const Progress& progress)>& work) {
+  try {
+    work([this](double part) {
+      dialog_.setValue(static_cast<int>(part * kBarSteps));
+      QCoreApplication::processEvents();
+      return !dialog_.wasCanceled();
+    });
+    return true;
+  } catch (const WorkCancelled&) {
+    return false;
+  }
 }
 
 QString AskPdfPath(const QString& title, QWidget* parent) {
@@ -62,7 +67,7 @@ bool SavePdfFile(const PaperLayout& layout, const QString& title, const QString&
                  QWidget* parent) {
   WorkProgress work(u"Запись PDF…"_s, parent);
   try {
-    return WritePdf(layout, title, path, work.Function());
+    return work.Run([&](const Progress& progress) { WritePdf(layout, title, path, progress); });
   } catch (const std::system_error& error) {
     ShowError(parent, u"Файл\n%1\nзаписать не удалось (%2). Выберите другую папку или имя."_s.arg(
                           QDir::toNativeSeparators(path), ReasonText(error.code())));
@@ -82,14 +87,16 @@ bool PrintSheets(const PaperLayout& layout, const QString& title, const std::vec
   WorkProgress work(u"Печать…"_s, parent);
   QPainter painter;
   bool is_whole = false;
+  bool is_wanted = true;
   if (painter.begin(&printer)) {
-    is_whole = DrawSheets(layout, copies_itself ? sheets : Repeated(sheets, copies), printer,
-                          painter, work.Function());
+    is_wanted = work.Run([&](const Progress& progress) {
+      is_whole = DrawSheets(layout, copies_itself ? sheets : Repeated(sheets, copies), printer,
+                            painter, progress);
+    });
     if (!is_whole) printer.abort();
     painter.end();
   }
-  const bool has_failed =
-      printer.printerState() == QPrinter::Error || (!is_whole && !work.IsCanceled());
+  const bool has_failed = printer.printerState() == QPrinter::Error || (!is_whole && is_wanted);
   if (has_failed) {
     ShowError(parent,
               u"Напечатать на принтере «%1» не удалось. Проверьте, включен ли он, или "

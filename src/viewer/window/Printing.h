@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QPrinter>
 #include <QProgressDialog>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -15,12 +16,11 @@ namespace kladez::viewer {
 // A window with a bar and "Отмена" that comes up when work takes long. Goes with the object.
 class WorkProgress {
  public:
+  // `text` says what is being done.
   WorkProgress(const QString& text, QWidget* parent);
 
-  // What to hand to the work; it answers no once a person has pressed "Отмена".
-  Progress Function();
-
-  bool IsCanceled() const { return dialog_.wasCanceled(); }
+  // Does the work, which tells the progress how far it is. False: a person pressed "Отмена".
+  bool Run(const std::function<void(const Progress& progress)>& work);
 
  private:
   QProgressDialog dialog_;

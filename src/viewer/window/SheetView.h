@@ -13,6 +13,7 @@ class SheetView : public QAbstractScrollArea {
   Q_OBJECT
 
  public:
+  // Shows no sheets yet.
   explicit SheetView(QWidget* parent = nullptr);
 
   // Shows the sheets of `layout`, which has to stay; null shows none. To be called again when it
@@ -27,6 +28,7 @@ class SheetView : public QAbstractScrollArea {
   void SetWholeSheet(bool whole);
 
  signals:
+  // The sheet at the top of the view, from 0.
   void CurrentSheetChanged(int sheet);
 
  protected:

@@ -29,6 +29,7 @@ namespace {
 constexpr int kRedrawPatience = 300;
 constexpr int kLeastWidth = 640;
 constexpr int kMostHeight = 1000;
+constexpr double kPlanning = 0.5;  // of the work of cutting a page into sheets
 
 QString Untitled(PageKind kind) {
   return kind == PageKind::kGuide ? u"Справка"_s : u"Печатная форма"_s;
@@ -58,7 +59,7 @@ ViewerWindow::ViewerWindow(const QDir& directory, const QString& name, PageKind 
   statusBar()->addWidget(progress_, 1);
   statusBar()->hide();
   connect(view_, &PageView::Prepared, this, [this](int done, int total) {
-    ShowProgress(u"Подготовка страницы: %p%"_s, done, total);
+    ShowProgress(u"Подготовка страницы: %p%"_s, static_cast<double>(done) / std::max(1, total));
   });
   MakeActions();
   view_->setFocus();
@@ -176,10 +177,10 @@ bool ViewerWindow::Load() {
   QElapsedTimer since_begin;
   since_begin.start();
   const auto report = [this, &since_begin](const QString& text) -> Progress {
-    return [this, &since_begin, text](int done, int total) {
+    return [this, &since_begin, text](double part) {
       if (since_begin.elapsed() > kRedrawPatience) {
         show();
-        ShowProgress(text, done, total);
+        ShowProgress(text, part);
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
       }
       return true;
@@ -212,13 +213,12 @@ void ViewerWindow::FitToScreen() {
          std::min(room.height(), kMostHeight));
 }
 
-void ViewerWindow::ShowProgress(const QString& text, int done, int total) {
-  const bool is_done = done >= total;
+void ViewerWindow::ShowProgress(const QString& text, double part) {
+  const bool is_done = part >= 1;
   statusBar()->setVisible(!is_done);
   progress_->setVisible(!is_done);
   progress_->setFormat(text);
-  progress_->setMaximum(total);
-  progress_->setValue(done);
+  progress_->setValue(static_cast<int>(part * progress_->maximum()));
 }
 
 void ViewerWindow::Reload() { Load(); }
@@ -236,9 +236,12 @@ void ViewerWindow::SavePdf() {
   const QString path = AskPdfPath(NameOf(*page_), this);
   if (path.isEmpty()) return;
   WorkProgress work(u"Разбивка на листы…"_s, this);
-  PaperLayout layout(page_, work.Function());
-  if (layout.LayOut(layout.Propose(PaperFormat()), work.Function()))
-    SavePdfFile(layout, page_->title, path, this);
+  std::unique_ptr<PaperLayout> layout;
+  const bool is_done = work.Run([&](const Progress& progress) {
+    layout = std::make_unique<PaperLayout>(page_, progress.Piece(0, kPlanning));
+    layout->LayOut(layout->Propose(PaperFormat()), progress.Piece(kPlanning, 1));
+  });
+  if (is_done) SavePdfFile(*layout, page_->title, path, this);
 }
 
 void RenderWindowPicture(std::shared_ptr<const Page> page, const QString& path) {

@@ -54,7 +54,7 @@ class ViewerWindow : public QMainWindow {
   void Return(std::vector<Visit>& from, std::vector<Visit>& to);
   void EnableGuideActions();
   void Find();
-  void ShowProgress(const QString& text, int done, int total);
+  void ShowProgress(const QString& text, double part);
   void FitToScreen();
 
   QDir directory_;
