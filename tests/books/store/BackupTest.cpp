@@ -103,11 +103,11 @@ TEST_F(BackupTest, FaultAtAnyCallNamesAPathAndLeavesNothingThatLooksGood) {
   int failures = 0;
   for (int fault = 0;; ++fault) {
     int call = 0;
-    bool failing = false;
+    std::string failing;
     syscalls::SetFaultHook([&](std::string_view name, const QByteArray&) {
       // The clean-up itself is not failed here: a disk that takes nothing still deletes.
       if (name == "unlink" || name == "rmdir" || call++ != fault) return 0;
-      failing = true;
+      failing = name;
       return ENOSPC;
     });
     QString told;
@@ -117,9 +117,9 @@ TEST_F(BackupTest, FaultAtAnyCallNamesAPathAndLeavesNothingThatLooksGood) {
       told = ErrorText(error);
     }
     syscalls::SetFaultHook({});
-    if (!failing) break;
+    if (failing.empty()) break;
     if (QDir(drive_.Root()).exists(QString::fromStdString(kFolder))) {
-      // Only the last sync comes after the folder got its name.
+      EXPECT_EQ(failing, "syncfs") << "only the last sync comes after the folder got its name";
       EXPECT_TRUE(told.isEmpty());
       QDir(drive_.Root() + u'/' + QString::fromStdString(kFolder)).removeRecursively();
       continue;
