@@ -30,10 +30,7 @@ QString WriteLetterPdf(std::shared_ptr<const Page> page, const QString& name, QW
     return {};
   }
   const QString path = folder.filePath(PdfName(name));
-  WorkProgress work(u"Разбивка на листы…"_s, parent);
-  PaperLayout layout(page, work.Function());
-  const bool written = layout.LayOut(layout.Propose(PaperFormat()), work.Function()) &&
-                       SavePdfFile(layout, page->title, path, parent);
+  const bool written = SavePdfFile(std::move(page), path, parent);
   folder.setAutoRemove(!written);  // the mail program reads it when the letter is sent
   return written ? path : QString();
 }

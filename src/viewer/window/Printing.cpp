@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kPatience = 400;  // milliseconds
 constexpr int kBarSteps = 1000;
+constexpr double kPlanning = 0.5;  // of the work of cutting a page into sheets
 
 // A printer that can't make copies by itself is sent the sheets again.
 std::vector<int> Repeated(const std::vector<int>& sheets, int copies) {
@@ -73,6 +74,16 @@ bool SavePdfFile(const PaperLayout& layout, const QString& title, const QString&
                           QDir::toNativeSeparators(path), ReasonText(error.code())));
     return false;
   }
+}
+
+bool SavePdfFile(std::shared_ptr<const Page> page, const QString& path, QWidget* parent) {
+  WorkProgress work(u"Разбивка на листы…"_s, parent);
+  std::unique_ptr<PaperLayout> layout;
+  const bool is_done = work.Run([&](const Progress& progress) {
+    layout = std::make_unique<PaperLayout>(page, progress.Piece(0, kPlanning));
+    layout->LayOut(layout->Propose(PaperFormat()), progress.Piece(kPlanning, 1));
+  });
+  return is_done && SavePdfFile(*layout, page->title, path, parent);
 }
 
 bool PrintSheets(const PaperLayout& layout, const QString& title, const std::vector<int>& sheets,

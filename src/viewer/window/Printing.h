@@ -34,6 +34,9 @@ QString AskPdfPath(const QString& title, QWidget* parent);
 bool SavePdfFile(const PaperLayout& layout, const QString& title, const QString& path,
                  QWidget* parent);
 
+// Lays the page out in the format that is proposed for it, and does the same.
+bool SavePdfFile(std::shared_ptr<const Page> page, const QString& path, QWidget* parent);
+
 // Prints `sheets` (from 0), `copies` times, and tells if that failed. Gives whether all were sent.
 bool PrintSheets(const PaperLayout& layout, const QString& title, const std::vector<int>& sheets,
                  int copies, QPrinter& printer, QWidget* parent);

@@ -29,7 +29,6 @@ namespace {
 constexpr int kRedrawPatience = 300;
 constexpr int kLeastWidth = 640;
 constexpr int kMostHeight = 1000;
-constexpr double kPlanning = 0.5;  // of the work of cutting a page into sheets
 
 QString Untitled(PageKind kind) {
   return kind == PageKind::kGuide ? u"Справка"_s : u"Печатная форма"_s;
@@ -234,14 +233,7 @@ void ViewerWindow::Mail() { MailPage(page_, this); }
 
 void ViewerWindow::SavePdf() {
   const QString path = AskPdfPath(NameOf(*page_), this);
-  if (path.isEmpty()) return;
-  WorkProgress work(u"Разбивка на листы…"_s, this);
-  std::unique_ptr<PaperLayout> layout;
-  const bool is_done = work.Run([&](const Progress& progress) {
-    layout = std::make_unique<PaperLayout>(page_, progress.Piece(0, kPlanning));
-    layout->LayOut(layout->Propose(PaperFormat()), progress.Piece(kPlanning, 1));
-  });
-  if (is_done) SavePdfFile(*layout, page_->title, path, this);
+  if (!path.isEmpty()) SavePdfFile(page_, path, this);
 }
 
 void RenderWindowPicture(std::shared_ptr<const Page> page, const QString& path) {
