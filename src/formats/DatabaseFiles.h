@@ -29,6 +29,7 @@ inline constexpr std::array<QStringView, 5> kDirectories = {u"KASS", u"KASS\\PRH
 // In a Database, too: the folder in which programs of old never look, and what lies there.
 inline constexpr QStringView kOwnDirectory = u"kladez";
 inline constexpr QStringView kTaxRates = u"kladez\\ставки.usd";
+inline constexpr QStringView kGoodsExtras = u"kladez\\товары.usd";
 inline constexpr QStringView kClientTerms = u"kladez\\условия.usd";
 
 // In a warehouse's directory.

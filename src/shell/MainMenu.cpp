@@ -47,6 +47,8 @@ MainMenu::MainMenu(QMenuBar* bar, QObject* parent) : QObject(parent) {
   reports_menu_ = AddMenu(bar, u"mnu_Otchet"_s, u"&Отчеты"_s);
   directories_menu_ = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
   AddPlaces(store_menu_, PlaceGroup::kStore);
+  store_menu_->addSeparator();
+  AddPlaces(store_menu_, PlaceGroup::kMoreStore);
   AddPlaces(reports_menu_, PlaceGroup::kReports);
   reports_menu_->addSeparator();
   AddPlaces(reports_menu_, PlaceGroup::kMoreReports);

@@ -200,6 +200,17 @@ constexpr auto kPlaces = std::to_array<PlaceRow>({
      {},
      {},
      {}},
+    {Place::kOrder,
+     kMoreStore,
+     IconName::kReceipt,
+     false,
+     true,
+     u"mnu_order",
+     u"За&казать...",
+     u"Заказать",
+     {},
+     {},
+     {}},
 });
 static_assert(IsInOrder(kPlaces, &PlaceRow::place));
 
@@ -212,6 +223,7 @@ const PlaceRow& RowOf(Place place) { return kPlaces[static_cast<size_t>(place)];
 QStringView GroupHeading(PlaceGroup group) {
   switch (group) {
     case kStore:
+    case kMoreStore:
       return u"Склад";
     case kReports:
     case kMoreReports:

@@ -33,10 +33,11 @@ enum class Place {
   kSuppliersReport,
   kMarginReport,
   kAbcReport,
+  kOrder,
 };
 
 // What stands in a menu only, below a line, is of a group of its own.
-enum class PlaceGroup { kStore, kReports, kMoreReports, kDirectories, kNone };
+enum class PlaceGroup { kStore, kMoreStore, kReports, kMoreReports, kDirectories, kNone };
 
 struct PlaceRow {
   Place place;

@@ -10,6 +10,7 @@
 #include "screens/prices/PriceScreen.h"
 #include "screens/reports/ChartForms.h"
 #include "screens/reports/GoodsHistoryDialog.h"
+#include "screens/reports/OrderWindow.h"
 #include "screens/reports/ReportForms.h"
 #include "screens/stock/OnHandScreen.h"
 #include "screens/stock/OpeningBalancesDialog.h"
@@ -63,6 +64,11 @@ QWidget* RunChart(AppContext& context, QWidget* parent) {
   return nullptr;
 }
 
+QWidget* RunOrder(AppContext& context, QWidget* parent) {
+  ShowOrder(context, parent);
+  return nullptr;
+}
+
 QWidget* MakeNothing(AppContext&, QWidget*) { return nullptr; }
 
 struct ScreenRow {
@@ -93,6 +99,7 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {kSuppliersReport, &RunReport<&SuppliersReportForm>},
     {kMarginReport, &RunReport<&MarginReportForm>},
     {kAbcReport, &RunReport<&AbcReportForm>},
+    {kOrder, &RunOrder},
 });
 static_assert(IsInOrder(kScreens, &ScreenRow::place));
 

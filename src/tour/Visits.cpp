@@ -210,6 +210,8 @@ void VisitScreens(Robot& robot) {
   robot.WaitUntilGone(u"sprFirm"_s);
   VisitDialogs(robot);
   VisitReportList(robot);
+  robot.OpenMenu(u"mnu_order"_s);
+  ShowAndLeave(robot, u"order"_s);
   VisitCheck(robot);
   VisitCatalogue(robot);
 }

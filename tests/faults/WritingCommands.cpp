@@ -140,6 +140,11 @@ std::vector<WritingCommand> DirectoryCommands() {
                 goods.Remove(2);
                 goods.Save();
               }),
+      OfGoods("товары, штрихкод", GoodsView::kGroups,
+              [](GoodsDirectory& goods) {
+                goods.Change(1, goods.Rows()[1], GoodsExtras{u"46012344"_s, u"5"_s});
+                goods.Save();
+              }),
       OfGoods("товары, показ без групп", GoodsView::kGroups,
               [](GoodsDirectory& goods) {
                 goods.MoveDown(1);

@@ -167,6 +167,22 @@ std::vector<GoldenCase> DirectoryCases() {
        Changed(kBase + "SPR/товар.spr",
                u" Бакалея\nЧай\nИндия\n\nпач.\n45.00\nСоль\nРоссия\n\nкг\n9.50\n"
                u"Сахар\nРоссия\n\nкг\n55.50"_s)},
+      {"sprTovar sprTovNew", "товары: штрихкод и минимум",
+       Menu(u"mnu_Sprav_T"_s, u"sprTovar"_s) >> Select(u"Соль"_s) >>
+           Open(u"change"_s, u"sprTovNew"_s) >>
+           [](Robot& robot) {
+             robot.Type(u"name"_s, u"Соль морская"_s);
+             robot.Type(u"barcode"_s, u"4601234567893"_s);
+             robot.Type(u"minimum"_s, u"5"_s);
+             robot.Click(u"ok"_s);
+             robot.WaitFor(u"sprTovar"_s);
+           },
+       Click(u"Command9"_s),
+       Changed(kBase + "SPR/товар.spr",
+               u" Бакалея\nЧай\nИндия\n\nпач.\n45.00\nСоль морская\nРоссия\n\nкг\n9.50"_s) +
+           Empty(kBase + "kladez/") +
+           Changed(kBase + "kladez/товары.usd",
+                   u"Соль морская\nМинимум\n5\nШтрихкод\n4601234567893\n\n"_s)},
       {"sprFirm sprFirmNew", "фирмы: добавление",
        AddParty(u"mnu_Sprav_O"_s, u"sprFirm"_s, u"sprFirmNew"_s), Click(u"ok"_s),
        Changed(kBase + "SPR/firma.spr",
@@ -347,6 +363,7 @@ std::vector<GoldenCase> PageCases() {
       Page("otpost", "отчет по поставщикам", Menu(u"mnu_report_suppliers"_s, u"otpost"_s)),
       Page("otval", "валовая прибыль", Menu(u"mnu_report_margin"_s, u"otval"_s)),
       Page("otabc", "ABC-анализ", Menu(u"mnu_report_abc"_s, u"otabc"_s)),
+      Page("order", "заказать", Menu(u"mnu_order"_s, u"order"_s), u"print"_s),
       {"otgr graphic waitplease", "график",
        Menu(u"mnu_Otchet_GP"_s, u"otgr"_s) >> Open(u"Command1"_s, u"graphic"_s),
        Click(u"GoldButton1"_s), Empty("data/temp.gif") + PageOf("waitplease"), Beside::kNothing,

@@ -33,7 +33,9 @@ bool LedgerHolds(QByteArrayView bytes, QByteArrayView name) {
 }  // namespace
 
 GoodsDirectory::GoodsDirectory(const DataDir& data, const Session& session, GoodsView view)
-    : data_(data), path_(session.Path(files::kGoods)) {
+    : data_(data),
+      path_(session.Path(files::kGoods)),
+      extras_path_(session.Path(files::kGoodsExtras)) {
   Reload(view);
 }
 
@@ -44,6 +46,7 @@ void GoodsDirectory::Reload(GoodsView view) {
   const QByteArray bytes = ReadWithState(data_, path_, file);
   file_ = file;
   copy_ = view == GoodsView::kGoodsOnly ? GoodsRows(bytes) : GoodsRows();
+  extras_.emplace(data_, extras_path_);
   Show(bytes, view);
 }
 
@@ -58,7 +61,7 @@ void GoodsDirectory::ShowGoodsOnly() {
   FileState file;
   const QByteArray on_disk = ReadWithState(data_, path_, file);
   const QByteArray bytes = rows_.Bytes();
-  if (bytes == on_disk) {
+  if (bytes == on_disk && !extras_->IsChanged()) {
     file_ = file;
   } else {
     Write(bytes);
@@ -68,28 +71,61 @@ void GoodsDirectory::ShowGoodsOnly() {
 }
 
 bool GoodsDirectory::IsChanged() const {
-  return view_ == GoodsView::kGroups ? saved_ && *saved_ != rows_ : !renamed_.empty();
+  if (view_ == GoodsView::kGoodsOnly) return !renamed_.empty();
+  return (saved_ && *saved_ != rows_) || extras_->IsChanged();
 }
 
 void GoodsDirectory::BeforeChange() {
   if (!saved_) saved_ = rows_;
 }
 
-int GoodsDirectory::Insert(int below, const GoodsRecord& record) {
+// Goods of one name share what is kept under it: it stays while one of them has the name.
+void GoodsDirectory::TakeExtras(const GoodsRecord& before, const GoodsRecord& after,
+                                const std::optional<GoodsExtras>& extras) {
+  const GoodsRows& rows = view_ == GoodsView::kGroups ? rows_ : copy_;
+  if (before.name != after.name && !before.IsGroup() && rows.RowOfGoods(before.name) < 0) {
+    extras_->records.Follow({{before.name, after.IsGroup() ? QString() : after.name}});
+  }
+  if (extras && !after.IsGroup()) SetExtras(extras_->records, after.name, *extras);
+}
+
+GoodsExtras GoodsDirectory::Extras(int row) const {
+  const GoodsRecord record = rows_[row];
+  QString name = record.name;
+  // The latest change first: it may stand on one before it.
+  for (auto change = renamed_.rbegin(); change != renamed_.rend(); ++change) {
+    if (change->after.name != name) continue;
+    if (change->extras) return *change->extras;
+    name = change->before.name;
+  }
+  return ExtrasOf(extras_->records, name);
+}
+
+QString GoodsDirectory::OwnerOfBarcode(const QString& barcode, const QString& name) const {
+  OwnRecords others = extras_->records;
+  SetExtras(others, name, {});
+  return GoodsOfBarcode(others, barcode);
+}
+
+int GoodsDirectory::Insert(int below, const GoodsRecord& record, const GoodsExtras& extras) {
   BeforeChange();
+  if (extras != GoodsExtras()) TakeExtras(record, record, extras);
   const size_t row = below < 0 ? rows_.size() : static_cast<size_t>(below) + 1;
   rows_.Insert(row, record);
   return static_cast<int>(row);
 }
 
-int GoodsDirectory::Change(int row, const GoodsRecord& record) {
+int GoodsDirectory::Change(int row, const GoodsRecord& record,
+                           const std::optional<GoodsExtras>& extras) {
   BeforeChange();
   const GoodsRecord before = rows_[row];
+  const bool other_extras = extras && *extras != Extras(row);
   if (view_ == GoodsView::kGroups) {
     rows_.Set(row, record);
+    TakeExtras(before, record, extras);
     return row;
   }
-  if (before != record) renamed_.push_back({before, record});
+  if (before != record || other_extras) renamed_.push_back({before, record, extras});
   // The goods alone keep themselves in order.
   rows_.Erase(row);
   const QString key = OrderKey(record.name);
@@ -118,7 +154,9 @@ int GoodsDirectory::MoveDown(int row) {
 
 void GoodsDirectory::Remove(int row) {
   BeforeChange();
+  const GoodsRecord gone = rows_[row];
   rows_.Erase(row);
+  TakeExtras(gone, GoodsRecord(), {});
 }
 
 void GoodsDirectory::Sort() {
@@ -138,8 +176,10 @@ void GoodsDirectory::SaveChange(int row) {
   }
   if (same == copy_.size()) return;
   copy_.Set(same, changed);
+  const bool waits = !renamed_.empty() && renamed_.back().after == changed;
+  if (waits) TakeExtras(renamed_.back().before, changed, renamed_.back().extras);
   Write(copy_.Bytes());
-  if (!renamed_.empty() && renamed_.back().after == changed) renamed_.pop_back();
+  if (waits) renamed_.pop_back();
 }
 
 void GoodsDirectory::Save() {
@@ -154,10 +194,13 @@ void GoodsDirectory::SaveAll() {
     if (same >= 0) copy.Set(same, renamed.after);
   }
   std::swap(copy, copy_);
+  const OwnRecords extras = extras_->records;
+  for (const Renamed& renamed : renamed_) TakeExtras(renamed.before, renamed.after, renamed.extras);
   try {
     Save();
   } catch (...) {
     std::swap(copy, copy_);
+    extras_->records = extras;
     throw;
   }
   renamed_.clear();
@@ -170,7 +213,10 @@ void GoodsDirectory::SaveBeforePick() {
 void GoodsDirectory::Write(const QByteArray& bytes) {
   SaveSet save(data_);
   save.Write(path_, bytes, file_);
+  OwnRecordsFile extras = *extras_;
+  extras.Gather(save);
   save.Commit();
+  extras_.emplace(extras);
 }
 
 bool IsOnHand(const DataDir& data, const Session& session, const QString& name) {

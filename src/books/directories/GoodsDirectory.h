@@ -6,9 +6,11 @@
 #include <optional>
 #include <vector>
 
+#include "books/directories/GoodsExtras.h"
 #include "books/directories/GoodsView.h"
 #include "books/store/DataDir.h"
 #include "books/store/FileState.h"
+#include "books/store/OwnRecordsFile.h"
 #include "books/store/Session.h"
 #include "formats/GoodsRows.h"
 
@@ -37,8 +39,10 @@ class GoodsDirectory {
 
   // Each gives the row where the record, or the moved one, is afterwards. `below` -1 adds at the
   // end.
-  int Insert(int below, const GoodsRecord& record);
-  int Change(int row, const GoodsRecord& record);
+  int Insert(int below, const GoodsRecord& record, const GoodsExtras& extras = {});
+  // Without extras the goods keep those that they have. They follow a new name, and are in the file
+  // when the record is.
+  int Change(int row, const GoodsRecord& record, const std::optional<GoodsExtras>& extras = {});
   int MoveUp(int row);  // goods never from the second row to the first, the place of a group
   int MoveDown(int row);
   void Remove(int row);
@@ -55,6 +59,12 @@ class GoodsDirectory {
   void SaveAll();
   // Writes the file only while the groups are shown, as a pick does.
   void SaveBeforePick();
+  // Barcode and minimum of a row's goods; the goods, other than `name`, that have a barcode.
+  GoodsExtras Extras(int row) const;
+  QString OwnerOfBarcode(const QString& barcode, const QString& name) const;
+  // Whether the file of barcodes and minima is there and can't be read; the next one saved with any
+  // of them replaces it.
+  bool ExtrasAreDamaged() const { return extras_->IsDamaged(); }
   // Whether the file is still what was read or saved last.
   bool IsCurrent() const { return IsStill(file_, data_, path_); }
 
@@ -62,14 +72,19 @@ class GoodsDirectory {
   void Show(const QByteArray& bytes, GoodsView view);
   void Write(const QByteArray& bytes);
   void BeforeChange();
+  void TakeExtras(const GoodsRecord& before, const GoodsRecord& after,
+                  const std::optional<GoodsExtras>& extras);
 
   struct Renamed {
     GoodsRecord before;
     GoodsRecord after;
+    std::optional<GoodsExtras> extras;
   };
 
   const DataDir& data_;
   QString path_;
+  QString extras_path_;
+  std::optional<OwnRecordsFile> extras_;  // always there
   FileState file_;
   GoodsView view_ = GoodsView::kGroups;
   GoodsRows rows_;

@@ -18,7 +18,7 @@ constexpr size_t kChartRows = 10;
 
 QString DifferenceText(FigureKind kind, const QString& now, const QString& before) {
   const double difference = NumberOr(now) - NumberOr(before);
-  return kind == FigureKind::kMoney || kind == FigureKind::kPercent
+  return kind != FigureKind::kCount && kind != FigureKind::kQuantity
              ? FormatMoney(difference)
              : GeneralText(RoundGeneral(difference));
 }

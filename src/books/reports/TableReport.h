@@ -12,7 +12,7 @@
 
 namespace kladez {
 
-enum class FigureKind { kText, kCount, kQuantity, kMoney, kPercent };
+enum class FigureKind { kText, kCount, kQuantity, kMoney, kPrice, kPercent };
 
 struct ReportColumn {
   QString title;
@@ -29,6 +29,7 @@ struct TableReport {
   std::function<QString(size_t row, size_t column)> cell{};
   Cells total{};  // "ИТОГО:" and what adds up
   std::function<DocumentsWanted(size_t row)> documents{};
+  size_t names = 0;               // the column that takes the room that is left in a list
   std::vector<size_t> charted{};  // the columns of its chart; without any it has none
   int compared = -1;              // the column that the period before is set beside, row by row
   std::vector<Cells> beside{};    // stands below the total: the period before, the change since

@@ -62,7 +62,8 @@ TableReport CollectSalesTable(const DataDir& data, const Session& session, const
                 return DocumentsWanted{.kinds = {DocumentKind::kShipment},
                                        .goods = lines->Cell(row, 1),
                                        .day_key = lines->rows[row].day_key};
-              }};
+              },
+          .names = 1};
 }
 
 TableReport CollectSpeedTable(const DataDir& data, const Session& session, const ReportScope& scope,

@@ -49,6 +49,11 @@ class Gathering {
     CopyFile(name.toString());
   }
 
+  void CopyGoods() {
+    CopyFile(files::kGoods.toString());
+    CopyOwn(files::kGoodsExtras);
+  }
+
   void CopyClients() {
     CopyFile(PartyPath(PartyKind::kClient).toString());
     CopyOwn(files::kClientTerms);
@@ -150,7 +155,7 @@ void ImportAreas(const DataDir& data, const QString& source, const QString& dest
     return [&, name] { gathering.CopyFile(name.toString()); };
   };
   const std::function<void()> steps[] = {
-      copy_file(files::kGoods),
+      [&] { gathering.CopyGoods(); },
       [&] { gathering.CopyCurrency(); },
       copy_file(files::kWarehouses),
       copy_file(PartyPath(PartyKind::kFirm)),

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "formats/Numbers.h"
+#include "ui/ScannerSearch.h"
 #include "ui/controls/Look.h"
 
 namespace kladez {
@@ -47,6 +48,7 @@ GoodsBrowser::GoodsBrowser(AppContext& context, QStringView screen, const Ticks&
   list_->SetRecords(model_);
   list_->SelectRow(0);
   filter_->SearchIn(list_);
+  SelectByScanner(this, context, list_);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(look::kGrid);

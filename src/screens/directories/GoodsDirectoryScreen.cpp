@@ -41,6 +41,11 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
   setObjectName(u"sprTovar"_s);
   setWindowTitle(u"Справочник товаров"_s);
   choose_->hide();
+  if (Directory().ExtrasAreDamaged()) {
+    AddNote(
+        u"Файл kladez\\товары.usd повреждён: штрихкоды и минимумы товаров не прочитаны. "
+        u"Остальное в порядке; когда Вы впишете штрихкод или минимум, файл будет записан заново."_s);
+  }
   BuildLayout();
   Wire();
   ShowView();
@@ -111,21 +116,26 @@ void GoodsDirectoryScreen::Add() {
   GoodsEntry entry;
   entry.group_only = Directory().Rows().empty();
   entry.record.country = u"Россия"_s;
+  entry.owner_of = [this](const QString& code) { return Directory().OwnerOfBarcode(code, {}); };
   GoodsForm form(entry, this);
   if (form.exec() != QDialog::Accepted) return;
   const int below = browser_->List()->CurrentRow();
   const int row = below < 0 ? static_cast<int>(Directory().Rows().size()) : below + 1;
-  browser_->Model()->Insert(row, [&] { Directory().Insert(below, form.Record()); });
+  browser_->Model()->Insert(row, [&] { Directory().Insert(below, form.Record(), form.Extras()); });
   browser_->List()->SelectRow(row);
 }
 
 void GoodsDirectoryScreen::Change() {
   const std::optional<GoodsRecord> record = browser_->Selected();
   if (!record) return;
-  GoodsForm form({.record = *record}, this);
-  if (form.exec() != QDialog::Accepted) return;
   const int before = browser_->List()->CurrentRow();
-  const int row = Directory().Change(before, form.Record());
+  const auto owner_of = [&](const QString& code) {
+    return Directory().OwnerOfBarcode(code, record->name);
+  };
+  GoodsForm form({.record = *record, .extras = Directory().Extras(before), .owner_of = owner_of},
+                 this);
+  if (form.exec() != QDialog::Accepted) return;
+  const int row = Directory().Change(before, form.Record(), form.Extras());
   if (row == before) {
     browser_->Model()->Update(row);
   } else {

@@ -45,11 +45,12 @@ void AddRow(QFormLayout* form, const QString& caption, QLineEdit* field, QString
 }  // namespace
 
 GoodsForm::GoodsForm(const GoodsEntry& entry, QWidget* parent)
-    : QDialog(parent), tabs_(new QTabWidget(this)) {
+    : QDialog(parent), owner_of_(entry.owner_of), tabs_(new QTabWidget(this)) {
   tabs_->setObjectName(u"tabs"_s);
   setObjectName(u"sprTovNew"_s);
   setWindowTitle(u"Запись"_s);
-  tabs_->addTab(NewGoodsPage(entry.record.IsGroup() ? GoodsRecord() : entry.record), u"Товар"_s);
+  tabs_->addTab(NewGoodsPage(entry.record.IsGroup() ? GoodsRecord() : entry.record, entry.extras),
+                u"Товар"_s);
   tabs_->addTab(NewGroupPage(entry), u"Группа"_s);
   const bool group = entry.group_only || entry.record.IsGroup();
   tabs_->setTabEnabled(kGoodsPage, !entry.group_only);
@@ -76,10 +77,12 @@ GoodsForm::GoodsForm(const GoodsEntry& entry, QWidget* parent)
                                return isHidden();
                              }});
   for (TextLine* field : Fields()) field->installEventFilter(this);
-  connect(name_, &TextLine::Change, this, [this] { name_->SetFault({}); });
+  for (TextLine* field : {name_, barcode_}) {
+    connect(field, &TextLine::Change, this, [field] { field->SetFault({}); });
+  }
 }
 
-QWidget* GoodsForm::NewGoodsPage(const GoodsRecord& record) {
+QWidget* GoodsForm::NewGoodsPage(const GoodsRecord& record, const GoodsExtras& extras) {
   auto* page = new QWidget(tabs_);
   name_ = NewField<TextLine>(page, u"name"_s, record.name);
   country_ = NewField<TextLine>(page, u"country"_s, record.country);
@@ -87,6 +90,8 @@ QWidget* GoodsForm::NewGoodsPage(const GoodsRecord& record) {
   unit_ = NewField<TextLine>(page, u"unit"_s, record.unit);
   // A new record has no price: it must be entered.
   price_ = NewField<TextLineDecimal>(page, u"price"_s, record.price);
+  barcode_ = NewField<TextLine>(page, u"barcode"_s, extras.barcode);
+  minimum_ = NewField<TextLineNumber>(page, u"minimum"_s, extras.minimum);
   auto* form = new QFormLayout(page);
   look::SetDialogMargins(form);
   AddRow(form, u"&Наименование:"_s, name_, u"Наименование");
@@ -94,6 +99,8 @@ QWidget* GoodsForm::NewGoodsPage(const GoodsRecord& record) {
   AddRow(form, u"N &декларации:"_s, declaration_, u"N декларации");
   AddRow(form, u"&Единица измерения:"_s, unit_, u"Единица измерения");
   AddRow(form, u"&Цена:"_s, price_, u"Цена");
+  AddRow(form, u"&Штрихкод:"_s, barcode_, u"Штрихкод");
+  AddRow(form, u"&Минимум:"_s, minimum_, u"Минимум");
   return page;
 }
 
@@ -120,8 +127,8 @@ QWidget* GoodsForm::NewGroupPage(const GoodsEntry& entry) {
   return page;
 }
 
-std::array<TextLine*, 6> GoodsForm::Fields() const {
-  return {name_, country_, declaration_, unit_, price_, group_};
+std::array<TextLine*, 8> GoodsForm::Fields() const {
+  return {name_, country_, declaration_, unit_, price_, barcode_, minimum_, group_};
 }
 
 bool GoodsForm::IsGroupShown() const { return tabs_->currentIndex() == kGroupPage; }
@@ -145,6 +152,26 @@ GoodsRecord GoodsForm::Record() const {
           .price = price_->text()};
 }
 
+GoodsExtras GoodsForm::Extras() const {
+  if (IsGroupShown()) return {};
+  return {.barcode = barcode_->text().trimmed(), .minimum = minimum_->text()};
+}
+
+bool GoodsForm::ExtrasAreSound() {
+  const QString barcode = Extras().barcode;
+  QString fault = BarcodeFault(barcode);
+  if (fault.isEmpty() && owner_of_) {
+    const QString owner = owner_of_(barcode);
+    if (!owner.isEmpty()) {
+      fault = u"Этот штрихкод уже у товара «%1»"_s.arg(owner.left(look::kLongestText));
+    }
+  }
+  if (fault.isEmpty()) return true;
+  barcode_->setFocus();
+  barcode_->SetFault(fault);
+  return false;
+}
+
 void GoodsForm::Ok() {
   if (!IsGroupShown()) {
     // In the file it would be a group from then on, without unit and price.
@@ -159,6 +186,7 @@ void GoodsForm::Ok() {
       return;
     }
     price_->setText(FormatMoney(*price));
+    if (!ExtrasAreSound()) return;
   }
   accept();
 }

@@ -3,7 +3,9 @@
 
 #include <QDialog>
 #include <array>
+#include <functional>
 
+#include "books/directories/GoodsExtras.h"
 #include "formats/GoodsFile.h"
 
 class QLabel;
@@ -18,6 +20,9 @@ class TextLineDecimal;
 struct GoodsEntry {
   bool group_only = false;  // the first record of a directory must be a group
   GoodsRecord record;       // what the fields show at first
+  GoodsExtras extras{};
+  // The other goods that have a barcode; empty where none have.
+  std::function<QString(const QString& barcode)> owner_of{};
 };
 
 class GoodsForm : public QDialog {
@@ -28,18 +33,22 @@ class GoodsForm : public QDialog {
 
   // What was entered; valid after OK.
   GoodsRecord Record() const;
+  GoodsExtras Extras() const;
 
  protected:
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QWidget* NewGoodsPage(const GoodsRecord& record);
+  QWidget* NewGoodsPage(const GoodsRecord& record, const GoodsExtras& extras);
   QWidget* NewGroupPage(const GoodsEntry& entry);
   bool IsGroupShown() const;
-  std::array<TextLine*, 6> Fields() const;
+  std::array<TextLine*, 8> Fields() const;
   QStringList Texts() const;  // of all fields, whichever page is shown
+  bool ExtrasAreSound();
   void Ok();
+
+  const std::function<QString(const QString& barcode)> owner_of_;
 
   QTabWidget* tabs_;        // "Товар", "Группа"
   TextLine* name_;          // "Наименование:"
@@ -47,6 +56,8 @@ class GoodsForm : public QDialog {
   TextLine* declaration_;   // "N декларации:"
   TextLine* unit_;          // "Единица измерения:"
   TextLineDecimal* price_;  // "Цена:"
+  TextLine* barcode_;       // "Штрихкод:"
+  TextLine* minimum_;       // "Минимум:"
   TextLine* group_;         // "Наименование группы:"
   QLabel* group_first_;     // why only a group can be added to an empty directory
   QPushButton* ok_;         // "OK"

@@ -14,6 +14,7 @@
 #include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/HistoryCommand.h"
+#include "ui/ScannerSearch.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
@@ -97,6 +98,7 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceUse use, QWidget* parent)
   setFocusProxy(list_);
   TabByEye(this);
   ShareListKeys(this, list_, findChild<QPushButton*>(u"Command9"_s));
+  SelectByScanner(this, context, list_);
   Wire();
 }
 

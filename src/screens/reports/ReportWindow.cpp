@@ -23,7 +23,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kTextTwips = 1000;
+constexpr int kTextTwips = 800;
 constexpr int kNumberTwips = 1150;
 constexpr int kNameTwips = 3100;
 
@@ -37,7 +37,8 @@ QLabel* NewLine(const QString& name, const QString& text, QWidget* parent) {
 }  // namespace
 
 ReportWindow::ReportWindow(AppContext& context, TableReport report, const ReportScope& scope,
-                           std::function<void(QWidget* over)> print, QWidget* parent)
+                           std::function<void(QWidget* over)> print, QWidget* parent,
+                           const ReportWindowTexts& texts)
     : QDialog(parent),
       context_(context),
       report_(std::move(report)),
@@ -47,10 +48,11 @@ ReportWindow::ReportWindow(AppContext& context, TableReport report, const Report
       chart_(NewCommand(this, u"chart"_s, u"&График"_s, look::IconName::kChart)),
       print_(NewCommand(this, u"print"_s, u"&Печать"_s, look::IconName::kPrint)),
       close_(NewCommand(this, u"close"_s, u"&Закрыть"_s)) {
-  setObjectName(u"otlist"_s);
+  setObjectName(texts.name.toString());
   setWindowTitle(report_.heading);
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   BuildList();
+  list_->SetEmptyText(texts.empty.toString());
   const QString period = PeriodLine(scope.period);
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
@@ -69,7 +71,7 @@ ReportWindow::ReportWindow(AppContext& context, TableReport report, const Report
     layout->addWidget(note);
   }
   layout->addWidget(look::NewSeparator(this));
-  auto* help = NewHelpCommand(this, context.data, u"otlist.htm");
+  auto* help = NewHelpCommand(this, context.data, texts.help);
   layout->addLayout(NewCommandRow({documents_, chart_, print_}, {help, close_}));
   chart_->setVisible(!report_.charted.empty() && report_.rows > 0);
   resize(look::ByLetters(this, 112, 68));
@@ -87,10 +89,7 @@ ReportWindow::ReportWindow(AppContext& context, TableReport report, const Report
 }
 
 void ReportWindow::BuildList() {
-  // The first column that is no day has the names, and takes the room that is left.
-  const bool days_first = report_.columns.front().title == u"Дата" && report_.columns.size() > 1 &&
-                          report_.columns[1].kind == FigureKind::kText;
-  const size_t names = days_first ? 1 : 0;
+  const size_t names = report_.names;
   std::vector<Column> columns;
   for (size_t i = 0; i < report_.columns.size(); ++i) {
     const ReportColumn& column = report_.columns[i];
@@ -101,7 +100,8 @@ void ReportWindow::BuildList() {
                                            : kNumberTwips,
                        .number = !text,
                        .stretch = i == names,
-                       .total = !text && column.kind != FigureKind::kPercent});
+                       .total = column.kind != FigureKind::kPercent &&
+                                column.kind != FigureKind::kPrice && !text});
   }
   list_ = new RecordList(this);
   list_->setObjectName(u"ListView1"_s);
@@ -113,7 +113,6 @@ void ReportWindow::BuildList() {
                                                                static_cast<size_t>(column));
                                          }},
                                     this));
-  list_->SetEmptyText(u"За выбранное время документов нет."_s);
 }
 
 QString ReportWindow::SumsText(const TableReport::Cells& cells) const {

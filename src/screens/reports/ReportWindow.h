@@ -14,13 +14,21 @@ namespace kladez {
 
 class RecordList;
 
+// In what the windows of this kind differ.
+struct ReportWindowTexts {
+  QStringView name = u"otlist";  // of the screen
+  QStringView help = u"otlist.htm";
+  QStringView empty = u"За выбранное время документов нет.";
+};
+
 class ReportWindow : public QDialog {
   Q_OBJECT
 
  public:
   // `print` writes the report's page and throws what can go wrong.
   ReportWindow(AppContext& context, TableReport report, const ReportScope& scope,
-               std::function<void(QWidget* over)> print, QWidget* parent = nullptr);
+               std::function<void(QWidget* over)> print, QWidget* parent = nullptr,
+               const ReportWindowTexts& texts = {});
 
  private:
   void BuildList();

@@ -11,6 +11,7 @@
 #include "screens/directories/QuantityDialog.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
+#include "ui/ScannerSearch.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Guard.h"
@@ -51,6 +52,7 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
   BuildLayout();
   setFocusProxy(list_);
   ShareListKeys(this, list_, print_);
+  SelectByScanner(this, context, list_);
   SetHelpPage(this, context.data, u"stock.htm");
 
   connect(warehouse_, &QComboBox::currentIndexChanged, this, &OnHandScreen::Fill);

@@ -6,12 +6,15 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "books/directories/GoodsExtras.h"
+#include "books/prices/ScannedGoods.h"
 #include "formats/Dates.h"
 #include "screens/stock/LineDialog.h"
 #include "screens/stock/documents/DocumentNotes.h"
 #include "screens/stock/documents/DraftSaving.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
+#include "ui/ScannerSearch.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
@@ -21,6 +24,7 @@
 #include "ui/controls/Guard.h"
 #include "ui/controls/ListSearch.h"
 #include "ui/controls/RecordList.h"
+#include "ui/controls/ScannerKeys.h"
 #include "ui/controls/UnsavedWork.h"
 #include "ui/controls/WrapRow.h"
 
@@ -60,6 +64,7 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentDraft draft, QWidget
   layout->addLayout(NewEndingRow(ok_, cancel_));
 
   ShareListKeys(this, list_);
+  new ScannerKeys(this, [this](const QString& code) { TakeScan(code); });
   SetHelpPage(this, context.data, u"documents.htm");
   OrderTabs();
   TakeFields();
@@ -304,6 +309,21 @@ void DocumentEditor::TakePick(const GoodsPick& pick) {
   ShowSums();
   list_->Records()->Reset();
   list_->SelectRow(static_cast<int>(draft_.Lines().size()) - 1);
+}
+
+void DocumentEditor::TakeScan(const QString& code) {
+  Guarded(this, [&] {
+    const QString goods = FindByBarcode(context_.data, context_.session, code);
+    const auto pick = goods.isEmpty() ? std::nullopt
+                                      : PickOfGoods(context_.data, context_.session, screens_.kind,
+                                                    draft_.Warehouse(), {}, goods);
+    if (!pick) return TellUnknownBarcode(this, code, goods);
+    TakeStock();
+    const int row = AddScanned(draft_, *pick);
+    ShowSums();
+    list_->Records()->Reset();
+    list_->SelectRow(row);
+  });
 }
 
 void DocumentEditor::Change() {

@@ -56,6 +56,7 @@ class DocumentEditor : public QDialog {
 
   void Add();
   void TakePick(const GoodsPick& pick);
+  void TakeScan(const QString& code);
   void Change();
   void Remove();
   void Save();
