@@ -14,6 +14,7 @@
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Look.h"
+#include "ui/controls/ScannerKeys.h"
 #include "ui/controls/TabOrder.h"
 #include "ui/controls/UnsavedWork.h"
 
@@ -77,6 +78,12 @@ GoodsForm::GoodsForm(const GoodsEntry& entry, QWidget* parent)
                                return isHidden();
                              }});
   for (TextLine* field : Fields()) field->installEventFilter(this);
+  // Read into whatever field: the code has its own.
+  new ScannerKeys(this, [this](const QString& code) {
+    if (IsGroupShown()) return;
+    barcode_->setText(code);
+    barcode_->setFocus();
+  });
   for (TextLine* field : {name_, barcode_}) {
     connect(field, &TextLine::Change, this, [field] { field->SetFault({}); });
   }

@@ -1,5 +1,6 @@
 #include "screens/directories/NumbersDialog.h"
 
+#include <QApplication>
 #include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -7,6 +8,7 @@
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Forms.h"
+#include "ui/controls/ScannerKeys.h"
 #include "ui/controls/TabOrder.h"
 
 namespace kladez {
@@ -35,6 +37,8 @@ NumbersDialog::NumbersDialog(const QString& name, const QString& title, const QS
   layout_->addWidget(label);
   layout_->addLayout(form_);
   setMinimumWidth(look::ByLetters(this, 40));
+  // A barcode read while a number is asked for is no number, and its Enter is no answer.
+  new ScannerKeys(this, [](const QString&) { QApplication::beep(); });
 }
 
 void NumbersDialog::AddField(const QString& caption, TextLine* field, const QString& text) {

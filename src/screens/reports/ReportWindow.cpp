@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "books/reports/ReportPage.h"
 #include "screens/reports/ChartWindow.h"
@@ -24,6 +25,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kTextTwips = 800;
+constexpr int kTwipsOfPercent = 100;  // of the page's width
 constexpr int kNumberTwips = 1150;
 constexpr int kNameTwips = 3100;
 
@@ -96,7 +98,7 @@ void ReportWindow::BuildList() {
     const bool text = column.kind == FigureKind::kText;
     columns.push_back({.title = column.title,
                        .twips = i == names ? kNameTwips
-                                : text     ? kTextTwips
+                                : text     ? std::max(kTextTwips, column.width * kTwipsOfPercent)
                                            : kNumberTwips,
                        .number = !text,
                        .stretch = i == names,

@@ -1,7 +1,9 @@
 #include <QComboBox>
 
 #include "DocumentWorld.h"
+#include "screens/directories/GoodsForm.h"
 #include "screens/directories/GoodsPicker.h"
+#include "screens/directories/QuantityDialog.h"
 #include "screens/stock/documents/DocumentEditor.h"
 
 namespace kladez {
@@ -72,6 +74,34 @@ TEST_F(Scanner, SelectsTheGoodsInAListAndEmptiesTheSearch) {
     EXPECT_EQ(TextOf(&picker, "search"), QString());
     EXPECT_TRUE(picker.isVisible()) << "the Enter of the scanner picks nothing";
   }
+}
+
+TEST_F(Scanner, IsNoNumberWhereOneIsAskedFor) {
+  QWidget window;
+  const ModalAnswers answers{[](QWidget* dialog) {
+    Scan(u"4601234567893"_s);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(TextOf(dialog, "Text1"), u"1"_s);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  }};
+  EXPECT_FALSE(AskQuantity(&window, u"Товар"_s, u"Кол-во:"_s, u"1"_s));
+}
+
+TEST_F(Scanner, FillsTheFieldOfTheFormFromAnyOther) {
+  GoodsEntry entry;
+  entry.record.name = u"Мел"_s;
+  entry.record.price = u"1.00"_s;
+  entry.owner_of = [](const QString& code) { return code == u"96385074" ? u"Чай"_s : QString(); };
+  GoodsForm form(entry, nullptr);
+  ShowActive(&form);
+  Scan(u"96385074"_s);
+  EXPECT_EQ(TextOf(&form, "name"), u"Мел"_s);
+  EXPECT_EQ(form.Extras().barcode, u"96385074"_s);
+  Click(&form, "ok");
+  EXPECT_TRUE(form.isVisible()) << "the goods that have it are told";
+  Scan(u"4601234567893"_s);
+  Click(&form, "ok");
+  EXPECT_FALSE(form.isVisible());
 }
 
 }  // namespace
