@@ -2,8 +2,11 @@
 // the fuzzers begin with well-formed ones.
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <cstdio>
 
+#include "books/copies/Archive.h"
+#include "books/copies/CopyNote.h"
 #include "books/store/SaveManifest.h"
 #include "formats/CurrencyFile.h"
 #include "formats/DescriptorFile.h"
@@ -47,6 +50,20 @@ OwnRecords SampleRecords() {
   return records;
 }
 
+QByteArray SampleArchive() {
+  const QTemporaryDir directory;
+  const QByteArray file = QFile::encodeName(QDir(directory.path()).canonicalPath() + u"/a"_s);
+  ArchiveWriter writer(file);
+  writer.AddFile("0001.us", 0, WriteDescriptor({u"0001\\"_s, u"Магазин"_s}));
+  writer.AddDirectory("0001", 0);
+  writer.AddFile("0001/marked", 0, {});
+  writer.Finish([](quint64 sum) {
+    const QDateTime time(QDate(2026, 11, 23), QTime(9, 0));
+    return NoteFrame({.base = u"0001"_s, .name = {}, .time = time, .why = {}, .sum = sum});
+  });
+  return ArchiveBytes(file);
+}
+
 std::vector<Seed> Seeds() {
   using Kind = SaveSet::Kind;
   const std::vector<SaveSet::Change> changes = {
@@ -71,6 +88,7 @@ std::vector<Seed> Seeds() {
       {"ownrecords", WriteOwnRecords(SampleRecords())},
       {"descriptor", WriteDescriptor({u"0001\\"_s, u"Магазин"_s})},
       {"backup", WriteBackupIndex({{u"0001.us"_s, {u"0001\\"_s, u"Магазин"_s}}})},
+      {"archive", SampleArchive()},
       {"check", WriteDocument(DocumentKind::kShipment, SampleDocument({})).replace("\r\n", "\n")},
       {"manifest", ManifestBytes(changes, "/d")},
       {"paths", QByteArray("0001\\spr\\firma.spr")},

@@ -6,6 +6,8 @@
 
 #include "books/check/DocumentCheck.h"
 #include "books/directories/GoodsOrder.h"
+#include "books/copies/Archive.h"
+#include "books/copies/CopyNote.h"
 #include "books/printing/AmountInWords.h"
 #include "books/stock/DocumentScan.h"
 #include "books/stock/StockLedger.h"
@@ -206,6 +208,27 @@ void Numbers(QByteArrayView bytes) {
   }
 }
 
+// Whatever an archive claims, nothing but plain names below its directory comes out of it, and no
+// more than the limits say.
+void Archives(QByteArrayView bytes) {
+  constexpr ArchiveLimits kLimits{.bytes = 1 << 20, .files = 1000};
+  qsizetype size = 0, files = 0;
+  IgnoreErrors([&] {
+    ReadArchive(
+        bytes, "a",
+        [&](const ArchivedFile& file) {
+          size += file.bytes.size();
+          Require(++files <= kLimits.files && size <= kLimits.bytes, "the limits hold");
+          const QByteArray path = '/' + file.name + '/';
+          Require(!path.contains("/../") && !path.contains("//"), "no name leads out");
+          return true;
+        },
+        kLimits);
+  });
+  const auto note = ReadNote(bytes);
+  Require(!note || ReadNote(NoteFrame(*note)), "a note is read as it was written");
+}
+
 void Dates(QByteArrayView bytes) {
   const QString text = DecodeText(bytes);
   const auto date = ParseDate(text);
@@ -243,6 +266,7 @@ constexpr FuzzTarget kTargets[] = {
     {"ownrecords", OwnRecordFiles},
     {"descriptor", Descriptors},
     {"backup", Backups},
+    {"archive", Archives},
     {"check", Checks},
     {"manifest", Manifests},
     {"paths", Paths, false},

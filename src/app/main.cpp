@@ -36,7 +36,7 @@ void KeepToOwner() {
 }
 
 int Run() {
-  const kladez::DataDir data(EnterDataDirectory());
+  kladez::DataDir data(EnterDataDirectory());
   kladez::Guarded(nullptr, [&] {
     kladez::SaveSet::Recover(data);
     kladez::RemoveUnfinishedRestore(data);
@@ -48,7 +48,8 @@ int Run() {
   kladez::SettingsStore settings;
   const kladez::Clock clock;
   const kladez::PrintOutDesk print_outs(data, [&] { kladez::StartReportViewer(data); });
-  kladez::AppContext context{data, session, settings, clock, print_outs};
+  kladez::Safekeeping keeping(data, settings, clock);
+  kladez::AppContext context{data, session, settings, clock, print_outs, {}, {}, &keeping};
   kladez::MainWindow window(context);
   window.Start();
   window.show();

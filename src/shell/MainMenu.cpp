@@ -32,6 +32,7 @@ constexpr auto kCommands = std::to_array<CommandRow>({
     {u"mnuFile", Command::kClose, u"mnuFileClose", u"&Закрыть", true},
     {u"mnuFile", Command::kExit, u"mnuFileExit", u"В&ыход"},
     {u"mnuFile", Command::kCheck, u"mnuCheck", u"&Проверка базы…", true},
+    {u"mnuFile", Command::kUndo, u"mnuUndo", u"О&тменить"},
     {u"mnHelp", Command::kHelp, u"mnuHelp", u"&Справка по Kladez 4.8..."},
     {u"mnHelp", Command::kProductPage, u"mnWeb", u"&Kladez в Интернете", true},
     {u"mnHelp", Command::kNewsPage, u"mnNews", u"&Новости Kladez"},
@@ -43,6 +44,8 @@ constexpr auto kCommands = std::to_array<CommandRow>({
 MainMenu::MainMenu(QMenuBar* bar, QObject* parent) : QObject(parent) {
   file_menu_ = AddMenu(bar, u"mnuFile"_s, u"&Файл"_s);
   AddCommands(file_menu_, u"mnuFile");
+  connect(file_menu_, &QMenu::aboutToShow, this, &MainMenu::FileMenuOpens);
+  ShowUndo({});
   store_menu_ = AddMenu(bar, u"mnu_Sklad"_s, u"&Склад"_s);
   reports_menu_ = AddMenu(bar, u"mnu_Otchet"_s, u"&Отчеты"_s);
   directories_menu_ = AddMenu(bar, u"mnu_Sprav"_s, u"С&правочники"_s);
@@ -130,6 +133,13 @@ void MainMenu::EnableDatabaseCommands(bool enable) {
   commands_[Command::kImport]->setEnabled(enable);
   commands_[Command::kClose]->setEnabled(enable);
   commands_[Command::kCheck]->setEnabled(enable);
+}
+
+void MainMenu::ShowUndo(const QString& what) {
+  QAction* undo = commands_[Command::kUndo];
+  const QString shown = QString(what).replace(u'&', u"&&"_s);
+  undo->setText(what.isEmpty() ? u"О&тменить"_s : u"О&тменить: "_s + shown);
+  undo->setEnabled(!what.isEmpty());
 }
 
 void MainMenu::ApplyRole(bool seller) {

@@ -24,6 +24,7 @@ enum class Command {
   kClose,
   kExit,
   kCheck,
+  kUndo,
   kHelp,
   kProductPage,
   kNewsPage,
@@ -43,8 +44,11 @@ class MainMenu : public QObject {
   void ApplyRole(bool seller);
   // The choice "Оформление", at the end of "Файл"; the stored one holds from now on.
   void OfferSchemes(SettingsStore& settings);
+  // "Отменить: накладная 48 удалена"; an empty text where there is nothing to undo.
+  void ShowUndo(const QString& what);
 
  signals:
+  void FileMenuOpens();
   void Chosen(Place place);
   void Commanded(Command command);
 

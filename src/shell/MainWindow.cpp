@@ -48,6 +48,7 @@ bool LeavesDatabase(Command command) {
     case Command::kImport:
     case Command::kClose:
     case Command::kExit:
+    case Command::kUndo:
       return true;
     default:
       return false;
@@ -67,6 +68,7 @@ MainWindow::MainWindow(AppContext& context)
   BuildLayout();
   connect(menu_, &MainMenu::Chosen, this, &MainWindow::Go);
   connect(menu_, &MainMenu::Commanded, this, &MainWindow::Do);
+  if (context_.keeping != nullptr) AskOfCopies();
   connect(links_panel_, &LinksPanel::Chosen, this, &MainWindow::Go);
   connect(links_strip_, &LinksStrip::Chosen, this, &MainWindow::Go);
   context_.show_progress = Progress([this](double part) {
@@ -93,6 +95,7 @@ MainWindow::MainWindow(AppContext& context)
 
 MainWindow::~MainWindow() {
   KeepTableFolder(nullptr, nullptr);
+  if (context_.keeping != nullptr) context_.keeping->Copies().SetQuestion({});
   context_.show_progress = {};
   if (child_) child_->disconnect(this);
 }
@@ -315,6 +318,9 @@ void MainWindow::Do(Command command) {
       CheckDialog(context_, this).exec();
       Return();
       break;
+    case Command::kUndo:
+      Undo();
+      break;
     case Command::kHelp:
       break;  // it asks nothing of the screens
     case Command::kProductPage:
@@ -337,6 +343,32 @@ void MainWindow::OpenFromCatalogue(CatalogueDialog::Mode mode) {
       mode == CatalogueDialog::Mode::kOpen && !context_.session.chosen_base.isEmpty();
   if (chosen || again) {
     OpenDatabase();
+  } else {
+    Return();
+  }
+}
+
+// What the copies have to ask and to say.
+void MainWindow::AskOfCopies() {
+  Safekeeping& keeping = *context_.keeping;
+  connect(menu_, &MainMenu::FileMenuOpens, this,
+          [this, &keeping] { menu_->ShowUndo(keeping.Undo().Last()); });
+  keeping.Copies().SetQuestion([this](const QString& reason) {
+    QWidget* front = QApplication::activeModalWidget();
+    return AskYesNo(front != nullptr ? front : this,
+                    u"Копию базы сделать не удалось. Всё равно выполнить команду?"_s,
+                    kAttention.toString(), DefaultAnswer::kNo,
+                    u"Вернуть то, что было до неё, будет нечем.\n"_s + reason);
+  });
+  const QString advice = keeping.Copies().SecondPlaceAdvice();
+  if (!advice.isEmpty()) AddNote(advice);
+}
+
+void MainWindow::Undo() {
+  if (context_.keeping == nullptr) return;
+  Guarded(this, [this] { context_.keeping->Undo().UndoLast(context_.session); });
+  if (context_.session.IsOpen()) {
+    OpenDatabase();  // its lists may be other ones now
   } else {
     Return();
   }

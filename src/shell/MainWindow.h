@@ -54,6 +54,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void OpenFromCatalogue(CatalogueDialog::Mode mode);
   void Create();
   void CloseDatabase();
+  void Undo();
   void Exit();
 
   void ShowPanels(bool show);
@@ -61,6 +62,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void ShowHome();
   void ShowLanding();
   void Return();
+  void AskOfCopies();
   void ShowFoot();
 
   AppContext& context_;

@@ -1,5 +1,7 @@
 #include "tour/Stage.h"
 
+#include <QFileInfo>
+
 namespace kladez {
 namespace {
 
@@ -15,8 +17,10 @@ Stage::Stage(const QString& data_directory, const QString& settings_file, const 
       settings_(settings_file),
       clock_(clock),
       desk_(data_, std::move(page_ready)),
-      context_{data_, session_, settings_, clock_, desk_},
+      keeping_(data_, settings_, clock_),
+      context_{data_, session_, settings_, clock_, desk_, {}, {}, &keeping_},
       window_(context_) {
+  qputenv("XDG_STATE_HOME", QFile::encodeName(QFileInfo(settings_file).absolutePath()));
   window_.resize(1280, 800);
 }
 

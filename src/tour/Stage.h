@@ -11,7 +11,8 @@ namespace kladez {
 
 class Stage {
  public:
-  // `page_ready` runs when a print-out lies as out.htm in the data directory.
+  // Copies of the books lie beside the settings. `page_ready` runs when a print-out lies as out.htm
+  // in the data directory.
   Stage(
       const QString& data_directory, const QString& settings_file, const Clock& clock,
       std::function<void()> page_ready = [] {});
@@ -27,6 +28,7 @@ class Stage {
   SettingsStore settings_;
   Clock clock_;
   PrintOutDesk desk_;
+  Safekeeping keeping_;
   AppContext context_;
   MainWindow window_;
 };

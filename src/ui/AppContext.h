@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include "books/copies/Safekeeping.h"
 #include "books/printing/PrintOutDesk.h"
 #include "books/store/Clock.h"
 #include "books/store/DataDir.h"
@@ -29,6 +30,9 @@ struct AppContext {
   // above the screens that offer it, so that they reach it by this.
   std::function<void(QWidget* parent, const QString& goods, const QString& warehouse)>
       show_goods_history = {};
+  // Copies before changes, and the last commands to be undone; none where a part of the program
+  // stands alone.
+  Safekeeping* keeping = nullptr;
 };
 
 }  // namespace kladez

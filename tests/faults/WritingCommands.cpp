@@ -4,6 +4,7 @@
 
 #include "SmallBooks.h"
 #include "books/check/Repairs.h"
+#include "books/copies/UndoLog.h"
 #include "books/directories/GoodsDirectory.h"
 #include "books/directories/GoodsMarks.h"
 #include "books/directories/MainCurrency.h"
@@ -16,6 +17,7 @@
 #include "books/store/Backup.h"
 #include "books/store/Import.h"
 #include "books/store/SaveSet.h"
+#include "books/store/SaveWatch.h"
 
 namespace kladez {
 namespace {
@@ -186,6 +188,49 @@ std::vector<WritingCommand> DirectoryCommands() {
   };
 }
 
+// Keeps what the commands replace, and makes no copies.
+class OnlyUndo : public SaveWatch {
+ public:
+  explicit OnlyUndo(const DataDir& data) : data_(data), log(data_) { data_.SetWatch(this); }
+  void BeforeSave(const SaveSet& save) override { log.BeforeSave(save); }
+  void AfterSave(const SaveSet& save) override { log.AfterSave(save); }
+
+ private:
+  DataDir data_;
+
+ public:
+  const DataDir& Data() const { return data_; }
+  UndoLog log;
+};
+
+template <typename Command>
+WritingCommand Undone(const std::string& name, Command command) {
+  return {name, "books/copies/UndoLog.cpp",
+          [=](FaultBooks& books) {
+            auto undo = std::make_shared<OnlyUndo>(books.Data());
+            command(undo->Data(), books.Opened());
+            return [=, &books] { undo->log.UndoLast(books.Opened()); };
+          },
+          Beside::kSecondDatabaseAndBackup};
+}
+
+std::vector<WritingCommand> UndoneCommands() {
+  return {
+      Undone("отмена, удаление прихода",
+             [](const DataDir& data, Session& session) {
+               DeleteDocument(data, session, DocumentKind::kReceipt, kMainWarehouse, u"0001.prh"_s,
+                              true);
+             }),
+      Undone("отмена, переименование склада",
+             [](const DataDir& data, Session& session) {
+               WarehouseDirectory(data, session).Rename(1, u"Ларёк"_s);
+             }),
+      Undone(
+          "отмена, удаление базы",
+          [](const DataDir& data, Session&) { DeleteDatabase(data, ListDatabases(data).at(1)); }),
+  };
+}
+
 std::vector<WritingCommand> StockCommands() {
   return {
       {"занесение остатков", "books/stock/OpeningBalances.cpp",
@@ -279,7 +324,8 @@ std::vector<WritingCommand> StoreCommands() {
 const std::vector<WritingCommand>& WritingCommands() {
   static const std::vector<WritingCommand> commands = [] {
     std::vector<WritingCommand> all;
-    for (auto part : {DocumentCommands(), DirectoryCommands(), StockCommands(), StoreCommands()}) {
+    for (auto part : {DocumentCommands(), DirectoryCommands(), StockCommands(), UndoneCommands(),
+                      StoreCommands()}) {
       all.insert(all.end(), part.begin(), part.end());
     }
     return all;

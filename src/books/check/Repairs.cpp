@@ -142,7 +142,8 @@ QString RepairQuestion(const Finding& finding) {
 
 bool MakeRepair(const DataDir& data, Session& session, const Finding& finding,
                 const CopyFirst& copy_first) {
-  SaveSet save(data);
+  SaveSet save(data, u"починка файла «%1»"_s.arg(finding.file));
+  save.CopyFirst();
   if (!AddRepair(save, data, session, finding)) return false;
   if (copy_first) copy_first(session.base_path);
   save.Commit();

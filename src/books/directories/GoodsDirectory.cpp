@@ -162,6 +162,7 @@ void GoodsDirectory::Remove(int row) {
 void GoodsDirectory::Sort() {
   BeforeChange();
   rows_ = SortedInGroups(rows_.Records());
+  sorted_ = true;
 }
 
 void GoodsDirectory::SaveChange(int row) {
@@ -211,11 +212,14 @@ void GoodsDirectory::SaveBeforePick() {
 }
 
 void GoodsDirectory::Write(const QByteArray& bytes) {
-  SaveSet save(data_);
+  SaveSet save(data_, u"справочник товаров записан"_s);
   save.Write(path_, bytes, file_);
   OwnRecordsFile extras = *extras_;
   extras.Gather(save);
+  // Nobody could put them in their old order again.
+  if (sorted_) save.CopyFirst();
   save.Commit();
+  sorted_ = false;
   extras_.emplace(extras);
 }
 

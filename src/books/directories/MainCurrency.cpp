@@ -6,6 +6,8 @@
 
 namespace kladez {
 
+using namespace Qt::StringLiterals;
+
 Currency LoadMainCurrency(const DataDir& data, const Session& session, FileState& file) {
   const QByteArray bytes = ReadIfThere(data, session.Path(files::kCurrency), file);
   return file.exists ? ReadCurrency(bytes) : RoubleCurrency();
@@ -22,7 +24,7 @@ std::optional<TaxRates> LoadTaxRates(const DataDir& data, const Session& session
 
 void SaveMainCurrency(const DataDir& data, Session& session, const Currency& currency,
                       FileState& file, const TaxRates& rates, FileState& rates_file) {
-  SaveSet save(data);
+  SaveSet save(data, u"основная валюта записана"_s);
   save.Write(session.Path(files::kCurrency), WriteCurrency(currency), file);
   FileState now;
   if (LoadTaxRates(data, session, now) != rates) {

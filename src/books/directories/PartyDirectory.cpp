@@ -16,7 +16,10 @@ void PartyDirectory::Reload() {
 }
 
 void PartyDirectory::Save() {
-  SaveSet save(data_);
+  static constexpr QStringView kWhat[] = {u"справочник фирм записан",
+                                          u"справочник клиентов записан",
+                                          u"справочник поставщиков записан"};
+  SaveSet save(data_, kWhat[static_cast<size_t>(kind_)].toString());
   save.Write(Path(), WriteParties(rows_), file_);
   save.Commit();
   saved_ = rows_;

@@ -59,7 +59,7 @@ void WarehouseDirectory::Create(const QString& name) {
   }
   QStringList names = names_;
   names.append(name);
-  SaveSet save(data_);
+  SaveSet save(data_, u"склад «%1» создан"_s.arg(name));
   WriteList(save, names);
   AddNewWarehouse(save, path);
   save.Commit();
@@ -69,7 +69,7 @@ void WarehouseDirectory::Create(const QString& name) {
 void WarehouseDirectory::Rename(int row, const QString& name) {
   if (name == names_[row]) return;
   RefuseAllWarehouses(name);
-  SaveSet save(data_);
+  SaveSet save(data_, u"склад «%1» переименован"_s.arg(names_[row]));
   save.RenameDirectory(PathOf(session_, names_[row]), PathOf(session_, name));
   save.Commit();
   names_[row] = name;
@@ -80,7 +80,7 @@ void WarehouseDirectory::Delete(int row) {
   QStringList names = names_;
   names.removeAt(row);
   const QString path = PathOf(session_, names_[row]);
-  SaveSet save(data_);
+  SaveSet save(data_, u"склад «%1» удалён"_s.arg(names_[row]));
   // A rename that was not saved leaves a name without a directory; it must not stay for ever.
   if (data_.DirectoryExists(path)) save.DeleteTree(path);
   WriteList(save, names);
@@ -89,7 +89,7 @@ void WarehouseDirectory::Delete(int row) {
 }
 
 void WarehouseDirectory::Save() {
-  SaveSet save(data_);
+  SaveSet save(data_, u"список складов записан"_s);
   WriteList(save, names_);
   save.Commit();
   TakeOver(names_);

@@ -53,7 +53,7 @@ PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
 }
 
 void PriceStore::Save(PriceList& list, const QString& warehouse, int index) const {
-  SaveSet save(data_);
+  SaveSet save(data_, u"прайс-лист записан"_s);
   save.Write(MarksPath(session_), list.MarkedBytes(), list.marks_file);
   save.Write(FileOf(warehouse, index), list.PriceBytes(), list.price_file);
   save.Commit();
@@ -75,7 +75,7 @@ bool PriceStore::Paste(PriceList& list, const QString& warehouse, int index) con
   if (!data_.FileExists(kClipboard)) return false;
   PriceList pasted = list;
   pasted.Paste(data_.Read(kClipboard));
-  SaveSet save(data_);
+  SaveSet save(data_, u"прайс-лист вставлен"_s);
   save.Write(FileOf(warehouse, index), pasted.PriceBytes(), pasted.price_file);
   save.Commit();
   list = std::move(pasted);

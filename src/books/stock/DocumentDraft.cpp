@@ -158,7 +158,7 @@ DocumentDraft::Outcome DocumentDraft::EnterAnew() {
   const QString old_path = directory + u'\\' + file_;
   const QString new_file = FreeDocumentFile(place_.data, place_.kind, directory);
   const Document old = ReadDocument(place_.kind, place_.data.Read(old_path));
-  SaveSet save(place_.data);
+  SaveSet save(place_.data, u"накладная %1 записана"_s.arg(head_.number));
   save.Delete(old_path);
   save.WriteNew(directory + u'\\' + new_file, WriteDocument(place_.kind, ToDocument()));
   std::map<QString, QByteArray> ledgers;
@@ -188,7 +188,7 @@ DocumentDraft::Outcome DocumentDraft::Save() {
   if (is_new_ && !document_file_.exists && place_.data.FileExists(DocumentFile())) {
     return Outcome::kFileExists;
   }
-  SaveSet save(place_.data);
+  SaveSet save(place_.data, u"накладная %1 записана"_s.arg(head_.number));
   save.Write(DocumentFile(), WriteDocument(place_.kind, ToDocument()), document_file_);
   if (Posts()) {
     const std::vector<LedgerRecord> records = Records();

@@ -83,9 +83,10 @@ QString DocumentRegister::StatusText() const {
 void DeleteDocument(const DataDir& data, const Session& session, DocumentKind kind,
                     const QString& warehouse, const QString& file, bool reverse) {
   const QString path = DocumentPath(session, kind, warehouse, file);
-  SaveSet save(data);
+  const QByteArray bytes = reverse ? data.Read(path) : data.ReadIfAny(path).value_or(QByteArray());
+  const Document document = ReadDocument(kind, bytes);
+  SaveSet save(data, u"накладная %1 удалена"_s.arg(document.head.number));
   if (reverse) {
-    const Document document = ReadDocument(kind, data.Read(path));
     for (const LedgerEffect& effect : BookOf(kind).effects) {
       AppendToLedger(save, LedgerPath(session, WarehouseOf(effect, document.head, warehouse)),
                      ReversalOf(effect, document));

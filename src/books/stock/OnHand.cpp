@@ -52,8 +52,10 @@ std::vector<QByteArrayView> NamesOf(const std::vector<OnHandPlace>& places, QByt
 QString GoodsPath(const Session& session) { return session.Path(files::kGoods); }
 
 void SaveLedger(OnHandList& list, const DataDir& data, const Session& session,
-                const QString& warehouse, QByteArray bytes) {
-  SaveSet save(data);
+                const QString& warehouse, QByteArray bytes, bool zeroed) {
+  SaveSet save(
+      data, (zeroed ? u"склад «%1» обнулён"_s : u"остатки склада «%1» записаны"_s).arg(warehouse));
+  if (zeroed) save.CopyFirst();
   save.Expect(GoodsPath(session), list.goods_file);
   save.Write(LedgerPath(session, warehouse), std::move(bytes), list.ledger_file);
   save.Commit();
@@ -197,12 +199,12 @@ OnHandList LoadOnHand(const DataDir& data, const Session& session, const QString
 
 void SaveOnHand(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse) {
-  SaveLedger(list, data, session, warehouse, list.LedgerBytes());
+  SaveLedger(list, data, session, warehouse, list.LedgerBytes(), false);
 }
 
 void ZeroOnHand(OnHandList& list, const DataDir& data, const Session& session,
                 const QString& warehouse) {
-  SaveLedger(list, data, session, warehouse, list.ZeroedLedgerBytes());
+  SaveLedger(list, data, session, warehouse, list.ZeroedLedgerBytes(), true);
 }
 
 }  // namespace kladez

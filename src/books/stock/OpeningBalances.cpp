@@ -6,6 +6,8 @@
 
 namespace kladez {
 
+using namespace Qt::StringLiterals;
+
 void OpeningBalances::Add(const GoodsPick& pick) {
   rows_.push_back({pick.name, pick.quantity, pick.unit});
 }
@@ -29,7 +31,7 @@ void OpeningBalances::Book(const DataDir& data, const Session& session,
   FileState file;
   StockLedger ledger(ReadWithState(data, path, file));
   ledger.Post(Posting::kReceive, goods);
-  SaveSet save(data);
+  SaveSet save(data, u"остатки занесены на склад «%1»"_s.arg(warehouse));
   save.Write(path, ledger.Bytes(), file);
   save.Commit();
 }

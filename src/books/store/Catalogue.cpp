@@ -136,14 +136,14 @@ void AddNewWarehouse(SaveSet& save, const QString& path) {
 }
 
 QString CreateDatabase(const DataDir& data, const QString& name) {
-  SaveSet save(data);
+  SaveSet save(data, u"база «%1» создана"_s.arg(name));
   QString base = AddNewDatabase(save, FreeDatabaseNumber(data), name);
   save.Commit();
   return base;
 }
 
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name) {
-  SaveSet save(data);
+  SaveSet save(data, u"база «%1» переименована"_s.arg(entry.descriptor.name));
   // Read anew: a descriptor that can't be read is not to lose its path.
   FileState file;
   const DatabaseDescriptor old = ReadDescriptor(ReadWithState(data, entry.file, file));
@@ -153,7 +153,7 @@ void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QStr
 
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
   RequirePlainPath(data, entry);
-  SaveSet save(data);
+  SaveSet save(data, u"база «%1» удалена"_s.arg(entry.descriptor.name));
   if (data.DirectoryExists(entry.descriptor.path)) save.DeleteTree(entry.descriptor.path);
   save.Delete(entry.file);
   save.Commit();

@@ -15,6 +15,8 @@ namespace kladez {
 // there.
 inline constexpr char kStagingName[] = ".kladez-save";
 
+class SaveWatch;
+
 class DataDir {
  public:
   // `root` is a directory of the machine; the program gives its working directory.
@@ -22,6 +24,10 @@ class DataDir {
 
   // The directory of all Databases, absolute, without a separator at the end.
   const QString& Root() const { return root_; }
+
+  // Whoever looks on as its files are saved (SaveWatch.h); it outlives this or is taken off again.
+  void SetWatch(SaveWatch* watch) { watch_ = watch; }
+  SaveWatch* Watch() const { return watch_; }
 
   // The machine's path of a path of the system. Parts that exist are found by their exact spelling
   // first, else whatever their case, Latin and Cyrillic; parts that don't keep the spelling given.
@@ -56,6 +62,7 @@ class DataDir {
 
  private:
   QString root_;  // canonical, without a separator at the end
+  SaveWatch* watch_ = nullptr;
 };
 
 // "0001\": one plain directory name with a backslash, the only form of a Database's path that is

@@ -23,7 +23,9 @@ using namespace Qt::StringLiterals;
 class Gathering {
  public:
   Gathering(const DataDir& data, const QString& source, const QString& destination)
-      : data_(data), source_(source), destination_(destination), save_(data) {}
+      : data_(data), source_(source), destination_(destination), save_(data, u"импорт"_s) {
+    save_.CopyFirst();
+  }
 
   void Commit() { save_.Commit(); }
 

@@ -1,9 +1,15 @@
 #include "books/store/Notes.h"
 
+#include <mutex>
 #include <utility>
 
 namespace kladez {
 namespace {
+
+std::mutex& Mutex() {
+  static std::mutex mutex;
+  return mutex;
+}
 
 QStringList& Notes() {
   static QStringList notes;
@@ -12,8 +18,14 @@ QStringList& Notes() {
 
 }  // namespace
 
-void AddNote(const QString& text) { Notes().append(text); }
+void AddNote(const QString& text) {
+  const std::lock_guard lock(Mutex());
+  Notes().append(text);
+}
 
-QStringList TakeNotes() { return std::exchange(Notes(), {}); }
+QStringList TakeNotes() {
+  const std::lock_guard lock(Mutex());
+  return std::exchange(Notes(), {});
+}
 
 }  // namespace kladez

@@ -7,7 +7,7 @@
 
 namespace kladez {
 
-// Keeps a sentence for the next window, in the order in which they come; gives all of them.
+// Keeps a sentence for the next window, from any thread; gives all of them in their order.
 void AddNote(const QString& text);
 QStringList TakeNotes();  // and forgets them
 

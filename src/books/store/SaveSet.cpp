@@ -6,6 +6,7 @@
 
 #include "books/store/Errors.h"
 #include "books/store/SaveJournal.h"
+#include "books/store/SaveWatch.h"
 
 namespace kladez {
 
@@ -112,9 +113,18 @@ void SaveSet::RenameDirectory(const QString& from, const QString& to) {
       {.kind = Kind::kRename, .path = std::move(source), .to = std::move(target), .bytes = {}});
 }
 
+bool SaveSet::NeedsCopy() const {
+  return copy_first_ || std::any_of(changes_.begin(), changes_.end(), [](const Change& change) {
+           return change.kind == Kind::kDeleteTree || change.kind == Kind::kRename;
+         });
+}
+
 void SaveSet::Commit() {
   if (changes_.empty()) return;
+  SaveWatch* const watch = data_.Watch();
+  if (watch != nullptr) watch->BeforeSave(*this);
   SaveJournal(data_).Commit(changes_, expected_);
+  if (watch != nullptr) watch->AfterSave(*this);
   for (const Expectation& expected : expected_) {
     if (expected.written == nullptr) continue;
     const Change* last = LastChangeOf(expected.path);

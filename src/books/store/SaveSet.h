@@ -22,7 +22,13 @@ namespace kladez {
 class SaveSet {
  public:
   // An empty set; nothing is touched before Commit. The data directory outlives it.
-  explicit SaveSet(const DataDir& data) : data_(data) {}
+  // `what` says in a person's words what has been done, to stand behind "Отменить: ": "накладная 48
+  // удалена". It is empty where no person has changed books, as for a page that is printed.
+  explicit SaveSet(const DataDir& data, const QString& what = {}) : data_(data), what_(what) {}
+
+  // A copy of each Database that is changed is made first: the command replaces what nobody could
+  // type again. Deleting or renaming a directory asks for it by itself.
+  void CopyFirst() { copy_first_ = true; }
 
   // Each takes paths of the system and throws filesystem_error for one that leads out. A path is
   // looked up on the disk as it is before the commit, so nothing inside a directory that the same
@@ -72,11 +78,19 @@ class SaveSet {
     FileState* written = nullptr;  // gets the state of what was written
   };
 
+  // For whoever looks on (SaveWatch.h).
+  const DataDir& Data() const { return data_; }
+  const QString& What() const { return what_; }
+  const std::vector<Change>& Changes() const { return changes_; }
+  bool NeedsCopy() const;
+
  private:
   QByteArray Target(const QString& path) const;
   Change* LastChangeOf(const QByteArray& target);
 
   const DataDir& data_;
+  const QString what_;
+  bool copy_first_ = false;
   std::vector<Change> changes_;
   std::vector<Expectation> expected_;
 };

@@ -45,6 +45,11 @@ inline constexpr Setting kBackupFolder{u"Kladez4", u"Copies", u"Backup", u""};
 inline constexpr Setting kRestoreFolder{u"Kladez4", u"Copies", u"Restore", u""};
 // The folder that tables were saved in.
 inline constexpr Setting kTableFolder{u"Kladez4", u"Tables", u"Folder", u""};
+// Of the time machine: megabytes for all copies, the second place for them, and the day on which
+// that was there last.
+inline constexpr Setting kCopyRoom{u"Kladez4", u"Copies", u"Room", u"500"};
+inline constexpr Setting kSecondPlace{u"Kladez4", u"Copies", u"Second", u""};
+inline constexpr Setting kSecondSeen{u"Kladez4", u"Copies", u"Seen", u""};
 inline constexpr Setting kSort{u"Kladez4", u"Sorting", u"Sort", u"AZ"};
 // The register of transfers keeps its order apart from the others, under the shorter root.
 inline constexpr Setting kTransferSort{u"Kladez", u"Sorting", u"Sort", u"AZ"};

@@ -218,6 +218,12 @@ int NewFile::Sync() {
   return Result(::fsync(fd_), {.call = "fsync", .path = path_});
 }
 
+void NewFile::SetTime(qint64 seconds) {
+  const timespec time = {.tv_sec = seconds, .tv_nsec = 0};
+  const std::array<timespec, 2> times = {time, time};
+  ::futimens(fd_, times.data());
+}
+
 int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {
   NewFile file(path);
   if (const int error = file.Create(mode)) return error;

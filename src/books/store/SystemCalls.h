@@ -71,6 +71,7 @@ class NewFile {
   // All of the bytes, behind what was written before; what was written reaches the disk.
   int Write(QByteArrayView bytes);
   int Sync();
+  void SetTime(qint64 seconds);  // since 1970; a file system that keeps no times is no fault
 
  private:
   const QByteArray path_;
