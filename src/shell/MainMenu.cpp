@@ -32,6 +32,7 @@ constexpr auto kCommands = std::to_array<CommandRow>({
     {u"mnuFile", Command::kClose, u"mnuFileClose", u"&Закрыть", true},
     {u"mnuFile", Command::kExit, u"mnuFileExit", u"В&ыход"},
     {u"mnuFile", Command::kCheck, u"mnuCheck", u"&Проверка базы…", true},
+    {u"mnuFile", Command::kTimeMachine, u"mnuTimeMachine", u"&Машина времени…"},
     {u"mnuFile", Command::kUndo, u"mnuUndo", u"О&тменить"},
     {u"mnHelp", Command::kHelp, u"mnuHelp", u"&Справка по Kladez 4.8..."},
     {u"mnHelp", Command::kProductPage, u"mnWeb", u"&Kladez в Интернете", true},

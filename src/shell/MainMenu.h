@@ -25,6 +25,7 @@ enum class Command {
   kExit,
   kCheck,
   kUndo,
+  kTimeMachine,
   kHelp,
   kProductPage,
   kNewsPage,

@@ -15,6 +15,7 @@
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
 #include "screens/store/RestoreWizard.h"
+#include "screens/store/TimeMachineDialog.h"
 #include "shell/AboutDialog.h"
 #include "shell/HomeScreen.h"
 #include "shell/LandingScreen.h"
@@ -49,6 +50,7 @@ bool LeavesDatabase(Command command) {
     case Command::kClose:
     case Command::kExit:
     case Command::kUndo:
+    case Command::kTimeMachine:
       return true;
     default:
       return false;
@@ -321,6 +323,9 @@ void MainWindow::Do(Command command) {
     case Command::kUndo:
       Undo();
       break;
+    case Command::kTimeMachine:
+      OpenTimeMachine();
+      break;
     case Command::kHelp:
       break;  // it asks nothing of the screens
     case Command::kProductPage:
@@ -362,6 +367,16 @@ void MainWindow::AskOfCopies() {
   });
   const QString advice = keeping.Copies().SecondPlaceAdvice();
   if (!advice.isEmpty()) AddNote(advice);
+}
+
+void MainWindow::OpenTimeMachine() {
+  TimeMachineDialog dialog(context_, this);
+  dialog.exec();
+  if (dialog.HasBroughtBack() && context_.session.IsOpen()) {
+    OpenDatabase();
+  } else {
+    Return();
+  }
 }
 
 void MainWindow::Undo() {

@@ -55,6 +55,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void Create();
   void CloseDatabase();
   void Undo();
+  void OpenTimeMachine();
   void Exit();
 
   void ShowPanels(bool show);

@@ -152,6 +152,15 @@ void VisitCheck(Robot& robot) {
   ShowAndLeave(robot, u"check"_s);
 }
 
+void VisitTimeMachine(Robot& robot) {
+  robot.OpenMenu(u"mnuTimeMachine"_s);
+  robot.WaitFor(u"timemachine"_s);
+  robot.Click(u"make"_s);
+  ShowDialog(robot, u"settings"_s, u"copyoptions"_s);
+  ShowDialog(robot, u"look"_s, u"copylook"_s);
+  ShowAndLeave(robot, u"timemachine"_s);
+}
+
 void VisitDialogs(Robot& robot) {
   struct Visit {
     QStringView menu;
@@ -213,6 +222,7 @@ void VisitScreens(Robot& robot) {
   robot.OpenMenu(u"mnu_order"_s);
   ShowAndLeave(robot, u"order"_s);
   VisitCheck(robot);
+  VisitTimeMachine(robot);
   VisitCatalogue(robot);
 }
 

@@ -4,7 +4,9 @@
 
 #include "SmallBooks.h"
 #include "books/check/Repairs.h"
+#include "books/copies/CopyJob.h"
 #include "books/copies/UndoLog.h"
+#include "books/copies/UnpackedCopy.h"
 #include "books/directories/GoodsDirectory.h"
 #include "books/directories/GoodsMarks.h"
 #include "books/directories/MainCurrency.h"
@@ -225,6 +227,24 @@ std::vector<WritingCommand> UndoneCommands() {
              [](const DataDir& data, Session& session) {
                WarehouseDirectory(data, session).Rename(1, u"Ларёк"_s);
              }),
+      {"машина времени, список", "books/copies/UnpackedCopy.cpp",
+       [](FaultBooks& books) {
+         static const QTemporaryDir state;
+         qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
+         const QByteArray folder = CopiesFolder(books.Data());
+         CopyJob(
+             {.root = QFile::encodeName(books.Data().Root()),
+              .tree = "0001",
+              .descriptor = "0001.us",
+              .folder = folder,
+              .second = {},
+              .room = 1 << 30,
+              .note = {.base = u"0001"_s, .name = {}, .time = kBooksDay.startOfDay(), .why = {}}})
+             .Wait();
+         auto copy = std::make_shared<UnpackedCopy>(ListCopies(folder).at(0));
+         QFile::remove(books.Data().Resolve(u"0001\\SPR\\товар.spr"_s));
+         return [=, &books] { BringBackList(books.Data(), *copy, ListsOf(*copy).at(0)); };
+       }},
       Undone(
           "отмена, удаление базы",
           [](const DataDir& data, Session&) { DeleteDatabase(data, ListDatabases(data).at(1)); }),

@@ -313,6 +313,17 @@ std::vector<GoldenCase> StoreCases() {
            },
        Click(u"mend"_s) >> Yes(), Changed(kBase + "marked", u"Чай"_s),
        Beside::kSecondDatabaseAndBackup},
+      {"timemachine", "машина времени: вся база",
+       Menu(u"mnuTimeMachine"_s, u"timemachine"_s) >> Click(u"make"_s), Click(u"whole"_s) >> Yes(),
+       Copied("data/0001/", "data/0002/") + Changed("data/0002.us", u"0002\\\nЛавка (копия)"_s)},
+      {"copylook", "машина времени: список",
+       Menu(u"mnuTimeMachine"_s, u"timemachine"_s) >> Click(u"make"_s) >>
+           Open(u"look"_s, u"copylook"_s) >>
+           [](Robot& robot) {
+             robot.OpenTab(u"tabs"_s, u"Списки"_s);
+             robot.SelectRow(u"lists"_s, u"Фирмы"_s);
+           },
+       Click(u"back"_s) >> Yes(), [](Tree&) {}, Beside::kNothing, "copylook"},
       {"BasesImport Import", "импорт",
        Menu(u"mnuimp"_s, u"BasesImport"_s) >> Select(u"Вторая"_s) >>
            Open(u"Command1"_s, u"Import"_s) >> CheckAt(u"Check1"_s),

@@ -15,6 +15,7 @@ inline const std::set<QString> kScreens = {
     QStringLiteral("TovUhod"),      QStringLiteral("TovUhod_Ass"), QStringLiteral("UhodNew"),
     QStringLiteral("UhodSch"),      QStringLiteral("about"),       QStringLiteral("chFactPrint"),
     QStringLiteral("change"),       QStringLiteral("check"),       QStringLiteral("checkplace"),
+    QStringLiteral("copylook"),     QStringLiteral("copyoptions"), QStringLiteral("timemachine"),
     QStringLiteral("colvo"),        QStringLiteral("currenc"),     QStringLiteral("frmSplash"),
     QStringLiteral("graphic"),      QStringLiteral("helper"),      QStringLiteral("history"),
     QStringLiteral("main2"),        QStringLiteral("order"),       QStringLiteral("ost"),

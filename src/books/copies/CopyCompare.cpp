@@ -44,7 +44,7 @@ Sort SortOf(const QByteArray& name) {
   if (KindOf(name)) return Sort::kDocument;
   const QString folded = FoldCase(QFile::decodeName(name).section(u'/', 1).replace(u'/', u'\\'));
   if (folded == FoldCase(files::kGoods.toString())) return Sort::kGoods;
-  const bool ledger = folded.endsWith(FoldCase(u'\\' + files::kLedger.toString()));
+  const bool ledger = folded.endsWith(FoldCase(QString(u'\\' + files::kLedger.toString())));
   return ledger ? Sort::kLedger : Sort::kOther;
 }
 

@@ -3,7 +3,7 @@
 #include <archive_entry.h>
 #include <gtest/gtest.h>
 
-#include "CopiesWorld.h"
+#include "books/copies/CopiesWorld.h"
 #include "books/store/Errors.h"
 
 namespace kladez {

@@ -3,7 +3,7 @@
 
 #include <cerrno>
 
-#include "CopiesWorld.h"
+#include "books/copies/CopiesWorld.h"
 #include "books/store/Errors.h"
 #include "books/store/Notes.h"
 #include "books/store/Progress.h"

@@ -2,7 +2,7 @@
 // files since.
 #include <gtest/gtest.h>
 
-#include "CopiesWorld.h"
+#include "books/copies/CopiesWorld.h"
 #include "books/directories/WarehouseDirectory.h"
 #include "books/store/Errors.h"
 
