@@ -90,6 +90,7 @@ std::vector<Seed> Seeds() {
       {"backup", WriteBackupIndex({{u"0001.us"_s, {u"0001\\"_s, u"Магазин"_s}}})},
       {"archive", SampleArchive()},
       {"check", WriteDocument(DocumentKind::kShipment, SampleDocument({})).replace("\r\n", "\n")},
+      {"settings", QByteArray("[Kladez4]\nMain\\basename=\"0001\\\\\"\nOptions\\Tip=1\n")},
       {"manifest", ManifestBytes(changes, "/d")},
       {"paths", QByteArray("0001\\spr\\firma.spr")},
       {"numbers", QByteArray("- 1 234,50e-2")},

@@ -5,9 +5,9 @@
 #include <stdexcept>
 
 #include "books/check/DocumentCheck.h"
-#include "books/directories/GoodsOrder.h"
 #include "books/copies/Archive.h"
 #include "books/copies/CopyNote.h"
+#include "books/directories/GoodsOrder.h"
 #include "books/printing/AmountInWords.h"
 #include "books/stock/DocumentScan.h"
 #include "books/stock/StockLedger.h"
@@ -18,6 +18,7 @@
 #include "formats/DescriptorFile.h"
 #include "formats/GoodsFile.h"
 #include "formats/GoodsRows.h"
+#include "formats/IniFile.h"
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 #include "formats/Ordering.h"
@@ -208,6 +209,18 @@ void Numbers(QByteArrayView bytes) {
   }
 }
 
+// A value comes back as it was written, whatever else stands in the file.
+void Settings(QByteArrayView bytes) {
+  RequireStable(
+      bytes, [](QByteArrayView file) { return ReadIni(file.toByteArray()); }, WriteIni);
+  IniLines lines = ReadIni(bytes.toByteArray());
+  const QString section = u"Kladez4"_s, key = u"Main\\basename"_s;
+  IniText(lines, section, key);
+  const QString text = DecodeText(bytes.first(std::min<qsizetype>(bytes.size(), 200)));
+  SetIniText(lines, section, key, text);
+  Require(IniText(ReadIni(WriteIni(lines)), section, key) == text, "a value is kept");
+}
+
 // Whatever an archive claims, nothing but plain names below its directory comes out of it, and no
 // more than the limits say.
 void Archives(QByteArrayView bytes) {
@@ -268,6 +281,7 @@ constexpr FuzzTarget kTargets[] = {
     {"backup", Backups},
     {"archive", Archives},
     {"check", Checks},
+    {"settings", Settings},
     {"manifest", Manifests},
     {"paths", Paths, false},
     {"numbers", Numbers, false},

@@ -130,7 +130,7 @@ qsizetype LineOf(const IniLines& lines, std::pair<qsizetype, qsizetype> within,
 IniLines ReadIni(const QByteArray& bytes) {
   IniLines lines = bytes.split('\n');
   for (QByteArray& line : lines) {
-    if (line.endsWith('\r')) line.chop(1);
+    while (line.endsWith('\r')) line.chop(1);
   }
   while (!lines.isEmpty() && lines.constLast().isEmpty()) lines.removeLast();
   return lines;

@@ -319,10 +319,7 @@ std::vector<GoldenCase> StoreCases() {
       {"copylook", "машина времени: список",
        Menu(u"mnuTimeMachine"_s, u"timemachine"_s) >> Click(u"make"_s) >>
            Open(u"look"_s, u"copylook"_s) >>
-           [](Robot& robot) {
-             robot.OpenTab(u"tabs"_s, u"Списки"_s);
-             robot.SelectRow(u"lists"_s, u"Фирмы"_s);
-           },
+           [](Robot& robot) { robot.OpenTab(u"tabs"_s, u"Списки"_s); },
        Click(u"back"_s) >> Yes(), [](Tree&) {}, Beside::kNothing, "copylook"},
       {"BasesImport Import", "импорт",
        Menu(u"mnuimp"_s, u"BasesImport"_s) >> Select(u"Вторая"_s) >>

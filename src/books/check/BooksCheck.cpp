@@ -59,6 +59,7 @@ class Check {
     stock.Tell(result_.findings);
     result_.stock = stock.Compare();
     names_.goods.TellUnknown(u"Товара"_s, result_.findings);
+    Order();
     names_.clients.TellUnknown(u"Клиента"_s, result_.findings);
     names_.suppliers.TellUnknown(u"Поставщика"_s, result_.findings);
     Order();
@@ -79,12 +80,15 @@ class Check {
       } else {
         lists_.Tell(folder.directory + u'\\' + file.name, 0, u"Документ не читается."_s);
       }
+      // Foreign files give more than anybody reads, or memory holds.
+      if (result_.findings.size() > 4 * static_cast<size_t>(kMostFindings)) Order();
       return true;
     };
     data_.ForEachFile(base_ + folder.directory, FormatOf(folder.kind).extension, visit);
     check.Finish();
   }
 
+  // By file; of those beyond kMostFindings nothing but their number is kept.
   void Order() {
     auto& findings = result_.findings;
     std::vector<std::pair<QString, size_t>> keys;
@@ -93,9 +97,10 @@ class Check {
       return a.first != b.first ? a.first < b.first
                                 : findings[a.second].line < findings[b.second].line;
     });
-    result_.untold = std::max<qsizetype>(0, static_cast<qsizetype>(keys.size()) - kMostFindings);
+    const size_t kept = std::min(keys.size(), static_cast<size_t>(kMostFindings));
+    result_.untold += static_cast<qsizetype>(keys.size() - kept);
     std::vector<Finding> ordered;
-    for (size_t i = 0; i < keys.size() - static_cast<size_t>(result_.untold); ++i) {
+    for (size_t i = 0; i < kept; ++i) {
       ordered.push_back(std::move(findings[keys[i].second]));
     }
     findings = std::move(ordered);

@@ -30,7 +30,10 @@ int Distance(QStringView one, QStringView other, int limit) {
 }
 
 // A search through thousands of names for each of thousands would take longer than the check.
-constexpr int kMostSearches = 200;
+constexpr size_t kMostSearches = 200;
+constexpr size_t kMostComparisons = 4'000'000;
+// A longer name is a damaged file; to compare two of them takes time by their product.
+constexpr qsizetype kLongestSearched = 200;
 
 }  // namespace
 
@@ -55,12 +58,14 @@ void KnownNames::Use(size_t number, const QString& file, int line) {
 }
 
 std::optional<QString> KnownNames::Nearest(const QString& text) const {
+  if (text.size() > kLongestSearched) return std::nullopt;
   const QString folded = FoldCase(text.simplified());
   int least = static_cast<int>(folded.size()) / 3 + 1;
   std::optional<QString> nearest;
   for (size_t number = 0; number < names_.size() && least > 0; ++number) {
     if (!names_[number].known) continue;
     const QString name = Text(number);
+    if (name.size() > 2 * kLongestSearched) continue;
     const int distance = Distance(folded, FoldCase(name.simplified()), least - 1);
     if (distance >= least) continue;
     least = distance;
@@ -70,14 +75,15 @@ std::optional<QString> KnownNames::Nearest(const QString& text) const {
 }
 
 void KnownNames::TellUnknown(const QString& what, std::vector<Finding>& findings) const {
-  int searches = 0;
+  const size_t most = std::min(kMostSearches, kMostComparisons / (names_.size() + 1));
+  size_t searches = 0;
   for (size_t number = 0; number < names_.size(); ++number) {
     const Name& name = names_[number];
     if (name.known || name.uses == 0) continue;
     const QString text = Text(number);
     QString told = what + u" «"_s + text + u"» нет в справочнике"_s;
     if (name.uses > 1) told += u" (мест: %1)"_s.arg(name.uses);
-    const auto nearest = ++searches <= kMostSearches ? Nearest(text) : std::nullopt;
+    const auto nearest = ++searches <= most ? Nearest(text) : std::nullopt;
     told += nearest ? u". Похоже на «"_s + *nearest + u"»."_s : u"."_s;
     findings.push_back({name.file, name.line, told});
   }

@@ -79,6 +79,7 @@ TimeMachineDialog::TimeMachineDialog(AppContext& context, QWidget* parent)
   setWindowTitle(u"Машина времени"_s);
   base_->setObjectName(u"base"_s);
   calendar_->setObjectName(u"calendar"_s);
+  calendar_->setLocale(QLocale(QLocale::Russian, QLocale::Russia));
   calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendar_->setAccessibleName(u"Дни, за которые есть копии"_s);
   list_->setObjectName(u"copies"_s);
@@ -186,7 +187,7 @@ void TimeMachineDialog::MarkDays() {
   calendar_->setDateTextFormat({}, {});
   QTextCharFormat marked;
   marked.setFontWeight(QFont::Bold);
-  marked.setBackground(look::kAccentLight);
+  marked.setBackground(QColor(look::kAccentLight));
   for (const StoredCopy& copy : copies_) {
     calendar_->setDateTextFormat(copy.note.time.date(), marked);
   }

@@ -120,15 +120,17 @@ TEST_F(TimeMachineTest, ADamagedCopyIsToldAndTouchesNothing) {
 TEST_F(TimeMachineTest, TheSellerBringsNothingBackAndRoomIsKeptSensible) {
   CopyOptionsDialog options(context_, nullptr);
   Find<QLineEdit>(&options, "room")->setText(u"0"_s);
-  ModalAnswers answers{Press(QMessageBox::Ok)};
-  Find<QPushButton>(&options, "ok")->click();
+  {
+    const ModalAnswers answers{Press(QMessageBox::Ok)};
+    Find<QPushButton>(&options, "ok")->click();
+  }
   EXPECT_EQ(settings_.Read(settings::kCopyRoom), u"500"_s);
   Find<QLineEdit>(&options, "room")->setText(u"70"_s);
   Find<QPushButton>(&options, "ok")->click();
   EXPECT_EQ(keeping_.Copies().Room(), 70);
   session_.role = UserRole::kSeller;
   TimeMachineDialog dialog(context_, nullptr);
-  ModalAnswers answers{Press(QMessageBox::Ok)};
+  ModalAnswers refusal{Press(QMessageBox::Ok)};
   Find<QPushButton>(&dialog, "whole")->click();
   EXPECT_EQ(ListDatabases(world_.Data()).size(), 1u);
 }
