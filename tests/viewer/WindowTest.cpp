@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
@@ -212,6 +213,20 @@ TEST_F(ViewerWindowTest, CopiedRowsComeInColumns) {
   EXPECT_TRUE(copied.contains(u"Кому:Ромашка\n"_s));
   EXPECT_TRUE(
       copied.contains(u"\n1\t Гвозди строительные 100 мм №1 \t2 \t125.50 \t12550.00 \n2\t"_s));
+}
+
+// The view draws the page itself, so that nobody else tells these tools what stands on it.
+TEST_F(ViewerWindowTest, AssistiveToolsReadTheWholePage) {
+  LoadAndShow(WaybillPage(300, u"К"_s));
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(View());
+  ASSERT_NE(access, nullptr);
+  ASSERT_NE(access->textInterface(), nullptr);
+  EXPECT_EQ(access->role(), QAccessible::Document);
+  const QString read = access->textInterface()->text(0, access->textInterface()->characterCount());
+  EXPECT_TRUE(read.contains(u"Ромашка"_s));
+  EXPECT_GT(read.count(u'\n'), 300);
+  LoadAndShow(u"<p>Другая страница"_s);
+  EXPECT_TRUE(access->textInterface()->text(0, 100).contains(u"Другая"_s));
 }
 
 TEST_F(ViewerWindowTest, DraggedOverRectangleHasItsColumnsOnly) {

@@ -103,6 +103,16 @@ QString PageView::SelectedText() const {
   return texts.join(u'\n');
 }
 
+const QString& PageView::Text() const {
+  constexpr qsizetype kMost = 1'000'000;
+  if (strip_ == nullptr || !text_.isEmpty()) return text_;
+  for (const Chunk& chunk : strip_->plan().chunks()) {
+    text_ += PlainTextOf(strip_->plan(), chunk) + u'\n';
+    if (text_.size() > kMost) break;
+  }
+  return text_;
+}
+
 void PageView::Copy() const {
   if (strip_ == nullptr || anchor_ == cursor_) return;
   auto* copied = new QMimeData;

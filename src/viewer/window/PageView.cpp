@@ -10,6 +10,7 @@
 #include <array>
 
 #include "viewer/page/Fonts.h"
+#include "viewer/window/PageAccess.h"
 #include "viewer/window/SelectionText.h"
 #include "viewer/window/ViewerLook.h"
 
@@ -31,6 +32,7 @@ constexpr size_t kKeptCells = 8000;
 
 PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
   setObjectName(u"PageView"_s);
+  PageAccess::Install();
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   // A bar that comes and goes would have the page stand now here, now there.
@@ -57,6 +59,7 @@ void PageView::ShowPage(std::shared_ptr<const PagePlan> plan, double paper_width
   anchor_ = cursor_ = {};
   links_.clear();
   has_links_ = false;
+  text_.clear();
   LayOut();
   verticalScrollBar()->setValue(0);
   horizontalScrollBar()->setValue(0);

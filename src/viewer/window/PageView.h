@@ -41,6 +41,9 @@ class PageView : public QAbstractScrollArea {
   // none on the way. Gives false when there is none at all.
   bool FindText(const QString& text, bool backward);
 
+  // The whole page as it would be copied, a very long one up to a million characters: what
+  // assistive tools read.
+  const QString& Text() const;
   // What is selected: cells of a row are parted by tabs.
   QString SelectedText() const;
   // Where on the view the selection begins.
@@ -106,6 +109,7 @@ class PageView : public QAbstractScrollArea {
   QString pressed_link_;
   std::vector<Link> links_;
   bool has_links_ = false;  // links_ is made
+  mutable QString text_;    // once somebody has asked for it
 };
 
 }  // namespace kladez::viewer
