@@ -90,7 +90,7 @@ class GoodsDirectory {
   GoodsRows rows_;
   std::optional<GoodsRows> saved_;  // the rows before the first change to them
   GoodsRows copy_;
-  bool sorted_ = false;  // since the last save
+  bool sorted_ = false;           // since the last save
   std::vector<Renamed> renamed_;  // with the goods alone shown: what is not in the copy
 };
 
