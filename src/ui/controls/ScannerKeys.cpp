@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "ui/controls/FieldNote.h"
+
 namespace kladez {
 namespace {
 
@@ -77,7 +79,10 @@ void ScannerKeys::TakeBack() {
   for (const Field& field : fields_) {
     if (field.field && field.field->text() != field.text) field.field->setText(field.text);
   }
-  if (focus_) focus_->setFocus(Qt::OtherFocusReason);
+  if (!focus_) return;
+  focus_->setFocus(Qt::OtherFocusReason);
+  // What a list without a search field made of the digits.
+  if (qobject_cast<QLineEdit*>(focus_.data()) == nullptr) FieldNote::Show(focus_, {});
 }
 
 }  // namespace kladez

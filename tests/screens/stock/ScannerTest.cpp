@@ -5,6 +5,7 @@
 #include "screens/directories/GoodsPicker.h"
 #include "screens/directories/QuantityDialog.h"
 #include "screens/stock/documents/DocumentEditor.h"
+#include "ui/controls/FieldNote.h"
 
 namespace kladez {
 namespace {
@@ -35,6 +36,7 @@ TEST_F(Scanner, AddsALineAndThenToItWhateverFieldHasTheKeyboard) {
       Find<QWidget>(&editor, control)->setFocus();
       Scan(u"4601234567893"_s);
       EXPECT_EQ(QApplication::focusWidget()->objectName(), QString::fromLatin1(control));
+      EXPECT_EQ(FieldNote::Of(Find<QWidget>(&editor, control)), QString());
     }
     EXPECT_TRUE(editor.isVisible());
     EXPECT_EQ(TextOf(&editor, "number"), number);
