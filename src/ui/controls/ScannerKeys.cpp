@@ -10,7 +10,8 @@
 namespace kladez {
 namespace {
 
-constexpr qint64 kLongestGap = 50;  // milliseconds
+constexpr qint64 kDigitGap = 50;   // milliseconds
+constexpr qint64 kEnterGap = 300;  // some take their time; six digits so fast are proof enough
 constexpr qsizetype kShortestCode = 6;
 
 bool IsDigit(const QString& text) {
@@ -34,18 +35,18 @@ bool ScannerKeys::IsListening(const QObject* watched) const {
 
 // By the time at which the key was pressed, where the event tells it: a slow search between two
 // digits must not part them.
-bool ScannerKeys::IsFast(const QKeyEvent& key) {
+bool ScannerKeys::IsFast(const QKeyEvent& key, qint64 longest_gap) {
   const qint64 now = key.timestamp() != 0 ? static_cast<qint64>(key.timestamp()) : clock_.elapsed();
   const qint64 gap = now - last_key_;
   last_key_ = now;
-  return 0 <= gap && gap <= kLongestGap;
+  return 0 <= gap && gap <= longest_gap;
 }
 
 bool ScannerKeys::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress || !IsListening(watched)) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
   if (IsDigit(key->text())) {
-    if (!IsFast(*key)) code_.clear();
+    if (!IsFast(*key, kDigitGap)) code_.clear();
     if (code_.isEmpty()) Remember();
     code_ += key->text();
     return false;
@@ -53,7 +54,7 @@ bool ScannerKeys::eventFilter(QObject* watched, QEvent* event) {
   if (key->text().isEmpty()) return false;  // Shift and its like
   const QString code = std::exchange(code_, {});
   const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-  if (!enter || !IsFast(*key) || code.size() < kShortestCode) return false;
+  if (!enter || !IsFast(*key, kEnterGap) || code.size() < kShortestCode) return false;
   TakeBack();
   QMetaObject::invokeMethod(
       this, [this, code] { scanned_(code); }, Qt::QueuedConnection);

@@ -1,6 +1,6 @@
 // A barcode scanner types like a keyboard, only faster than anybody: six digits or more, with less
-// than 50 milliseconds from key to key, and Enter. Whatever the digits did meanwhile to the fields
-// of the window is taken back, the Enter goes nowhere, and the code is handed over.
+// than 50 milliseconds from digit to digit, and soon Enter. Whatever the digits did meanwhile to
+// the fields of the window is taken back, the Enter goes nowhere, and the code is handed over.
 #pragma once
 
 #include <QElapsedTimer>
@@ -26,7 +26,7 @@ class ScannerKeys : public QObject {
 
  private:
   bool IsListening(const QObject* watched) const;
-  bool IsFast(const QKeyEvent& key);
+  bool IsFast(const QKeyEvent& key, qint64 longest_gap);
   void Remember();
   void TakeBack();
 
