@@ -1,5 +1,6 @@
 #include "books/copies/CopyFolder.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,7 +10,6 @@
 #include <set>
 
 #include "books/store/Errors.h"
-#include "books/store/FileState.h"
 #include "books/store/SystemCalls.h"
 
 namespace kladez {
@@ -70,8 +70,10 @@ QByteArray CopiesFolder(const DataDir& data) {
   const QString usual =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/kladez"_s;
   if (data.Root() != QFileInfo(usual).canonicalFilePath()) {
-    const quint64 own = Fingerprint(QFile::encodeName(data.Root()));
-    folder += u"/%1-%2"_s.arg(QFileInfo(data.Root()).fileName(), QString::number(own, 16).left(8));
+    const QByteArray own =
+        QCryptographicHash::hash(QFile::encodeName(data.Root()), QCryptographicHash::Sha256);
+    folder += u"/%1-%2"_s.arg(QFileInfo(data.Root()).fileName(),
+                              QString::fromLatin1(own.toHex().first(8)));
   }
   return Made(folder);
 }

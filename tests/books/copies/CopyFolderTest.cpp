@@ -125,6 +125,25 @@ TEST(ReadArchive, WhatLeadsOutOrIsNoFileIsRefused) {
   }
 }
 
+// Copies of ten years ago are read, and known to be whole, by the sum in their notes.
+TEST(ReadArchive, TheSumOfTheSameFilesIsTheSameInEveryVersion) {
+  const CopiesWorld world;
+  const QByteArray file = QFile::encodeName(world.RootPath() + u"/a"_s);
+  quint64 written = 0;
+  {
+    ArchiveWriter writer(file);
+    writer.AddDirectory("0001", 0);
+    writer.AddFile("0001/marked", 0, "0123456789abcdef\r\n");
+    writer.Finish([&](quint64 sum) {
+      written = sum;
+      return QByteArray();
+    });
+  }
+  EXPECT_EQ(written, 8542692895097418680u);
+  EXPECT_EQ(ReadArchive(ArchiveBytes(file), file, [](const ArchivedFile&) { return true; }),
+            written);
+}
+
 // Zeros without end pack into nothing.
 TEST(ReadArchive, AnArchiveThatUnpacksToTooMuchIsLeft) {
   const CopiesWorld world;
