@@ -72,23 +72,24 @@ void SortByHead(std::vector<Keyed>& names) {
 
 // The places of the names in order.
 std::vector<size_t> Sorted(std::vector<Keyed> names, const std::vector<char>& keys) {
+  // Names that are all empty have no bytes, and the calls below take no null.
+  const char* const bytes = keys.empty() ? "" : keys.data();
   size_t common = names.empty() ? 0 : names.front().size;
   for (const Keyed& name : names) {
-    const char* first = keys.data() + names.front().begin;
-    const char* other = keys.data() + name.begin;
+    const char* first = bytes + names.front().begin;
+    const char* other = bytes + name.begin;
     const size_t most = std::min<size_t>(common, name.size);
     common = static_cast<size_t>(std::mismatch(first, first + most, other).first - first);
   }
   for (Keyed& name : names) {
     std::array<char, 8> head{};
-    std::memcpy(head.data(), keys.data() + name.begin + common,
+    std::memcpy(head.data(), bytes + name.begin + common,
                 std::min<size_t>(head.size(), name.size - common));
     name.head = qFromBigEndian<quint64>(head.data());
   }
   SortByHead(names);
   const auto less = [&](const Keyed& a, const Keyed& b) {
-    const int order =
-        std::memcmp(keys.data() + a.begin, keys.data() + b.begin, std::min(a.size, b.size));
+    const int order = std::memcmp(bytes + a.begin, bytes + b.begin, std::min(a.size, b.size));
     if (order != 0) return order < 0;
     return a.size != b.size ? a.size < b.size : a.place < b.place;
   };
