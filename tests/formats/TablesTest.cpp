@@ -38,12 +38,6 @@ TEST(Tables, GoAsTextWithADecimalComma) {
             "Без группы;05.03.2026;-5;0,10;1,5\r\n Чай <&>;;;;\r\n"
             "\"\"\"Ассам\"\"; 100 г\";вчера;нет;1234,20;2\r\n\"=1+1\tи\nещё\";;7;;\r\n"
             "Итого;;;1234,30;3,5\r\n");
-  const QByteArray json = TableAsJson(Sample());
-  for (const char* part :
-       {"\"group\": \"Чай <&>\"", "\"Дата\": \"2026-03-05\"", "\"Кол-во\": -5", "\"Сумма\": 1234.2",
-        "\"Сумма 2\": 3.5", "\"Дата\": \"вчера\"", "\"group\": \"\""}) {
-    EXPECT_TRUE(json.contains(part)) << part << json.toStdString();
-  }
 }
 
 TEST(Tables, KindsAreGuessedFromAllCells) {

@@ -9,10 +9,6 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
-bool Table::HasGroups() const {
-  return std::any_of(rows.begin(), rows.end(), [](const TableRow& row) { return row.is_group; });
-}
-
 bool Table::HasTotals() const {
   return std::any_of(columns.begin(), columns.end(),
                      [](const TableColumn& column) { return column.total; });

@@ -35,8 +35,7 @@ struct Table {
   std::vector<TableColumn> columns;
   std::vector<TableRow> rows;
 
-  // Whether any row heads a group; whether any column is summed up.
-  bool HasGroups() const;
+  // Whether any column is summed up.
   bool HasTotals() const;
 };
 
