@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "books/copies/CopyFolder.h"
-#include "books/store/Progress.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 

@@ -7,9 +7,9 @@
 #include "books/copies/CopyFolder.h"
 #include "books/store/Errors.h"
 #include "books/store/Notes.h"
-#include "books/store/Progress.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/Ordering.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 namespace {

@@ -6,9 +6,9 @@
 
 #include "books/copies/CopyFolder.h"
 #include "books/store/Catalogue.h"
-#include "books/store/Progress.h"
 #include "books/store/Session.h"
 #include "formats/DocumentFile.h"
+#include "formats/Progress.h"
 
 namespace kladez {
 

@@ -71,8 +71,10 @@ QString DigitsFault(QStringView what, const QString& number, std::initializer_li
   if (number.isEmpty()) return what + u" не указан"_s;
   if (!AreDigits(number)) return what + u" содержит не только цифры"_s;
   if (std::ranges::find(counts, number.size()) == counts.end()) {
+    QStringList wanted;
+    for (const int count : counts) wanted << QString::number(count);
     return what + u": цифр "_s + QString::number(number.size()) + u", а нужно "_s +
-           QString::number(*counts.begin());
+           wanted.join(u" или "_s);
   }
   return {};
 }

@@ -58,7 +58,7 @@ TEST(PaymentDetails, WhatIsMissingOrWrongIsToldFieldByField) {
        u"ИНН: контрольная цифра не сходится, проверьте номер"_s},
       {&PaymentDetails::tax_number, u"990012345669"_s,
        u"ИНН: контрольная цифра не сходится, проверьте номер"_s},
-      {&PaymentDetails::tax_number, u"990012345"_s, u"ИНН: цифр 9, а нужно 10"_s},
+      {&PaymentDetails::tax_number, u"990012345"_s, u"ИНН: цифр 9, а нужно 10 или 12"_s},
       {&PaymentDetails::sum, u"0.00"_s, u"Сумма к оплате не больше нуля"_s},
   };
   for (const Case& wrong : cases) {

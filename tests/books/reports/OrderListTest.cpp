@@ -1,4 +1,4 @@
-#include "ShipmentsOnDisk.h"
+#include "SmallBooks.h"
 #include "books/reports/OrderList.h"
 #include "books/stock/LowStock.h"
 
@@ -7,7 +7,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class Order : public testing::Test, protected ShipmentsOnDisk {
+class Order : public testing::Test, protected BooksOnDisk {
  protected:
   Order() {
     Put(u"SPR\\товар.spr"_s,

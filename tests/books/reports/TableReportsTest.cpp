@@ -1,6 +1,6 @@
 #include <numeric>
 
-#include "ShipmentsOnDisk.h"
+#include "SmallBooks.h"
 #include "books/directories/WarehouseDirectory.h"
 #include "books/reports/GoodsReport.h"
 #include "books/reports/PartyReport.h"
@@ -30,7 +30,7 @@ QStringList Cells(const TableReport& report) {
   return rows;
 }
 
-class TableReports : public testing::Test, protected ShipmentsOnDisk {
+class TableReports : public testing::Test, protected BooksOnDisk {
  protected:
   TableReports() {
     // A third of a kopeck in each of many lines: sums of unrounded products drift apart.

@@ -1,4 +1,0 @@
-// Moved down: see formats/Progress.h.
-#pragma once
-
-#include "formats/Progress.h"
