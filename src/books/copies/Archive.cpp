@@ -117,6 +117,10 @@ ArchiveWriter::ArchiveWriter(const QByteArray& path)
   // This form alone keeps the bytes of names, whatever the machine takes them for.
   archive_write_set_format_gnutar(archive_);
   archive_write_add_filter_zstd(archive_);
+  // Ten years of documents in less than 10 MB and two seconds. Where the library packs in one
+  // thread only, or at the usual level, the copy is as good.
+  archive_write_set_filter_option(archive_, "zstd", "compression-level", "6");
+  archive_write_set_filter_option(archive_, "zstd", "threads", "2");
   archive_write_set_bytes_per_block(archive_, static_cast<int>(kRoom));
   archive_write_set_bytes_in_last_block(archive_, 1);
   if (archive_write_open(archive_, output_.get(), nullptr, &Output::Write, nullptr) != ARCHIVE_OK) {

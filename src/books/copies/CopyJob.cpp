@@ -13,6 +13,7 @@
 #include "books/copies/Archive.h"
 #include "books/copies/CopyFolder.h"
 #include "books/store/Errors.h"
+#include "books/store/ReadAhead.h"
 #include "books/store/SystemCalls.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/DocumentFile.h"
@@ -181,8 +182,12 @@ void CopyJob::WriteTree(ArchiveWriter& writer, int parent, const QByteArray& nam
 }
 
 void CopyJob::WriteDirectory(ArchiveWriter& writer, int directory, const QByteArray& name) {
-  for (const QByteArray& inner : NamesOf(directory, name)) {
-    WriteTree(writer, directory, name + '/' + inner);
+  const std::vector<QByteArray> names = NamesOf(directory, name);
+  ReadAhead ahead(directory, static_cast<qsizetype>(names.size()),
+                  [&](qsizetype place) { return names[place].constData(); });
+  for (size_t i = 0; i < names.size(); ++i) {
+    ahead.Reached(static_cast<qsizetype>(i));
+    WriteTree(writer, directory, name + '/' + names[i]);
   }
 }
 

@@ -206,7 +206,7 @@ void DataDir::ForEachFile(const QString& directory, QStringView extension,
   const Directory entries = OpenListed(*this, directory);
   const FileNames names(entries.get(), extension);
   const int fd = ::dirfd(entries.get());
-  ReadAhead ahead(fd, names);
+  ReadAhead ahead(fd, names.Count(), [&](qsizetype place) { return names.At(place); });
   constexpr qsizetype kRoom = 1 << 14;
   QByteArray buffer(kRoom, Qt::Uninitialized);
   QString name;

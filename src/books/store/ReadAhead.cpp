@@ -85,7 +85,7 @@ ReadAhead::Places ReadAhead::Take(qsizetype waits) {
   waited_ += waits;
   next_ = std::max(next_, visited_);
   moved_.wait(lock, [this] { return stopping_ || next_ < visited_ + kFarAhead; });
-  const qsizetype end = stopping_ ? next_ : std::min(next_ + kTake, names_.Count());
+  const qsizetype end = stopping_ ? next_ : std::min(next_ + kTake, count_);
   const Places places{next_, end};
   read_ += end - next_;
   next_ = end;
@@ -99,7 +99,7 @@ void ReadAhead::Work() {
     if (places.begin == places.end) return;
     const long before = Waits();
     for (qsizetype i = places.begin; i < places.end; ++i) {
-      ReadIntoNowhere(directory_, names_.At(i));
+      ReadIntoNowhere(directory_, name_at_(i));
     }
     waits = Waits() - before;
   }

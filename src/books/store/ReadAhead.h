@@ -5,19 +5,23 @@
 // that is in memory costs a question to the system for every few files.
 #pragma once
 
+#include <QtGlobal>
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
-
-#include "books/store/FileNames.h"
 
 namespace kladez {
 
 class ReadAhead {
  public:
-  // `directory` is an open descriptor; both must outlive this.
-  ReadAhead(int directory, const FileNames& names) : directory_(directory), names_(names) {}
+  // The name at a place, from 0 below `count`; asked by several threads at once.
+  using NameAt = std::function<const char*(qsizetype place)>;
+  // `directory` is an open descriptor, which must outlive this, as the names must.
+  ReadAhead(int directory, qsizetype count, NameAt name_at)
+      : directory_(directory), count_(count), name_at_(std::move(name_at)) {}
   ~ReadAhead() { Stop(); }
   ReadAhead(const ReadAhead&) = delete;
   ReadAhead& operator=(const ReadAhead&) = delete;
@@ -40,7 +44,8 @@ class ReadAhead {
   Places Take(qsizetype waits);
 
   const int directory_;
-  const FileNames& names_;
+  const qsizetype count_;
+  const NameAt name_at_;
   qsizetype next_look_ = 0;
   long waits_before_ = 0;  // of the visitor's thread
 
