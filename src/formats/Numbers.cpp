@@ -8,6 +8,8 @@
 #include <string>
 #include <type_traits>
 
+#include "formats/PlainNumber.h"
+
 namespace kladez {
 namespace {
 
@@ -119,12 +121,9 @@ int TakeMantissa(Cursor<Char>& in, Digits& out, bool grouped) {
   return count;
 }
 
-// Digits with at most one point, as nearly all numbers of files are: up to 15 digits and a power of
-// ten are exact, so one division rounds as the conversion of the text does.
+// Digits with at most one point, of any length that is exact.
 template <typename Char>
 std::optional<double> ParsePlain(Cursor<Char> in) {
-  constexpr std::array kTens = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
   qint64 whole = 0;
   size_t digits = 0;
   size_t before_point = kTens.size();
@@ -250,6 +249,8 @@ std::optional<double> ParseStrict(QStringView text) {
 }
 
 std::optional<double> ParseStrict(QByteArrayView bytes) {
+  double plain = 0;
+  if (ReadPlainNumber(bytes, &plain)) return plain;
   return ParseStrictly(Cursor<char>(bytes.data(), bytes.data() + bytes.size()));
 }
 
@@ -285,6 +286,8 @@ double NumberOr(QStringView text, double otherwise) {
 }
 
 double NumberOr(QByteArrayView bytes, double otherwise) {
+  double plain = 0;
+  if (ReadPlainNumber(bytes, &plain)) return plain;
   if (const auto value = ParseStrict(bytes)) return *value;
   return NumberOr(QString::fromLatin1(bytes), otherwise);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <system_error>
 
 namespace kladez {
@@ -73,8 +74,21 @@ QByteArray EncodeText(QStringView text) {
   return bytes;
 }
 
-char LineReader::Peek() const {
-  return rest_.isEmpty() || rest_.startsWith(kLineEnd) ? '\0' : rest_.front();
+qsizetype FindLineEnd(QByteArrayView bytes) {
+  const char* from = bytes.data();
+  for (const char* const end = from + bytes.size(); end - from >= 2; ++from) {
+    from = static_cast<const char*>(std::memchr(from, '\r', static_cast<size_t>(end - from - 1)));
+    if (from == nullptr) break;
+    if (from[1] == '\n') return from - bytes.data();
+  }
+  return -1;
+}
+
+void LineReader::LookAtRest() {
+  std::array<char, kBlock> rest{};
+  std::copy(block_, end_, rest.begin());
+  block_end_ = end_;
+  returns_ = ReturnsIn(rest.data());
 }
 
 void LineWriter::Add(QStringView line) {

@@ -8,7 +8,6 @@
 #include <QString>
 #include <QStringList>
 #include <bit>
-#include <cstring>
 #include <functional>
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -29,57 +28,77 @@ bool CanEncode(QChar c);
 // the code page lacks: input fields keep such characters away from writers.
 QByteArray EncodeText(QStringView text);
 
-// Where the first CR LF stands, -1 where none does. Lines are short and all that is read is made of
-// them, so sixteen bytes are looked at together where the machine can.
-inline qsizetype FindLineEnd(QByteArrayView bytes) {
-  const char* from = bytes.data();
-  const char* const end = from + bytes.size();
-#ifdef __SSE2__
-  constexpr qsizetype kStep = 16;
-  const __m128i wanted = _mm_set1_epi8('\r');
-  for (; end - from > kStep; from += kStep) {
-    const __m128i piece = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
-    auto found = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(piece, wanted)));
-    for (; found != 0; found &= found - 1) {
-      const char* cr = from + std::countr_zero(found);
-      if (cr[1] == '\n') return cr - bytes.data();  // one byte at least stands behind the piece
-    }
-  }
-#endif
-  while (end - from >= 2) {
-    const auto* cr =
-        static_cast<const char*>(std::memchr(from, '\r', static_cast<size_t>(end - from - 1)));
-    if (cr == nullptr) break;
-    if (cr[1] == '\n') return cr - bytes.data();
-    from = cr + 1;
-  }
-  return -1;
-}
+// Where the first CR LF stands, -1 where none does.
+qsizetype FindLineEnd(QByteArrayView bytes);
 
 // Walks the lines of a file's bytes. Past the end it gives empty lines, so that the last record of
 // a file that was cut reads as a record whose missing fields are empty.
+// All that is read is made of short lines, so the carriage returns of 64 bytes are found together.
 class LineReader {
  public:
   // Reads from the first line on; the bytes outlive the reader.
-  explicit LineReader(QByteArrayView bytes) : rest_(bytes) {}
+  explicit LineReader(QByteArrayView bytes)
+      : at_(bytes.data()), end_(at_ + bytes.size()), block_(at_), block_end_(at_) {}
 
   // No line is left.
-  bool AtEnd() const { return rest_.isEmpty(); }
+  bool AtEnd() const { return at_ == end_; }
   // The next line without its CR LF; the last line of a file may lack the CR LF.
   QByteArrayView NextRaw() {
-    const qsizetype end = FindLineEnd(rest_);
-    const QByteArrayView line = end < 0 ? rest_ : rest_.first(end);
-    rest_ = end < 0 ? QByteArrayView() : rest_.sliced(end + 2);
-    return line;
+    const char* const line = at_;
+    const char* const line_end = LineEnd();
+    at_ = line_end == end_ ? end_ : line_end + 2;
+    return {line, line_end};
   }
   QString Next() { return DecodeText(NextRaw()); }
   // The bytes that are not yet walked over.
-  qsizetype Left() const { return rest_.size(); }
+  qsizetype Left() const { return end_ - at_; }
   // The first byte of the next line, 0 at the end or before an empty line.
-  char Peek() const;
+  char Peek() const { return AtEnd() || IsLineEnd(at_) ? '\0' : *at_; }
 
  private:
-  QByteArrayView rest_;
+  static constexpr qsizetype kBlock = 64;
+
+  bool IsLineEnd(const char* at) const { return *at == '\r' && end_ - at > 1 && at[1] == '\n'; }
+  const char* LineEnd() {
+    while (true) {
+      while (returns_ == 0) {
+        if (block_end_ == end_) return end_;
+        Look();
+      }
+      const char* const found = block_ + std::countr_zero(returns_);
+      returns_ &= returns_ - 1;
+      if (IsLineEnd(found)) return found;
+    }
+  }
+  void Look() {
+    block_ = block_end_;
+    if (end_ - block_ < kBlock) return LookAtRest();
+    block_end_ += kBlock;
+    returns_ = ReturnsIn(block_);
+  }
+  void LookAtRest();
+
+  // A bit for each of the 64 bytes, set where it is a carriage return.
+  static quint64 ReturnsIn(const char* block) {
+    quint64 found = 0;
+#ifdef __SSE2__
+    const __m128i wanted = _mm_set1_epi8('\r');
+    for (int at = kBlock - 16; at >= 0; at -= 16) {
+      const __m128i piece = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + at));
+      found = found << 16 | static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(piece, wanted)));
+    }
+#else
+    for (int at = 0; at < kBlock; ++at) found |= quint64{block[at] == '\r'} << at;
+#endif
+    return found;
+  }
+
+  const char* at_;
+  const char* end_;
+  // What is being looked at, and which of its bytes are carriage returns not yet come to.
+  const char* block_;
+  const char* block_end_;
+  quint64 returns_ = 0;
 };
 
 // Takes the bytes of a long file piece by piece.

@@ -2,7 +2,6 @@
 
 #include <QtEndian>
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "formats/TextLines.h"
@@ -40,7 +39,7 @@ void TextPool::Prefetch(quint32 hash) const {
 size_t TextPool::SlotOf(QByteArrayView bytes, quint32 hash) const {
   size_t at = hash & (slots_.size() - 1);
   for (; slots_[at].number >= 0; at = (at + 1) & (slots_.size() - 1)) {
-    if (slots_[at].hash == hash && Bytes(slots_[at].number) == bytes) break;
+    if (slots_[at].hash == hash && Is(slots_[at].number, bytes)) break;
   }
   return at;
 }

@@ -4,6 +4,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -31,6 +32,12 @@ class TextPool {
   int Size() const { return static_cast<int>(texts_.size()); }
 
   QByteArrayView Bytes(int number) const { return texts_[static_cast<size_t>(number)]; }
+  // Whether the text of that number is these bytes.
+  bool Is(int number, QByteArrayView bytes) const {
+    const QByteArrayView text = Bytes(number);
+    return text.size() == bytes.size() &&
+           std::memcmp(text.data(), bytes.data(), static_cast<size_t>(bytes.size())) == 0;
+  }
   QString Text(int number) const;
 
  private:

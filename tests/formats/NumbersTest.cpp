@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 #include <string>
 
 #include "formats/Numbers.h"
@@ -94,6 +95,13 @@ TEST(Numbers, BytesAndTextParseAlike) {
     const QByteArray bytes(text);
     EXPECT_EQ(ParseStrict(QByteArrayView(bytes)), ParseStrict(QString::fromLatin1(bytes))) << text;
     EXPECT_EQ(NumberOr(QByteArrayView(bytes), 7), NumberOr(QString::fromLatin1(bytes), 7)) << text;
+  }
+  std::mt19937 random(20261124);
+  for (int i = 0; i < 20'000; ++i) {
+    QByteArray bytes;
+    for (size_t n = random() % 11; n > 0; --n) bytes.append("0123456789.5927/:- ,e"[random() % 21]);
+    EXPECT_EQ(ParseStrict(QByteArrayView(bytes)), ParseStrict(QString::fromLatin1(bytes)))
+        << bytes.constData();
   }
 }
 

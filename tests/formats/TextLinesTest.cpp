@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <random>
 #include <system_error>
 
 #include "books/store/Errors.h"
@@ -75,6 +76,23 @@ TEST(TextLines, OnlyCarriageReturnWithLineFeedEndsALine) {
       {"\x1A", {u"\x1A"_s}},
   };
   for (const auto& c : cases) EXPECT_EQ(DecodeLines(c.bytes), c.lines) << c.bytes.toHex(' ').data();
+
+  // Files longer than what is looked at together, with line ends at any place.
+  std::mt19937 random(20261124);
+  for (int round = 0; round < 2000; ++round) {
+    QByteArray bytes;
+    for (size_t n = random() % 300; n > 0; --n) bytes.append("\r\n\r\naaaaaaa"[random() % 11]);
+    QList<QByteArray> lines;
+    for (qsizetype at = 0, end; at < bytes.size(); at = end + 2) {
+      end = bytes.indexOf("\r\n", at);
+      if (end < 0) end = bytes.size();
+      lines.append(bytes.sliced(at, end - at));
+    }
+    LineReader reader(bytes);
+    for (const QByteArray& line : lines)
+      ASSERT_EQ(reader.NextRaw(), line) << bytes.toHex(' ').data();
+    ASSERT_TRUE(reader.AtEnd());
+  }
 }
 
 TEST(TextLines, PastTheEndLinesAreEmpty) {

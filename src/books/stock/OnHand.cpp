@@ -85,6 +85,9 @@ void OnHandJoin::Add(QByteArrayView ledger) {
   std::vector<int> rows;
   const auto add = [&] {
     index_.FirstBeginnings(names, rows);
+    for (const int row : rows) {
+      if (row >= 0) __builtin_prefetch(&places_[static_cast<size_t>(row)]);
+    }
     for (size_t i = 0; i < names.size(); ++i) {
       if (rows[i] < 0) continue;
       OnHandPlace& place = places_[rows[i]];

@@ -7,48 +7,61 @@
 namespace kladez {
 
 PrefixIndex::PrefixIndex(std::vector<QByteArrayView> names) : names_(std::move(names)) {
-  if (!names_.empty()) common_ = names_.front().size();
-  for (const QByteArrayView name : names_) {
-    const auto most = std::min(common_, name.size());
-    const auto differs = std::mismatch(name.begin(), name.begin() + most, names_.front().begin());
-    common_ = differs.first - name.begin();
-  }
   const int count = static_cast<int>(names_.size());
-  sorted_.reserve(names_.size());
-  for (int row = 0; row < count; ++row) sorted_.push_back({HeadOf(names_[row]), row});
-  std::sort(sorted_.begin(), sorted_.end(), [this](const Entry& a, const Entry& b) {
+  for (int row = 0; row < count; ++row) {
+    PartOf(names_[row]).sorted.push_back({0, row});
+  }
+  for (Part& part : parts_) Sort(part);
+}
+
+void PrefixIndex::Sort(Part& part) {
+  if (part.sorted.empty()) return;
+  const QByteArrayView first = NameOf(part.sorted.front());
+  part.common = first.size();
+  for (const Entry& entry : part.sorted) {
+    const QByteArrayView name = NameOf(entry);
+    const auto most = std::min(part.common, name.size());
+    const auto differs = std::mismatch(name.begin(), name.begin() + most, first.begin());
+    part.common = differs.first - name.begin();
+  }
+  for (Entry& entry : part.sorted) entry.head = part.HeadOf(NameOf(entry));
+  std::sort(part.sorted.begin(), part.sorted.end(), [this](const Entry& a, const Entry& b) {
     if (a.head != b.head) return a.head < b.head;
     const int order = NameOf(a).compare(NameOf(b));
     return order != 0 ? order < 0 : a.row < b.row;
   });
 }
 
-quint64 PrefixIndex::HeadOf(QByteArrayView text) const {
+quint64 PrefixIndex::Part::HeadOf(QByteArrayView text) const {
   char head[8] = {};
-  const QByteArrayView rest = text.sliced(std::min(common_, text.size()));
+  const QByteArrayView rest = text.sliced(std::min(common, text.size()));
   std::copy_n(rest.begin(), std::min<qsizetype>(rest.size(), 8), head);
   return qFromBigEndian<quint64>(head);
 }
 
 // All walks of different texts together are no longer than all names have letters.
-int PrefixIndex::FirstFrom(size_t at, QByteArrayView text) const {
-  int first = sorted_[at].row;
-  while (++at < sorted_.size() && NameOf(sorted_[at]).startsWith(text)) {
-    first = std::min(first, sorted_[at].row);
+int PrefixIndex::FirstFrom(const Part& part, size_t at, QByteArrayView text) const {
+  int first = part.sorted[at].row;
+  while (++at < part.sorted.size() && NameOf(part.sorted[at]).startsWith(text)) {
+    first = std::min(first, part.sorted[at].row);
   }
   return first;
 }
 
 int PrefixIndex::Find(QByteArrayView text) const {
+  if (names_.empty() || text.isEmpty()) return names_.empty() ? -1 : 0;
+  const Part& part = PartOf(text);
+  if (part.sorted.empty()) return -1;
   // A text that leaves what all names begin with has no name to begin.
-  const qsizetype shared = std::min(common_, text.size());
-  if (names_.empty() || text.first(shared) != names_.front().first(shared)) return -1;
-  const quint64 head = HeadOf(text);
-  const auto at = std::partition_point(sorted_.begin(), sorted_.end(), [&](const Entry& entry) {
-    return entry.head != head ? entry.head < head : NameOf(entry).compare(text) < 0;
-  });
-  if (at == sorted_.end() || !NameOf(*at).startsWith(text)) return -1;
-  return FirstFrom(static_cast<size_t>(at - sorted_.begin()), text);
+  const qsizetype shared = std::min(part.common, text.size());
+  if (text.first(shared) != NameOf(part.sorted.front()).first(shared)) return -1;
+  const quint64 head = part.HeadOf(text);
+  const auto at =
+      std::partition_point(part.sorted.begin(), part.sorted.end(), [&](const Entry& entry) {
+        return entry.head != head ? entry.head < head : NameOf(entry).compare(text) < 0;
+      });
+  if (at == part.sorted.end() || !NameOf(*at).startsWith(text)) return -1;
+  return FirstFrom(part, static_cast<size_t>(at - part.sorted.begin()), text);
 }
 
 // Remembers what came after the last text, and gives the answer.
@@ -78,7 +91,7 @@ void PrefixIndex::FirstBeginnings(const std::vector<QByteArrayView>& texts,
   }
   for (size_t i = 0; i < texts.size(); ++i) {
     int number = in_order && last_ >= 0 ? next_[last_] : -1;
-    if (number < 0 || asked_.Bytes(number) != texts[i]) {
+    if (number < 0 || !asked_.Is(number, texts[i])) {
       number = in_order ? asked_.Add(texts[i]) : asked_.Add(texts[i], hashes_[i]);
     }
     rows.push_back(Numbered(number, texts[i]));

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <array>
 #include <vector>
 
 #include "formats/TextPool.h"
@@ -27,16 +28,25 @@ class PrefixIndex {
     int row;
   };
 
+  // Headings of a list begin with a blank and with nothing that its goods begin with.
+  struct Part {
+    qsizetype common = 0;  // bytes that all its names begin with
+    std::vector<Entry> sorted;
+
+    quint64 HeadOf(QByteArrayView text) const;
+  };
+
   QByteArrayView NameOf(const Entry& entry) const { return names_[entry.row]; }
-  quint64 HeadOf(QByteArrayView text) const;
+  Part& PartOf(QByteArrayView text) { return parts_[text.startsWith(' ') ? 0 : 1]; }
+  const Part& PartOf(QByteArrayView text) const { return parts_[text.startsWith(' ') ? 0 : 1]; }
+  void Sort(Part& part);
   // The lowest row of the neighbours from `at` on that begin with the text.
-  int FirstFrom(size_t at, QByteArrayView text) const;
+  int FirstFrom(const Part& part, size_t at, QByteArrayView text) const;
   int Find(QByteArrayView text) const;
   int Numbered(int number, QByteArrayView text);
 
   std::vector<QByteArrayView> names_;
-  qsizetype common_ = 0;  // bytes that all names begin with
-  std::vector<Entry> sorted_;
+  std::array<Part, 2> parts_;  // the names that begin with a blank, and the others
   // Texts asked before, and by their numbers the answers and which text came next the last time.
   TextPool asked_;
   std::vector<int> answers_;
