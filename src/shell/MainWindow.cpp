@@ -3,24 +3,21 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QSessionManager>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
-#include "screens/store/BackupWizard.h"
-#include "screens/store/CheckDialog.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
-#include "screens/store/RestoreWizard.h"
 #include "screens/store/TimeMachineDialog.h"
-#include "shell/AboutDialog.h"
+#include "shell/ChildHost.h"
+#include "shell/FootLine.h"
 #include "shell/HomeScreen.h"
 #include "shell/LandingScreen.h"
 #include "shell/LinkPanels.h"
-#include "shell/MainWindowParts.h"
+#include "shell/MainCommands.h"
 #include "shell/ScreenFactory.h"
 #include "shell/SplashScreen.h"
 #include "ui/Help.h"
@@ -39,23 +36,6 @@ using namespace Qt::StringLiterals;
 constexpr QStringView kTitle = u"Kladez";  // with no Database open
 
 constexpr int kStripHeight = 900;  // in twips
-
-// Whether the child screen goes with the command, or may go.
-bool LeavesDatabase(Command command) {
-  switch (command) {
-    case Command::kCreate:
-    case Command::kOpen:
-    case Command::kCatalogue:
-    case Command::kImport:
-    case Command::kClose:
-    case Command::kExit:
-    case Command::kUndo:
-    case Command::kTimeMachine:
-      return true;
-    default:
-      return false;
-  }
-}
 
 }  // namespace
 
@@ -77,10 +57,7 @@ MainWindow::MainWindow(AppContext& context)
     foot_->ShowProgress(part);
     return true;
   });
-  way_home_.setSingleShot(true);
-  connect(&way_home_, &QTimer::timeout, this, [this] {
-    if (!child_) ShowHome();
-  });
+  connect(children_, &ChildHost::LeftEmpty, this, &MainWindow::ShowHome);
   for (QWidget* way_out : {static_cast<QWidget*>(links_panel_), static_cast<QWidget*>(links_strip_),
                            static_cast<QWidget*>(menuBar())}) {
     LongWork::LetPass(way_out);
@@ -99,7 +76,6 @@ MainWindow::~MainWindow() {
   KeepTableFolder(nullptr, nullptr);
   if (context_.keeping != nullptr) context_.keeping->Copies().SetQuestion({});
   context_.show_progress = {};
-  if (child_) child_->disconnect(this);
 }
 
 void MainWindow::BuildLayout() {
@@ -108,21 +84,12 @@ void MainWindow::BuildLayout() {
   links_panel_ = new LinksPanel(inner);
   links_strip_ = new LinksStrip(inner);
   links_strip_->setMinimumHeight(look::FromTwips(kStripHeight));
-  host_ = new QWidget(inner);
-  // With large letters on a small screen a child screen scrolls instead of being cut.
-  auto* view = new QScrollArea(inner);
-  view->setObjectName(u"view"_s);
-  view->setFrameShape(QFrame::NoFrame);
-  view->setFocusPolicy(Qt::NoFocus);
-  view->setWidgetResizable(true);
-  view->setWidget(host_);
-  host_layout_ = new HostLayout(host_);
-  host_layout_->setContentsMargins(0, 0, 0, 0);
+  children_ = new ChildHost(inner);
   foot_ = new FootLine(inner);
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(links_panel_);
-  middle->addWidget(view, 1);
+  middle->addWidget(children_, 1);
   auto* layout = new QVBoxLayout(inner);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -172,6 +139,8 @@ void MainWindow::CloseDatabase() {
   ShowLanding();
 }
 
+QWidget* MainWindow::Child() const { return children_->Child(); }
+
 void MainWindow::SetDatabaseTitle(const QString& name) { setWindowTitle(kTitle + u" - "_s + name); }
 
 void MainWindow::HideDatabaseMenus() { menu_->ShowDatabaseMenus(false); }
@@ -195,31 +164,7 @@ void MainWindow::ShowPanels(bool show) {
 
 void MainWindow::ShowFoot() { foot_->Tell(context_.session.role, context_.clock.Today()); }
 
-void MainWindow::CloseChildScreens() {
-  // A screen may have opened another of them beside itself; this order is the told one.
-  for (const char16_t* name :
-       {u"Main", u"main2", u"Sklad", u"Price", u"sprTovar", u"TovPrih", u"TovUhod", u"vnutr"}) {
-    for (QWidget* screen : findChildren<QWidget*>(QString::fromUtf16(name))) {
-      screen->disconnect(this);
-      screen->close();
-      screen->deleteLater();
-    }
-  }
-  child_ = nullptr;
-  // Whoever closed them has another screen to show.
-  way_home_.stop();
-}
-
-// The screens before it are closed by now: one made already would be closed with them.
-void MainWindow::ShowChild(QWidget* child) {
-  child_ = child;
-  child->setAttribute(Qt::WA_DeleteOnClose);
-  host_layout_->addWidget(child);
-  // One that closes itself gives way to the home screen, once it is gone for good.
-  connect(child, &QObject::destroyed, this, [this] { way_home_.start(); });
-  child->show();
-  (child->focusWidget() != nullptr ? child->focusWidget() : child)->setFocus();
-}
+void MainWindow::CloseChildScreens() { children_->CloseAll(); }
 
 void MainWindow::ShowHome() {
   if (!context_.session.IsOpen()) {
@@ -227,10 +172,10 @@ void MainWindow::ShowHome() {
     return;
   }
   CloseChildScreens();
-  auto* home = new HomeScreen(context_, host_);
+  auto* home = new HomeScreen(context_, children_->Ground());
   connect(home, &HomeScreen::Chosen, this, &MainWindow::Go);
   connect(home, &HomeScreen::PanelToggled, links_panel_, &QWidget::setVisible);
-  ShowChild(home);
+  children_->Show(home);
   // At the start the window comes up first: it can be closed while the home screen counts.
   if (isVisible()) {
     home->Activate();
@@ -241,12 +186,12 @@ void MainWindow::ShowHome() {
 
 void MainWindow::ShowLanding() {
   CloseChildScreens();
-  auto* landing = new LandingScreen(host_);
+  auto* landing = new LandingScreen(children_->Ground());
   connect(landing, &LandingScreen::OpenWanted, this,
           [this] { OpenFromCatalogue(CatalogueDialog::Mode::kOpen); });
   connect(landing, &LandingScreen::CreateWanted, this, &MainWindow::Create);
   ShowPanels(false);
-  ShowChild(landing);
+  children_->Show(landing);
 }
 
 // A command that did not come by key or mouse, as one of an assistive tool or of a desktop's own
@@ -265,18 +210,18 @@ void MainWindow::Go(Place place) {
   if (child && !MayLeave(this)) return;
   Guarded(this, [&] {
     if (child) CloseChildScreens();
-    if (QWidget* screen = OpenScreen(place, context_, child ? host_ : this)) {
-      ShowChild(screen);
+    if (QWidget* screen = OpenScreen(place, context_, child ? children_->Ground() : this)) {
+      children_->Show(screen);
     } else {
       Return();
     }
   });
-  if (!child_) ShowHome();
+  if (Child() == nullptr) ShowHome();
 }
 
 // From a dialog that left the child screen where it was.
 void MainWindow::Return() {
-  if (auto* home = qobject_cast<HomeScreen*>(child_.data())) home->Activate();
+  if (auto* home = qobject_cast<HomeScreen*>(Child())) home->Activate();
   ShowFoot();
 }
 
@@ -302,23 +247,11 @@ void MainWindow::Do(Command command) {
       ImportSourceDialog(context_, *this, this).exec();
       OpenDatabase();
       break;
-    case Command::kBackup:
-      BackupWizard(context_, this).exec();
-      Return();
-      break;
-    case Command::kRestore:
-      RestoreWizard(context_, this).exec();
-      Return();
-      break;
     case Command::kClose:
       CloseDatabase();
       break;
     case Command::kExit:
       Exit();
-      break;
-    case Command::kCheck:
-      CheckDialog(context_, this).exec();
-      Return();
       break;
     case Command::kUndo:
       Undo();
@@ -326,18 +259,9 @@ void MainWindow::Do(Command command) {
     case Command::kTimeMachine:
       OpenTimeMachine();
       break;
-    case Command::kHelp:
-      break;  // it asks nothing of the screens
-    case Command::kProductPage:
-      OpenAddress(this, kProductAddress);
-      break;
-    case Command::kNewsPage:
-      OpenAddress(this, kNewsAddress);
-      break;
-    case Command::kAbout:
-      AboutDialog(this).exec();
+    default:
+      RunAside(command, context_, this);
       Return();
-      break;
   }
 }
 

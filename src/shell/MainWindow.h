@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPointer>
-#include <QTimer>
 #include <functional>
 
 #include "screens/store/CatalogueDialog.h"
@@ -15,10 +13,9 @@
 #include "ui/controls/DialogsFirst.h"
 #include "ui/controls/RememberedSizes.h"
 
-class QVBoxLayout;
-
 namespace kladez {
 
+class ChildHost;
 class FootLine;
 class LinksPanel;
 class LinksStrip;
@@ -41,7 +38,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void DisableDatabaseCommands() override;
   void ShowNewDatabase() override;
 
-  QWidget* Child() const { return child_; }
+  QWidget* Child() const;  // nullptr where no screen is shown
 
  protected:
   void closeEvent(QCloseEvent* event) override;  // its frame
@@ -59,7 +56,6 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void Exit();
 
   void ShowPanels(bool show);
-  void ShowChild(QWidget* child);
   void ShowHome();
   void ShowLanding();
   void Return();
@@ -70,11 +66,8 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   MainMenu* menu_;
   LinksPanel* links_panel_;
   LinksStrip* links_strip_;
-  QWidget* host_;  // where the child screen lives
-  QVBoxLayout* host_layout_;
+  ChildHost* children_;
   FootLine* foot_;
-  QPointer<QWidget> child_;
-  QTimer way_home_;  // from a child screen that closed itself
   DialogsFirst dialogs_first_;
   RememberedSizes remembered_sizes_;
 };

@@ -1,53 +1,13 @@
 #include <unistd.h>
 
-#include "ScreenDriver.h"
+#include "CatalogueWorld.h"
 #include "books/store/Catalogue.h"
-#include "books/store/SystemCalls.h"
 #include "screens/store/CatalogueDialog.h"
-#include "screens/store/CatalogueHost.h"
-#include "screens/store/CatalogueList.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
 
 namespace kladez {
 namespace {
-
-// Stands for the main window and keeps what it was asked, in order.
-class NotedHost : public CatalogueHost {
- public:
-  void CloseChildScreens() override { calls.append(u"CloseChildScreens"_s); }
-  void SetDatabaseTitle(const QString& name) override { calls.append(u"Title "_s + name); }
-  void HideDatabaseMenus() override { calls.append(u"HideDatabaseMenus"_s); }
-  void DisableDatabaseCommands() override { calls.append(u"DisableDatabaseCommands"_s); }
-  void ShowNewDatabase() override { calls.append(u"ShowNewDatabase"_s); }
-
-  QStringList calls;
-};
-
-class CatalogueScreens : public testing::Test {
- protected:
-  const DataDir& Data() { return world_.Temp().Data(); }
-  Session& TheSession() { return world_.TheSession(); }
-  QString Setting(const struct Setting& setting) { return world_.Settings().Read(setting); }
-  std::map<std::string, std::string> Tree() { return world_.Temp().Tree(); }
-
-  void Create(const QStringList& names) {
-    for (const QString& name : names) CreateDatabase(Data(), name);
-  }
-  bool Run(CatalogueDialog::Mode mode) {
-    return CatalogueDialog(world_.Context(), host_, mode, nullptr).exec() == QDialog::Accepted;
-  }
-  static ModalAnswers::Step On(const std::function<void(CatalogueDialog*)>& act) {
-    return [=](QWidget* dialog) { act(qobject_cast<CatalogueDialog*>(dialog)); };
-  }
-
-  ScreenWorld world_;
-  NotedHost host_;
-};
-
-void SelectRow(QWidget* screen, int row) {
-  Find<CatalogueList>(screen, "ListView1")->SelectRow(row);
-}
 
 TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
   ModalAnswers answers{On([&](CatalogueDialog* bases) {
@@ -331,92 +291,6 @@ TEST_F(CatalogueScreens, EmptyListNamesTheWayThatIsThere) {
     })};
     Run(mode);
   }
-}
-
-TEST_F(CatalogueScreens, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
-  Create({u"Первая"_s});
-  TheSession().base_path = TheSession().chosen_base = u"0001\\"_s;
-  TheSession().warehouses = QStringList{u"a"_s, u"b"_s};
-  TheSession().Parties(PartyKind::kFirm) = QStringList{u"Прежняя фирма"_s};
-  TheSession().currency_name = u"тнг"_s;
-  NewDatabaseDialog screen(world_.Context(), host_, nullptr);
-  ShowActive(&screen);
-  EXPECT_EQ(Find<QLineEdit>(&screen, "Text3")->text(), u"Первая"_s);
-  Find<QLineEdit>(&screen, "Text3")->clear();
-  Click(&screen, "Command1");
-  EXPECT_TRUE(screen.isVisible());
-  EXPECT_TRUE(Find<QLineEdit>(&screen, "Text3")->hasFocus());
-  EXPECT_TRUE(host_.calls.isEmpty());
-  Type(Find<QLineEdit>(&screen, "Text3"), u"Вторая"_s);
-  QTest::keyClick(Find<QLineEdit>(&screen, "Text3"), Qt::Key_Return);
-  EXPECT_FALSE(screen.isVisible());
-  EXPECT_EQ(host_.calls,
-            (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s, u"ShowNewDatabase"_s}));
-  EXPECT_EQ(TheSession().base_path, u"0002\\"_s);
-  EXPECT_EQ(TheSession().chosen_base, u"0002\\"_s);
-  EXPECT_EQ(TheSession().warehouses, QStringList{u"Главный склад"_s});
-  EXPECT_EQ(TheSession().Parties(PartyKind::kFirm), QStringList{u"Прежняя фирма"_s});
-  EXPECT_EQ(TheSession().currency_name, u"тнг"_s);
-  EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
-  EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
-  EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
-  EXPECT_TRUE(Tree().contains("0002/Главный склад/PRICE/0005.prc"));
-}
-
-TEST_F(CatalogueScreens, FailedCreationTellsWhyAndLeavesTheScreen) {
-  NewDatabaseDialog screen(world_.Context(), host_, nullptr);
-  ShowActive(&screen);
-  Type(Find<QLineEdit>(&screen, "Text3"), u"Первая"_s);
-  ModalAnswers answers{[](QWidget* dialog) {
-    EXPECT_TRUE(qobject_cast<QMessageBox*>(dialog)->text().contains(u"на диске нет места"_s));
-    dialog->close();
-  }};
-  syscalls::SetFaultHook([](std::string_view, const QByteArray&) { return ENOSPC; });
-  Click(&screen, "Command1");
-  syscalls::SetFaultHook({});
-  EXPECT_TRUE(screen.isVisible());
-  EXPECT_TRUE(host_.calls.isEmpty());
-  EXPECT_FALSE(TheSession().IsOpen());
-}
-
-TEST_F(CatalogueScreens, ImportOfADatabaseIntoItselfIsRefused) {
-  Create({u"Первая"_s});
-  TheSession().base_path = u"0001\\"_s;
-  const auto before = Tree();
-  ImportSourceDialog screen(world_.Context(), host_, nullptr);
-  ShowActive(&screen);
-  ModalAnswers answers{Press(QMessageBox::Ok, u"Нельзя импортировать базу саму в себя"_s)};
-  Click(&screen, "Command1");
-  EXPECT_TRUE(screen.isVisible());
-  EXPECT_EQ(Tree(), before);
-}
-
-TEST_F(CatalogueScreens, ImportGoesFromSourceToAreasToFiles) {
-  Create({u"Первая"_s, u"Вторая"_s});
-  TheSession().base_path = u"0001\\"_s;
-  world_.Temp().PutLines(u"0002\\SPR\\товар.spr"_s, {u" Чай"_s});
-  world_.Temp().PutLines(u"0002\\SPR\\firma.spr"_s, {u"не отмечено"_s});
-  ImportSourceDialog screen(world_.Context(), host_, nullptr);
-  ShowActive(&screen);
-  SelectRow(&screen, 1);
-  ModalAnswers answers{[](QWidget* dialog) {
-    EXPECT_EQ(dialog->objectName(), u"Import"_s);
-    Find<QAbstractButton>(dialog, "Check6")->click();
-    for (const char* name : {"Check1", "Check2"}) {
-      EXPECT_TRUE(Find<QAbstractButton>(dialog, name)->isChecked()) << name;
-      EXPECT_FALSE(Find<QAbstractButton>(dialog, name)->isEnabled()) << name;
-    }
-    Find<QAbstractButton>(dialog, "Check6")->click();
-    EXPECT_TRUE(Find<QAbstractButton>(dialog, "Check1")->isChecked());
-    EXPECT_TRUE(Find<QAbstractButton>(dialog, "Check1")->isEnabled());
-    Find<QAbstractButton>(dialog, "Check2")->click();
-    Click(dialog, "Command1");
-  }};
-  auto expected = Tree();
-  expected["0001/SPR/товар.spr"] = EncodeLines({u" Чай"_s}).toStdString();
-  Click(&screen, "Command1");
-  EXPECT_EQ(Tree(), expected);
-  EXPECT_EQ(Setting(settings::kFilePos), u"2"_s);
 }
 
 }  // namespace

@@ -6,15 +6,12 @@
 #include <QScreen>
 #include <algorithm>
 
-#include "books/directories/GoodsExtras.h"
-#include "books/prices/ScannedGoods.h"
 #include "formats/Dates.h"
-#include "screens/stock/LineDialog.h"
+#include "screens/stock/documents/DocumentLines.h"
 #include "screens/stock/documents/DocumentNotes.h"
 #include "screens/stock/documents/DraftSaving.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
-#include "ui/ScannerSearch.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
@@ -47,30 +44,30 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentDraft draft, QWidget
       draft_(std::move(draft)),
       first_number_(draft_.IsNew() ? QString() : draft_.Head().number),
       count_of_number_(std::move(count_of_number)),
-      notes_(new DocumentNotes(this)) {
+      notes_(new DocumentNotes(this)),
+      lines_(new DocumentLines(context, draft_, this)) {
   setObjectName(screens_.editor_name);
   setWindowTitle(screens_.editor_caption);
-  BuildList();
 
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(NewHead());
   layout->addWidget(notes_);
   layout->addSpacing(look::kTight);
-  layout->addLayout(NewListHead());
-  layout->addWidget(list_, 1);
+  layout->addWidget(lines_, 1);
   layout->addLayout(NewFoot());
   layout->addWidget(look::NewSeparator(this));
   layout->addLayout(NewEndingRow(ok_, cancel_));
 
-  ShareListKeys(this, list_);
-  new ScannerKeys(this, [this](const QString& code) { TakeScan(code); });
+  ShareListKeys(this, lines_->List());
+  new ScannerKeys(this, [this](const QString& code) { lines_->TakeScan(code); });
   SetHelpPage(this, context.data, u"documents.htm");
   OrderTabs();
   TakeFields();
   draft_.MarkUnchanged();
-  TakeStock();
+  lines_->Refresh();
   ShowSums();
+  connect(lines_, &DocumentLines::Changed, this, &DocumentEditor::ShowSums);
   connect(number_, &TextLine::Change, this, &DocumentEditor::ShowNotes);
   connect(notes_, &DocumentNotes::EnterAnewAsked, this, &DocumentEditor::EnterAnew);
   new UnsavedWork(this, {.is_changed =
@@ -79,8 +76,8 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentDraft draft, QWidget
                                return draft_.IsChanged();
                              },
                          .save = [this] { return SaveUnasked(); }});
-  list_->SelectRow(0);
-  list_->setFocus();
+  lines_->List()->SelectRow(0);
+  lines_->List()->setFocus();
   // Wide enough for the names of two warehouses, with large letters too.
   const int room = screen()->availableSize().width() - look::kGap;
   const int wanted =
@@ -140,42 +137,10 @@ TextChoice* DocumentEditor::NewWarehouse(QString DocumentHead::*side) {
       const QSignalBlocker quiet(choice);
       choice->Choose(draft_.Head().*side);
     }
-    TakeStock();
+    lines_->Refresh();
     ShowSums();
-    list_->Records()->Reset();
   });
   return choice;
-}
-
-void DocumentEditor::BuildList() {
-  list_ = new RecordList(this);
-  list_->setObjectName(u"ListView1"_s);
-  list_->SetRecords(NewLineModel(
-      screens_.editor_columns, context_.session.IsSeller(), draft_.Lines(), this, [this](int row) {
-        return row < static_cast<int>(short_lines_.size()) && short_lines_[row];
-      }));
-  list_->SetEmptyText(u"Список пуст. Нажмите «Добавить» или клавишу Insert."_s);
-  connect(list_, &RecordList::InsertPressed, this, &DocumentEditor::Add);
-  connect(list_, &RecordList::DividePressed, this, &DocumentEditor::Change);
-  connect(list_, &RecordList::EnterPressed, this, &DocumentEditor::Change);
-  connect(list_, &RecordList::DoubleClicked, this, &DocumentEditor::Change);
-  connect(list_, &RecordList::DeletePressed, this, &DocumentEditor::Remove);
-}
-
-QLayout* DocumentEditor::NewListHead() {
-  using look::IconName;
-  add_ = NewCommand(this, u"add"_s, u"&Добавить"_s, IconName::kAdd);
-  change_ = NewCommand(this, u"change"_s, u"&Изменить"_s, IconName::kChange);
-  remove_ = NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove);
-  connect(add_, &QPushButton::clicked, this, &DocumentEditor::Add);
-  connect(change_, &QPushButton::clicked, this, &DocumentEditor::Change);
-  connect(remove_, &QPushButton::clicked, this, &DocumentEditor::Remove);
-  auto* row = new QHBoxLayout;
-  row->setSpacing(look::kGrid);
-  for (QPushButton* button : {add_, change_, remove_}) row->addWidget(button);
-  row->addWidget(new HintPicture(HintFor(screens_.editor_name, u"Список товаров"), {list_}, this));
-  row->addStretch();
-  return row;
 }
 
 void DocumentEditor::AddTotal(QFormLayout* form, const QString& caption, TextLine* field,
@@ -257,8 +222,9 @@ QLayout* DocumentEditor::NewFoot() {
 
 // As the eye goes, line by line; the commands that end the dialog come last.
 void DocumentEditor::OrderTabs() {
-  std::vector<QWidget*> order = {number_, date_,   party_, destination_, add_,
-                                 change_, remove_, list_,  closed_};
+  std::vector<QWidget*> order = {number_, date_, party_, destination_};
+  order.insert(order.end(), lines_->Commands().begin(), lines_->Commands().end());
+  order.insert(order.end(), {lines_->List(), closed_});
   order.insert(order.end(), prints_.begin(), prints_.end());
   order.insert(order.end(), {sum_, discount_, ok_, cancel_});
   std::erase(order, nullptr);
@@ -269,7 +235,6 @@ void DocumentEditor::ShowSums() {
   sum_->setText(draft_.Head().sum);
   ShowNetSum();
   ShowNotes();
-  short_lines_ = stock_ ? stock_->ShortLines() : std::vector<bool>();
 }
 
 void DocumentEditor::ShowNotes() {
@@ -280,81 +245,8 @@ void DocumentEditor::ShowNotes() {
   notes_->TellPosted(draft_.HasPosted() && draft_.LinesAreChanged());
 }
 
-// What goods come to is never short, so a receipt asks for nothing. Where directory or ledger can't
-// be read nothing is marked; whatever needs them tells so.
-void DocumentEditor::TakeStock() {
-  stock_.reset();
-  if (screens_.kind == DocumentKind::kReceipt) return;
-  IgnoreErrors([this] { stock_.emplace(draft_); });
-}
-
 void DocumentEditor::ShowNetSum() {
   if (net_sum_ != nullptr) net_sum_->setText(draft_.Head().net_sum);
-}
-
-void DocumentEditor::Add() {
-  TakeStock();
-  Guarded(this, [&] {
-    const StockAfter on_hand = [this](const QString& goods) {
-      return stock_ ? stock_->OnHand(goods) : std::nullopt;
-    };
-    screens_.pick(context_, draft_.Warehouse(), this, on_hand,
-                  [this](const GoodsPick& pick) { TakePick(pick); });
-  });
-  list_->setFocus();
-}
-
-void DocumentEditor::TakePick(const GoodsPick& pick) {
-  if (!draft_.AddLine(pick)) return;
-  ShowSums();
-  list_->Records()->Reset();
-  list_->SelectRow(static_cast<int>(draft_.Lines().size()) - 1);
-}
-
-void DocumentEditor::TakeScan(const QString& code) {
-  Guarded(this, [&] {
-    const QString goods = FindByBarcode(context_.data, context_.session, code);
-    const auto pick = goods.isEmpty() ? std::nullopt
-                                      : PickOfGoods(context_.data, context_.session, screens_.kind,
-                                                    draft_.Warehouse(), {}, goods);
-    if (!pick) return TellUnknownBarcode(this, code, goods);
-    TakeStock();
-    const int row = AddScanned(draft_, *pick);
-    ShowSums();
-    list_->Records()->Reset();
-    list_->SelectRow(row);
-  });
-}
-
-void DocumentEditor::Change() {
-  const int row = list_->CurrentRow();
-  if (row < 0) return;
-  const DraftLine& line = draft_.Lines()[row];
-  LineSurroundings around{
-      .on_hand = {},
-      .is_sold = screens_.kind == DocumentKind::kShipment,
-      .cost_is = context_.session.IsSeller() ? CostIs::kSecret : CostIs::kShown};
-  if (stock_ && !draft_.HasPosted()) around.on_hand = stock_->OnHand(line.line.name, row);
-  LineDialog dialog(line, this, around);
-  if (dialog.exec() == QDialog::Accepted) {
-    draft_.ChangeLine(row, dialog.Quantity(), dialog.Price(), dialog.Amount());
-    ShowSums();
-    list_->Records()->Reset();  // lines below may lack goods now, or no more
-    list_->SelectRow(row);
-  }
-  list_->setFocus();
-}
-
-void DocumentEditor::Remove() {
-  const int row = list_->CurrentRow();
-  if (row < 0) return;
-  if (AskYesNo(this, u"Вы уверены?"_s, u"Удаление"_s)) {
-    list_->Records()->Remove(row, [&] { draft_.RemoveLine(row); });
-    ShowSums();
-    list_->Records()->Reset();
-    list_->SelectRow(std::min(row, static_cast<int>(draft_.Lines().size()) - 1));
-  }
-  list_->setFocus();
 }
 
 void DocumentEditor::TakeFields() {

@@ -4,9 +4,7 @@
 
 #include <QDialog>
 #include <functional>
-#include <optional>
 
-#include "books/stock/DraftStock.h"
 #include "screens/stock/documents/DocumentScreens.h"
 #include "ui/AppContext.h"
 
@@ -19,8 +17,8 @@ class QPushButton;
 namespace kladez {
 
 class DateField;
+class DocumentLines;
 class DocumentNotes;
-class RecordList;
 class TextChoice;
 class TextLine;
 class TextLineDecimal;
@@ -43,29 +41,21 @@ class DocumentEditor : public QDialog {
 
  private:
   QLayout* NewHead();
-  QLayout* NewListHead();
   QLayout* NewTotals();
   QLayout* NewFoot();
   QLayout* NewPrints();
-  void BuildList();
   TextChoice* NewWarehouse(QString DocumentHead::*side);
   void AddField(QHBoxLayout* row, const QString& caption, QWidget* field, const QString& name,
                 const QString& hint);
   void AddTotal(QFormLayout* form, const QString& caption, TextLine* field, const QString& name,
                 const QString& hint);
 
-  void Add();
-  void TakePick(const GoodsPick& pick);
-  void TakeScan(const QString& code);
-  void Change();
-  void Remove();
   void Save();
   bool TrySave();
   bool SaveUnasked();
   void EnterAnew();
   void OrderTabs();
   void ShowNotes();
-  void TakeStock();
   void ShowSums();
   void ShowNetSum();
   void TakeFields();
@@ -76,23 +66,18 @@ class DocumentEditor : public QDialog {
   DocumentDraft draft_;
   const QString first_number_;
   const NumberCount count_of_number_;
-  std::optional<DraftStock> stock_;  // where directory and ledger can be read
-  std::vector<bool> short_lines_;    // the warehouse runs out with them
 
   DocumentNotes* notes_;
+  DocumentLines* lines_;
   std::vector<QWidget*> prints_;       // the commands at the foot
   TextLine* number_;                   // "N:"
   DateField* date_;                    // "Дата:"
   TextChoice* party_;                  // "Поставщик:", "Клиент:", "Откуда:"
   TextChoice* destination_ = nullptr;  // "Куда:"
-  RecordList* list_;                   // the goods lines
   QCheckBox* closed_ = nullptr;        // "Счет закрыт"
   TextLineDecimal* sum_;  // "Сумма по счету:", "Сумма:", "Сумма :"
   TextLineNumber* discount_ = nullptr;  // "Скидка %:"
   TextLineDecimal* net_sum_ = nullptr;  // "Сумма со скидкой:"
-  QPushButton* add_;                    // "Добавить"
-  QPushButton* change_;                 // "Изменить"
-  QPushButton* remove_;                 // "Удалить"
   QPushButton* ok_;                     // "OK"
   QPushButton* cancel_;                 // "Отмена"
 };

@@ -1,5 +1,6 @@
-#include "shell/MainWindowParts.h"
+#include "shell/FootLine.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <algorithm>
@@ -10,18 +11,6 @@
 namespace kladez {
 
 using namespace Qt::StringLiterals;
-
-QSize HostLayout::minimumSize() const {
-  QSize least = QVBoxLayout::minimumSize();
-  const QLayoutItem* child = itemAt(0);
-  const QLayout* layout = child != nullptr ? child->widget()->layout() : nullptr;
-  if (layout != nullptr && layout->hasHeightForWidth()) {
-    const QWidget* view = parentWidget()->parentWidget();
-    const int width = std::max(least.width(), view->width());
-    least.setHeight(std::max(least.height(), layout->minimumHeightForWidth(width)));
-  }
-  return least;
-}
 
 namespace {
 

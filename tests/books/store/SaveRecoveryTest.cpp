@@ -1,0 +1,143 @@
+#include <sys/stat.h>
+
+#include <cerrno>
+
+#include "SaveFailure.h"
+#include "books/store/Notes.h"
+#include "books/store/SystemCalls.h"
+
+namespace kladez {
+namespace {
+
+// The caller of the next save has read files that were changed in part: its contents are stale.
+TEST(SaveRecovery, ASaveAfterAnUnhealedOneHealsAndRefuses) {
+  TempData temp;
+  temp.Put(u"a"_s, "old");
+  temp.Put(u"b"_s, "old");
+  int renames = 0;
+  syscalls::SetFaultHook([&](std::string_view call, auto&) {
+    return call == "rename" && ++renames > 2 ? EIO : 0;  // the second file, then all taking back
+  });
+  const auto write_both = [](SaveSet& save) {
+    save.Write(u"a"_s, "new");
+    save.Write(u"b"_s, "new");
+  };
+  EXPECT_EQ(CommitFailure(temp, write_both).error, EIO);
+  syscalls::SetFaultHook({});
+  EXPECT_NE(temp.Bytes(u"a"_s), temp.Bytes(u"b"_s));
+  const auto stale = [](SaveSet& save) { save.Write(u"a"_s, "stale"); };
+  EXPECT_EQ(CommitFailure(temp, stale).error, ECANCELED);
+  EXPECT_EQ(temp.Bytes(u"a"_s), temp.Bytes(u"b"_s));
+  EXPECT_EQ(temp.Tree().size(), 2u);
+  EXPECT_EQ(CommitFailure(temp, stale).error, 0);
+}
+
+TEST(SaveRecovery, StagedFilesWithoutAManifestAreThrownAway) {
+  TempData temp;
+  temp.Put(u"a"_s, "old");
+  QDir(temp.Root()).mkpath(u".kladez-save/old.1/deep"_s);
+  EXPECT_EQ(CommitFailure(temp, [](auto& save) { save.Write(u"a"_s, "new"); }).error, 0);
+  EXPECT_EQ(temp.Tree(), (std::map<std::string, std::string>{{"a", "new"}}));
+  QFile(temp.Root() + u"/.kladez-save"_s).open(QIODevice::WriteOnly);  // not even a directory
+  SaveSet::Recover(temp.Data());
+  EXPECT_EQ(temp.Tree().size(), 1u);
+}
+
+void PutManifest(const TempData& temp, const QByteArray& manifest) {
+  QDir(temp.Root()).mkpath(u".kladez-save"_s);
+  QFile file(temp.Root() + u"/.kladez-save/manifest"_s);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(manifest);
+}
+
+// Told once, with the place where what was to be written can be found.
+TEST(SaveRecovery, ADamagedManifestIsPutAsideAndToldOnce) {
+  for (const QByteArray& manifest :
+       {QByteArray(), QByteArray("junk"), QByteArray("0\0a\0\0001\0", 8),
+        QByteArray("0\0../a\0\0001\0end", 14), QByteArray("2\0\0\0000\0end", 9),
+        QByteArray("4\0a\0b/../../c\0000\0end", 19), QByteArray("9\0a\0\0001\0end", 11)}) {
+    TempData temp;
+    temp.Put(u"a"_s, "old");
+    PutManifest(temp, manifest);
+    const Failure failure = FailureOf([&] { SaveSet::Recover(temp.Data()); });
+    EXPECT_EQ(failure.error, EBADMSG) << manifest.toHex(' ').constData();
+    const std::map<std::string, std::string> expected = {
+        {"a", "old"},
+        {"Прерванная запись 1/", ""},
+        {"Прерванная запись 1/manifest", manifest.toStdString()}};
+    EXPECT_EQ(temp.Tree(), expected);
+    EXPECT_EQ(FailureOf([&] { SaveSet::Recover(temp.Data()); }).error, 0);
+    EXPECT_EQ(CommitFailure(temp, [](SaveSet& save) { save.Write(u"a"_s, "new"); }).error, 0);
+  }
+}
+
+// Somebody has put something else in the place of what a crash leaves. Nothing outside the
+// directory changes, nothing hangs, and the next start is as any other.
+TEST(SaveRecovery, RecoveryStaysInsideAndReadsPlainFilesOnly) {
+  using Prepare = std::function<void(const TempData& temp, const QString& outside)>;
+  const auto link = [](const QString& to, const QString& from) {
+    ASSERT_TRUE(QFile::link(to, from));
+  };
+  const QByteArray write_through("0\0way/a\0\0000\0end", 15);
+  const Prepare through_link = [&](auto& temp, auto& outside) {
+    link(outside, temp.Root() + u"/way"_s);
+    PutManifest(temp, write_through);
+    temp.Put(u"new"_s, "new");
+    QFile::rename(temp.Root() + u"/new"_s, temp.Root() + u"/.kladez-save/new.0"_s);
+  };
+  const struct {
+    const char* name;
+    Prepare prepare;
+  } cases[] = {
+      {"the directory is a link",
+       [&](auto& temp, auto& outside) { link(outside, temp.Root() + u"/.kladez-save"_s); }},
+      {"a path leads through a link", through_link},
+      {"the manifest is a link",
+       [&](auto& temp, auto& outside) {
+         QDir(temp.Root()).mkpath(u".kladez-save"_s);
+         link(outside + u"/manifest"_s, temp.Root() + u"/.kladez-save/manifest"_s);
+       }},
+      {"the manifest is a pipe",
+       [&](auto& temp, auto&) {
+         QDir(temp.Root()).mkpath(u".kladez-save"_s);
+         ::mkfifo(QFile::encodeName(temp.Root() + u"/.kladez-save/manifest"_s).constData(), 0600);
+       }},
+      {"the manifest has 3 GB",
+       [&](auto& temp, auto&) {
+         PutManifest(temp, {});
+         QFile file(temp.Root() + u"/.kladez-save/manifest"_s);
+         ASSERT_TRUE(file.resize(qint64{3} << 30));
+       }},
+      {"a new file is a link",
+       [&](auto& temp, auto& outside) {
+         PutManifest(temp, QByteArray("0\0a\0\0000\0end", 11));
+         link(outside + u"/a"_s, temp.Root() + u"/.kladez-save/new.0"_s);
+       }},
+      {"a staged directory is a link",
+       [&](auto& temp, auto& outside) {
+         QDir(temp.Root()).mkpath(u".kladez-save"_s);
+         link(outside, temp.Root() + u"/.kladez-save/old.0"_s);
+       }},
+  };
+  for (const bool old_kernel : {false, true}) {
+    syscalls::PretendOldKernel(old_kernel);
+    for (const auto& c : cases) {
+      TempData outside, temp;
+      outside.Put(u"a"_s, "outside");
+      outside.Put(u"manifest"_s, QByteArray("0\0a\0\0000\0end", 11));
+      outside.Put(u"new.0"_s, "new");
+      temp.Put(u"a"_s, "old");
+      const auto before = outside.Tree();
+      c.prepare(temp, outside.Root());
+      FailureOf([&] { SaveSet::Recover(temp.Data()); });
+      EXPECT_EQ(outside.Tree(), before) << c.name;
+      EXPECT_EQ(temp.Bytes(u"a"_s), "old") << c.name;
+      EXPECT_EQ(FailureOf([&] { SaveSet::Recover(temp.Data()); }).error, 0) << c.name;
+      EXPECT_FALSE(QFileInfo::exists(temp.Root() + u"/.kladez-save"_s)) << c.name;
+    }
+  }
+  syscalls::PretendOldKernel(false);
+}
+
+}  // namespace
+}  // namespace kladez
