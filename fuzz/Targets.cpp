@@ -105,16 +105,16 @@ void Documents(QByteArrayView bytes) {
 // What a check tells of a document lies in it, and whole line ends leave nothing to tell of ends.
 void Checks(QByteArrayView bytes) {
   StrictLines lines;
-  std::vector<Finding> findings;
+  FindingList findings;
   lines.Read({}, bytes, findings);
   LineWriter whole;
   for (const QByteArrayView line : lines.Lines()) whole.AddRaw(line);
   const QByteArray mended = whole.Take();
   StrictLines again;
-  std::vector<Finding> rest;
+  FindingList rest;
   again.Read({}, mended, rest);
   Require(again.Lines() == lines.Lines(), "mended lines are the same lines");
-  for (const Finding& finding : rest) {
+  for (const Finding& finding : rest.Take()) {
     Require(finding.repair != Repair::kLineEnds, "mended line ends need no repair");
   }
   for (const auto kind :
@@ -130,7 +130,7 @@ void Checks(QByteArrayView bytes) {
     stock.Tell(findings);
     names.goods.TellUnknown(u"Товара"_s, findings);
   }
-  for (const Finding& finding : findings) {
+  for (const Finding& finding : findings.Take()) {
     Require(finding.line >= 0 && finding.line <= static_cast<int>(lines.Lines().size()),
             "a finding lies in the file");
   }

@@ -1,11 +1,8 @@
 #include "books/check/BooksCheck.h"
 
-#include <algorithm>
-
 #include "books/check/ListCheck.h"
 #include "books/store/Errors.h"
 #include "formats/DatabaseFiles.h"
-#include "formats/Ordering.h"
 
 namespace kladez {
 namespace {
@@ -31,7 +28,7 @@ std::vector<DocumentFolder> DocumentFolders(const QStringList& warehouses) {
 class Check {
  public:
   Check(const DataDir& data, const QString& base)
-      : data_(data), base_(base), lists_(data, base, result_) {}
+      : data_(data), base_(base), lists_(data, base, findings_, result_.files) {}
 
   CheckResult Run(const Progress& progress) {
     lists_.CheckGoods(names_.goods);
@@ -56,21 +53,20 @@ class Check {
       const double done = static_cast<double>(i) * part;
       CheckDocuments(folders[i], stock, progress.Piece(done, done + part));
     }
-    stock.Tell(result_.findings);
+    stock.Tell(findings_);
     result_.stock = stock.Compare();
-    names_.goods.TellUnknown(u"Товара"_s, result_.findings);
-    Order();
-    names_.clients.TellUnknown(u"Клиента"_s, result_.findings);
-    names_.suppliers.TellUnknown(u"Поставщика"_s, result_.findings);
-    Order();
+    names_.goods.TellUnknown(u"Товара"_s, findings_);
+    names_.clients.TellUnknown(u"Клиента"_s, findings_);
+    names_.suppliers.TellUnknown(u"Поставщика"_s, findings_);
+    result_.findings = findings_.Take();
+    result_.untold = findings_.Untold();
     return std::move(result_);
   }
 
  private:
   void CheckDocuments(const DocumentFolder& folder, StockCheck& stock, const Progress& progress) {
     if (!data_.DirectoryExists(base_ + folder.directory)) return;
-    DocumentCheck check(folder.kind, folder.directory, folder.warehouse, names_, stock,
-                        result_.findings);
+    DocumentCheck check(folder.kind, folder.directory, folder.warehouse, names_, stock, findings_);
     const auto visit = [&](const DataDir::ListedFile& file) {
       progress.Tell(static_cast<double>(file.index) / static_cast<double>(file.count));
       ++result_.files;
@@ -80,34 +76,15 @@ class Check {
       } else {
         lists_.Tell(folder.directory + u'\\' + file.name, 0, u"Документ не читается."_s);
       }
-      // Foreign files give more than anybody reads, or memory holds.
-      if (result_.findings.size() > 4 * static_cast<size_t>(kMostFindings)) Order();
       return true;
     };
     data_.ForEachFile(base_ + folder.directory, FormatOf(folder.kind).extension, visit);
     check.Finish();
   }
 
-  // By file; of those beyond kMostFindings nothing but their number is kept.
-  void Order() {
-    auto& findings = result_.findings;
-    std::vector<std::pair<QString, size_t>> keys;
-    for (size_t i = 0; i < findings.size(); ++i) keys.emplace_back(FoldCase(findings[i].file), i);
-    std::stable_sort(keys.begin(), keys.end(), [&](const auto& a, const auto& b) {
-      return a.first != b.first ? a.first < b.first
-                                : findings[a.second].line < findings[b.second].line;
-    });
-    const size_t kept = std::min(keys.size(), static_cast<size_t>(kMostFindings));
-    result_.untold += static_cast<qsizetype>(keys.size() - kept);
-    std::vector<Finding> ordered;
-    for (size_t i = 0; i < kept; ++i) {
-      ordered.push_back(std::move(findings[keys[i].second]));
-    }
-    findings = std::move(ordered);
-  }
-
   const DataDir& data_;
   const QString base_;
+  FindingList findings_;
   CheckResult result_;
   ListCheck lists_;
   DirectoryNames names_;

@@ -31,8 +31,7 @@ bool IsSame(double told, double counted) { return std::fabs(told - counted) < 0.
 }  // namespace
 
 DocumentCheck::DocumentCheck(DocumentKind kind, const QString& directory, int warehouse,
-                             DirectoryNames& names, StockCheck& stock,
-                             std::vector<Finding>& findings)
+                             DirectoryNames& names, StockCheck& stock, FindingList& findings)
     : kind_(kind),
       format_(FormatOf(kind)),
       directory_(directory),
@@ -190,9 +189,9 @@ void DocumentCheck::Finish() {
   if (missing.isEmpty()) return;
   constexpr qsizetype kMostTold = 20;
   const QString more = missing.size() > kMostTold ? u" и другие"_s : QString();
-  findings_.push_back({directory_, 0,
-                       u"Нет файлов с номерами: "_s + missing.mid(0, kMostTold).join(u", "_s) +
-                           more + u". Эти документы удалены или потеряны."_s});
+  findings_.Add({directory_, 0,
+                 u"Нет файлов с номерами: "_s + missing.mid(0, kMostTold).join(u", "_s) + more +
+                     u". Эти документы удалены или потеряны."_s});
 }
 
 }  // namespace kladez

@@ -25,7 +25,7 @@ class DocumentCheck {
   // `directory` is where the documents lie, `warehouse` the place of its warehouse in the list, -1
   // for transfers.
   DocumentCheck(DocumentKind kind, const QString& directory, int warehouse, DirectoryNames& names,
-                StockCheck& stock, std::vector<Finding>& findings);
+                StockCheck& stock, FindingList& findings);
 
   // The files in the order of the listing.
   void Add(const QString& file, QByteArrayView bytes);
@@ -42,7 +42,7 @@ class DocumentCheck {
   void CheckParty(QString DocumentHead::*field);
   void CheckLines();
   void CheckSums(double sum_of_lines);
-  void Tell(int line, const QString& text) { findings_.push_back({path_, line, text}); }
+  void Tell(int line, const QString& text) { findings_.Add({path_, line, text}); }
 
   const DocumentKind kind_;
   const DocumentFormat& format_;
@@ -50,7 +50,7 @@ class DocumentCheck {
   const int warehouse_;
   DirectoryNames& names_;
   StockCheck& stock_;
-  std::vector<Finding>& findings_;
+  FindingList& findings_;
 
   QString path_;  // of the document at hand
   StrictLines text_;

@@ -14,12 +14,12 @@ namespace kladez {
 // The number that readers take from the field; `otherwise` counts, and a finding says so, where it
 // is none. `what` is the field in front of the verb: "Цена", "Количество".
 inline double CheckNumber(QByteArrayView field, QStringView what, const QString& file, int line,
-                          std::vector<Finding>& findings) {
+                          FindingList& findings) {
   const double number = NumberOr(field, std::nan(""));
   if (!std::isnan(number)) return number;
   constexpr qsizetype kMostShown = 40;
   const QString text = DecodeText(field.first(std::min(field.size(), kMostShown)));
-  findings.push_back(
+  findings.Add(
       {file, line,
        QStringLiteral("%1 «%2» не читается как число и считается нулём.").arg(what, text)});
   return 0;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <utility>
 #include <vector>
 
 namespace kladez {
@@ -47,6 +48,27 @@ struct StockComparison {
   double Unexplained() const;
 };
 
+// Nobody reads more; a foreign file could give one for each of its lines.
+inline constexpr qsizetype kMostFindings = 5000;
+
+// Findings on their way: however many come, no more lie in memory than a few times kMostFindings.
+class FindingList {
+ public:
+  void Add(Finding finding) {
+    findings_.push_back(std::move(finding));
+    if (findings_.size() > 4 * static_cast<size_t>(kMostFindings)) Order();
+  }
+  // The first kMostFindings by file, then by line, then as they came; the rest is counted only.
+  std::vector<Finding> Take();
+  qsizetype Untold() const { return untold_; }  // after Take
+
+ private:
+  void Order();
+
+  std::vector<Finding> findings_;
+  qsizetype untold_ = 0;
+};
+
 struct CheckResult {
   std::vector<Finding> findings;  // by file, at most kMostFindings
   qsizetype untold = 0;           // findings beyond that number
@@ -54,8 +76,5 @@ struct CheckResult {
   int files = 0;      // read, documents among them
   int documents = 0;  // receipts, shipments and transfers
 };
-
-// Nobody reads more; a foreign file could give one for each of its lines.
-inline constexpr qsizetype kMostFindings = 5000;
 
 }  // namespace kladez

@@ -27,7 +27,7 @@ QString Quoted(QByteArrayView name) { return u'«' + DecodeText(name).left(200) 
 
 std::optional<QByteArray> ListCheck::Read(const QString& file) {
   try {
-    ++result_.files;
+    ++files_;
     return data_.Read(base_ + file);
   } catch (const std::filesystem::filesystem_error& error) {
     Tell(file, 0,
@@ -38,14 +38,14 @@ std::optional<QByteArray> ListCheck::Read(const QString& file) {
 }
 
 void ListCheck::Tell(const QString& file, int line, const QString& text, Repair repair) {
-  result_.findings.push_back({file, line, text, repair});
+  findings_.Add({file, line, text, repair});
 }
 
 bool ListCheck::ReadLines(const QString& file) {
   auto bytes = Read(file);
   if (!bytes) return false;
   bytes_ = std::move(*bytes);
-  lines_.Read(file, bytes_, result_.findings);
+  lines_.Read(file, bytes_, findings_);
   count_ = lines_.FilledLines();
   return true;
 }
@@ -90,7 +90,7 @@ void ListCheck::CheckGoods(KnownNames& goods) {
                Quoted(name)));
     }
     CheckNumber(Line(first + kGoodsLines - 1), u"Цена", file, LineNumber(first + kGoodsLines - 1),
-                result_.findings);
+                findings_);
   });
 }
 
@@ -183,7 +183,7 @@ void ListCheck::CheckLedger(const QString& warehouse, int place, KnownNames& goo
     goods.Use(number, file, LineNumber(first));
     stock.AddLedgerRecord(
         place, number,
-        CheckNumber(Line(first + 1), u"Количество", file, LineNumber(first + 1), result_.findings));
+        CheckNumber(Line(first + 1), u"Количество", file, LineNumber(first + 1), findings_));
   });
 }
 
@@ -215,7 +215,7 @@ void ListCheck::CheckPriceRows(const QString& file, KnownNames& goods) {
            Repair::kUnknownPrices);
     }
     CheckNumber(Line(first + kPriceLines - 1), u"Цена", file, LineNumber(first + kPriceLines - 1),
-                result_.findings);
+                findings_);
   });
 }
 

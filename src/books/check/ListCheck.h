@@ -12,8 +12,8 @@ namespace kladez {
 class ListCheck {
  public:
   // All outlive the check. `base` is the Database's path, "0001\".
-  ListCheck(const DataDir& data, const QString& base, CheckResult& result)
-      : data_(data), base_(base), result_(result) {}
+  ListCheck(const DataDir& data, const QString& base, FindingList& findings, int& files)
+      : data_(data), base_(base), findings_(findings), files_(files) {}
 
   // These fill the names, which all that follows refers to.
   void CheckGoods(KnownNames& goods);
@@ -46,7 +46,8 @@ class ListCheck {
 
   const DataDir& data_;
   const QString base_;
-  CheckResult& result_;
+  FindingList& findings_;
+  int& files_;  // read
   QByteArray bytes_;
   StrictLines lines_;
   size_t count_ = 0;

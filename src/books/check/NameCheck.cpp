@@ -74,7 +74,7 @@ std::optional<QString> KnownNames::Nearest(const QString& text) const {
   return nearest;
 }
 
-void KnownNames::TellUnknown(const QString& what, std::vector<Finding>& findings) const {
+void KnownNames::TellUnknown(const QString& what, FindingList& findings) const {
   const size_t most = std::min(kMostSearches, kMostComparisons / (names_.size() + 1));
   size_t searches = 0;
   for (size_t number = 0; number < names_.size(); ++number) {
@@ -85,7 +85,7 @@ void KnownNames::TellUnknown(const QString& what, std::vector<Finding>& findings
     if (name.uses > 1) told += u" (мест: %1)"_s.arg(name.uses);
     const auto nearest = ++searches <= most ? Nearest(text) : std::nullopt;
     told += nearest ? u". Похоже на «"_s + *nearest + u"»."_s : u"."_s;
-    findings.push_back({name.file, name.line, told});
+    findings.Add({name.file, name.line, told});
   }
 }
 

@@ -27,7 +27,7 @@ class KnownNames {
   void Use(size_t number, const QString& file, int line);
 
   // One finding for each unknown name: `what` is "Товара", "Клиента" in front of the name.
-  void TellUnknown(const QString& what, std::vector<Finding>& findings) const;
+  void TellUnknown(const QString& what, FindingList& findings) const;
 
   // The known name that differs least from the text, at most by a third of its letters; case does
   // not count.

@@ -18,8 +18,9 @@ using namespace Qt::StringLiterals;
 
 QByteArray WholeLines(QByteArrayView bytes) {
   StrictLines lines;
-  std::vector<Finding> findings;
+  FindingList findings;
   lines.Read({}, bytes, findings);
+  if (!lines.AreAll()) return bytes.toByteArray();
   LineWriter writer;
   for (const QByteArrayView line : lines.Lines()) writer.AddRaw(line);
   return writer.Take();
@@ -36,8 +37,9 @@ QByteArray Recoded(QByteArrayView bytes) {
 
 QByteArray WithoutEmptyEnd(QByteArrayView bytes) {
   StrictLines lines;
-  std::vector<Finding> findings;
+  FindingList findings;
   lines.Read({}, bytes, findings);
+  if (!lines.AreAll()) return bytes.toByteArray();
   LineWriter writer;
   for (size_t i = 0; i < lines.FilledLines(); ++i) writer.AddRaw(lines.Lines()[i]);
   return writer.Take();

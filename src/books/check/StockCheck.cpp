@@ -75,16 +75,16 @@ std::vector<StockComparison> StockCheck::Compare() const {
   return rows;
 }
 
-void StockCheck::Tell(std::vector<Finding>& findings) const {
+void StockCheck::Tell(FindingList& findings) const {
   for (const StockComparison& row : Compare()) {
     const QString file = row.warehouse + u'\\' + files::kLedger;
     if (row.on_hand < 0) {
-      findings.push_back(
+      findings.Add(
           {file, 0,
            u"Товара «%1» на складе меньше нуля: %2."_s.arg(row.name, GeneralText(row.on_hand))});
     }
     if (row.Difference() < 0) {
-      findings.push_back(
+      findings.Add(
           {file, 0,
            u"Товара «%1» по документам должно быть %2 (приход %3, расход %4, перемещения %5), на "
            "складе %6: не хватает %7."_s.arg(

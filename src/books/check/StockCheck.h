@@ -23,7 +23,7 @@ class StockCheck {
   // Every goods that stands in a document or a ledger, warehouse by warehouse.
   std::vector<StockComparison> Compare() const;
   // What is negative, and what the documents do not explain, at the warehouses' ledgers.
-  void Tell(std::vector<Finding>& findings) const;
+  void Tell(FindingList& findings) const;
 
  private:
   struct Sums {

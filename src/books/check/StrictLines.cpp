@@ -21,29 +21,29 @@ struct LineFaults {
 };
 
 void TellLineFaults(const QString& file, const LineFaults& faults, QByteArrayView bytes,
-                    std::vector<Finding>& findings) {
+                    FindingList& findings) {
   if (faults.bare_ends > 0) {
-    findings.push_back({file, faults.first_bare,
-                        u"Строк с чужим концом (не CR LF): %1. Программа принимает их за одну "
-                        "строку, и записи сдвигаются."_s.arg(faults.bare_ends),
-                        Repair::kLineEnds});
+    findings.Add({file, faults.first_bare,
+                  u"Строк с чужим концом (не CR LF): %1. Программа принимает их за одну "
+                  "строку, и записи сдвигаются."_s.arg(faults.bare_ends),
+                  Repair::kLineEnds});
   } else if (faults.unfinished) {
-    findings.push_back({file, 0,
-                        u"Последняя строка не закончена: запись, добавленная в файл, "
-                        "приклеится к ней."_s,
-                        Repair::kLineEnds});
+    findings.Add({file, 0,
+                  u"Последняя строка не закончена: запись, добавленная в файл, "
+                  "приклеится к ней."_s,
+                  Repair::kLineEnds});
   }
   if (IsUtf8Text(bytes)) {
-    findings.push_back({file, 0,
-                        u"Файл сохранён в кодировке UTF-8, вместо русских букв видны "
-                        "знаки вроде «Рђ»."_s,
-                        Repair::kEncoding});
+    findings.Add({file, 0,
+                  u"Файл сохранён в кодировке UTF-8, вместо русских букв видны "
+                  "знаки вроде «Рђ»."_s,
+                  Repair::kEncoding});
   } else if (faults.first_foreign > 0) {
-    findings.push_back(
+    findings.Add(
         {file, faults.first_foreign, u"Есть знак, которого нет в кодировке Windows-1251."_s});
   }
   if (faults.first_long > 0) {
-    findings.push_back(
+    findings.Add(
         {file, faults.first_long,
          u"Строка длиннее %1 знаков: такую не показать и не напечатать."_s.arg(kLongestLine)});
   }
@@ -67,8 +67,9 @@ bool IsUtf8Text(QByteArrayView bytes) {
   return beyond_ascii;
 }
 
-void StrictLines::Read(const QString& file, QByteArrayView bytes, std::vector<Finding>& findings) {
+void StrictLines::Read(const QString& file, QByteArrayView bytes, FindingList& findings) {
   lines_.clear();
+  all_ = true;
   LineFaults faults;
   const char* const end = bytes.data() + bytes.size();
   const auto note = [&](int& first) {
@@ -79,7 +80,7 @@ void StrictLines::Read(const QString& file, QByteArrayView bytes, std::vector<Fi
     if (at - start > kLongestLine) note(faults.first_long);
     lines_.emplace_back(start, at - start);
   };
-  for (const char* at = start; at < end; ++at) {
+  for (const char* at = start; at < end && all_; ++at) {
     if (!IsNoCharacter(static_cast<unsigned char>(*at))) continue;
     if (*at != '\r' && *at != '\n') {
       note(faults.first_foreign);
@@ -91,8 +92,15 @@ void StrictLines::Read(const QString& file, QByteArrayView bytes, std::vector<Fi
       ++faults.bare_ends;
     }
     finish_line(at);
+    all_ = lines_.size() < kMostLines;
     at += whole ? 1 : 0;
     start = at + 1;
+  }
+  if (!all_) {
+    findings.Add({file, static_cast<int>(lines_.size()),
+                  u"В файле слишком много строк, дальше он не проверен. Он попал сюда по "
+                  "ошибке или повреждён."_s});
+    return;
   }
   faults.unfinished = start < end;
   if (faults.unfinished) finish_line(end);

@@ -14,17 +14,23 @@ class StrictLines {
  public:
   // Takes the bytes of a file apart and adds what is wrong to the findings of `file`. Lines end at
   // CR LF, LF or CR alike, as they will once the file is repaired. The views are valid as long as
-  // the bytes.
-  void Read(const QString& file, QByteArrayView bytes, std::vector<Finding>& findings);
+  // the bytes. A file of more than kMostLines lines is taken apart so far only, and says so.
+  void Read(const QString& file, QByteArrayView bytes, FindingList& findings);
 
   // As they stand, undecoded, without their ends.
   const std::vector<QByteArrayView>& Lines() const { return lines_; }
+  // False where there were more than kMostLines.
+  bool AreAll() const { return all_; }
   // The lines that stand before the empty ones at the end.
   size_t FilledLines() const;
 
  private:
   std::vector<QByteArrayView> lines_;
+  bool all_ = true;
 };
+
+// More is no file of a shop, and each line takes its memory here.
+inline constexpr size_t kMostLines = 8'000'000;
 
 // The longest line that is no finding, in characters.
 inline constexpr qsizetype kLongestLine = 1000;

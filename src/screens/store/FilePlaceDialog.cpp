@@ -16,7 +16,7 @@ QStringList LinesOf(const DataDir& data, const QString& path) {
   if (data.DirectoryExists(path)) return data.List(path, u"");
   const QByteArray bytes = data.Read(path);
   StrictLines lines;
-  std::vector<Finding> findings;
+  FindingList findings;
   lines.Read(path, bytes, findings);
   QStringList texts;
   for (const QByteArrayView line : lines.Lines()) {

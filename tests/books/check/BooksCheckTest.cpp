@@ -1,6 +1,7 @@
 #include "TempData.h"
 #include "books/check/BooksCheck.h"
 #include "books/check/Repairs.h"
+#include "books/check/StrictLines.h"
 #include "books/store/Catalogue.h"
 
 namespace kladez {
@@ -239,6 +240,23 @@ TEST_F(BooksCheckTest, RepairsKeepWhatIsSound) {
                           [](auto&) { throw std::filesystem::filesystem_error("", {}); }),
                std::filesystem::filesystem_error);
   EXPECT_EQ(temp_.Lines(u"0001\\marked"_s), QStringList{u"Кофе"_s});
+}
+
+TEST_F(BooksCheckTest, ForeignFilesOfAnyLengthAreToldInFewWordsAndLeftAsTheyAre) {
+  const QByteArray endless(static_cast<qsizetype>(kMostLines) + 5, '\n');
+  temp_.Put(u"0001\\marked"_s, endless);
+  constexpr int kBad = 9 * static_cast<int>(kMostFindings);
+  temp_.Put(u"0001\\Подвал\\товар.usl"_s, EncodeText(u"Чай\r\nмного\r\nпач.\r\n"_s.repeated(kBad)));
+  const CheckResult result = Check();
+  ASSERT_EQ(result.findings.size(), static_cast<size_t>(kMostFindings));
+  EXPECT_GE(result.untold, kBad - kMostFindings);
+  const Finding& first = result.findings.front();
+  EXPECT_EQ(first.file, u"marked"_s);
+  EXPECT_TRUE(first.text.contains(u"слишком много строк"_s)) << first.text.toStdString();
+  for (const Repair repair : {Repair::kLineEnds, Repair::kEmptyEnd}) {
+    MakeRepair(temp_.Data(), session_, {u"marked"_s, 0, {}, repair});
+    EXPECT_EQ(temp_.Data().Read(u"0001\\marked"_s).size(), endless.size());
+  }
 }
 
 TEST_F(BooksCheckTest, ACancelledCheckEndsAndADatabaseThatIsGoneIsTold) {
