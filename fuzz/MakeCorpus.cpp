@@ -86,6 +86,9 @@ std::vector<Seed> Seeds() {
       {"currency", WriteCurrency(RoubleCurrency())},
       {"taxrates", WriteTaxRates({u"20"_s, u"5"_s})},
       {"ownrecords", WriteOwnRecords(SampleRecords())},
+      {"sheets",
+       u"Товар;Ед.;Цена, руб.;Штрихкод\r\nЧай;пач.;1 046,50;4601234567893\r\n"_s.toUtf8() +
+           u"\"Кофе; 100 г\";;7;\r\n"_s.toUtf8()},
       {"descriptor", WriteDescriptor({u"0001\\"_s, u"Магазин"_s})},
       {"backup", WriteBackupIndex({{u"0001.us"_s, {u"0001\\"_s, u"Магазин"_s}}})},
       {"archive", SampleArchive()},

@@ -8,6 +8,7 @@
 #include "books/copies/Archive.h"
 #include "books/copies/CopyNote.h"
 #include "books/directories/GoodsOrder.h"
+#include "books/prices/BringPlanner.h"
 #include "books/printing/AmountInWords.h"
 #include "books/stock/DocumentScan.h"
 #include "books/stock/StockLedger.h"
@@ -27,6 +28,7 @@
 #include "formats/PriceFile.h"
 #include "formats/TaxRatesFile.h"
 #include "formats/TextLines.h"
+#include "formats/tables/Sheet.h"
 
 namespace kladez {
 namespace {
@@ -153,6 +155,24 @@ void OwnRecordFiles(QByteArrayView bytes) {
           "own records that are cut are known");
 }
 
+// Whatever stands in a foreign table, what is taken of it can be written and read again.
+void Sheets(QByteArrayView bytes) {
+  const Sheet sheet = ReadSheet(DecodeSheet(bytes));
+  const std::vector<GoodsRecord> goods = {{u" Чай"_s, {}, {}, {}, {}},
+                                          {u"Чай"_s, {}, {}, u"пач."_s, u"45.00"_s}};
+  const OwnRecords extras;
+  const PriceList prices;
+  BringChoice choice;
+  choice.layout = GuessLayout(sheet, PlainPrice::kPurchase);
+  for (const BroughtRow& row : BringPlanner(goods, extras, prices, choice).Plan(sheet).rows) {
+    if (row.fate == Fate::kRefused) continue;
+    const bool lost =
+        row.fate != Fate::kHeading && ReadGoods(WriteGoods({row.goods})) != std::vector{row.goods};
+    Require(!lost, "what a table brings is written and read as the same");
+    Require(BarcodeFault(row.extras.barcode).isEmpty(), "no false barcode is taken");
+  }
+}
+
 void Descriptors(QByteArrayView bytes) { RequireStable(bytes, ReadDescriptor, WriteDescriptor); }
 
 void Backups(QByteArrayView bytes) { RequireStable(bytes, ReadBackupIndex, WriteBackupIndex); }
@@ -277,6 +297,7 @@ constexpr FuzzTarget kTargets[] = {
     {"currency", Currencies},
     {"taxrates", TaxRateFiles},
     {"ownrecords", OwnRecordFiles},
+    {"sheets", Sheets},
     {"descriptor", Descriptors},
     {"backup", Backups},
     {"archive", Archives},

@@ -1,11 +1,9 @@
-#include "cli/CheckCommand.h"
-
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include "books/check/BooksCheck.h"
 #include "books/store/Catalogue.h"
-#include "books/store/Errors.h"
+#include "cli/Commands.h"
+#include "cli/OpenedBooks.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/Numbers.h"
 
@@ -53,29 +51,18 @@ bool CheckAll(const DataDir& data, bool stock, QTextStream& out) {
 
 }  // namespace
 
-ExitCode RunCheck(const QStringList& words, QTextStream& out, QTextStream& errors) {
-  QStringList directories = words;
-  const bool stock = directories.removeAll(u"--stock"_s) > 0;
-  if (directories.size() > 1 || (!directories.isEmpty() && directories[0].startsWith(u'-'))) {
-    errors << u"kladez-books check [--stock] [КАТАЛОГ]\n"_s;
-    return ExitCode::kNotDone;
+ExitCode RunCheck(Words& words, QTextStream& out) {
+  const bool stock = words.TakeFlag(u"--stock"_s);
+  const QString usual = DataDirectory(words);
+  const DataDir data(words.TakeRest(0, 1).value(0, usual));
+  bool sound = false;
+  if (data.FileExists(files::kWarehouses.toString())) {
+    const QFileInfo database(data.Root());
+    sound = CheckOne(DataDir(database.path()), database.fileName() + u'\\', stock, out);
+  } else {
+    sound = CheckAll(data, stock, out);
   }
-  const QString directory = directories.value(
-      0, QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/kladez"_s);
-  try {
-    const DataDir data(directory);
-    bool sound = false;
-    if (data.FileExists(files::kWarehouses.toString())) {
-      const QFileInfo database(data.Root());
-      sound = CheckOne(DataDir(database.path()), database.fileName() + u'\\', stock, out);
-    } else {
-      sound = CheckAll(data, stock, out);
-    }
-    return sound ? ExitCode::kSound : ExitCode::kFindings;
-  } catch (const std::exception& error) {
-    errors << ErrorText(error) << u'\n';
-    return ExitCode::kNotDone;
-  }
+  return sound ? ExitCode::kSound : ExitCode::kFindings;
 }
 
 }  // namespace kladez

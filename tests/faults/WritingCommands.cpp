@@ -12,6 +12,7 @@
 #include "books/directories/MainCurrency.h"
 #include "books/directories/PartyDirectory.h"
 #include "books/directories/WarehouseDirectory.h"
+#include "books/prices/GoodsBringer.h"
 #include "books/prices/PriceStore.h"
 #include "books/printing/PrintOutDesk.h"
 #include "books/stock/OnHand.h"
@@ -278,6 +279,15 @@ std::vector<WritingCommand> StockCommands() {
       OfPrices("прайс, копирование", [](PriceStore& store, PriceList& list) { store.Copy(list); }),
       OfPrices("прайс, вставка",
                [](PriceStore& store, PriceList& list) { store.Paste(list, kMainWarehouse, 2); }),
+      {"таблица, загрузка", "books/prices/GoodsBringer.cpp",
+       [](FaultBooks& books) {
+         const Sheet sheet = ReadSheet(u"Товар;Закуп;РРЦ;EAN\nЧай;46;65;\nСахар;7;9;46012344"_s);
+         BringChoice choice{.layout = GuessLayout(sheet, PlainPrice::kPurchase),
+                            .warehouse = kMainWarehouse,
+                            .price_list = 1};
+         auto bringer = std::make_shared<GoodsBringer>(books.Data(), books.Opened());
+         return [=, plan = bringer->Plan(sheet, choice)] { bringer->Save(plan); };
+       }},
       {"печатная форма", "books/printing/PrintOutDesk.cpp",
        [](FaultBooks& books) {
          return [&books] { PrintOutDesk(books.Data(), {}).Write(u"nakl.htm"_s, "<HTML>\r\n"); };

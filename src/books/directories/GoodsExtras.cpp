@@ -26,8 +26,6 @@ bool CheckDigitFits(const QString& code) {
   return sum % 10 == 0;
 }
 
-QString LongForm(const QString& code) { return code.size() == 12 ? u'0' + code : code; }
-
 }  // namespace
 
 GoodsExtras ExtrasOf(const OwnRecords& records, const QString& goods) {
@@ -53,8 +51,12 @@ QString BarcodeFault(const QString& barcode) {
   return {};
 }
 
+QString BarcodeKey(const QString& barcode) {
+  return barcode.size() == 12 ? u'0' + barcode : barcode;
+}
+
 bool IsSameBarcode(const QString& a, const QString& b) {
-  return !a.isEmpty() && LongForm(a) == LongForm(b);
+  return !a.isEmpty() && BarcodeKey(a) == BarcodeKey(b);
 }
 
 QString GoodsOfBarcode(const OwnRecords& records, const QString& barcode) {

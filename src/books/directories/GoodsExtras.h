@@ -31,7 +31,8 @@ void SetExtras(OwnRecords& records, const QString& goods, const GoodsExtras& ext
 // any other length up to 20.
 QString BarcodeFault(const QString& barcode);
 
-// Whether two texts are one code: a UPC-A is the EAN-13 that has a zero before it.
+// What two texts of one code have in common: a UPC-A is the EAN-13 that has a zero before it.
+QString BarcodeKey(const QString& barcode);
 bool IsSameBarcode(const QString& a, const QString& b);
 // The goods that have the code; empty where none have.
 QString GoodsOfBarcode(const OwnRecords& records, const QString& barcode);

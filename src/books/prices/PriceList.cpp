@@ -149,6 +149,16 @@ bool PriceList::SetSalePrice(int row, const QString& price) {
   return true;
 }
 
+void PriceList::SetSalePrices(QHash<QString, QString> prices) {
+  BeforeChange();
+  for (size_t row = 0; row < rows_.size() && !prices.empty(); ++row) {
+    const auto price = prices.find(rows_[row].name);
+    if (price == prices.end()) continue;
+    SetSalePrice(static_cast<int>(row), *price);
+    prices.erase(price);
+  }
+}
+
 int PriceList::InsertPick(int below, const GoodsPick& pick) {
   PriceRow row;
   row.name = pick.name;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <limits>
 #include <optional>
@@ -80,6 +81,8 @@ class PriceList {
   void SetTick(int row, bool on);
   // `price` is a number text. False for a group, which has none, and for what is no number.
   bool SetSalePrice(int row, const QString& price);
+  // The same of many, by name; of several rows of one name the first gets it.
+  void SetSalePrices(QHash<QString, QString> prices);
   // Puts a picked line in below a row (-1, or an empty list: at the end) and gives its position.
   // The asked quantity goes where the sale price stands, as it always has.
   int InsertPick(int below, const GoodsPick& pick);

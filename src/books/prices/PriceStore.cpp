@@ -4,7 +4,6 @@
 
 #include "books/directories/GoodsMarks.h"
 #include "books/store/Errors.h"
-#include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/TextLines.h"
 
@@ -39,6 +38,11 @@ QString PriceStore::FileOf(const QString& warehouse, int index) const {
 
 PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
                            const Progress& progress) const {
+  return LoadOver(data_.Read(session_.Path(files::kGoods)), warehouse, index, view, progress);
+}
+
+PriceList PriceStore::LoadOver(const QByteArray& goods, const QString& warehouse, int index,
+                               GoodsView view, const Progress& progress) const {
   const QStringList files = Files(warehouse);
   const bool has_file = index >= 0 && index < files.size();
   FileState price_file, marks_file;
@@ -46,16 +50,20 @@ PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
       has_file ? ReadWithState(data_, files[index], price_file) : QByteArray();
   QByteArray marks;
   IgnoreErrors([&] { marks = ReadIfThere(data_, MarksPath(session_), marks_file); });
-  PriceList list(data_.Read(session_.Path(files::kGoods)), prices, marks, view, progress);
+  PriceList list(goods, prices, marks, view, progress);
   list.price_file = price_file;
   list.marks_file = marks_file;
   return list;
 }
 
+void PriceStore::Gather(SaveSet& save, PriceList& list, const QString& warehouse, int index) const {
+  save.Write(FileOf(warehouse, index), list.PriceBytes(), list.price_file);
+}
+
 void PriceStore::Save(PriceList& list, const QString& warehouse, int index) const {
   SaveSet save(data_, u"прайс-лист записан"_s);
   save.Write(MarksPath(session_), list.MarkedBytes(), list.marks_file);
-  save.Write(FileOf(warehouse, index), list.PriceBytes(), list.price_file);
+  Gather(save, list, warehouse, index);
   save.Commit();
 }
 
@@ -76,7 +84,7 @@ bool PriceStore::Paste(PriceList& list, const QString& warehouse, int index) con
   PriceList pasted = list;
   pasted.Paste(data_.Read(kClipboard));
   SaveSet save(data_, u"прайс-лист вставлен"_s);
-  save.Write(FileOf(warehouse, index), pasted.PriceBytes(), pasted.price_file);
+  Gather(save, pasted, warehouse, index);
   save.Commit();
   list = std::move(pasted);
   return true;

@@ -12,6 +12,7 @@
 
 #include "books/prices/PriceList.h"
 #include "books/store/DataDir.h"
+#include "books/store/SaveSet.h"
 #include "books/store/Session.h"
 
 namespace kladez {
@@ -28,6 +29,12 @@ class PriceStore {
   // Throws filesystem_error.
   PriceList Load(const QString& warehouse, int index, GoodsView view,
                  const Progress& progress = {}) const;
+  // The same over a goods directory that is not saved yet.
+  PriceList LoadOver(const QByteArray& goods, const QString& warehouse, int index, GoodsView view,
+                     const Progress& progress = {}) const;
+  // Adds the list's rows to a set that is saved with more; the list lives until then. Throws
+  // filesystem_error where the list has no file.
+  void Gather(SaveSet& save, PriceList& list, const QString& warehouse, int index) const;
 
   // Each is one save, all or nothing, and throws filesystem_error.
   void Save(PriceList& list, const QString& warehouse, int index) const;  // ticks too

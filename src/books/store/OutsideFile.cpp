@@ -1,9 +1,12 @@
 #include "books/store/OutsideFile.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <cerrno>
 
 #include "books/store/Errors.h"
+#include "books/store/SystemCalls.h"
 
 namespace kladez {
 
@@ -15,6 +18,15 @@ void WriteOutside(const QString& path, const QByteArray& bytes) {
   if (!done) {
     ThrowFileError(QStringLiteral("Не удалось записать файл"), path, errno != 0 ? errno : EIO);
   }
+}
+
+QByteArray ReadOutside(const QString& path, qint64 most) {
+  const QString file = QFileInfo(path).canonicalFilePath();
+  QByteArray bytes;
+  const int error =
+      file.isEmpty() ? ENOENT : syscalls::ReadPlainFile(QFile::encodeName(file), most, &bytes);
+  if (error != 0) ThrowFileError(QStringLiteral("Не удалось прочитать файл"), path, error);
+  return bytes;
 }
 
 }  // namespace kladez
