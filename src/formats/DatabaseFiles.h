@@ -21,6 +21,7 @@ inline constexpr QStringView kClients = u"SPR\\klient.spr";
 inline constexpr QStringView kSuppliers = u"SPR\\post.spr";
 inline constexpr QStringView kWarehouses = u"склад.usd";
 inline constexpr QStringView kCurrency = u"currency.usd";
+inline constexpr QStringView kAccounts = u"post.ras";  // with suppliers; nothing here writes it
 inline constexpr QStringView kMarks = u"marked";
 inline constexpr QStringView kTransfers = u"ВНПЕР";  // the directory of all transfers
 inline constexpr std::array<QStringView, 5> kDirectories = {u"KASS", u"KASS\\PRH", u"KASS\\UHD",

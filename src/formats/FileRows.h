@@ -25,6 +25,7 @@ class FileRows {
   using Place = typename Source::Place;
 
   FileRows() = default;
+  // A row at each of the places, in their order.
   FileRows(Source source, const std::vector<Place>& places) : source_(std::move(source)) {
     rows_.reserve(places.size());
     for (const Place& place : places) rows_.push_back({place, kInFile});
@@ -34,6 +35,8 @@ class FileRows {
     for (size_t i = 0; i < made_.size(); ++i) rows_.push_back({{}, static_cast<int>(i)});
   }
 
+  // Rows count from 0. operator[] and what follows at() want one that is there; at() throws
+  // std::out_of_range for another. A record is made anew each time it is asked for.
   size_t size() const { return rows_.size(); }
   bool empty() const { return rows_.empty(); }
   Record operator[](size_t row) const {
@@ -45,6 +48,7 @@ class FileRows {
     if (row >= size()) throw std::out_of_range("no such row");
     return (*this)[row];
   }
+  // All rows taken apart; what the places are places in.
   std::vector<Record> Records() const { return {begin(), end()}; }
   const Source& File() const { return source_; }
 
@@ -55,6 +59,7 @@ class FileRows {
     return found.made == kInFile ? of_place(found.place)
                                  : of_record(made_[static_cast<size_t>(found.made)]);
   }
+  // Changes a row where it lies: of_place(Place&), or of_record(Record&) of one that was put in.
   template <typename OfPlace, typename OfRecord>
   void Change(size_t row, OfPlace of_place, OfRecord of_record) {
     Row& found = rows_[row];
@@ -65,9 +70,11 @@ class FileRows {
     }
   }
 
+  // Before the row, or at the end where the row is the number of rows.
   void Insert(size_t row, Record record) {
     rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(row), Made(std::move(record)));
   }
+  // The row becomes the record; the row goes; two rows change places.
   void Set(size_t row, Record record) { rows_[row] = Made(std::move(record)); }
   void Erase(size_t row) { rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row)); }
   void Swap(size_t a, size_t b) { std::swap(rows_[a], rows_[b]); }
@@ -85,6 +92,7 @@ class FileRows {
     return true;
   }
 
+  // One pass over the records, each made as it is come to.
   class Iterator {
    public:
     using iterator_category = std::input_iterator_tag;

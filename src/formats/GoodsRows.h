@@ -16,6 +16,7 @@ struct GoodsSource {
 
   QByteArray bytes;
 
+  // The record at a place, as views of the bytes, and as texts.
   RawGoods Raw(Place place) const;
   GoodsRecord Make(Place place) const;
   bool operator==(const GoodsSource& other) const { return bytes.isSharedWith(other.bytes); }
@@ -29,6 +30,7 @@ class GoodsRows : public FileRows<GoodsSource> {
   // The goods alone, by name.
   static GoodsRows ByName(const QByteArray& bytes);
 
+  // Whether the row is a group; it must be there, here and below.
   bool IsGroup(size_t row) const;
   // One field of a row.
   QString Text(size_t row, QString GoodsRecord::*field) const;

@@ -18,6 +18,7 @@ namespace kladez {
 // IgnoreErrors does not take it for an error of the outside world.
 class WorkCancelled : public std::exception {
  public:
+  // For a log; no person sees it.
   const char* what() const noexcept override { return "the work was cancelled"; }
 };
 

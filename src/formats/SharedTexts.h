@@ -21,6 +21,7 @@ class SharedTexts {
     if (known.bytes != bytes || known.text.isNull()) known = {bytes, make(bytes)};
     return known.text;
   }
+  // The text that Windows-1251 makes of the bytes.
   const QString& Text(QByteArrayView bytes) { return Text(bytes, DecodeText); }
 
  private:

@@ -16,6 +16,7 @@ class TextPool {
   // them then.
   enum class Keeps { kBytes, kPlaces };
 
+  // Empty.
   explicit TextPool(Keeps keeps = Keeps::kBytes) : keeps_(keeps) {}
   TextPool(TextPool&&) = default;
   TextPool& operator=(TextPool&&) = default;
@@ -29,8 +30,11 @@ class TextPool {
   int Add(QByteArrayView bytes, quint32 hash);
   // The number of a text, -1 for one that was not added.
   int Find(QByteArrayView bytes) const;
+  // How many different texts there are.
   int Size() const { return static_cast<int>(texts_.size()); }
 
+  // A text by its number, which Add has given: as it was added, valid as long as the pool or its
+  // owner; and decoded from Windows-1251.
   QByteArrayView Bytes(int number) const { return texts_[static_cast<size_t>(number)]; }
   // Whether the text of that number is these bytes.
   bool Is(int number, QByteArrayView bytes) const {

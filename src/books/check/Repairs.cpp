@@ -8,6 +8,7 @@
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/GoodsFile.h"
+#include "formats/InOrder.h"
 #include "formats/PriceFile.h"
 #include "formats/TextLines.h"
 
@@ -124,22 +125,28 @@ bool AddRepair(SaveSet& save, const DataDir& data, const Session& session, const
   return true;
 }
 
+struct QuestionRow {
+  Repair repair;
+  QStringView question;
+};
+
+constexpr auto kQuestions = std::to_array<QuestionRow>({
+    {Repair::kNone, u""},
+    {Repair::kLineEnds, u"Переписать концы строк файла «%1»?"},
+    {Repair::kEncoding, u"Переписать файл «%1» в кодировке Windows-1251?"},
+    {Repair::kEmptyEnd, u"Убрать пустые строки в конце файла «%1»?"},
+    {Repair::kDoubleWarehouse, u"Оставить в файле «%1» каждый склад один раз?"},
+    {Repair::kUnknownPrices, u"Убрать из файла «%1» цены товаров, которых нет в справочнике?"},
+    {Repair::kUnknownMarks, u"Убрать из файла «%1» отметки товаров, которых нет в справочнике?"},
+    {Repair::kListWarehouse, u"Добавить «%1» в список складов?"},
+    {Repair::kMakeWarehouse, u"Создать папку склада, записанного в файле «%1»?"},
+});
+static_assert(IsInOrder(kQuestions, &QuestionRow::repair));
+
 }  // namespace
 
 QString RepairQuestion(const Finding& finding) {
-  static constexpr QStringView kQuestions[] = {
-      u"",
-      u"Переписать концы строк файла «%1»?",
-      u"Переписать файл «%1» в кодировке Windows-1251?",
-      u"Убрать пустые строки в конце файла «%1»?",
-      u"Оставить в файле «%1» каждый склад один раз?",
-      u"Убрать из файла «%1» цены товаров, которых нет в справочнике?",
-      u"Убрать из файла «%1» отметки товаров, которых нет в справочнике?",
-      u"Добавить «%1» в список складов?",
-      u"Создать папку склада, записанного в файле «%1»?",
-  };
-  static_assert(std::size(kQuestions) == static_cast<size_t>(Repair::kMakeWarehouse) + 1);
-  return kQuestions[static_cast<size_t>(finding.repair)].toString().arg(finding.file);
+  return kQuestions[static_cast<size_t>(finding.repair)].question.toString().arg(finding.file);
 }
 
 bool MakeRepair(const DataDir& data, Session& session, const Finding& finding,

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <algorithm>
-#include <array>
 #include <map>
 #include <optional>
 
@@ -110,9 +109,8 @@ class Comparison {
   void AddDocument(DocumentKind kind, const QString& warehouse, const QString& file,
                    const QByteArray& was, const QByteArray& now) {
     if (documents_.size() >= kMostCopyChanges) return;
-    static constexpr std::array<QStringView, 3> kKinds = {u"Приход", u"Расход", u"Перемещение"};
     const DocumentHead head = ReadDocumentHead(kind, now.isEmpty() ? was : now);
-    QString what = kKinds[static_cast<size_t>(kind)] + u' ' + head.number + u" от "_s + head.date;
+    QString what = BookOf(kind).name + u' ' + head.number + u" от "_s + head.date;
     if (BookOf(kind).in_warehouse) what += u", "_s + warehouse;
     documents_.push_back({what + u" (" + file + u')', SumOf(kind, was), SumOf(kind, now)});
   }

@@ -23,9 +23,9 @@ class CopyKeeper {
   CopyKeeper(const DataDir& data, SettingsStore& settings, const Clock& clock);
   ~CopyKeeper();  // ends what is on its way
 
-  // Answers whether a command goes on though no copy could be made, for the reason given. Without
-  // anybody to ask it does not.
+  // Answers whether a command goes on though no copy could be made, for the reason given.
   using Question = std::function<bool(const QString& reason)>;
+  // Whom to ask from now on. Without anybody, an empty question, no such command goes on.
   void SetQuestion(Question question) { question_ = std::move(question); }
 
   // Throws WorkCancelled where the answer is no; filesystem_error without a question.

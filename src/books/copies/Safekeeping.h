@@ -19,13 +19,16 @@ class Safekeeping : public SaveWatch {
   Safekeeping(const Safekeeping&) = delete;
   Safekeeping& operator=(const Safekeeping&) = delete;
 
+  // The two that look on, for whoever asks them for more; valid as long as this.
   CopyKeeper& Copies() { return copies_; }
   UndoLog& Undo() { return undo_; }
 
+  // Throws what CopyKeeper::BeforeSave throws: the save is off then, nothing has changed.
   void BeforeSave(const SaveSet& save) override {
     copies_.BeforeSave(save);
     undo_.BeforeSave(save);
   }
+  // The save went through: its command can be undone.
   void AfterSave(const SaveSet& save) override { undo_.AfterSave(save); }
 
  private:

@@ -14,9 +14,11 @@ namespace kladez {
 
 class UndoLog {
  public:
+  // Empty; the directory outlives it.
   explicit UndoLog(const DataDir& data) : data_(data) {}
 
-  // Commands that have no name in a person's words are none of a person's.
+  // Keeps what the save will replace; makes a step of it once the save went through. Commands that
+  // have no name in a person's words are none of a person's.
   void BeforeSave(const SaveSet& save);
   void AfterSave(const SaveSet& save);
 

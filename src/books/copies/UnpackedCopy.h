@@ -21,10 +21,12 @@ class UnpackedCopy {
   UnpackedCopy(const UnpackedCopy&) = delete;
   UnpackedCopy& operator=(const UnpackedCopy&) = delete;
 
+  // What the copy tells of itself; the data directory with its one Database.
   const CopyNote& Note() const { return note_; }
   const DataDir& Data() const { return *data_; }
   // The Database as it was, opened.
   const Session& Opened() const { return session_; }
+  // Its row of the catalogue.
   const CatalogueEntry& Entry() const { return entry_; }
 
  private:
@@ -52,6 +54,7 @@ struct CopiedList {
   QString title;  // "Товары", "Остатки склада «Лавка»"
   QString path;   // inside the Database
 };
+// The lists of the copy that are there, in the order in which they are shown.
 std::vector<CopiedList> ListsOf(const UnpackedCopy& copy);
 
 // The three ways back. Each is one save after a copy of what is there now; none touches stock on

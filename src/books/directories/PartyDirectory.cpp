@@ -1,8 +1,26 @@
 #include "books/directories/PartyDirectory.h"
 
+#include <array>
+
 #include "books/store/SaveSet.h"
+#include "formats/InOrder.h"
 
 namespace kladez {
+namespace {
+
+struct SavedRow {
+  PartyKind kind;
+  QStringView what;
+};
+
+constexpr auto kSaved = std::to_array<SavedRow>({
+    {PartyKind::kFirm, u"справочник фирм записан"},
+    {PartyKind::kClient, u"справочник клиентов записан"},
+    {PartyKind::kSupplier, u"справочник поставщиков записан"},
+});
+static_assert(IsInOrder(kSaved, &SavedRow::kind));
+
+}  // namespace
 
 PartyDirectory::PartyDirectory(const DataDir& data, Session& session, PartyKind kind)
     : data_(data), session_(session), kind_(kind) {
@@ -16,10 +34,7 @@ void PartyDirectory::Reload() {
 }
 
 void PartyDirectory::Save() {
-  static constexpr QStringView kWhat[] = {u"справочник фирм записан",
-                                          u"справочник клиентов записан",
-                                          u"справочник поставщиков записан"};
-  SaveSet save(data_, kWhat[static_cast<size_t>(kind_)].toString());
+  SaveSet save(data_, kSaved[static_cast<size_t>(kind_)].what.toString());
   save.Write(Path(), WriteParties(rows_), file_);
   save.Commit();
   saved_ = rows_;

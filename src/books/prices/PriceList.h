@@ -46,6 +46,7 @@ struct PriceSource {
   GoodsSource goods;
   QByteArray prices;
 
+  // The row of a place in the two files.
   PriceRow Make(const PricePlace& place) const;
   bool operator==(const PriceSource& other) const {
     return goods == other.goods && prices.isSharedWith(other.prices);

@@ -21,6 +21,7 @@ struct CashOrder {
 
 // The discount in an order for a document: none, unless it is asked for.
 enum class OrderDiscount { kNone, kOfDocument };
+// In percent, a number text: "0", or that of the document.
 QString DiscountOf(const PrintSource& source, OrderDiscount discount);
 
 // Fills the order for a document; the discount of the parameters is that of DiscountOf. Throws

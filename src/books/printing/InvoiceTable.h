@@ -20,14 +20,15 @@ struct InvoiceColumn {
 
 using InvoiceColumns = std::span<const InvoiceColumn>;
 
+// The columns of each form, from left to right.
 InvoiceColumns RoubleInvoiceColumns();  // eleven
 InvoiceColumns DollarInvoiceColumns();  // thirteen
 InvoiceColumns BillColumns();           // six
 
 inline constexpr PageFont kSmallFont{.size = 2};
 
-// The headings, centred, or each as its column stands.
 enum class HeadingStyle { kCentred, kAsColumns };
+// The row of headings, centred, or each as its column stands.
 std::vector<PageCell> HeadingCells(InvoiceColumns columns, HeadingStyle style);
 // 1, 2, 3 ... under the headings.
 void WriteColumnNumbers(PageWriter& page, InvoiceColumns columns);

@@ -45,6 +45,7 @@ class GoodsHistory {
   // Of the goods with that name, and empty: CollectGoodsHistory fills it.
   explicit GoodsHistory(QString goods) : goods_(std::move(goods)) {}
 
+  // The name of the goods.
   const QString& Goods() const { return goods_; }
   const QString& Unit() const { return unit_; }  // of the ledgers, or else of a document
 

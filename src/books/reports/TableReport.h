@@ -26,8 +26,10 @@ struct TableReport {
   QString heading{};  // "Отчет по клиентам"
   std::vector<ReportColumn> columns{};
   size_t rows = 0;
+  // The text of a cell, row and column counted from 0.
   std::function<QString(size_t row, size_t column)> cell{};
   Cells total{};  // "ИТОГО:" and what adds up
+  // The documents behind a row.
   std::function<DocumentsWanted(size_t row)> documents{};
   size_t names = 0;               // the column that takes the room that is left in a list
   std::vector<size_t> charted{};  // the columns of its chart; without any it has none
@@ -36,7 +38,7 @@ struct TableReport {
   QString note{};                 // what a reader has to know
 };
 
-// Of rows that are all made by now.
+// Gives the report rows that are all made by now, cell by cell.
 void SetRows(TableReport& report, std::vector<TableReport::Cells> rows);
 
 // Sets the same report of an earlier period beside it: its total and the change below the total,

@@ -14,12 +14,22 @@ using H = DocumentHead;
 }  // namespace
 
 const DocumentBook& BookOf(DocumentKind kind) {
-  static const DocumentBook receipts = {
-      files::kReceipts, true, settings::kSort,
-      &H::sum,          true, {{nullptr, Posting::kReceive, u"- "_s}}};
-  static const DocumentBook shipments = {files::kShipments, true, settings::kSort,
-                                         &H::net_sum,       true, {{nullptr, Posting::kIssue, {}}}};
+  static const DocumentBook receipts = {u"Приход",
+                                        files::kReceipts,
+                                        true,
+                                        settings::kSort,
+                                        &H::sum,
+                                        true,
+                                        {{nullptr, Posting::kReceive, u"- "_s}}};
+  static const DocumentBook shipments = {u"Расход",
+                                         files::kShipments,
+                                         true,
+                                         settings::kSort,
+                                         &H::net_sum,
+                                         true,
+                                         {{nullptr, Posting::kIssue, {}}}};
   static const DocumentBook transfers = {
+      u"Перемещение",
       files::kTransfers,
       false,
       settings::kTransferSort,

@@ -24,6 +24,7 @@ struct LedgerEffect {
 };
 
 struct DocumentBook {
+  QStringView name;              // "Приход"
   QStringView directory;         // "PRH"
   bool in_warehouse;             // else the directory lies beside the warehouses
   Setting sort;                  // "AZ" or "ZA"

@@ -18,16 +18,17 @@ struct LineNote {
 // document has already; nothing where that is not known.
 using StockAfter = std::function<std::optional<double>(const QString& goods)>;
 
+// Whether goods come to the warehouse or leave it.
+enum class Flow { kIn, kOut };
 // `on_hand` is what the warehouse holds after the lines that the document has already, `quantity` a
 // number text. "На складе 40 кг", and where more leaves than there is "На складе 40 кг, не хватает
 // 60 кг". What comes in is never short.
-enum class Flow { kIn, kOut };
 LineNote NoteOnHand(double on_hand, QStringView quantity, const QString& unit, Flow flow);
 
+enum class CostIs { kShown, kSecret };
 // A sale price, a number text, against the purchase price: "Цена ниже закупочной (55.00)", "Цена
 // равна закупочной (55.00)". Goods without a purchase price have no note. Whoever may not see
 // purchase prices is told without the number.
-enum class CostIs { kShown, kSecret };
 LineNote NoteOnPrice(QStringView price, QStringView cost, CostIs cost_is);
 
 }  // namespace kladez

@@ -17,6 +17,7 @@ struct LowStock {
   double on_hand;
   double minimum;
 
+  // What is to be ordered to have the minimum; above 0.
   double Missing() const;
 };
 

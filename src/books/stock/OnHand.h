@@ -46,6 +46,7 @@ struct OnHandSource {
 
   GoodsSource goods;
 
+  // The row of a place; its quantity is a general number text.
   OnHandRow Make(const OnHandPlace& place) const;
 };
 

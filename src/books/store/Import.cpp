@@ -2,7 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <functional>
+#include <array>
 #include <set>
 
 #include "books/store/Errors.h"
@@ -10,6 +10,7 @@
 #include "books/store/SystemCalls.h"
 #include "formats/CurrencyFile.h"
 #include "formats/DatabaseFiles.h"
+#include "formats/InOrder.h"
 #include "formats/Ordering.h"
 #include "formats/PartyFile.h"
 #include "formats/TextLines.h"
@@ -128,6 +129,25 @@ class Gathering {
   std::set<QString> made_exactly_;  // as spelled
 };
 
+struct AreaStep {
+  ImportArea area;
+  void (*copy)(Gathering& gathering);
+};
+
+constexpr auto kSteps = std::to_array<AreaStep>({
+    {ImportArea::kGoods, [](Gathering& g) { g.CopyGoods(); }},
+    {ImportArea::kCurrency, [](Gathering& g) { g.CopyCurrency(); }},
+    {ImportArea::kWarehouses, [](Gathering& g) { g.CopyFile(files::kWarehouses.toString()); }},
+    {ImportArea::kFirms, [](Gathering& g) { g.CopyFile(PartyPath(PartyKind::kFirm).toString()); }},
+    {ImportArea::kSuppliers,
+     [](Gathering& g) { g.CopyFile(PartyPath(PartyKind::kSupplier).toString()); }},
+    {ImportArea::kClients, [](Gathering& g) { g.CopyClients(); }},
+    {ImportArea::kStock, [](Gathering& g) { g.CopyStock(); }},
+    {ImportArea::kPrices, [](Gathering& g) { g.CopyPrices(); }},
+    {ImportArea::kAccounts, [](Gathering& g) { g.CopyFile(files::kAccounts.toString()); }},
+});
+static_assert(IsInOrder(kSteps, &AreaStep::area) && kSteps.size() == kImportAreas);
+
 }  // namespace
 
 bool ImportChoice::IsLocked(ImportArea area) const {
@@ -153,23 +173,8 @@ void ImportChoice::Tick(ImportArea area, bool on) {
 void ImportAreas(const DataDir& data, const QString& source, const QString& destination,
                  const ImportChoice& choice) {
   Gathering gathering(data, source, destination);
-  const auto copy_file = [&](QStringView name) {
-    return [&, name] { gathering.CopyFile(name.toString()); };
-  };
-  const std::function<void()> steps[] = {
-      [&] { gathering.CopyGoods(); },
-      [&] { gathering.CopyCurrency(); },
-      copy_file(files::kWarehouses),
-      copy_file(PartyPath(PartyKind::kFirm)),
-      copy_file(PartyPath(PartyKind::kSupplier)),
-      [&] { gathering.CopyClients(); },
-      [&] { gathering.CopyStock(); },
-      [&] { gathering.CopyPrices(); },
-      copy_file(u"post.ras"),
-  };
-  static_assert(std::size(steps) == kImportAreas);
-  for (int area = 0; area < kImportAreas; ++area) {
-    if (choice.IsTicked(static_cast<ImportArea>(area))) steps[static_cast<size_t>(area)]();
+  for (const AreaStep& step : kSteps) {
+    if (choice.IsTicked(step.area)) step.copy(gathering);
   }
   gathering.Commit();
 }

@@ -15,6 +15,7 @@ namespace kladez::syscalls {
 // "link", "unlink", "mkdir", "rmdir") and its path; a result other than 0 is the errno with which
 // the call fails.
 using FaultHook = std::function<int(std::string_view call, const QByteArray& path)>;
+// For tests; an empty one lets all calls go through.
 void SetFaultHook(FaultHook hook);
 
 // Told of each change that was made, by the names above. `from` is what a rename or link is of, or

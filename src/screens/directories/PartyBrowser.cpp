@@ -14,7 +14,7 @@ std::vector<Column> ColumnsOf(PartyKind kind) {
   std::vector<Column> columns;
   for (const PartyField field : FieldsOf(kind)) {
     const PartyCaption& caption = CaptionOf(field);
-    columns.push_back({.title = caption.column, .twips = caption.twips});
+    columns.push_back({.title = caption.column.toString(), .twips = caption.twips});
   }
   return columns;
 }
@@ -22,8 +22,8 @@ std::vector<Column> ColumnsOf(PartyKind kind) {
 }  // namespace
 
 PartyBrowser::PartyBrowser(AppContext& context, PartyKind kind, QWidget* parent)
-    : DirectoryDialog(ScreensOf(kind).list, ScreensOf(kind).list_title, Ending::kOkAndCancel,
-                      parent),
+    : DirectoryDialog(ScreensOf(kind).list.toString(), ScreensOf(kind).list_title.toString(),
+                      Ending::kOkAndCancel, parent),
       directory_(context.data, context.session, kind) {
   SetRows(ColumnsOf(kind),
           {.count = [this] { return static_cast<int>(directory_.Rows().size()); },

@@ -27,8 +27,8 @@ bool IsWide(PartyField field) {
 }  // namespace
 
 PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDialog(parent) {
-  setObjectName(ScreensOf(kind).form);
-  setWindowTitle(ScreensOf(kind).form_title);
+  setObjectName(ScreensOf(kind).form.toString());
+  setWindowTitle(ScreensOf(kind).form_title.toString());
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(look::kGrid);
   grid->setVerticalSpacing(look::kGrid);
@@ -47,7 +47,7 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
     ShowText(edit, party.value(static_cast<qsizetype>(fields_.size())));
     if (!wide) KeepRoomFor(edit, kAccountFigures);
     fields_.push_back(edit);
-    auto* label = new QLabel(CaptionOf(field).caption, this);
+    auto* label = new QLabel(CaptionOf(field).caption.toString(), this);
     label->setBuddy(edit);
     grid->addWidget(label, line, 2 * half, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(edit, line, 2 * half + 1, 1, wide ? 3 : 1);

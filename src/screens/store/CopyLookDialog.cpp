@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <array>
 
 #include "books/stock/DocumentBook.h"
 #include "ui/Help.h"
@@ -14,8 +13,6 @@ namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-constexpr std::array<QStringView, 3> kKinds = {u"Приход", u"Расход", u"Перемещение"};
 
 std::vector<Column> CopiedDocumentColumns() {
   return {{.title = u"Документ"_s, .twips = 1600},
@@ -30,7 +27,7 @@ QString CopiedDocumentText(const CopiedDocument& document, int column) {
   const DocumentHead& head = document.head;
   switch (column) {
     case 0:
-      return kKinds[static_cast<size_t>(document.kind)].toString();
+      return BookOf(document.kind).name.toString();
     case 1:
       return head.number;
     case 2:

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "formats/InOrder.h"
 #include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Commands.h"
@@ -17,22 +18,23 @@ namespace {
 using namespace Qt::StringLiterals;
 
 struct AreaRow {
+  ImportArea area;
   QStringView control;
   QStringView caption;
 };
 
-// In the order of ImportArea.
 constexpr std::array<AreaRow, kImportAreas> kAreas = {{
-    {u"Check1", u"Справочник товаров"},
-    {u"Check9", u"Основная валюта"},
-    {u"Check2", u"Справочник складов"},
-    {u"Check5", u"Справочник фирм"},
-    {u"Check3", u"Справочник поставщиков"},
-    {u"Check4", u"Справочник клиентов"},
-    {u"Check6", u"Состояние складов"},
-    {u"Check7", u"Прайс-листы"},
-    {u"Check8", u"Расчеты с поставщиками"},
+    {ImportArea::kGoods, u"Check1", u"Справочник товаров"},
+    {ImportArea::kCurrency, u"Check9", u"Основная валюта"},
+    {ImportArea::kWarehouses, u"Check2", u"Справочник складов"},
+    {ImportArea::kFirms, u"Check5", u"Справочник фирм"},
+    {ImportArea::kSuppliers, u"Check3", u"Справочник поставщиков"},
+    {ImportArea::kClients, u"Check4", u"Справочник клиентов"},
+    {ImportArea::kStock, u"Check6", u"Состояние складов"},
+    {ImportArea::kPrices, u"Check7", u"Прайс-листы"},
+    {ImportArea::kAccounts, u"Check8", u"Расчеты с поставщиками"},
 }};
+static_assert(IsInOrder(kAreas, &AreaRow::area));
 
 }  // namespace
 

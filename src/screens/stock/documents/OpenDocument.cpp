@@ -1,5 +1,6 @@
 #include "screens/stock/documents/OpenDocument.h"
 
+#include "books/stock/DocumentBook.h"
 #include "screens/stock/documents/DocumentProperties.h"
 #include "ui/controls/Guard.h"
 
@@ -8,9 +9,7 @@ namespace kladez {
 using namespace Qt::StringLiterals;
 
 QString DocumentName(DocumentKind kind, bool is_open) {
-  QString name = u"Перемещение"_s;
-  if (kind == DocumentKind::kReceipt) name = u"Приход"_s;
-  if (kind == DocumentKind::kShipment) name = u"Расход"_s;
+  const QString name = BookOf(kind).name.toString();
   return is_open ? name + u", открыт"_s : name;
 }
 
