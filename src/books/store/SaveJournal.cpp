@@ -320,10 +320,9 @@ void SaveJournal::MakeOne(size_t index, const Change& change) {
 
 void SaveJournal::TakeBack(std::span<const Change> changes) {
   // A crash while taking back must go on taking back, not carry the set out.
-  if (Status(Manifest())) {
-    Check(syscalls::Rename(Manifest(), TakingBack()), Manifest());
-    Check(syscalls::SyncDirectory(stage_), stage_);
-  }
+  if (Status(Manifest())) Check(syscalls::Rename(Manifest(), TakingBack()), Manifest());
+  // Once more where a try before this one got no further.
+  if (Status(TakingBack())) Check(syscalls::SyncDirectory(stage_), stage_);
   for (size_t i = changes.size(); i-- > 0;) TakeBackOne(i, changes[i]);
   SyncParents(changes);
   Discard();

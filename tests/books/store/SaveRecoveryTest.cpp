@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include "SaveFailure.h"
+#include "SaveScenarios.h"
 #include "books/store/Notes.h"
 #include "books/store/SystemCalls.h"
 
@@ -30,6 +31,46 @@ TEST(SaveRecovery, ASaveAfterAnUnhealedOneHealsAndRefuses) {
   EXPECT_EQ(temp.Bytes(u"a"_s), temp.Bytes(u"b"_s));
   EXPECT_EQ(temp.Tree().size(), 2u);
   EXPECT_EQ(CommitFailure(temp, stale).error, 0);
+}
+
+// On the way back, what may not have reached the disk and what is still there is tried again for as
+// long as the list of changes could be carried out by a crash.
+TEST(SaveRecovery, ASyncOrRemovalThatFailsOnceOnTheWayBackIsRepeated) {
+  QByteArray missed;
+  int victim = 0;
+  do {
+    TempData temp;
+    temp.Put(u"b"_s, "old");
+    const Tree before = temp.Tree();
+    const auto is_final = [&] {
+      const QDir stage(temp.Root() + u"/.kladez-save"_s);
+      return stage.exists(u"manifest"_s) || stage.exists(u"taking-back"_s);
+    };
+    ++victim;
+    missed.clear();
+    int calls = 0;
+    bool back = false;
+    bool repeated = false;
+    syscalls::SetFaultHook([&](std::string_view call, const QByteArray& path) {
+      if (call != "fsync" && call != "rmdir") return 0;
+      if (!back) return (back = temp.Bytes(u"b"_s) == "new") ? EIO : 0;
+      const QByteArray now = QByteArray(call.data(), std::ssize(call)) + ' ' + path;
+      repeated |= now == missed && is_final();
+      if (!is_final() || ++calls != victim) return 0;
+      missed = now;
+      return EIO;
+    });
+    const Failure failure = CommitFailure(temp, [](SaveSet& save) {
+      save.MakeDirectory(u"d"_s);
+      save.Write(u"d\\x"_s, "new");
+      save.Write(u"b"_s, "new");
+    });
+    syscalls::SetFaultHook({});
+    EXPECT_EQ(failure.error, EIO);
+    EXPECT_EQ(temp.Tree(), before) << missed.constData();
+    EXPECT_EQ(repeated, !missed.isEmpty()) << missed.constData();
+  } while (!missed.isEmpty());
+  EXPECT_GT(victim, 3);
 }
 
 TEST(SaveRecovery, StagedFilesWithoutAManifestAreThrownAway) {
