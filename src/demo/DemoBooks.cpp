@@ -19,7 +19,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr QStringView kName = u"Демонстрационная база";
 constexpr QStringView kShop = u"Магазин на Садовой";
 
 std::vector<GoodsRecord> GoodsRecords() {
@@ -86,7 +85,7 @@ QString Adopt(const DataDir& from, const QString& base, const DataDir& data) {
   const QString source = from.Resolve(base);
   SaveSet save(data);
   save.Write(NumberedName(number) + files::kDescriptorExtension,
-             WriteDescriptor({adopted, kName.toString()}));
+             WriteDescriptor({adopted, kDemonstrationName.toString()}));
   save.MakeDirectory(adopted);
   QDirIterator walk(source, QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
@@ -115,7 +114,7 @@ QString WriteDemonstrationBooks(const DataDir& data, QDate today) {
   const QTemporaryDir workshop(WorkshopTemplate());
   const DataDir workshop_data(workshop.path());
   Session session;
-  session.chosen_base = CreateDatabase(workshop_data, kName.toString());
+  session.chosen_base = CreateDatabase(workshop_data, kDemonstrationName.toString());
   OpenDatabase(session, workshop_data);
   FillDirectories(workshop_data, session);
   OpenDatabase(session, workshop_data);  // picks up the names of the parties

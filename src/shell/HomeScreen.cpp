@@ -8,9 +8,16 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 
+#include "books/copies/CopyFolder.h"
+#include "books/reports/FirstSteps.h"
 #include "books/reports/SalesFigures.h"
+#include "books/store/Catalogue.h"
+#include "books/store/Errors.h"
 #include "formats/Numbers.h"
 #include "screens/reports/ChartWidget.h"
+#include "screens/stock/documents/OpenDocument.h"
+#include "shell/FirstStepsPanel.h"
+#include "shell/MorningList.h"
 #include "ui/Hints.h"
 #include "ui/Link.h"
 #include "ui/controls/Columns.h"
@@ -102,12 +109,38 @@ QWidget* HomeScreen::NewFigures() {
   sold_today_ = add(u"Label18"_s, u"За сегодня:"_s);
   sold_this_month_ = add(u"Label20"_s, u"За месяц:"_s);
   sold_this_year_ = add(u"Label15"_s, u"За год:"_s);
+  morning_ = new MorningList(card);
+  sums->addWidget(morning_, line, 0, 1, 2);
   sums->setRowStretch(line, 1);
+  connect(morning_, &MorningList::DocumentChosen, this, [this](const DocumentRef& document) {
+    OpenDocument(context_, document, window());
+    morning_->setFocus();
+  });
+  connect(morning_, &MorningList::GoodsChosen, this, [this] { emit Chosen(Place::kOrder); });
+  connect(morning_, &MorningList::CopiesChosen, this, &HomeScreen::CopiesWanted);
+  first_steps_ = new FirstStepsPanel(NewColumnHeading(u"С чего начать", card), card);
+  connect(first_steps_, &FirstStepsPanel::Chosen, this, &HomeScreen::Chosen);
+  connect(first_steps_, &FirstStepsPanel::DemonstrationWanted, this,
+          &HomeScreen::DemonstrationWanted);
+  first_steps_->hide();
+  auto* room = new QVBoxLayout;
+  room->addWidget(first_steps_, 1);
+  room->addWidget(NewChart(), 1);
+  auto* layout = new Columns(look::kGap);
+  layout->setContentsMargins(look::kMargin, look::kMargin, look::kGrid, look::kMargin);
+  layout->Add(sums, 2);
+  layout->Add(room, 3);
+  card->setLayout(layout);
+  return card;
+}
+
+QWidget* HomeScreen::NewChart() {
+  chart_room_ = new QWidget(this);
   auto* chart_head = new QHBoxLayout;
-  chart_head->addWidget(NewColumnHeading(u"График продаж за месяц по дням", card), 1);
-  chart_ = new ChartWidget(card);
+  chart_head->addWidget(NewColumnHeading(u"График продаж за месяц по дням", chart_room_), 1);
+  chart_ = new ChartWidget(chart_room_);
   chart_->setObjectName(u"MSChart1"_s);
-  chart_head->addWidget(AddHint(u"Picture4", {chart_}, card));
+  chart_head->addWidget(AddHint(u"Picture4", {chart_}, chart_room_));
   chart_cover_ = new QWidget(chart_);
   chart_cover_->setObjectName(u"Picture3"_s);
   chart_cover_->setAutoFillBackground(true);
@@ -115,15 +148,11 @@ QWidget* HomeScreen::NewFigures() {
   auto* cover = new QVBoxLayout(chart_);
   cover->setContentsMargins(0, 0, 0, 0);
   cover->addWidget(chart_cover_);
-  auto* chart = new QVBoxLayout;
+  auto* chart = new QVBoxLayout(chart_room_);
+  chart->setContentsMargins(0, 0, 0, 0);
   chart->addLayout(chart_head);
   chart->addWidget(chart_, 1);
-  auto* layout = new Columns(look::kGap);
-  layout->setContentsMargins(look::kMargin, look::kMargin, look::kGrid, look::kMargin);
-  layout->Add(sums, 1);
-  layout->Add(chart, 3);
-  card->setLayout(layout);
-  return card;
+  return chart_room_;
 }
 
 QLayout* HomeScreen::NewOptions() {
@@ -217,7 +246,30 @@ void HomeScreen::ShowFigures() {
     sold_this_year_->setText(FormatMoney(figures.year));
     chart_->SetGrid(figures.by_day);
     chart_cover_->hide();
+    ShowFirstSteps(figures);
+    ShowMorning(figures);
   });
+}
+
+void HomeScreen::ShowFirstSteps(const SalesFigures& figures) {
+  FirstSteps steps;
+  if (!figures.has_several_days) steps = ReadFirstSteps(context_.data, context_.session);
+  const bool lead = !figures.has_several_days && !steps.AllDone();
+  first_steps_->setVisible(lead);
+  chart_room_->setVisible(!lead);
+  if (!lead) return;
+  first_steps_->Show(steps, FindDemonstration(context_.data, context_.session).has_value());
+}
+
+// What can't be read is left out: the screens that stand on it tell why.
+void HomeScreen::ShowMorning(const SalesFigures& figures) {
+  std::vector<LowStock> low;
+  IgnoreErrors([&] { low = CollectLowStock(context_.data, context_.session); });
+  std::optional<QDateTime> last_copy;
+  if (context_.keeping != nullptr) {
+    IgnoreErrors([&] { last_copy = LastCopyOf(context_.data, context_.session); });
+  }
+  morning_->Show(MorningRows(figures, low, last_copy, context_.clock.Today()));
 }
 
 void HomeScreen::ClickPanel() { emit PanelToggled(show_panel_->isChecked()); }

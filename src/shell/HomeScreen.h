@@ -14,7 +14,10 @@ class QLabel;
 namespace kladez {
 
 class ChartWidget;
+class FirstStepsPanel;
 class HintPicture;
+class MorningList;
+struct SalesFigures;
 struct Setting;
 
 class HomeScreen : public QWidget {
@@ -30,10 +33,13 @@ class HomeScreen : public QWidget {
  signals:
   void Chosen(Place place);
   void PanelToggled(bool show);
+  void DemonstrationWanted();
+  void CopiesWanted();  // the time machine
 
  private:
   QWidget* NewLinks(PlaceGroup group);
   QWidget* NewFigures();
+  QWidget* NewChart();
   QLayout* NewOptions();
   QCheckBox* NewOption(const QString& name, const QString& caption);
   HintPicture* AddHint(QStringView picture, std::initializer_list<QWidget*> about, QWidget* parent);
@@ -41,6 +47,8 @@ class HomeScreen : public QWidget {
   void ClickTip();
   void ClickReport();
   void ShowFigures();
+  void ShowFirstSteps(const SalesFigures& figures);
+  void ShowMorning(const SalesFigures& figures);
   void ClickPanel();
 
   AppContext& context_;
@@ -53,8 +61,11 @@ class HomeScreen : public QWidget {
   QLabel* sold_today_;       // sold today
   QLabel* sold_this_month_;  // this month
   QLabel* sold_this_year_;   // this year
-  ChartWidget* chart_;       // the month by days
-  QWidget* chart_cover_;     // hides the chart until it is filled
+  MorningList* morning_;     // below the sums
+  QWidget* chart_room_;      // the chart and its heading
+  FirstStepsPanel* first_steps_;
+  ChartWidget* chart_;    // the month by days
+  QWidget* chart_cover_;  // hides the chart until it is filled
 };
 
 }  // namespace kladez

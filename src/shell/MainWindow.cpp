@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "books/store/Catalogue.h"
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
 #include "screens/store/ImportSourceDialog.h"
@@ -128,6 +129,17 @@ void MainWindow::OpenDatabase() {
   QTimer::singleShot(0, this, [this] { ShowNotes(this); });
 }
 
+void MainWindow::OpenDemonstration() {
+  if (MustWait([this] { OpenDemonstration(); })) return;
+  const auto entry = FindDemonstration(context_.data, context_.session);
+  if (!entry || !MayLeave(this)) return;
+  context_.session.chosen_base = entry->descriptor.path;
+  context_.settings.Write(settings::kBaseName, entry->descriptor.path);
+  context_.settings.Write(settings::kBaseTitle, entry->descriptor.name);
+  SetDatabaseTitle(entry->descriptor.name);
+  OpenDatabase();
+}
+
 void MainWindow::CloseDatabase() {
   CloseChildScreens();
   context_.settings.Write(settings::kBaseName, {});
@@ -148,10 +160,10 @@ void MainWindow::HideDatabaseMenus() { menu_->ShowDatabaseMenus(false); }
 void MainWindow::DisableDatabaseCommands() { menu_->EnableDatabaseCommands(false); }
 
 void MainWindow::ShowNewDatabase() {
-  // The strip stays as it was, and so does what a seller before could not do.
+  // What a seller before could not do stays as it was.
   menu_->EnableDatabaseCommands(true);
   menu_->ShowDatabaseMenus(true);
-  links_panel_->show();
+  ShowPanels(true);
   ShowHome();
 }
 
@@ -175,6 +187,8 @@ void MainWindow::ShowHome() {
   auto* home = new HomeScreen(context_, children_->Ground());
   connect(home, &HomeScreen::Chosen, this, &MainWindow::Go);
   connect(home, &HomeScreen::PanelToggled, links_panel_, &QWidget::setVisible);
+  connect(home, &HomeScreen::CopiesWanted, this, [this] { Do(Command::kTimeMachine); });
+  connect(home, &HomeScreen::DemonstrationWanted, this, &MainWindow::OpenDemonstration);
   children_->Show(home);
   // At the start the window comes up first: it can be closed while the home screen counts.
   if (isVisible()) {

@@ -50,6 +50,7 @@ class MainWindow : public QMainWindow, public CatalogueHost {
   void Do(Command command);
   void OpenFromCatalogue(CatalogueDialog::Mode mode);
   void Create();
+  void OpenDemonstration();
   void CloseDatabase();
   void Undo();
   void OpenTimeMachine();

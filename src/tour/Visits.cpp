@@ -141,6 +141,12 @@ void VisitCatalogue(Robot& robot) {
   robot.Picture(u"BasesImport"_s);
   robot.Click(u"Command1"_s);
   ShowAndLeave(robot, u"Import"_s);
+  robot.OpenMenu(u"mnuFileCreate"_s);
+  robot.WaitFor(u"BasesNew"_s);
+  robot.Type(u"Text3"_s, u"Новый магазин"_s);
+  robot.Press(Qt::Key_Return);
+  robot.WaitFor(u"Main"_s);
+  robot.Picture(u"Main"_s);  // with the first steps
 }
 
 void VisitCheck(Robot& robot) {

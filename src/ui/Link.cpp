@@ -1,6 +1,7 @@
 #include "ui/Link.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -24,6 +25,7 @@ Link::Link(const QString& name, QStringView text, look::IconName icon, Ground gr
   const int size = form == Form::kRow ? kSmallIcon : kLargeIcon;
   setIconSize(QSize(size, size));
   setCursor(Qt::PointingHandCursor);
+  setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
 }
 
@@ -43,7 +45,7 @@ QSize Link::sizeHint() const {
 }
 
 void Link::paintEvent(QPaintEvent*) {
-  const bool hot = underMouse() && isEnabled();
+  const bool hot = hot_ && isEnabled();
   QPainter painter(this);
   QRect text_room = rect();
   QRect icon_room(QPoint(), iconSize());
@@ -76,14 +78,29 @@ void Link::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void Link::enterEvent(QEnterEvent* event) {
-  QAbstractButton::enterEvent(event);
+void Link::SetHot(bool hot) {
+  if (hot == hot_) return;
+  hot_ = hot;
   update();
 }
 
-void Link::leaveEvent(QEvent* event) {
-  QAbstractButton::leaveEvent(event);
-  update();
+void Link::mouseMoveEvent(QMouseEvent* event) {
+  QAbstractButton::mouseMoveEvent(event);
+  SetHot(rect().contains(event->position().toPoint()));
+}
+
+// A dialog takes the pointer away without the pointer having moved: only that lights it again.
+bool Link::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Leave:
+    case QEvent::Hide:
+    case QEvent::WindowBlocked:
+      SetHot(false);
+      break;
+    default:
+      break;
+  }
+  return QAbstractButton::event(event);
 }
 
 }  // namespace kladez

@@ -23,15 +23,17 @@ class Link : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
-  void leaveEvent(QEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   const look::Shade& Color(bool hot) const;
+  void SetHot(bool hot);
 
   Ground ground_;
   Form form_;
   QIcon hot_icon_;
+  bool hot_ = false;
 };
 
 }  // namespace kladez

@@ -64,6 +64,23 @@ TEST_F(HomeFigures, EachActivationCountsAnew) {
   EXPECT_EQ(Sums(&home), (QStringList{u"11.50"_s, u"16.50"_s, u"116.50"_s}));
 }
 
+TEST_F(HomeFigures, EnterOpensTheDocumentOfTheMorning) {
+  HomeScreen home(Context(), nullptr);
+  ShowActive(&home);
+  home.Activate();
+  auto* morning = Find<RecordList>(&home, "morning");
+  EXPECT_EQ(morning->Records()->Text(1, 0), u"N 7, Клиент"_s);
+  morning->SelectRow(1);
+  QString opened;
+  ModalAnswers answers{[&](QWidget* dialog) {
+    opened = dialog->objectName();
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  }};
+  QTest::keyClick(morning, Qt::Key_Return);
+  EXPECT_EQ(opened, u"TovUhod_Ass"_s);
+  EXPECT_FALSE(Find<QWidget>(&home, "first_steps")->isVisible()) << "sold on several days";
+}
+
 TEST_F(HomeFigures, WithTheBoxClearedNoDocumentIsOpened) {
   Settings().Write(settings::kReport, u"0"_s);
   HomeScreen home(Context(), nullptr);

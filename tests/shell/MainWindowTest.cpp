@@ -127,6 +127,37 @@ TEST_F(MainWindowShown, ALongWarehouseNameWidensNoScreen) {
   }
 }
 
+TEST_F(MainWindowShown, NoLinkStaysLitAfterItsDialog) {
+  StartOpen();
+  auto* firms = Find<QAbstractButton>(window_.Child(), "go11");
+  const QImage still = firms->grab().toImage();
+  QTest::mouseMove(firms);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return firms->grab().toImage() != still; }));
+  ModalAnswers answers{[](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); }};
+  QTest::mouseClick(firms, Qt::LeftButton);
+  EXPECT_EQ(firms->grab().toImage(), still);
+}
+
+TEST_F(MainWindowShown, ANewDatabaseHasItsPanelsAndLeadsByFirstSteps) {
+  CreateDatabase(Data(), kDemonstrationName.toString());
+  Start();
+  ModalAnswers answers{[](QWidget* dialog) {
+    Enter(dialog, "Text3", u"Новая"_s);
+    Click(dialog, "Command1");
+  }};
+  Click(window_.Child(), "Label4");
+  EXPECT_TRUE(Panel("Picture1")->isVisible() && Panel("Picture2")->isVisible());
+  EXPECT_TRUE(Panel("role")->isVisible());
+  EXPECT_TRUE(Panel("first_steps")->isVisible());
+  EXPECT_FALSE(Panel("MSChart1")->isVisible());
+  EXPECT_EQ(Find<QLabel>(window_.Child(), "step_firm_mark")->text(), u"1."_s);
+  QCoreApplication::processEvents();  // the links lie in their places
+  Click(window_.Child(), "open_demonstration");
+  EXPECT_EQ(window_.windowTitle(), u"Kladez - Демонстрационная база"_s);
+  EXPECT_EQ(TheSession().base_path, u"0001\\"_s);
+  EXPECT_FALSE(Panel("open_demonstration")->isVisible()) << "it is open already";
+}
+
 TEST_F(MainWindowShown, HomeScreenFollowsItsStoredChoice) {
   world_.Settings().Write(settings::kPanel, u"0"_s);
   StartOpen();

@@ -93,6 +93,14 @@ std::vector<StoredCopy> ListCopies(const QByteArray& folder) {
   return copies;
 }
 
+std::optional<QDateTime> LastCopyOf(const DataDir& data, const Session& session) {
+  std::optional<QDateTime> last;
+  for (const StoredCopy& copy : ListCopies(CopiesFolder(data))) {
+    if (copy.note.base + u'\\' == session.base_path) last = copy.note.time;
+  }
+  return last;
+}
+
 QByteArray NewCopyFile(const QByteArray& folder, const CopyNote& note) {
   const QString name = QFile::decodeName(folder) + u'/' + note.base + u' ' +
                        note.time.toString(u"yyyy-MM-dd HH-mm-ss"_s);

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "books/copies/CopyNote.h"
 #include "books/store/DataDir.h"
+#include "books/store/Session.h"
 
 namespace kladez {
 
@@ -26,6 +28,9 @@ struct StoredCopy {
 
 // The oldest first; what has no note is none. A folder that is not there has none.
 std::vector<StoredCopy> ListCopies(const QByteArray& folder);
+
+// When the newest copy of the open Database was made. Throws filesystem_error.
+std::optional<QDateTime> LastCopyOf(const DataDir& data, const Session& session);
 
 // The name for a new copy: one that no copy has.
 QByteArray NewCopyFile(const QByteArray& folder, const CopyNote& note);

@@ -1,17 +1,35 @@
-// The sales of the home screen: today's, this month's and this year's, and this month's by day,
-// from the heads of all shipments of the Database. Nothing is cached from one time to the next.
+// What the home screen takes out of its one pass over the heads of all shipments: today's, this
+// month's and this year's sales, this month's by day, and the documents that somebody should look
+// at. Nothing is cached from one time to the next.
 #pragma once
 
 #include "books/reports/ChartGrid.h"
 #include "books/reports/ReportScope.h"
+#include "books/stock/DocumentRef.h"
 
 namespace kladez {
+
+struct ShipmentNote {
+  DocumentRef document;
+  QDate date;
+  QString number;
+  QString party;
+  QString net_sum;
+};
 
 struct SalesFigures {
   double day = 0;
   double month = 0;
   double year = 0;
   ChartGrid by_day;  // the whole month; days to come stay at 0
+
+  std::vector<ShipmentNote> today;  // in the order of warehouses and files
+  // Those of other days that are open, the oldest first, and how many there are in all.
+  std::vector<ShipmentNote> oldest_open;
+  int open_count = 0;
+  bool has_several_days = false;  // of sales: no shop of which this is true is a new one
+
+  static constexpr size_t kMostOpen = 20;
 };
 
 // Throws WorkCancelled.

@@ -91,6 +91,19 @@ bool IsInUse(const DataDir& data, const Session& session, const CatalogueEntry& 
   return same;
 }
 
+std::optional<CatalogueEntry> FindDemonstration(const DataDir& data, const Session& session) {
+  std::vector<CatalogueEntry> entries;
+  IgnoreErrors([&] { entries = ListDatabases(data); });
+  for (const CatalogueEntry& entry : entries) {
+    const QString& path = entry.descriptor.path;
+    if (entry.descriptor.name == kDemonstrationName && IsPlainTreePath(path) &&
+        data.DirectoryExists(path) && !IsInUse(data, session, entry)) {
+      return entry;
+    }
+  }
+  return std::nullopt;
+}
+
 int RowAtPosition(int position, int rows) {
   const int row = position > rows ? position - 2 : position - 1;
   return row >= 0 && row < rows ? row : rows > 0 ? 0 : -1;
@@ -99,6 +112,12 @@ int RowAtPosition(int position, int rows) {
 int ImportRowAtPosition(int position, int rows) {
   const int row = position > rows ? rows - position - 1 : position - 1;
   return row >= 0 && row < rows ? row : rows > 0 ? 0 : -1;
+}
+
+QByteArray FirstFirmBytes() {
+  QStringList firm(15, u"-"_s);
+  firm.first() = u"Ваша фирма"_s;
+  return EncodeLines(firm);
 }
 
 QString AddNewDatabase(SaveSet& save, qint64 number, const QString& name) {
@@ -111,9 +130,7 @@ QString AddNewDatabase(SaveSet& save, qint64 number, const QString& name) {
   save.Write(base + files::kWarehouses, EncodeLines({warehouse}));
   save.Write(base + files::kCurrency, WriteCurrency(RoubleCurrency()));
   AddNewWarehouse(save, base + warehouse);
-  QStringList firm(15, u"-"_s);
-  firm.first() = u"Ваша фирма"_s;
-  save.Write(base + files::kFirms, EncodeLines(firm));
+  save.Write(base + files::kFirms, FirstFirmBytes());
   for (const QStringView file : {files::kClients, files::kSuppliers, files::kGoods}) {
     save.Write(base + file, {});
   }

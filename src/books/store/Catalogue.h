@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "books/store/DataDir.h"
@@ -32,6 +33,9 @@ qint64 NumberAbove(double number);
 // is none. A gap in the middle is not filled.
 qint64 NextDatabaseNumber(const DataDir& data);
 
+// The directory of firms as a new Database has it: one, of which nothing is known.
+QByteArray FirstFirmBytes();
+
 // Adds the descriptor and the whole tree of a new Database to a save; gives its path, "0001\".
 QString AddNewDatabase(SaveSet& save, qint64 number, const QString& name);
 // Adds the directories and files of a new warehouse, `path` being its directory; the save fails
@@ -43,6 +47,11 @@ void AddNewWarehouse(SaveSet& save, const QString& path);
 // above the highest number of a descriptor. Throws filesystem_error when the directory can't be
 // listed.
 qint64 FreeDatabaseNumber(const DataDir& data);
+
+// The first Database with the name of the demonstration books; nothing where there is none that can
+// be opened, or where it is open already.
+inline constexpr QStringView kDemonstrationName = u"Демонстрационная база";
+std::optional<CatalogueEntry> FindDemonstration(const DataDir& data, const Session& session);
 
 // Throws filesystem_error for an entry whose path is not one plain directory name (see
 // IsPlainTreePath), or is a link that leads out of the directory of the descriptor: it is listed,
