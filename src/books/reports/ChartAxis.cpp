@@ -35,13 +35,15 @@ QString ChartAxis::Text(int mark) const {
 ChartAxis AxisFor(const ChartGrid& grid, int most_steps) {
   double lowest = 0;
   double highest = 0;
-  for (const ChartColumn& column : grid.columns) {
-    for (const double value : column.values) {
+  const auto hold = [&](const std::vector<double>& values) {
+    for (const double value : values) {
       if (std::isnan(value)) continue;
       lowest = std::clamp(value, -kLargest, lowest);
       highest = std::clamp(value, highest, kLargest);
     }
-  }
+  };
+  for (const ChartColumn& column : grid.columns) hold(column.values);
+  hold(grid.year_ago);
   if (highest - lowest < kDust) {
     lowest = 0;
     highest = 1;

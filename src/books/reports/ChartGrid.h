@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <algorithm>
 #include <vector>
 
 namespace kladez {
@@ -21,6 +22,14 @@ struct ChartGrid {
   QStringList row_labels;
   std::vector<ChartColumn> columns;
 
+  // What the picture of a print-out does without: the unit of the values, the first column as it
+  // was a year before (empty where it is not known), and how many rows lie behind today, all where
+  // it is negative. Rows to come are not drawn as if nothing were sold in them.
+  QString unit = {};
+  std::vector<double> year_ago = {};
+  int past_rows = -1;
+
+  int PastRows() const { return past_rows < 0 ? RowCount() : past_rows; }
   // Rows and columns count from 0 and must exist.
   int RowCount() const { return static_cast<int>(row_labels.size()); }
 
@@ -32,6 +41,25 @@ struct ChartGrid {
     return columns[static_cast<size_t>(column)].values[static_cast<size_t>(row)];
   }
 };
+
+// The grid without what only a screen shows.
+inline ChartGrid PrintedGrid(ChartGrid grid) {
+  grid.unit.clear();
+  grid.year_ago.clear();
+  grid.past_rows = -1;
+  return grid;
+}
+
+// Keeps of a year ago what is worth a line, and of rows to come those that have something already.
+inline void EndAtToday(ChartGrid& grid, int past_rows) {
+  const auto is_zero = [](double value) { return value == 0; };
+  if (std::ranges::all_of(grid.year_ago, is_zero)) grid.year_ago.clear();
+  grid.past_rows = std::clamp(past_rows, 0, grid.RowCount());
+  for (const ChartColumn& column : grid.columns) {
+    const auto last = std::find_if_not(column.values.rbegin(), column.values.rend(), is_zero);
+    grid.past_rows = std::max(grid.past_rows, static_cast<int>(column.values.rend() - last));
+  }
+}
 
 // A grid of zeros whose rows are labelled "1", "2", ... as the months of a year or days of a month.
 inline ChartGrid NumberedChartGrid(const QString& title, int rows,

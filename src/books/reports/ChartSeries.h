@@ -2,6 +2,7 @@
 // month by day. Read from the shipments' lines; the discount is in their net prices.
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 #include "books/reports/ChartGrid.h"
@@ -14,7 +15,11 @@ struct ChartScope {
   bool by_day = false;  // a month by day, else a year by month
   int year = 0;
   int month = 0;  // 1 to 12, where by day
+  QDate today{};  // what lies behind it is to come; without it nothing is
 };
+
+// Each also gives what the screen adds: the unit of the values, the first column a year before, and
+// where the future begins.
 
 // Two columns, revenue and profit. A shipment that is cut off in the middle stops it with a
 // filesystem_error that names the file. Throws WorkCancelled.

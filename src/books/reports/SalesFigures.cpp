@@ -32,6 +32,11 @@ class FigureReader {
 
  private:
   void AddSum(QDate date, const ScannedDocument& document) {
+    if (date.year() == today_.year() - 1 && date.month() == today_.month()) {
+      const auto day = static_cast<size_t>(date.day() - 1);
+      std::vector<double>& year_ago = figures_.by_day.year_ago;
+      if (day < year_ago.size()) year_ago[day] += NumberOr(document.Head(&H::net_sum));
+    }
     if (date.year() != today_.year()) return;
     const double total = NumberOr(document.Head(&H::net_sum));
     figures_.year += total;
@@ -77,6 +82,8 @@ SalesFigures CollectSalesFigures(const DataDir& data, const Session& session, QD
   figures.by_day = NumberedChartGrid(
       u"График продаж за "_s + MonthName(today.month()) + u' ' + GeneralText(today.year()),
       today.daysInMonth(), {u"Реализация"_s});
+  figures.by_day.unit = session.currency_name;
+  figures.by_day.year_ago.resize(static_cast<size_t>(today.daysInMonth()));
   FigureReader reader(today, figures);
   const double share = 1.0 / static_cast<double>(std::max<qsizetype>(1, session.warehouses.size()));
   double done = 0;
@@ -86,6 +93,7 @@ SalesFigures CollectSalesFigures(const DataDir& data, const Session& session, QD
                    [&](const ScannedDocument& document) { reader.Read(warehouse, document); });
     done += share;
   }
+  EndAtToday(figures.by_day, today.day());
   return figures;
 }
 

@@ -21,7 +21,7 @@ struct SalesFigures {
   double day = 0;
   double month = 0;
   double year = 0;
-  ChartGrid by_day;  // the whole month; days to come stay at 0
+  ChartGrid by_day;  // the whole month; days to come stay at 0 and are not drawn
 
   std::vector<ShipmentNote> today;  // in the order of warehouses and files
   // Those of other days that are open, the oldest first, and how many there are in all.

@@ -43,6 +43,8 @@ inline constexpr Setting kLastPick{u"Kladez4", u"Picking", u"Last", u""};
 inline constexpr Setting kKeepPicking{u"Kladez4", u"Picking", u"Stay", u"False"};
 inline constexpr Setting kBackupFolder{u"Kladez4", u"Copies", u"Backup", u""};
 inline constexpr Setting kRestoreFolder{u"Kladez4", u"Copies", u"Restore", u""};
+// How charts were shown last, by the number of the kind.
+inline constexpr Setting kChartKind{u"Kladez4", u"Chart", u"Kind", u"0"};
 // The folder that tables were saved in.
 inline constexpr Setting kTableFolder{u"Kladez4", u"Tables", u"Folder", u""};
 // Of the time machine: megabytes for all copies, the second place for them, and the day on which

@@ -99,7 +99,8 @@ ChartScope ChartDialog::Scope() const {
   return {.warehouse = Warehouse(),
           .by_day = by_month_->isChecked(),
           .year = static_cast<int>(NumberOr(year_->Chosen())),
-          .month = month_->currentIndex() + 1};
+          .month = month_->currentIndex() + 1,
+          .today = Context().clock.Today()};
 }
 
 void ChartDialog::Ok() {

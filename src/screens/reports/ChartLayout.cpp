@@ -75,8 +75,13 @@ ChartLayout LayOutChart(const QRectF& rect, const ChartGrid& grid, ChartKind kin
   layout.depth = DepthOf(kind, rect, grid.RowCount());
 
   QRectF inside = rect.adjusted(margin, margin, -margin, -margin);
-  if (grid.columns.size() > 1) {
-    layout.legend = QRectF(inside.left(), inside.top(), inside.width(), layout.line_height);
+  const bool has_legend = grid.columns.size() > 1 || !grid.year_ago.empty();
+  if (has_legend || !grid.unit.isEmpty()) {
+    const QRectF head(inside.left(), inside.top(), inside.width(), layout.line_height);
+    const double unit =
+        std::min(metrics.horizontalAdvance(grid.unit) + layout.line_height, head.width() / 4);
+    if (!grid.unit.isEmpty()) layout.unit = QRectF(head.topLeft(), QSizeF(unit, head.height()));
+    if (has_legend) layout.legend = head.adjusted(layout.unit.width(), 0, 0, 0);
     inside.setTop(inside.top() + layout.line_height * 1.5);
   }
   inside.setTop(inside.top() - layout.depth.y());

@@ -21,7 +21,8 @@ struct ChartLayout {
   double line_height = 0;
   double slot = 0;  // the width of one row
   std::vector<int> shown_labels;
-  QRectF legend;  // empty when there is one column
+  QRectF unit;    // above the numbers of the axis; empty where there is none
+  QRectF legend;  // empty when there is one column and nothing of a year ago
 
   double SlotLeft(int row) const { return front.left() + slot * row; }
   double Middle(int row) const { return SlotLeft(row) + slot / 2; }

@@ -21,10 +21,17 @@ double LineWidth(const ChartCanvas& canvas) { return canvas.layout.line_height /
 
 QPolygonF PointsOf(const ChartCanvas& canvas, int column) {
   QPolygonF points;
-  for (int row = 0; row < canvas.grid.RowCount(); ++row) {
+  for (int row = 0; row < canvas.grid.PastRows(); ++row) {
     points << QPointF(canvas.layout.Middle(row), canvas.layout.Y(canvas.grid.Cell(row, column)));
   }
   return points;
+}
+
+void DrawThinLine(const ChartCanvas& canvas, const QPolygonF& points) {
+  canvas.painter.setPen(
+      QPen(canvas.style.text, LineWidth(canvas) / 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  canvas.painter.setBrush(Qt::NoBrush);
+  canvas.painter.drawPolyline(points);
 }
 
 // Columns differ in the marker's form too: a full disc, and a square with a light heart.
@@ -115,6 +122,20 @@ void DrawFlatLines(const ChartCanvas& canvas) {
 void DrawRibbons(const ChartCanvas& canvas) {
   DrawFloor(canvas);
   for (int column = 0; column < canvas.ColumnCount(); ++column) DrawRibbon(canvas, column);
+}
+
+void DrawYearAgo(const ChartCanvas& canvas) {
+  QPolygonF points;
+  for (size_t row = 0; row < canvas.grid.year_ago.size(); ++row) {
+    points << QPointF(canvas.layout.Middle(static_cast<int>(row)),
+                      canvas.layout.Y(canvas.grid.year_ago[row]));
+  }
+  DrawThinLine(canvas, points);
+}
+
+void DrawYearAgoKey(const ChartCanvas& canvas, const QRectF& box) {
+  const double y = box.center().y();
+  DrawThinLine(canvas, {QPointF(box.left(), y), QPointF(box.right(), y)});
 }
 
 void DrawLineKey(const ChartCanvas& canvas, int column, const QRectF& box) {

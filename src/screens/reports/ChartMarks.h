@@ -25,6 +25,10 @@ void DrawWalls(const ChartCanvas& canvas);
 // The plane of zero of a chart with depth, with the line of zero at its near edge.
 void DrawFloor(const ChartCanvas& canvas);
 
+// The thin line of a year ago, over all else, and its sample for the legend.
+void DrawYearAgo(const ChartCanvas& canvas);
+void DrawYearAgoKey(const ChartCanvas& canvas, const QRectF& box);
+
 // ChartBars.cpp
 void DrawFlatBars(const ChartCanvas& canvas);
 void DrawSolidBars(const ChartCanvas& canvas);

@@ -65,25 +65,41 @@ void DrawRowLabels(const ChartCanvas& canvas) {
   }
 }
 
-// From the right: the last column's name ends at the chart's edge.
+void DrawUnit(const ChartCanvas& canvas) {
+  const QRectF& box = canvas.layout.unit;
+  if (box.isEmpty()) return;
+  const QFontMetricsF metrics(canvas.layout.font);
+  canvas.painter.setPen(canvas.style.text);
+  canvas.painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter,
+                          metrics.elidedText(canvas.grid.unit, Qt::ElideRight, box.width()));
+}
+
+// From the right: the last name ends at the chart's edge.
 void DrawLegend(const ChartCanvas& canvas, const ChartMarks& marks) {
   const ChartLayout& layout = canvas.layout;
   if (layout.legend.isEmpty()) return;
+  const int columns = canvas.ColumnCount();
+  const int entries = canvas.grid.year_ago.empty() ? columns : columns + 1;
   const QFontMetricsF metrics(layout.font);
   const double key = layout.line_height * 1.3;
   const double gap = layout.line_height * 0.4;
-  const double widest_name =
-      layout.legend.width() / canvas.ColumnCount() - key - gap - layout.line_height;
+  const double widest_name = layout.legend.width() / entries - key - gap - layout.line_height;
   double right = layout.legend.right();
-  for (int column = canvas.ColumnCount() - 1; column >= 0; --column) {
-    const QString name = metrics.elidedText(canvas.grid.columns[static_cast<size_t>(column)].name,
-                                            Qt::ElideRight, widest_name);
+  for (int entry = entries - 1; entry >= 0; --entry) {
+    const bool year_ago = entry == columns;
+    const QString whole =
+        year_ago ? kYearAgo.toString() : canvas.grid.columns[static_cast<size_t>(entry)].name;
+    const QString name = metrics.elidedText(whole, Qt::ElideRight, widest_name);
     const double width = metrics.horizontalAdvance(name);
     const QRectF text(right - width, layout.legend.top(), width + 1, layout.line_height);
     canvas.painter.setPen(canvas.style.text);
     canvas.painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, name);
-    marks.draw_key(canvas, column,
-                   QRectF(text.left() - gap - key, text.top(), key, layout.line_height));
+    const QRectF box(text.left() - gap - key, text.top(), key, layout.line_height);
+    if (year_ago) {
+      DrawYearAgoKey(canvas, box);
+    } else {
+      marks.draw_key(canvas, entry, box);
+    }
     right = text.left() - gap - key - layout.line_height;
   }
 }
@@ -103,8 +119,10 @@ void PaintChart(QPainter& painter, const QRectF& rect, const ChartGrid& grid, Ch
   DrawBand(canvas);
   DrawGridLines(canvas);
   marks.draw_rows(canvas);
+  DrawYearAgo(canvas);
   DrawValueLabels(canvas);
   DrawRowLabels(canvas);
+  DrawUnit(canvas);
   DrawLegend(canvas, marks);
   painter.restore();
 }

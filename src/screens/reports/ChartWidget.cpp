@@ -120,10 +120,18 @@ void ChartWidget::ShowRowTip(int row, QPoint global_position) {
 
 QString ChartWidget::RowText(int row) const {
   if (row < 0) return {};
+  const auto at = static_cast<size_t>(row);
   QStringList lines = {grid_.row_labels[row]};
-  for (const ChartColumn& column : grid_.columns) {
-    lines.append(column.name + u": "_s + ChartNumberText(column.values[static_cast<size_t>(row)]));
+  const auto add = [&](const QString& name, double value) {
+    const QString text = name + u": "_s + ChartNumberText(value);
+    lines.append(grid_.unit.isEmpty() ? text : text + u' ' + grid_.unit);
+  };
+  if (row < grid_.PastRows()) {
+    for (const ChartColumn& column : grid_.columns) add(column.name, column.values[at]);
+  } else {
+    lines.append(u"ещё впереди"_s);
   }
+  if (at < grid_.year_ago.size()) add(kYearAgo.toString(), grid_.year_ago[at]);
   return lines.join(u'\n');
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <vector>
 
 #include "books/reports/ChartGrid.h"
 #include "ui/AppContext.h"
@@ -23,16 +24,20 @@ class ChartWindow : public QDialog {
 
  private:
   QGroupBox* NewKinds();
-  QRadioButton* NewKind(const QString& name, const QString& caption, ChartKind kind,
-                        QGroupBox* frame);
+  void NewKind(const QString& name, const QString& caption, ChartKind kind, QGroupBox* frame);
   void Print();
+  void Copy();
+  void Save();
+  ChartKind StoredKind() const;
 
   AppContext& context_;
   QLabel* title_;
   ChartWidget* chart_;
-  QRadioButton* first_kind_;  // "3D/Колонки"
-  QPushButton* print_;        // "Печать"
-  QPushButton* close_;        // "Закрыть"
+  std::vector<QRadioButton*> kinds_;
+  QPushButton* copy_;   // "Копировать"
+  QPushButton* save_;   // "Сохранить..."
+  QPushButton* print_;  // "Печать"
+  QPushButton* close_;  // "Закрыть"
 };
 
 }  // namespace kladez

@@ -37,25 +37,33 @@ QString FolderToPropose() {
              : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-QString AskTablePath(QWidget* parent, const QString& title) {
+struct ChosenFile {
+  QString path;  // empty when the person thinks better of it
+  QString ending;
+};
+
+ChosenFile AskPath(QWidget* parent, const QString& caption, const QString& title,
+                   const std::vector<FileType>& types) {
   const Clock machine;
   const QDate today = (Home().clock == nullptr ? machine : *Home().clock).Today();
-  const QString workbook = u"Таблица (*.xlsx)"_s;
-  const QString csv = u"Текст CSV (*.csv)"_s;
-  QFileDialog dialog(parent, u"Сохранить как таблицу"_s, FolderToPropose());
+  QFileDialog dialog(parent, caption, FolderToPropose());
   dialog.setObjectName(u"save_table"_s);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilters({workbook, csv});
-  dialog.setDefaultSuffix(u"xlsx"_s);
+  QStringList filters;
+  for (const FileType& type : types) filters << type.filter;
+  dialog.setNameFilters(filters);
+  dialog.setDefaultSuffix(types.front().ending);
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-    dialog.setDefaultSuffix(filter == csv ? u"csv"_s : u"xlsx"_s);
+    dialog.setDefaultSuffix(types[static_cast<size_t>(filters.indexOf(filter))].ending);
   });
   dialog.selectFile(TableFileName(title, today.toString(u"yyyy-MM-dd"_s)));
   if (dialog.exec() != QDialog::Accepted) return {};
-  QString path = dialog.selectedFiles().value(0);
+  const QString path = dialog.selectedFiles().value(0);
   const QString ending = path.section(u'.', -1).toLower();
-  if (ending != u"xlsx" && ending != u"csv") path += u".xlsx"_s;
-  return path;
+  for (const FileType& type : types) {
+    if (ending == type.ending) return {path, ending};
+  }
+  return {path + u'.' + types.front().ending, types.front().ending};
 }
 
 class BusyCursor {
@@ -83,25 +91,35 @@ void SaveTable(QWidget* parent, const Table& table) {
 }
 
 void SaveTable(QWidget* parent, const QString& title, const std::function<Table()>& make) {
-  const QString path = AskTablePath(parent, title);
-  if (path.isEmpty()) return;
-  const bool done = Guarded(parent, [&] {
+  static const std::vector<FileType> kTypes = {{u"Таблица (*.xlsx)"_s, u"xlsx"_s},
+                                               {u"Текст CSV (*.csv)"_s, u"csv"_s}};
+  SaveOutside(parent, u"Сохранить как таблицу"_s, title, kTypes, [&](const QString& ending) {
     const Table table = make();
-    const BusyCursor busy;
-    const bool csv = path.endsWith(u".csv"_s, Qt::CaseInsensitive);
+    const bool csv = ending == u"csv";
     if (!csv && !FitsWorkbook(table)) {
       throw std::runtime_error(
           "Строк больше, чем вмещает лист таблицы (1048576). Сохраните как CSV.");
     }
-    WriteOutside(path, csv ? TableAsCsv(table) : WorkbookOf(table));
+    return csv ? TableAsCsv(table) : WorkbookOf(table);
+  });
+}
+
+void SaveOutside(QWidget* parent, const QString& caption, const QString& title,
+                 const std::vector<FileType>& types,
+                 const std::function<QByteArray(const QString& ending)>& make) {
+  const ChosenFile file = AskPath(parent, caption, title, types);
+  if (file.path.isEmpty()) return;
+  const bool done = Guarded(parent, [&] {
+    const BusyCursor busy;
+    WriteOutside(file.path, make(file.ending));
   });
   if (!done) return;
   if (Home().settings != nullptr) {
     Guarded(parent, [&] {
-      Home().settings->Write(settings::kTableFolder, QFileInfo(path).absolutePath());
+      Home().settings->Write(settings::kTableFolder, QFileInfo(file.path).absolutePath());
     });
   }
-  FieldNote::Show(parent, u"Сохранено: "_s + QDir::toNativeSeparators(path),
+  FieldNote::Show(parent, u"Сохранено: "_s + QDir::toNativeSeparators(file.path),
                   FieldNote::Stays::kForAMoment);
 }
 

@@ -2,7 +2,10 @@
 // the end of the file's name says.
 #pragma once
 
+#include <QByteArray>
+#include <QString>
 #include <functional>
+#include <vector>
 
 #include "formats/tables/Table.h"
 
@@ -21,6 +24,18 @@ void KeepTableFolder(SettingsStore* settings, const Clock* clock);
 void SaveTable(QWidget* parent, const Table& table);
 // The same of a table that is made only after the place was chosen, as the rows of years are.
 void SaveTable(QWidget* parent, const QString& title, const std::function<Table()>& make);
+
+// A kind of file to choose from: "Таблица (*.xlsx)" and its ending, "xlsx".
+struct FileType {
+  QString filter;
+  QString ending;
+};
+
+// Asks where, as one of the types (the first is proposed, under `title` and the day), and writes
+// there what `make` gives for the ending; the rest as with a table.
+void SaveOutside(QWidget* parent, const QString& caption, const QString& title,
+                 const std::vector<FileType>& types,
+                 const std::function<QByteArray(const QString& ending)>& make);
 
 // "Остатки на складе 2026-11-23": what no system refuses as a file's name.
 QString TableFileName(const QString& title, const QString& day);

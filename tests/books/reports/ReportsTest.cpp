@@ -202,6 +202,36 @@ TEST_F(Reports, ChartsTakeNetPricesAndStopAtACutDocument) {
   }
 }
 
+TEST_F(Reports, ChartsKnowTheYearBeforeAndTheDaysToCome) {
+  Ship(0, u"0001.uhd"_s, u"05.11.2026"_s, u"0"_s, u"0"_s, u"Чай|2|пач.|1|2|3"_lines);
+  Ship(0, u"0002.uhd"_s, u"06.11.2025"_s, u"0"_s, u"0"_s, u"Чай|4|пач.|1|2|3"_lines);
+  Ship(0, u"0003.uhd"_s, u"06.11.2024"_s, u"0"_s, u"0"_s, u"Чай|8|пач.|1|2|3"_lines);
+  session.currency_name = u"руб."_s;
+  ChartScope month{kAllWarehouses.toString(), true, 2026, 11, kToday};
+  const auto sales = CollectSalesChart(temp.Data(), session, month);
+  EXPECT_EQ(sales.unit, u"руб."_s);
+  EXPECT_EQ(sales.year_ago.at(5), 12.0);
+  EXPECT_EQ(sales.year_ago.at(4), 0.0);
+  EXPECT_EQ(sales.PastRows(), 22);
+  const auto goods = CollectGoodsChart(temp.Data(), session, u"Чай"_s, month);
+  EXPECT_EQ(goods.unit, u"пач."_s);
+  EXPECT_EQ(goods.year_ago.at(5), 4.0);
+  const auto past_rows = [&](bool by_day, int year, int number) {
+    const ChartScope scope{kAllWarehouses.toString(), by_day, year, number, kToday};
+    return CollectSalesChart(temp.Data(), session, scope).PastRows();
+  };
+  EXPECT_EQ(past_rows(true, 2026, 10), 31);
+  EXPECT_EQ(past_rows(true, 2026, 12), 0);
+  EXPECT_EQ(past_rows(true, 2027, 1), 0);
+  EXPECT_EQ(past_rows(false, 2026, 0), 11);
+  EXPECT_EQ(past_rows(false, 2025, 0), 12);
+  EXPECT_EQ(past_rows(false, 2027, 0), 0);
+  EXPECT_TRUE(CollectSalesChart(temp.Data(), session, {month.warehouse, false, 2023, 0, kToday})
+                  .year_ago.empty());
+  Ship(0, u"0004.uhd"_s, u"25.11.2026"_s, u"0"_s, u"0"_s, u"Чай|2|пач.|1|2|3"_lines);
+  EXPECT_EQ(past_rows(true, 2026, 11), 25) << "what is written for a day to come is drawn";
+}
+
 // By day two digits of the year are compared: the 29th of a leap year's February finds no row in
 // that of 2100.
 TEST_F(Reports, ADayThatTheChartsMonthLacksIsLeftOut) {

@@ -43,6 +43,28 @@ ChartGrid OneBar(double value) {
   return grid;
 }
 
+TEST(ChartPainter, LinesEndAtTodayAndThePrintKnowsNothingOfIt) {
+  ChartGrid grid = SalesGrid(10, 1);
+  for (int row = 5; row < 10; ++row) grid.Cell(row, 0) = 0;
+  const QSize size(600, 400);
+  const QColor face = DefaultChartStyle().series[0].face;
+  const int whole = BoundsOf(Paint(grid, ChartKind::k2DLines, size), face).right();
+  const auto printed = RenderChartIndexed(grid, ChartKind::k2DLines, size).pixels;
+  grid.past_rows = 5;
+  EXPECT_LT(BoundsOf(Paint(grid, ChartKind::k2DLines, size), face).right(),
+            whole - size.width() / 3);
+  grid.unit = u"руб."_s;
+  grid.year_ago = grid.columns[0].values;
+  for (const ChartKind kind : kAllChartKinds) {
+    ChartGrid without = grid;
+    without.year_ago.clear();
+    EXPECT_NE(Paint(grid, kind, size), Paint(without, kind, size));
+  }
+  EXPECT_EQ(RenderChartIndexed(grid, ChartKind::k2DLines, size).pixels, printed);
+  EXPECT_EQ(ChartAsPicture(grid, ChartKind::k3DBars).size(), QSize(2400, 1280));
+  EXPECT_TRUE(ChartAsSvg(grid, ChartKind::k3DBars).contains("Год назад"));
+}
+
 TEST(ChartPainter, LossHangsBelowTheZeroLineAndGainStandsOnIt) {
   const QSize size(600, 400);
   const ChartStyle style = DefaultChartStyle();

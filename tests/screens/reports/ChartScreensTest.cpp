@@ -1,3 +1,6 @@
+#include <QClipboard>
+#include <QMimeData>
+
 #include "ScreenDriver.h"
 #include "SmallBooks.h"
 #include "books/reports/GifReader.h"
@@ -67,6 +70,32 @@ TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {
   EXPECT_EQ(month.title, u"График продаж за Февраль 2025"_s);
   ASSERT_EQ(month.RowCount(), 28);
   EXPECT_EQ(month.Cell(27, 0), 20.0);
+}
+
+TEST_F(ChartScreens, TheKindChosenLastIsRememberedAndTheChartCanBeTaken) {
+  ChartGrid grid = NumberedChartGrid(u"График"_s, 3, {u"Реализация"_s});
+  ChartWindow first(Context(), grid);
+  EXPECT_TRUE(Find<QRadioButton>(&first, "Option1")->isChecked());
+  ShowActive(&first);
+  Click(&first, "Option4");
+  ChartWindow next(Context(), grid);
+  EXPECT_TRUE(Find<QRadioButton>(&next, "Option4")->isChecked());
+  EXPECT_EQ(Find<ChartWidget>(&next, "MSChart1")->Kind(), ChartKind::k2DLines);
+  ShowActive(&next);
+  Click(&next, "copy");
+  const QMimeData* taken = QGuiApplication::clipboard()->mimeData();
+  EXPECT_TRUE(taken->hasImage());
+  EXPECT_TRUE(taken->data(u"image/svg+xml"_s).contains("<svg"));
+  for (const QString& name : {u"chart.svg"_s, u"chart"_s}) {
+    const ModalAnswers answers{[&](QWidget* dialog) {
+      auto* field = dialog->findChild<QLineEdit*>();
+      field->setText(Temp().Root() + u"/"_s + name);
+      QTest::keyClick(field, Qt::Key_Return);
+    }};
+    Click(&next, "save");
+  }
+  EXPECT_TRUE(QFileInfo::exists(Temp().Root() + u"/chart.svg"_s));
+  EXPECT_EQ(QImage(Temp().Root() + u"/chart.png"_s).size(), QSize(2400, 1280));
 }
 
 TEST_F(ChartScreens, GoodsAreAskedForAndPickedFromTheDirectory) {
