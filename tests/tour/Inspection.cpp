@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTreeView>
 
@@ -71,6 +72,14 @@ bool IsCut(const QAbstractButton* button) {
   return wanted.width() > button->width() + 1 || wanted.height() > button->height() + 1;
 }
 
+QStyleOptionViewItem OptionOf(const QTreeView* list) {
+  QStyleOptionViewItem option;
+  option.initFrom(list);
+  option.widget = list;
+  option.font = list->font();
+  return option;
+}
+
 void AppendCutHeadings(const QTreeView* list, QStringList& faults) {
   const QHeaderView* header = list->header();
   for (int i = 0; i < header->count(); ++i) {
@@ -78,6 +87,22 @@ void AppendCutHeadings(const QTreeView* list, QStringList& faults) {
     const QString title = list->model()->headerData(i, Qt::Horizontal).toString();
     if (header->fontMetrics().horizontalAdvance(title) > header->sectionSize(i) - 2) {
       faults.append(u"заголовок \""_s + title + u"\" обрезан в "_s + Named(list));
+    }
+  }
+}
+
+// A number of which a part is missing is another number.
+void AppendCutNumbers(const QTreeView* list, QStringList& faults) {
+  for (QModelIndex row = list->indexAt(QPoint()); row.isValid(); row = list->indexBelow(row)) {
+    if (list->visualRect(row).top() > list->viewport()->height()) break;
+    for (int column = 0; column < list->model()->columnCount(); ++column) {
+      const QModelIndex cell = row.siblingAtColumn(column);
+      const auto side = static_cast<Qt::Alignment>(cell.data(Qt::TextAlignmentRole).toInt());
+      if (!(side & Qt::AlignRight) || list->isColumnHidden(column)) continue;
+      const int wanted = list->itemDelegate()->sizeHint(OptionOf(list), cell).width();
+      if (wanted > list->columnWidth(column)) {
+        faults.append(u"число \""_s + cell.data().toString() + u"\" обрезано в "_s + Named(list));
+      }
     }
   }
 }
@@ -93,7 +118,10 @@ void AppendCutTexts(QWidget* control, QStringList& faults) {
     cut = combo->height() + 1 < combo->minimumSizeHint().height();
   }
   if (cut) faults.append(u"обрезано: "_s + Named(control));
-  if (const auto* list = qobject_cast<QTreeView*>(control)) AppendCutHeadings(list, faults);
+  if (const auto* list = qobject_cast<QTreeView*>(control)) {
+    AppendCutHeadings(list, faults);
+    AppendCutNumbers(list, faults);
+  }
 }
 
 bool LiesInScrollArea(const QWidget* widget) {
