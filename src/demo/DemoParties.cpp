@@ -64,6 +64,45 @@ QString Digits(QStringView prefix, int index, int width) {
   return prefix.toString() + QString::number(index + 1).rightJustified(width, u'0');
 }
 
+// Whoever has no tax number has no accounts and codes either.
+QString TextOf(PartyField field, const DemoParty& party, int index) {
+  const bool known = !party.tax_number.isEmpty();
+  switch (field) {
+    case PartyField::kName:
+      return party.name.toString();
+    case PartyField::kLegalAddress:
+    case PartyField::kActualAddress:
+      return party.address.toString();
+    case PartyField::kPhone:
+    case PartyField::kFax:
+      return party.phone.toString();
+    case PartyField::kContact:
+    case PartyField::kDirector:
+      return party.contact.toString();
+    case PartyField::kAccount:
+      return known ? Digits(u"4070281000000000", index, 4) : QString();
+    case PartyField::kBank:
+      return party.bank.toString();
+    case PartyField::kCity:
+      return party.city.toString();
+    case PartyField::kCorrespondent:
+      return known ? Digits(u"3010181000000000", index, 4) : QString();
+    case PartyField::kBankCode:
+      return known ? Digits(u"0434690", index, 2) : QString();
+    case PartyField::kTaxNumber:
+      return party.tax_number.toString();
+    case PartyField::kIndustryCode:
+      return known ? u"71211"_s : QString();
+    case PartyField::kFirmCode:
+      return known ? Digits(u"990011", index, 2) : QString();
+    case PartyField::kShipper:
+      return u"он же"_s;
+    case PartyField::kAccountant:
+      return u"Счетова М. Г."_s;
+  }
+  Q_UNREACHABLE();
+}
+
 }  // namespace
 
 std::span<const DemoParty> Firms() { return kFirms; }
@@ -71,61 +110,8 @@ std::span<const DemoParty> Suppliers() { return kSuppliers; }
 std::span<const DemoParty> Clients() { return kClients; }
 
 Party RecordOf(PartyKind kind, const DemoParty& party, int index) {
-  const bool known = !party.tax_number.isEmpty();
   Party record;
-  for (const PartyField field : FieldsOf(kind)) {
-    QString value;
-    switch (field) {
-      case PartyField::kName:
-        value = party.name.toString();
-        break;
-      case PartyField::kLegalAddress:
-      case PartyField::kActualAddress:
-        value = party.address.toString();
-        break;
-      case PartyField::kPhone:
-      case PartyField::kFax:
-        value = party.phone.toString();
-        break;
-      case PartyField::kContact:
-        value = party.contact.toString();
-        break;
-      case PartyField::kAccount:
-        if (known) value = Digits(u"4070281000000000", index, 4);
-        break;
-      case PartyField::kBank:
-        value = party.bank.toString();
-        break;
-      case PartyField::kCity:
-        value = party.city.toString();
-        break;
-      case PartyField::kCorrespondent:
-        if (known) value = Digits(u"3010181000000000", index, 4);
-        break;
-      case PartyField::kBankCode:
-        if (known) value = Digits(u"0434690", index, 2);
-        break;
-      case PartyField::kTaxNumber:
-        value = party.tax_number.toString();
-        break;
-      case PartyField::kIndustryCode:
-        if (known) value = u"71211"_s;
-        break;
-      case PartyField::kFirmCode:
-        if (known) value = Digits(u"990011", index, 2);
-        break;
-      case PartyField::kShipper:
-        value = u"он же"_s;
-        break;
-      case PartyField::kDirector:
-        value = party.contact.toString();
-        break;
-      case PartyField::kAccountant:
-        value = u"Счетова М. Г."_s;
-        break;
-    }
-    record.append(value);
-  }
+  for (const PartyField field : FieldsOf(kind)) record.append(TextOf(field, party, index));
   return record;
 }
 

@@ -34,14 +34,14 @@ Ranks MakeRanks() {
   return ranks;
 }
 
-const Ranks& TheRanks() {
+const Ranks& CodePageRanks() {
   static const Ranks ranks = MakeRanks();
   return ranks;
 }
 
 // False for a character that the code page lacks.
 bool AppendRanks(QStringView name, std::vector<char>& keys) {
-  const Ranks& ranks = TheRanks();
+  const Ranks& ranks = CodePageRanks();
   for (const QChar c : name) {
     if (c.unicode() >= ranks.size() || ranks[c.unicode()] == 0) return false;
     keys.push_back(static_cast<char>(ranks[c.unicode()]));
@@ -140,7 +140,7 @@ std::vector<size_t> PlacesInOrder(const std::vector<QByteArrayView>& names) {
   std::array<char, 256> ranks;
   for (int byte = 0; byte < 256; ++byte) {
     const char c = static_cast<char>(byte);
-    ranks[byte] = static_cast<char>(TheRanks()[DecodeText({&c, 1}).front().unicode()]);
+    ranks[byte] = static_cast<char>(CodePageRanks()[DecodeText({&c, 1}).front().unicode()]);
   }
   size_t length = 0;
   for (const QByteArrayView name : names) length += static_cast<size_t>(name.size());

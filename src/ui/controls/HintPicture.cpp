@@ -9,7 +9,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-HintPicture::Opener& TheOpener() {
+HintPicture::Opener& CurrentOpener() {
   static HintPicture::Opener opener;
   return opener;
 }
@@ -26,7 +26,7 @@ HintPicture::HintPicture(const Hint& hint, std::initializer_list<QWidget*> about
   setToolTip(u"Подсказка (Shift+F1)"_s);
   setAccessibleName(u"Подсказка: "_s + hint_.heading);
   connect(this, &QToolButton::clicked, this, [this] {
-    if (TheOpener()) TheOpener()(window(), hint_);
+    if (CurrentOpener()) CurrentOpener()(window(), hint_);
   });
   for (QWidget* field : about) {
     field->installEventFilter(this);
@@ -44,6 +44,6 @@ bool HintPicture::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-void HintPicture::SetOpener(Opener opener) { TheOpener() = std::move(opener); }
+void HintPicture::SetOpener(Opener opener) { CurrentOpener() = std::move(opener); }
 
 }  // namespace kladez

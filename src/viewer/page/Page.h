@@ -39,8 +39,7 @@ struct Paragraph {
   bool listed = false;      // an item of a list, with its bullet before the other lines
   std::vector<Run> runs;
 
-  // The words of the paragraph; a picture counts as one character.
-  // The letters of all runs, one behind the other.
+  // The letters of all runs, one behind the other; a picture counts as one.
   QString Text() const;
 };
 

@@ -47,7 +47,7 @@ class GoodsScreensTest : public testing::Test {
   DirectoryWorld world_;
 };
 
-class sprTovarTest : public GoodsScreensTest {
+class GoodsDirectoryScreens : public GoodsScreensTest {
  protected:
   void Open() {
     screen_ = std::make_unique<GoodsDirectoryScreen>(world_.Context());
@@ -59,7 +59,7 @@ class sprTovarTest : public GoodsScreensTest {
   RecordList* list_ = nullptr;
 };
 
-TEST_F(sprTovarTest, GoodsEnteredByKeysReachTheFileWithClose) {
+TEST_F(GoodsDirectoryScreens, GoodsEnteredByKeysReachTheFileWithClose) {
   Open();
   list_->SelectRow(1);
   ModalAnswers answers({EnterAll(u"Чай белый|Китай|107/2|шт.|120.5"_lines)});
@@ -71,7 +71,7 @@ TEST_F(sprTovarTest, GoodsEnteredByKeysReachTheFileWithClose) {
   EXPECT_FALSE(screen_->isVisible());
 }
 
-TEST_F(sprTovarTest, FirstRecordMustBeAGroup) {
+TEST_F(GoodsDirectoryScreens, FirstRecordMustBeAGroup) {
   world_.PutLines(u"spr\\товар.spr"_s, {});
   Open();
   ModalAnswers answers({[](QWidget* form) {
@@ -84,7 +84,7 @@ TEST_F(sprTovarTest, FirstRecordMustBeAGroup) {
   EXPECT_EQ(world_.Lines(u"spr\\товар.spr"_s), QStringList{u" Сыры"_s});
 }
 
-TEST_F(sprTovarTest, GoodsWithoutPriceAreNotTaken) {
+TEST_F(GoodsDirectoryScreens, GoodsWithoutPriceAreNotTaken) {
   Open();
   ModalAnswers answers({[](QWidget* form) {
                           Enter(u"Чай"_s);
@@ -98,7 +98,7 @@ TEST_F(sprTovarTest, GoodsWithoutPriceAreNotTaken) {
   EXPECT_EQ(list_->model()->rowCount(), 4);
 }
 
-TEST_F(sprTovarTest, GoodsWhoseNameWouldMakeThemAGroupAreRefused) {
+TEST_F(GoodsDirectoryScreens, GoodsWhoseNameWouldMakeThemAGroupAreRefused) {
   Open();
   list_->SelectRow(1);
   ModalAnswers answers({[](QWidget* form) {
@@ -115,7 +115,7 @@ TEST_F(sprTovarTest, GoodsWhoseNameWouldMakeThemAGroupAreRefused) {
   world_.ExpectUnchanged();
 }
 
-TEST_F(sprTovarTest, ChangedGroupKeepsItsBlankAndItsPlace) {
+TEST_F(GoodsDirectoryScreens, ChangedGroupKeepsItsBlankAndItsPlace) {
   Open();
   list_->SelectRow(2);
   ModalAnswers answers({EnterAll({u"Крупы"_s})});
@@ -124,7 +124,7 @@ TEST_F(sprTovarTest, ChangedGroupKeepsItsBlankAndItsPlace) {
   ExpectGoods(kTea + QStringList{u" Крупы"_s} + kCoffee);
 }
 
-TEST_F(sprTovarTest, OnlyCloseWritesWhatWasMovedSortedAndDeleted) {
+TEST_F(GoodsDirectoryScreens, OnlyCloseWritesWhatWasMovedSortedAndDeleted) {
   Open();
   list_->SelectRow(2);
   QTest::keyClick(list_, Qt::Key_Up, Qt::ControlModifier);
@@ -148,7 +148,7 @@ TEST_F(sprTovarTest, OnlyCloseWritesWhatWasMovedSortedAndDeleted) {
   world_.ExpectChanged({{"0001/SPR/товар.spr", kTea + kGroup + kCoffee}});
 }
 
-TEST_F(sprTovarTest, GoodsOnHandAreNotDeleted) {
+TEST_F(GoodsDirectoryScreens, GoodsOnHandAreNotDeleted) {
   world_.PutLines(u"Главный склад\\товар.usl"_s, u"Чай|2|пач."_lines);
   Open();
   list_->SelectRow(1);
@@ -160,7 +160,7 @@ TEST_F(sprTovarTest, GoodsOnHandAreNotDeleted) {
   EXPECT_EQ(list_->model()->rowCount(), 4);
 }
 
-TEST_F(sprTovarTest, DeletingAsksFirstOverAnEmptyListToo) {
+TEST_F(GoodsDirectoryScreens, DeletingAsksFirstOverAnEmptyListToo) {
   world_.PutLines(u"spr\\товар.spr"_s, {});
   world_.Remember();
   Open();
@@ -173,7 +173,7 @@ TEST_F(sprTovarTest, DeletingAsksFirstOverAnEmptyListToo) {
   world_.ExpectUnchanged();
 }
 
-TEST_F(sprTovarTest, AThousandAndOneRowsAreFull) {
+TEST_F(GoodsDirectoryScreens, AThousandAndOneRowsAreFull) {
   QStringList lines = kTea;
   for (int i = 2; i < 1001; ++i) lines += kTea;
   PutGoods(lines);
@@ -183,7 +183,7 @@ TEST_F(sprTovarTest, AThousandAndOneRowsAreFull) {
   QTest::keyClick(list_, Qt::Key_Insert);
 }
 
-TEST_F(sprTovarTest, GoodsAloneAreChangedAtOnceAndNeitherAddedNorDeleted) {
+TEST_F(GoodsDirectoryScreens, GoodsAloneAreChangedAtOnceAndNeitherAddedNorDeleted) {
   Open();
   EXPECT_EQ(Width(u"c1"_s), QString());
   Click(screen_.get(), "op2");
@@ -209,7 +209,7 @@ TEST_F(sprTovarTest, GoodsAloneAreChangedAtOnceAndNeitherAddedNorDeleted) {
   EXPECT_EQ(world_.Settings().Read(settings::kGoodsGoodsOnly), u"True"_s);
 }
 
-TEST_F(sprTovarTest, ANameChangedAmongTheGoodsAloneIsSavedWhereItIsWanted) {
+TEST_F(GoodsDirectoryScreens, ANameChangedAmongTheGoodsAloneIsSavedWhereItIsWanted) {
   struct Case {
     const char* way;
     QMessageBox::StandardButton answer;
@@ -231,7 +231,7 @@ TEST_F(sprTovarTest, ANameChangedAmongTheGoodsAloneIsSavedWhereItIsWanted) {
   }
 }
 
-TEST_F(sprTovarTest, FailedSaveLeavesTheScreenWithWhatWasEntered) {
+TEST_F(GoodsDirectoryScreens, FailedSaveLeavesTheScreenWithWhatWasEntered) {
   Open();
   list_->SelectRow(1);
   ModalAnswers answers({EnterAll(u"Чай белый|-|-|шт.|1"_lines), Press(QMessageBox::Ok),
@@ -246,7 +246,7 @@ TEST_F(sprTovarTest, FailedSaveLeavesTheScreenWithWhatWasEntered) {
   EXPECT_EQ(list_->model()->index(2, 0).data().toString(), u"Чай белый"_s);
 }
 
-TEST_F(sprTovarTest, PickIsSavedAskedAndHandedOver) {
+TEST_F(GoodsDirectoryScreens, PickIsSavedAskedAndHandedOver) {
   auto* picker = new GoodsDirectoryScreen(world_.Context(), PickFor::kPriceList, nullptr);
   QList<GoodsPick> picks;
   QObject::connect(picker, &GoodsDirectoryScreen::Picked,
@@ -270,7 +270,7 @@ TEST_F(sprTovarTest, PickIsSavedAskedAndHandedOver) {
   EXPECT_EQ(gone.count(), 1);
 }
 
-class sprtovar2Test : public GoodsScreensTest {
+class GoodsPickers : public GoodsScreensTest {
  protected:
   void Open(PickFor pick_for) {
     screen_ = std::make_unique<GoodsPicker>(world_.Context(), pick_for);
@@ -290,7 +290,7 @@ class sprtovar2Test : public GoodsScreensTest {
   RecordList* list_ = nullptr;
 };
 
-TEST_F(sprtovar2Test, TicksAreReadWhenActiveAndWrittenWhenClosed) {
+TEST_F(GoodsPickers, TicksAreReadWhenActiveAndWrittenWhenClosed) {
   world_.PutLines(u"marked"_s, u"Кофе|Нет такого|Чай"_lines);
   world_.Remember();
   Open(PickFor::kReceipt);
@@ -310,7 +310,7 @@ TEST_F(sprtovar2Test, TicksAreReadWhenActiveAndWrittenWhenClosed) {
   EXPECT_FALSE(screen_->Pick().has_value());
 }
 
-TEST_F(sprtovar2Test, ReceiptPickAsksQuantityAndPurchasePrice) {
+TEST_F(GoodsPickers, ReceiptPickAsksQuantityAndPurchasePrice) {
   Open(PickFor::kReceipt);
   Type(list_, u"К"_s);  // searches
   Type(QApplication::focusWidget(), u"О"_s);
@@ -329,7 +329,7 @@ TEST_F(sprtovar2Test, ReceiptPickAsksQuantityAndPurchasePrice) {
   EXPECT_FALSE(screen_->isVisible());
 }
 
-TEST_F(sprtovar2Test, AReceiptsPickerStaysOpenWhileItIsTicked) {
+TEST_F(GoodsPickers, AReceiptsPickerStaysOpenWhileItIsTicked) {
   for (const bool remembered : {false, true}) {
     Open(PickFor::kReceipt);
     QStringList picked;
@@ -354,7 +354,7 @@ TEST_F(sprtovar2Test, AReceiptsPickerStaysOpenWhileItIsTicked) {
   EXPECT_EQ(screen_->findChild<QWidget*>(u"stay"_s), nullptr);
 }
 
-TEST_F(sprtovar2Test, ChartTakesTheNameOfGoodsAndNoGroup) {
+TEST_F(GoodsPickers, ChartTakesTheNameOfGoodsAndNoGroup) {
   Open(PickFor::kGoodsChart);
   Click(screen_.get(), "op2");
   list_->SelectRow(1);
@@ -370,7 +370,7 @@ TEST_F(sprtovar2Test, ChartTakesTheNameOfGoodsAndNoGroup) {
   EXPECT_FALSE(screen_->Pick().has_value());
 }
 
-TEST_F(sprtovar2Test, UnwritableMarksDoNotLockTheUserIn) {
+TEST_F(GoodsPickers, UnwritableMarksDoNotLockTheUserIn) {
   world_.Protect(u"marked"_s);
   Open(PickFor::kReceipt);
   ModalAnswers answers({Press(QMessageBox::Ok)});
