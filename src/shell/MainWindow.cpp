@@ -123,6 +123,7 @@ void MainWindow::OpenDatabase() {
   menu_->EnableDatabaseCommands(true);
   menu_->ShowDatabaseMenus(true);
   menu_->ApplyRole(context_.session.IsSeller());
+  if (context_.keeping != nullptr) context_.keeping->Undo().OpenedBy(context_.session.IsSeller());
   ShowPanels(true);
   ShowHome();
   // Of the lists that could not be read.

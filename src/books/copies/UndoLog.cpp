@@ -132,6 +132,11 @@ void UndoLog::UndoLast(const Session& session) {
   steps_.pop_back();
 }
 
+void UndoLog::OpenedBy(bool seller) {
+  if (seller && !seller_) steps_.clear();
+  seller_ = seller;
+}
+
 void UndoLog::AddReversal(SaveSet& save, const Step& step, const OldState& state) const {
   const bool goes_with_directory =
       std::any_of(step.states.begin(), step.states.end(), [&](const OldState& other) {

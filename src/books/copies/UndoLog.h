@@ -29,6 +29,10 @@ class UndoLog {
   // replaced was too much to be kept; nothing has changed then. The session is to be opened anew.
   void UndoLast(const Session& session);
 
+  // A Database was opened, by a seller or by somebody who may more. What others have done is not a
+  // seller's to take back: it is forgotten.
+  void OpenedBy(bool seller);
+
   static constexpr size_t kMostSteps = 20;
   static constexpr qsizetype kMostBytes = qsizetype{64} << 20;  // of all steps together
 
@@ -63,6 +67,7 @@ class UndoLog {
   const DataDir& data_;
   Step pending_;
   std::deque<Step> steps_;
+  bool seller_ = false;
 };
 
 }  // namespace kladez

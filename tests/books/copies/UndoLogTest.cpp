@@ -97,6 +97,22 @@ TEST_F(UndoLogTest, AFileThatHasChangedSinceIsLeftAsItIs) {
   EXPECT_EQ(world_.Text("Ларёк\\PRH\\0001.prh"), u"1"_s);
 }
 
+TEST_F(UndoLogTest, ASellerTakesBackNothingOfADirectors) {
+  const auto make = [&](const QString& name) {
+    WarehouseDirectory(world_.Data(), session_).Create(name);
+    OpenDatabase(session_, world_.Data());
+    return Undo().Last();
+  };
+  const QString lavka = make(u"Лавка"_s);
+  Undo().OpenedBy(false);
+  EXPECT_EQ(Undo().Last(), lavka);
+  Undo().OpenedBy(true);
+  EXPECT_EQ(Undo().Last(), QString());
+  const QString kiosk = make(u"Киоск"_s);
+  Undo().OpenedBy(true);
+  EXPECT_EQ(Undo().Last(), kiosk);
+}
+
 TEST_F(UndoLogTest, TheOpenDatabaseIsNotTakenAway) {
   session_.chosen_base = CreateDatabase(world_.Data(), u"Вторая"_s);
   OpenDatabase(session_, world_.Data());
