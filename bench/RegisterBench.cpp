@@ -8,6 +8,7 @@
 #include "RatioReporter.h"
 #include "books/stock/DocumentRegister.h"
 #include "books/stock/DocumentScan.h"
+#include "books/stock/RegisterView.h"
 #include "books/store/Catalogue.h"
 #include "formats/Numbers.h"
 #include "ui/controls/RecordModel.h"
@@ -83,15 +84,17 @@ void ShowRegister(benchmark::State& state, const QString& year) {
   const Books& books = TheBooks();
   const RegisterFilter filter{.period = RegisterFilter::Period::kYear, .year = year};
   DocumentRegister rows(books.data, books.session, DocumentKind::kShipment);
+  RegisterView view(DocumentKind::kShipment, rows.Rows());
   RowSource source;
-  source.count = [&] { return static_cast<int>(rows.Rows().size()); };
-  source.text = [&](int row, int) { return rows.Rows()[row].head.net_sum; };
+  source.count = [&] { return view.Count(); };
+  source.text = [&](int row, int) { return view.Row(row).head.net_sum; };
   RecordModel model({{u"Сумма"_s, 1400}}, source);
   for (auto _ : state) {
     rows.Load(u"Склад"_s, filter, QDate(2026, 11, 22), true);
+    view.TakeRows();
     model.Reset();
     benchmark::DoNotOptimize(model.rowCount());
-    benchmark::DoNotOptimize(rows.StatusText());
+    benchmark::DoNotOptimize(view.StatusText());
   }
 }
 

@@ -8,6 +8,7 @@
 
 #include "TempData.h"
 #include "books/stock/DocumentDraft.h"
+#include "books/stock/RegisterView.h"
 #include "books/store/Catalogue.h"
 #include "formats/CurrencyFile.h"
 #include "formats/DatabaseFiles.h"
@@ -105,7 +106,8 @@ class SmallBooks {
     DocumentRegister rows(data_, session_, kind);
     rows.Load(In(kind).warehouse, {.period = RegisterFilter::Period::kYear, .year = u"2026"_s},
               QDate(2026, 11, 22), false);
-    return DocumentDraft::Open(In(kind), rows.Rows().at(file.isEmpty() ? 0 : rows.RowOf(file)));
+    const RegisterView view(kind, rows.Rows());
+    return DocumentDraft::Open(In(kind), view.Row(file.isEmpty() ? 0 : view.PlaceOf(file)));
   }
 
  private:

@@ -1,6 +1,5 @@
 #include "formats/NameSearch.h"
 
-#include <QStringList>
 #include <algorithm>
 
 #include "formats/Ordering.h"
@@ -22,17 +21,13 @@ bool IsCyrillic(QChar c) { return c.script() == QChar::Script_Cyrillic; }
 // "Ё" and "Е" are one letter here; the text is upper-cased.
 QString WithoutYo(QString folded) { return folded.replace(u'Ё', u'Е'); }
 
-QStringList WordsOf(const QString& text) {
-  return WithoutYo(FoldCase(text)).split(u' ', Qt::SkipEmptyParts);
-}
-
 // What is looked for, folded once for all names.
 class Wanted {
  public:
   explicit Wanted(QStringView text)
       : beginning_(FoldCase(text)),
-        words_(WordsOf(text.toString())),
-        other_words_(WordsOf(InOtherLayout(text))) {}
+        words_(WordsToFind(text)),
+        other_words_(WordsToFind(InOtherLayout(text))) {}
 
   bool IsEmpty() const { return beginning_.isEmpty(); }
   bool Begins(const QString& name) const { return name.startsWith(beginning_); }
@@ -54,6 +49,12 @@ class Wanted {
 };
 
 }  // namespace
+
+QString FoldForWords(QStringView name) { return WithoutYo(FoldCase(name)); }
+
+QStringList WordsToFind(QStringView text) {
+  return FoldForWords(text).split(u' ', Qt::SkipEmptyParts);
+}
 
 QString InOtherLayout(QStringView text) {
   const bool cyrillic = std::any_of(text.begin(), text.end(), IsCyrillic);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace kladez {
@@ -24,6 +25,11 @@ class NameSearch {
  private:
   std::vector<QString> names_;  // upper-cased
 };
+
+// A name as words are looked for in it: upper-cased, "ё" as "е".
+QString FoldForWords(QStringView name);
+// The words of what somebody types, folded so.
+QStringList WordsToFind(QStringView text);
 
 // The same text typed with the keyboard in its other layout: Latin letters for Cyrillic ones where
 // it has any, else Cyrillic for Latin ("xfq" is "чай").

@@ -32,6 +32,8 @@ bool RegisterFilter::Passes(QDate date, QDate today) const {
       return QString::number(date.year()) == year;
     case Period::kDay:
       return ShortDateText(date) == ShortDateText(day);
+    case Period::kRange:
+      return from <= date && date <= to;
   }
   Q_UNREACHABLE();
 }
@@ -44,6 +46,8 @@ void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filt
   TextPool numbers;
   std::vector<int> counts;
   int until_progress = 0;
+  QDate first_day;
+  QDate last_day;
   heads_.Scan(data_, DocumentDirectory(session_, kind_, warehouse), [&](ScannedDocument& document) {
     if (until_progress-- == 0) {
       until_progress = kFilesBetweenProgress;
@@ -53,7 +57,10 @@ void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filt
     counts.resize(std::max(counts.size(), number + 1));
     ++counts[number];
     const auto date = document.Date();
-    if (date && filter.Passes(*date, today)) {
+    if (!date) return;
+    if (first_day.isNull() || *date < first_day) first_day = *date;
+    if (last_day.isNull() || *date > last_day) last_day = *date;
+    if (filter.Passes(*date, today)) {
       rows.push_back({document.File(), RowHead(format, document)});
     }
   });
@@ -61,23 +68,13 @@ void DocumentRegister::Load(const QString& warehouse, const RegisterFilter& filt
   rows_ = std::move(rows);
   numbers_ = std::move(numbers);
   number_counts_ = std::move(counts);
-  total_ = 0;
-  for (const RegisterRow& row : rows_) total_ += NumberOr(row.head.*BookOf(kind_).total);
-}
-
-int DocumentRegister::RowOf(const QString& file) const {
-  const auto found = std::find_if(rows_.begin(), rows_.end(),
-                                  [&](const RegisterRow& row) { return row.file == file; });
-  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+  first_day_ = first_day;
+  last_day_ = last_day;
 }
 
 int DocumentRegister::CountOfNumber(const QString& number) {
   const auto place = static_cast<size_t>(numbers_.Add(EncodeText(number)));
   return place < number_counts_.size() ? number_counts_[place] : 0;
-}
-
-QString DocumentRegister::StatusText() const {
-  return u"Документов:%1     Сумма:%2"_s.arg(rows_.size()).arg(FormatMoney(total_));
 }
 
 void DeleteDocument(const DataDir& data, const Session& session, DocumentKind kind,

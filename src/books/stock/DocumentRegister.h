@@ -1,5 +1,5 @@
 // The register of a kind of documents: the heads of the files of a directory that a filter lets
-// pass, and their total. The files are the books: what another showing asks for again is what has
+// pass. The files are the books: what another showing asks for again is what has
 // changed in them.
 #pragma once
 
@@ -20,12 +20,15 @@ struct RegisterFilter {
     kMonth,  // "За месяц:": that month of the current year, whatever the year box says
     kYear,   // "За год:"
     kDay,    // "За число:": compared as "dd.mm.yy", two digits of the year
+    kRange,  // "с … по …", both days included
   };
 
   Period period = Period::kMonth;
   int month = 1;      // 1 to 12
   QString year = {};  // "2026"
   QDate day = {};
+  QDate from = {};
+  QDate to = {};
 
   // Whether the filter shows a document of that date.
   bool Passes(QDate date, QDate today) const;
@@ -51,12 +54,12 @@ class DocumentRegister {
 
   // In the order that Load was asked for.
   const std::vector<RegisterRow>& Rows() const { return rows_; }
-  // The row of a file, -1 where the filter hides it.
-  int RowOf(const QString& file) const;
   // How many documents bear the number, those too that the filter hides; as of the last Load.
   int CountOfNumber(const QString& number);
-  // "Документов:2     Сумма:10.50".
-  QString StatusText() const;
+  // From the first to the last day of any document, those too that the filter hides; no days where
+  // there is none.
+  QDate FirstDay() const { return first_day_; }
+  QDate LastDay() const { return last_day_; }
 
  private:
   std::reference_wrapper<const DataDir> data_;
@@ -67,7 +70,8 @@ class DocumentRegister {
   // Of all documents, and how many bear each.
   TextPool numbers_;
   std::vector<int> number_counts_;
-  double total_ = 0;
+  QDate first_day_;
+  QDate last_day_;
 };
 
 // Deletes a document in one save. With `reverse` a reversing record for each line goes to the end

@@ -55,9 +55,10 @@ QByteArrayView ScannedDocument::Line(QString DocumentLine::*field) const {
 }
 
 void ScanDocuments(const DataDir& data, DocumentKind kind, const QString& directory,
-                   Unreadable unreadable, const std::function<bool(ScannedDocument&)>& visit) {
+                   Unreadable unreadable, const std::function<bool(ScannedDocument&)>& visit,
+                   const DataDir::Wanted& wanted) {
   const DocumentFormat& format = FormatOf(kind);
-  data.ForEachFile(directory, format.extension, [&](const DataDir::ListedFile& file) {
+  const auto visit_file = [&](const DataDir::ListedFile& file) {
     const double part = static_cast<double>(file.index) / static_cast<double>(file.count);
     if (file.bytes) {
       ScannedDocument document(format, file.name, *file.bytes, part);
@@ -68,7 +69,8 @@ void ScanDocuments(const DataDir& data, DocumentKind kind, const QString& direct
     const QByteArray again = data.Read(directory + u'\\' + file.name);
     ScannedDocument document(format, file.name, again, part);
     return visit(document);
-  });
+  };
+  data.ForEachFile(directory, format.extension, visit_file, wanted);
 }
 
 }  // namespace kladez

@@ -68,8 +68,10 @@ class ScannedDocument {
 enum class Unreadable { kStop, kPassOver };
 
 // Visits all documents of a kind in a directory (a path of the system); `visit` returns false to
-// stop. Throws filesystem_error when the directory can't be listed.
+// stop. Files that are not `wanted` by their names are passed over unread. Throws filesystem_error
+// when the directory can't be listed.
 void ScanDocuments(const DataDir& data, DocumentKind kind, const QString& directory,
-                   Unreadable unreadable, const std::function<bool(ScannedDocument&)>& visit);
+                   Unreadable unreadable, const std::function<bool(ScannedDocument&)>& visit,
+                   const DataDir::Wanted& wanted = {});
 
 }  // namespace kladez

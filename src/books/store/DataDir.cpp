@@ -201,8 +201,8 @@ QStringList DataDir::List(const QString& directory, QStringView extension) const
   return names;
 }
 
-void DataDir::ForEachFile(const QString& directory, QStringView extension,
-                          const Visitor& visit) const {
+void DataDir::ForEachFile(const QString& directory, QStringView extension, const Visitor& visit,
+                          const Wanted& wanted) const {
   const Directory entries = OpenListed(*this, directory);
   const FileNames names(entries.get(), extension);
   const int fd = ::dirfd(entries.get());
@@ -211,11 +211,12 @@ void DataDir::ForEachFile(const QString& directory, QStringView extension,
   QByteArray buffer(kRoom, Qt::Uninitialized);
   QString name;
   for (qsizetype i = 0; i < names.Count(); ++i) {
+    names.ToText(i, name);
+    if (wanted && !wanted(name)) continue;
     ahead.Reached(i);
     const auto size = WithFile(fd, names.At(i), [&](int file) { return ReadShared(file, buffer); });
     std::optional<QByteArrayView> bytes;
     if (size) bytes = QByteArrayView(buffer).first(*size);
-    names.ToText(i, name);
     if (!visit({name, bytes, i, names.Count()})) return;
   }
 }

@@ -57,8 +57,11 @@ class DataDir {
     qsizetype count;
   };
   using Visitor = std::function<bool(const ListedFile& file)>;
-  // Throws filesystem_error where the directory can't be listed, and what `visit` throws.
-  void ForEachFile(const QString& directory, QStringView extension, const Visitor& visit) const;
+  using Wanted = std::function<bool(const QString& name)>;
+  // Throws filesystem_error where the directory can't be listed, and what `visit` throws. Files
+  // that are not `wanted` are passed over unread; without it all are.
+  void ForEachFile(const QString& directory, QStringView extension, const Visitor& visit,
+                   const Wanted& wanted = {}) const;
 
  private:
   QString root_;  // canonical, without a separator at the end

@@ -17,9 +17,12 @@ using namespace Qt::StringLiterals;
 
 class SearchWire : public QObject {
  public:
-  SearchWire(TextLine* field, RecordList* list, EmptySearch empty)
-      : QObject(field), field_(field), list_(list), empty_(empty) {
-    connect(field, &TextLine::Change, this, [this] { Search(); });
+  using Filter = std::function<void(const QString&)>;
+
+  SearchWire(TextLine* field, RecordList* list, EmptySearch empty, Filter filter = {})
+      : QObject(field), field_(field), list_(list), empty_(empty), filter_(std::move(filter)) {
+    connect(field, &TextLine::Change, this,
+            [this] { filter_ ? filter_(field_->text()) : Search(); });
     connect(list, &RecordList::CharacterTyped, this, [this](const QString& text) { Begin(text); });
     // Whoever chooses a row by hand has found it.
     connect(list, &RecordList::CurrentRowChanged, this, [this](int row) {
@@ -28,12 +31,17 @@ class SearchWire : public QObject {
     field->installEventFilter(this);
   }
 
-  // Up and Down typed in the field belong to the list.
+  // Up and Down typed in the field belong to the list; a screen closes by the Escape key, and takes
+  // none that a field has a use for.
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::KeyPress) {
       const int key = static_cast<QKeyEvent*>(event)->key();
       if (key == Qt::Key_Up || key == Qt::Key_Down) {
         list_->setFocus(Qt::OtherFocusReason);
+        return true;
+      }
+      if (key == Qt::Key_Escape && filter_ && !field_->text().isEmpty()) {
+        field_->clear();
         return true;
       }
     }
@@ -70,6 +78,7 @@ class SearchWire : public QObject {
   TextLine* field_;
   RecordList* list_;
   EmptySearch empty_;
+  Filter filter_;
   int before_ = -1;  // the row at which a search that found nothing began
 };
 
@@ -151,6 +160,12 @@ class ListKeys : public QObject {
 void WireSearch(TextLine* field, RecordList* list, EmptySearch empty) {
   list->SetSearchField(field);
   new SearchWire(field, list, empty);
+}
+
+void WireFilter(TextLine* field, RecordList* list,
+                const std::function<void(const QString&)>& filter) {
+  list->SetSearchField(field);
+  new SearchWire(field, list, EmptySearch::kStaysInField, filter);
 }
 
 void ShareListKeys(QWidget* screen, RecordList* list, QAbstractButton* print) {

@@ -3,6 +3,7 @@
 #include "SmallBooks.h"
 #include "books/stock/DocumentNumbers.h"
 #include "books/stock/DocumentRegister.h"
+#include "books/stock/RegisterView.h"
 
 namespace kladez {
 namespace {
@@ -21,6 +22,7 @@ class Register : public testing::Test {
     temp_.PutLines(u"0001\\Склад\\PRH\\"_s + file, {number, date, u"-"_s, sum, u"нет"_s});
   }
   QStringList Shown(DocumentKind kind, const RegisterFilter& filter, bool descending = false) {
+    kind_ = kind;
     rows_.emplace(temp_.Data(), session_, kind);
     rows_->Load(u"Склад"_s, filter, kToday, descending);
     QStringList files;
@@ -28,8 +30,11 @@ class Register : public testing::Test {
     return files;
   }
 
+  RegisterView View() const { return {kind_, rows_->Rows()}; }
+
   TempData temp_;
   Session session_;
+  DocumentKind kind_ = DocumentKind::kReceipt;
   std::optional<DocumentRegister> rows_;
 };
 
@@ -52,6 +57,8 @@ TEST_F(Register, EachFilterKeepsItsDocuments) {
       {{.period = Period::kYear, .year = u"26"_s}, {}},
       // Two digits of the year: the same day a century apart passes.
       {{.period = Period::kDay, .day = QDate(2026, 11, 5)}, {u"0001.prh"_s, u"0004.prh"_s}},
+      {{.period = Period::kRange, .from = QDate(2025, 11, 5), .to = QDate(2026, 10, 6)},
+       {u"0002.prh"_s, u"0003.prh"_s}},
   };
   for (const auto& c : cases) EXPECT_EQ(Shown(DocumentKind::kReceipt, c.filter), c.files);
 }
@@ -62,7 +69,7 @@ TEST_F(Register, FiguresAreNumberTextsAndADateHasNoBlankAtItsEnd) {
   const DocumentHead& head = rows_->Rows()[0].head;
   EXPECT_EQ(QStringList({head.date, head.sum, head.discount, head.net_sum}),
             QStringList(u"5.11.2026|1 200.5|0| 7.10"_lines));
-  EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:7.10"_s);
+  EXPECT_EQ(View().StatusText(), u"Документов:1     Сумма:7.10"_s);
 }
 
 // The bytes that this process has read so far.
@@ -108,30 +115,87 @@ TEST_F(Register, OrderGoesByFileNamesNotByDateOrNumber) {
   const QStringList files = u"0002.prh|0010.PRH|10000.prh"_lines;
   EXPECT_EQ(Shown(DocumentKind::kReceipt, year), files);
   EXPECT_EQ(Shown(DocumentKind::kReceipt, year, true), QStringList(files.rbegin(), files.rend()));
-  EXPECT_EQ(rows_->RowOf(u"0010.PRH"_s), 1);
-  EXPECT_EQ(rows_->RowOf(u"0001.prh"_s), -1);
+  EXPECT_EQ(View().PlaceOf(u"0010.PRH"_s), 1);
+  EXPECT_EQ(View().PlaceOf(u"0001.prh"_s), -1);
 }
 
 TEST_F(Register, TotalsAddWhatEachKindTells) {
   const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
   EXPECT_EQ(Shown(DocumentKind::kReceipt, year), QStringList());
-  EXPECT_EQ(rows_->StatusText(), u"Документов:0     Сумма:0.00");
+  EXPECT_EQ(View().StatusText(), u"Документов:0     Сумма:0.00");
   Receipt(u"0001.prh"_s, u"01.01.2026"_s, u"10,5"_s);
   Receipt(u"0002.prh"_s, u"01.01.2026"_s, u"сто"_s);
   Receipt(u"0003.prh"_s, u"01.01.2026"_s, u"0.005"_s);
   Shown(DocumentKind::kReceipt, year);
-  EXPECT_EQ(rows_->StatusText(), u"Документов:3     Сумма:10.51");
+  EXPECT_EQ(View().StatusText(), u"Документов:3     Сумма:10.51");
   EXPECT_EQ(rows_->Rows()[0].head.sum, u"10.5");
   EXPECT_EQ(rows_->Rows()[1].head.sum, u"0");
   temp_.PutLines(u"0001\\Склад\\UHD\\0001.uhd"_s,
                  {u"1"_s, u"01.01.2026"_s, u"-"_s, u"100.00"_s, u"10"_s, u"90.00"_s, u"да"_s});
   Shown(DocumentKind::kShipment, year);
-  EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:90.00");
+  EXPECT_EQ(View().StatusText(), u"Документов:1     Сумма:90.00");
   temp_.PutLines(u"0001\\ВНПЕР\\0001.vpr"_s,
                  {u"1"_s, u"01.01.2026"_s, u"Склад"_s, u"Снесённый"_s, u"7.00"_s});
   Shown(DocumentKind::kTransfer, year);
-  EXPECT_EQ(rows_->StatusText(), u"Документов:1     Сумма:7.00");
+  EXPECT_EQ(View().StatusText(), u"Документов:1     Сумма:7.00");
   EXPECT_EQ(rows_->Rows()[0].head.destination, u"Снесённый");
+}
+
+TEST_F(Register, ASearchFindsNumbersPartiesSumsAndGoods) {
+  const auto put = [&](const QString& file, const QStringList& head, const QStringList& goods) {
+    QStringList lines = head;
+    for (const QString& name : goods)
+      lines << name << u"1"_s << u"шт."_s << u"1"_s << u"2"_s << u"2"_s;
+    temp_.PutLines(u"0001\\Склад\\UHD\\"_s + file, lines);
+  };
+  put(u"0001.uhd"_s, u"0012|01.01.2026|ИП Семёнов|1500.00|10|1350.00|да"_lines,
+      u"Чай «Ладья»|Сахар"_lines);
+  put(u"0002.uhd"_s, u"120|03.01.2026|ООО Свет|12.50|0|12.50|да"_lines, u"Сахар"_lines);
+  put(u"0003.uhd"_s, u"7|02.01.2026|ООО Заря|15000.00|0|15000.00|нет"_lines, u"Мёд"_lines);
+  const RegisterFilter year{.period = Period::kYear, .year = u"2026"_s};
+  Shown(DocumentKind::kShipment, year);
+  const DocumentGoods goods(temp_.Data(), kind_, u"0001\\Склад\\UHD"_s, rows_->Rows());
+  RegisterView view = View();
+  const auto found = [&](const QString& text, const DocumentGoods* in) {
+    view.Search(text, in);
+    QString numbers;
+    for (int i = 0; i < view.Count(); ++i) numbers += view.Row(i).head.number + u' ';
+    return numbers.trimmed();
+  };
+  const struct {
+    QString text;
+    QString in_heads;
+    QString in_goods_too;
+  } cases[] = {
+      {u" "_s, u"0012 120 7"_s, u"0012 120 7"_s},
+      {u"12"_s, u"0012 120"_s, u"0012 120"_s},  // numbers, and 12 roubles
+      {u"1500"_s, u"0012"_s, u"0012"_s},
+      {u"1350"_s, u"0012"_s, u"0012"_s},
+      {u"12,5"_s, u"120"_s, u"120"_s},
+      {u"семенов"_s, u"0012"_s, u"0012"_s},
+      {u"cdtn"_s, u"120"_s, u"120"_s},  // "свет" in the other layout
+      {u"сахар"_s, {}, u"0012 120"_s},
+      {u"сахар ооо"_s, {}, u"120"_s},
+      {u"мед заря"_s, {}, u"7"_s},
+      {u"мед свет"_s, {}, {}},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(found(c.text, nullptr), c.in_heads) << c.text.toStdString();
+    EXPECT_EQ(found(c.text, &goods), c.in_goods_too) << c.text.toStdString();
+  }
+  using H = DocumentHead;
+  const auto sorted = [&](QString H::*field, bool descending = false) {
+    view.Sort({field, descending});
+    return found({}, nullptr);
+  };
+  EXPECT_EQ(sorted(&H::number), u"7 0012 120"_s);
+  EXPECT_EQ(sorted(&H::date), u"0012 7 120"_s);
+  EXPECT_EQ(sorted(&H::sum, true), u"7 0012 120"_s);
+  EXPECT_EQ(sorted(&H::party), u"0012 7 120"_s);
+  EXPECT_EQ(found(u"12"_s, nullptr), u"0012 120"_s);
+  EXPECT_EQ(view.StatusText(), u"Документов:2     Сумма:1362.50"_s);
+  EXPECT_EQ(view.Sums({0}).sum, 1500);
+  EXPECT_EQ(view.Sums({0}).net_sum, 1350);
 }
 
 TEST_F(Register, AMissingDirectoryIsToldAndKeepsTheRows) {

@@ -240,6 +240,51 @@ TEST_F(RegisterScreens, AQuestionThatDeletesNamesTheDocumentAndTheEnterKeyDelete
   }
 }
 
+TEST_F(RegisterScreens, ASearchNarrowsTheListGoesOnInGoodsAndOffersAllDays) {
+  for (int i = 0; i < 3; ++i) world_.Put(DocumentKind::kShipment);
+  world_.Put(DocumentKind::kShipment, false, QDate(2025, 3, 1));
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kShipment);
+  ShowActive(&screen);
+  Type(ListOf(&screen), u"2"_s);  // a search begins in the list
+  auto* search = Find<TextLine>(&screen, "search");
+  EXPECT_TRUE(search->hasFocus());
+  EXPECT_EQ(Files(&screen), QStringList{u"0002.uhd"_s});
+  EXPECT_EQ(Status(&screen), u"Документов:1     Сумма:180.00");
+  search->setText(u"чай"_s);
+  EXPECT_EQ(Files(&screen), QStringList()) << "heads first";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Files(&screen).size() == 3; }));
+  search->setText(u"чай 4"_s);
+  EXPECT_FALSE(search->Fault().isEmpty());
+  emit Find<QLabel>(&screen, "search_note")->linkActivated(u"all"_s);
+  EXPECT_EQ(Files(&screen), QStringList{u"0004.uhd"_s});
+  QTest::keyClick(search, Qt::Key_Escape);
+  EXPECT_TRUE(screen.isVisible());
+  EXPECT_EQ(Files(&screen).size(), 4);
+}
+
+TEST_F(RegisterScreens, HeadingsSortAndTheSelectionAddsUp) {
+  for (int day : {5, 3, 4}) world_.Put(DocumentKind::kShipment, false, QDate(2026, 11, day));
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kShipment);
+  ShowActive(&screen);
+  auto* list = ListOf(&screen);
+  const QStringList by_file = u"0001.uhd|0002.uhd|0003.uhd"_lines;
+  const QStringList by_day = u"0002.uhd|0003.uhd|0001.uhd"_lines;
+  QTest::mouseClick(list->header()->viewport(), Qt::LeftButton, {},
+                    {list->header()->sectionViewportPosition(1) + 5, 5});
+  EXPECT_EQ(Files(&screen), by_day);
+  EXPECT_EQ(list->CurrentRow(), 2) << "the document stays selected";
+  QTest::keyClick(list, Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Files(&screen), QStringList(by_day.rbegin(), by_day.rend()));
+  QTest::keyClick(list, Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(Files(&screen), by_file);
+  list->SelectRow(0);
+  auto* selection = Find<QLabel>(&screen, "selection");
+  EXPECT_FALSE(selection->isVisible());
+  QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(selection->text(), u"Выделено: 2, сумма: 360.00, со скидкой: 360.00");
+  EXPECT_EQ(Status(&screen), u"Документов:3     Сумма:540.00");
+}
+
 TEST_F(RegisterScreens, CommandsOnAnEmptyListDoNothing) {
   DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);

@@ -3,14 +3,19 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
+#include "books/stock/DocumentGoods.h"
 #include "books/stock/DocumentRegister.h"
+#include "books/stock/RegisterView.h"
 #include "screens/stock/documents/DocumentScreens.h"
 #include "ui/AppContext.h"
 
-class QHBoxLayout;
+class QBoxLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
+class QTimer;
 
 namespace kladez {
 
@@ -28,12 +33,19 @@ class DocumentRegisterScreen : public QWidget {
 
  private:
   void BuildList();
+  void BuildFoot(QBoxLayout* layout);
   QLayout* NewCommands();
   bool HasWarehouse() const;
   void Rebuild();
+  void Search();
+  void SearchGoods();
+  void SortBy(int column);
+  void ShowRows();
+  QString EmptyText() const;
+  void ShowSelection();
+  void FollowLink(const QString& link);
   void Edit(DocumentDraft draft, int row);
   void TellHidden(const DocumentDraft& saved);
-  void ShowHidden();
   void Add();
   void Change();
   void Delete();
@@ -45,8 +57,15 @@ class DocumentRegisterScreen : public QWidget {
   AppContext& context_;
   const DocumentScreens& screens_;
   DocumentRegister rows_;
+  RegisterView shown_;                  // of rows_
+  std::optional<DocumentGoods> goods_;  // of the rows, once somebody searches
+  bool goods_left_out_ = false;         // their reading was cancelled
+  bool was_descending_ = false;
   RegisterFilterPanel* filter_;
+  QTimer* pause_;        // in the typing of a search, before the goods are read
   QLabel* status_;       // "Документов:2     Сумма:10.50"
+  QLabel* selection_;    // what the selected rows come to
+  QLabel* search_note_;  // nothing was found, or goods were left out
   QLabel* hidden_note_;  // a document was saved that the filter hides
   QString hidden_file_;
   QDate hidden_date_;

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "formats/Dates.h"
 #include "ui/Hints.h"
@@ -54,8 +55,21 @@ RegisterFilterPanel::RegisterFilterPanel(AppContext& context, const DocumentScre
   layout->setSpacing(look::kTight);
   layout->addLayout(head);
   layout->addWidget(options_);
+  layout->addLayout(NewSearch());
 
   EnableInputs();
+}
+
+QLayout* RegisterFilterPanel::NewSearch() {
+  search_ = new TextLine(this);
+  search_->setObjectName(u"search"_s);
+  search_->setClearButtonEnabled(true);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(look::kTight);
+  row->addWidget(NewLabel(u"&Найти:"_s, search_, this));
+  row->addWidget(search_, 1);
+  row->addWidget(new HintPicture(HintFor(screens_.register_name, u"Найти"), {search_}, this));
+  return row;
 }
 
 QRadioButton* RegisterFilterPanel::NewOption(const QString& name, const QString& caption,
@@ -66,7 +80,7 @@ QRadioButton* RegisterFilterPanel::NewOption(const QString& name, const QString&
   return option;
 }
 
-// None in the register of transfers, which has no question marks.
+// The told inputs have none in the register of transfers.
 QWidget* RegisterFilterPanel::NewHint(QStringView place, std::initializer_list<QWidget*> about) {
   if (!HintPlaces(screens_.register_name).contains(place)) return nullptr;
   return new HintPicture(HintFor(screens_.register_name, place), about, this);
@@ -98,6 +112,7 @@ void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
   add(by_month_, month_, u"За месяц");
   add(by_year_, year_, u"За год");
   add(by_day_, day_, u"За число");
+  BuildRange(row, group);
 
   connect(group, &QButtonGroup::buttonToggled, this, [this](QAbstractButton*, bool on) {
     if (!on) return;
@@ -107,6 +122,23 @@ void RegisterFilterPanel::BuildPeriod(WrapRow* row) {
   connect(month_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
   connect(year_, &QComboBox::currentIndexChanged, this, &RegisterFilterPanel::Changed);
   connect(day_, &DateField::dateChanged, this, &RegisterFilterPanel::Changed);
+}
+
+void RegisterFilterPanel::BuildRange(WrapRow* row, QButtonGroup* group) {
+  const QDate today = context_.clock.Today();
+  by_range_ = NewOption(u"by_range"_s, u"с"_s, group);
+  const auto new_day = [&](const QString& name, QDate day, const QString& meaning) {
+    auto* field = new DateField(day, context_.clock, options_);
+    field->setObjectName(name);
+    field->setAccessibleName(meaning);
+    connect(field, &DateField::dateChanged, this, &RegisterFilterPanel::Changed);
+    return field;
+  };
+  from_ = new_day(u"from"_s, QDate(today.year(), today.month(), 1), u"С какого числа"_s);
+  to_ = new_day(u"to"_s, today, u"По какое число"_s);
+  row->AddGroup({by_range_, from_, NewLabel(u"по"_s, nullptr, options_), to_,
+                 NewHint(u"С какого по какое число", {by_range_, from_, to_})},
+                look::kTight);
 }
 
 void RegisterFilterPanel::BuildOrder(WrapRow* row) {
@@ -128,10 +160,13 @@ RegisterFilter RegisterFilterPanel::Filter() const {
   using Period = RegisterFilter::Period;
   return {.period = by_month_->isChecked()  ? Period::kMonth
                     : by_year_->isChecked() ? Period::kYear
-                                            : Period::kDay,
+                    : by_day_->isChecked()  ? Period::kDay
+                                            : Period::kRange,
           .month = month_->currentIndex() + 1,
           .year = year_->Chosen(),
-          .day = day_->date()};
+          .day = day_->date(),
+          .from = std::min(from_->date(), to_->date()),
+          .to = std::max(from_->date(), to_->date())};
 }
 
 QString RegisterFilterPanel::Warehouse() const {
@@ -145,10 +180,24 @@ void RegisterFilterPanel::ShowDay(QDate day) {
     const QSignalBlocker quiet(day_);
     day_->setDate(day);
   }
-  if (by_day_->isChecked()) {
+  Show(by_day_);
+}
+
+void RegisterFilterPanel::ShowRange(QDate from, QDate to) {
+  {
+    const QSignalBlocker quiet_from(from_);
+    const QSignalBlocker quiet_to(to_);
+    from_->setDate(from);
+    to_->setDate(to);
+  }
+  Show(by_range_);
+}
+
+void RegisterFilterPanel::Show(QRadioButton* period) {
+  if (period->isChecked()) {
     emit Changed();
   } else {
-    by_day_->setChecked(true);
+    period->setChecked(true);
   }
 }
 
@@ -156,6 +205,8 @@ void RegisterFilterPanel::EnableInputs() {
   month_->setEnabled(by_month_->isChecked());
   year_->setEnabled(by_year_->isChecked());
   day_->setEnabled(by_day_->isChecked());
+  from_->setEnabled(by_range_->isChecked());
+  to_->setEnabled(by_range_->isChecked());
 }
 
 }  // namespace kladez
