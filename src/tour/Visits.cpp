@@ -206,6 +206,8 @@ void VisitScreens(Robot& robot) {
   robot.Type(u"search"_s, u"березка"_s);
   robot.FocusOn(u"ListView1"_s);
   robot.Picture(u"TovUhod"_s);
+  robot.Press(Qt::Key_D, Qt::ControlModifier);
+  ShowAndLeave(robot, u"copydoc"_s);
   VisitDocuments(robot, u"mnu_Sklad_P"_s, u"TovPrih"_s, u"PrihNew"_s, {{u"prn", u"prihnokl"}},
                  u"TovPrih_Ass"_s);
   VisitDocuments(robot, u"mnu_Sklad_R"_s, u"TovUhod"_s, u"UhodNew"_s,

@@ -240,6 +240,12 @@ std::vector<GoldenCase> DocumentCases() {
            Changed(kMain + "UHD/0002.uhd",
                    u"2\n23.11.2026\n-\n112.50\n10\n101.25\nда\n"
                    u"Чай\n2.5\nпач.\n45.00\n45.00\n40.50"_s)},
+      {"copydoc", "расход: копия по сегодняшним ценам",
+       Menu(u"mnu_Sklad_R"_s, u"TovUhod"_s) >> Open(u"copy_document"_s, u"copydoc"_s) >>
+           Open(u"ok"_s, u"UhodNew"_s),
+       Click(u"ok"_s),
+       Changed(kMain + "UHD/0002.uhd",
+               u"2\n23.11.2026\n-\n900.00\n0\n900.00\nнет\nЧай\n20\nпач.\n45.00\n45.00\n45.00"_s)},
       {"TovUhod", "расход: удаление открытого", Menu(u"mnu_Sklad_R"_s, u"TovUhod"_s),
        Click(u"Command3"_s) >> Yes(), Gone(kMain + "UHD/0001.uhd")},
       {"vnutr vnutrNew", "перемещение: новое",

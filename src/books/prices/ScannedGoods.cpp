@@ -1,38 +1,11 @@
 #include "books/prices/ScannedGoods.h"
 
-#include <algorithm>
-
-#include "books/directories/GoodsDirectory.h"
-#include "books/prices/PriceStore.h"
 #include "books/stock/DocumentBook.h"
 #include "formats/Numbers.h"
 
 namespace kladez {
 
 using namespace Qt::StringLiterals;
-
-std::optional<GoodsPick> PickOfGoods(const DataDir& data, const Session& session, DocumentKind kind,
-                                     const QString& warehouse, const QString& price_list,
-                                     const QString& goods) {
-  const GoodsDirectory directory(data, session, GoodsView::kGroups);
-  const int place = directory.Rows().RowOfGoods(goods);
-  if (place < 0) return std::nullopt;
-  GoodsPick pick = PickOf(directory.Rows()[static_cast<size_t>(place)]);
-  pick.quantity = u"1"_s;
-  if (kind == DocumentKind::kReceipt) return pick;
-  const PriceStore store(data, session);
-  const QStringList lists = store.Names(warehouse);
-  if (lists.isEmpty()) return pick;
-  const auto list = std::max<qsizetype>(0, lists.indexOf(price_list));
-  const PriceList prices = store.Load(warehouse, static_cast<int>(list), GoodsView::kGoodsOnly);
-  const int row = prices.RowOfName(goods);
-  if (row >= 0) {
-    const PriceRow priced = prices.Rows()[static_cast<size_t>(row)];
-    pick.cost = priced.purchase;
-    pick.price = MoneyText(priced.sale);
-  }
-  return pick;
-}
 
 int AddScanned(DocumentDraft& draft, const GoodsPick& pick) {
   const auto& lines = draft.Lines();

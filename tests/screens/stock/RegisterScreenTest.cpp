@@ -285,6 +285,24 @@ TEST_F(RegisterScreens, HeadingsSortAndTheSelectionAddsUp) {
   EXPECT_EQ(Status(&screen), u"Документов:3     Сумма:540.00");
 }
 
+TEST_F(RegisterScreens, ACopyAsksForPricesOnceAndOpensAsANewDocument) {
+  world_.Put(DocumentKind::kReceipt, true, QDate(2026, 11, 3));
+  DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
+  ShowActive(&screen);
+  ModalAnswers answers({[](QWidget* dialog) {
+                          EXPECT_EQ(dialog->objectName(), u"copydoc"_s);
+                          Find<QRadioButton>(dialog, "of_document")->setChecked(true);
+                          Click(dialog, "ok");
+                        },
+                        [](QWidget* editor) {
+                          EXPECT_EQ(TextOf(editor, "date"), u"22.11.2026"_s);
+                          Click(editor, "ok");
+                        }});
+  QTest::keyClick(ListOf(&screen), Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(RowTexts(&screen, 1), QStringList(u"2|22.11.2026|-|180.00|нет|0002.prh"_lines));
+  EXPECT_EQ(ListOf(&screen)->CurrentRow(), 1);
+}
+
 TEST_F(RegisterScreens, CommandsOnAnEmptyListDoNothing) {
   DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);

@@ -6,6 +6,7 @@
 
 #include "books/directories/GoodsExtras.h"
 #include "books/prices/ScannedGoods.h"
+#include "books/prices/TodaysPrices.h"
 #include "screens/stock/LineDialog.h"
 #include "ui/Hints.h"
 #include "ui/ScannerSearch.h"
@@ -99,9 +100,9 @@ void DocumentLines::TakePick(const GoodsPick& pick) {
 void DocumentLines::TakeScan(const QString& code) {
   Guarded(this, [&] {
     const QString goods = FindByBarcode(context_.data, context_.session, code);
-    const auto pick = goods.isEmpty() ? std::nullopt
-                                      : PickOfGoods(context_.data, context_.session, screens_.kind,
-                                                    draft_.Warehouse(), {}, goods);
+    const TodaysPrices prices(context_.data, context_.session, screens_.kind, draft_.Warehouse(),
+                              {});
+    const auto pick = goods.isEmpty() ? std::nullopt : prices.PickOf(goods);
     if (!pick) return TellUnknownBarcode(window(), code, goods);
     TakeStock();
     TellChange(AddScanned(draft_, *pick));

@@ -9,6 +9,7 @@
 
 #include "formats/Dates.h"
 #include "formats/Numbers.h"
+#include "screens/stock/documents/CopyDialog.h"
 #include "screens/stock/documents/DocumentEditor.h"
 #include "screens/stock/documents/DocumentProperties.h"
 #include "screens/stock/documents/RegisterFilterPanel.h"
@@ -109,21 +110,24 @@ QLayout* DocumentRegisterScreen::NewCommands() {
   add_ = NewCommand(this, u"Command1"_s, u"&Добавить"_s, IconName::kAdd);
   change_ = NewCommand(this, u"Command2"_s, u"&Изменить"_s, IconName::kChange);
   remove_ = NewCommand(this, u"Command3"_s, u"&Удалить"_s, IconName::kRemove);
+  copy_ = NewCommand(this, u"copy_document"_s, u"Копи&я"_s, IconName::kCopy);
   view_ = NewCommand(this, u"Command8"_s, u"П&росмотр"_s);
   close_ = NewCommand(this, u"Command7"_s, u"&Закрыть"_s);
   add_->setEnabled(HasWarehouse());
+  copy_->setEnabled(HasWarehouse());
   connect(add_, &QPushButton::clicked, this, &DocumentRegisterScreen::Add);
   connect(change_, &QPushButton::clicked, this, &DocumentRegisterScreen::Change);
   connect(remove_, &QPushButton::clicked, this, &DocumentRegisterScreen::Delete);
+  connect(copy_, &QPushButton::clicked, this, &DocumentRegisterScreen::Copy);
   connect(view_, &QPushButton::clicked, this, &DocumentRegisterScreen::View);
   connect(close_, &QPushButton::clicked, this, &QWidget::close);
 
   if (!screens_.has_journal) {
-    return NewCommandRow({add_, change_, remove_, view_}, {close_});
+    return NewCommandRow({add_, change_, remove_, copy_, view_}, {close_});
   }
   // There is no journal to print: the command has its place and does nothing.
   journal_ = NewCommand(this, u"Command9"_s, u"Печать &журнала"_s, IconName::kPrint);
-  return NewCommandRow({add_, change_, remove_, view_, journal_}, {close_});
+  return NewCommandRow({add_, change_, remove_, copy_, view_, journal_}, {close_});
 }
 
 bool DocumentRegisterScreen::HasWarehouse() const { return !context_.session.warehouses.isEmpty(); }
@@ -295,6 +299,18 @@ void DocumentRegisterScreen::Change() {
   Guarded(this, [&] { Edit(DocumentDraft::Open(PlaceOfNew(), shown_.Row(row)), row); });
 }
 
+void DocumentRegisterScreen::Copy() {
+  const int row = list_->CurrentRow();
+  if (row < 0 || !HasWarehouse()) return;
+  Guarded(this, [&] {
+    const DocumentDraft document = DocumentDraft::Open(PlaceOfNew(), shown_.Row(row));
+    CopyDialog dialog(context_, document, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    Edit(CopyOf(document, dialog.Choice(), context_.clock.Today()), row);
+  });
+  list_->setFocus();
+}
+
 DocumentRegisterScreen::Deletion DocumentRegisterScreen::AskDeletion(const RegisterRow& row) {
   const DocumentHead& head = row.head;
   QString what = u"Накладная %1 от %2, %3, на сумму %4."_s.arg(
@@ -349,6 +365,8 @@ void DocumentRegisterScreen::View() {
 void DocumentRegisterScreen::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     close();
+  } else if (event->modifiers() == Qt::ControlModifier && event->key() == Qt::Key_D) {
+    copy_->click();
   } else if (event->modifiers() == Qt::ControlModifier && event->key() >= Qt::Key_1 &&
              event->key() <= Qt::Key_9) {
     SortBy(event->key() - Qt::Key_1);

@@ -48,6 +48,7 @@ class DocumentRegisterScreen : public QWidget {
   void TellHidden(const DocumentDraft& saved);
   void Add();
   void Change();
+  void Copy();
   void Delete();
   void View();
   enum class Deletion { kNone, kOnly, kWithReversal };
@@ -74,6 +75,7 @@ class DocumentRegisterScreen : public QWidget {
   QPushButton* add_;                // "Добавить"
   QPushButton* change_;             // "Изменить"
   QPushButton* remove_;             // "Удалить"
+  QPushButton* copy_;               // "Копия"
   QPushButton* close_;              // "Закрыть"
   QPushButton* view_;               // "Просмотр"
   QPushButton* journal_ = nullptr;  // "Печать журнала"
