@@ -7,7 +7,7 @@
 
 #include <functional>
 
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 

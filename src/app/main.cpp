@@ -1,15 +1,13 @@
 // The program: finds its data directory, finishes what a crash left there, gives a new one the
 // demonstration books, and shows the main window.
-#include <sys/stat.h>
-
 #include <QDir>
 #include <QStandardPaths>
-#include <cerrno>
 
 #include "books/store/Backup.h"
 #include "books/store/SaveSet.h"
 #include "demo/DemoBooks.h"
 #include "shell/MainWindow.h"
+#include "system/Process.h"
 #include "ui/base/Toolkit.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/GuardedApplication.h"
@@ -22,17 +20,12 @@ using namespace Qt::StringLiterals;
 QString EnterDataDirectory() {
   const QString root =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/kladez"_s;
+  kladez::syscalls::ForgetErrors();
   if (!QDir().mkpath(root) || !QDir::setCurrent(root)) {
-    kladez::ThrowFileError(u"Не удалось открыть каталог данных"_s, root, errno);
+    kladez::ThrowFileError(u"Не удалось открыть каталог данных"_s, root,
+                           kladez::syscalls::LastError());
   }
   return root;
-}
-
-// Books are nobody else's business, unless the user has said so by a mask of his own.
-void KeepToOwner() {
-  constexpr mode_t kUsual = 022;
-  const mode_t mask = ::umask(077);
-  if (mask != kUsual) ::umask(mask);
 }
 
 int Run() {
@@ -60,7 +53,7 @@ int Run() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  KeepToOwner();
+  kladez::syscalls::KeepToOwner();
   const kladez::GuardedApplication application(argc, argv);
   // The title window closes before the main window comes up.
   QGuiApplication::setQuitOnLastWindowClosed(false);

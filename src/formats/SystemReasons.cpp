@@ -1,7 +1,8 @@
 #include "formats/SystemReasons.h"
 
 #include <array>
-#include <cerrno>
+
+#include "system/ErrorNumbers.h"
 
 namespace kladez {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <QFileInfo>
 
+#include "system/PathNames.h"
+
 namespace kladez {
 namespace {
 
@@ -20,7 +22,7 @@ Stage::Stage(const QString& data_directory, const QString& settings_file, const 
       keeping_(data_, settings_, clock_),
       context_{data_, session_, settings_, clock_, desk_, {}, {}, &keeping_},
       window_(context_) {
-  qputenv("XDG_STATE_HOME", QFile::encodeName(QFileInfo(settings_file).absolutePath()));
+  qputenv("XDG_STATE_HOME", EncodePath(QFileInfo(settings_file).absolutePath()));
   window_.resize(1280, 800);
 }
 

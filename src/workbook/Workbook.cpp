@@ -5,10 +5,11 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <cerrno>
 #include <system_error>
 
 #include "formats/tables/Table.h"
+#include "system/PathNames.h"
+#include "system/Process.h"
 
 namespace kladez {
 namespace {
@@ -183,7 +184,7 @@ class Sheet {
 };
 
 [[noreturn]] void ThrowUnwritten() {
-  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(),
+  throw std::system_error(syscalls::LastError(), std::generic_category(),
                           "Не удалось составить таблицу");
 }
 
@@ -196,13 +197,13 @@ bool FitsWorkbook(const Table& table) {
 
 QByteArray WorkbookOf(const Table& table) {
   const QTemporaryDir directory;
-  errno = 0;
+  syscalls::ForgetErrors();
   if (!directory.isValid()) ThrowUnwritten();
   const QString path = directory.filePath(u"table.xlsx"_s);
-  QByteArray passing = QFile::encodeName(directory.path());
+  QByteArray passing = EncodePath(directory.path());
   lxw_workbook_options options = {
       .constant_memory = LXW_TRUE, .tmpdir = passing.data(), .use_zip64 = LXW_FALSE};
-  lxw_workbook* book = workbook_new_opt(QFile::encodeName(path).constData(), &options);
+  lxw_workbook* book = workbook_new_opt(EncodePath(path).constData(), &options);
   if (book == nullptr) ThrowUnwritten();
   Sheet(book, table).Write();
   if (workbook_close(book) != LXW_NO_ERROR) ThrowUnwritten();

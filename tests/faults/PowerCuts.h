@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 

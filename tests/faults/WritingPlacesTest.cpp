@@ -45,7 +45,7 @@ TEST(WritingPlaces, NothingElseWritesToTheDisk) {
       {u"WriteOnly"_s, u"ReadWrite"_s, u"ofstream"_s, u"QSaveFile"_s, u"O_WRONLY"_s, u"fopen"_s});
   const std::set<std::string> known = {
       "books/store/OutsideFile.cpp",  // a table or page where the user wants it
-      "books/store/SystemCalls.cpp",  // what SaveSet and the copies are made of
+      "system/SystemCallsPosix.cpp",  // what SaveSet and the copies are made of
       "viewer/paper/Output.cpp"};     // a PDF file where the user wants it
   EXPECT_EQ(writers, known);
 }

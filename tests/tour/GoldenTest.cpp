@@ -8,8 +8,8 @@
 
 #include "GoldenCases.h"
 #include "Screens.h"
-#include "books/store/SystemCalls.h"
 #include "formats/TextLines.h"
+#include "system/SystemCalls.h"
 #include "tour/Eyes.h"
 #include "tour/Stage.h"
 #include "ui/controls/Messages.h"

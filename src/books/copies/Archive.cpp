@@ -3,14 +3,15 @@
 #include <archive.h>
 #include <archive_entry.h>
 
-#include <QFile>
+#include <QList>
 #include <QtEndian>
 #include <algorithm>
 #include <cerrno>
 #include <utility>
 
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -51,7 +52,7 @@ quint64 SumWith(quint64 sum, const QByteArray& name, QByteArrayView bytes) {
 
 [[noreturn]] void Refuse(const QString& why, const QByteArray& file) {
   ThrowFileError(u"Копия базы повреждена или сделана не этой программой: "_s + why,
-                 QFile::decodeName(file), EBADMSG);
+                 DecodePath(file), EBADMSG);
 }
 
 bool IsPlainName(const QByteArray& name) {
@@ -136,7 +137,7 @@ ArchiveWriter::~ArchiveWriter() {
 }
 
 void ArchiveWriter::Fail() {
-  ThrowFileError(u"Не удалось записать копию базы"_s, QFile::decodeName(output_->path),
+  ThrowFileError(u"Не удалось записать копию базы"_s, DecodePath(output_->path),
                  output_->error != 0 ? output_->error : EIO);
 }
 
@@ -207,7 +208,7 @@ quint64 ReadArchive(QByteArrayView bytes, const QByteArray& file,
 QByteArray ArchiveBytes(const QByteArray& file) {
   QByteArray bytes;
   if (const int error = syscalls::ReadPlainFile(file, kLargestArchive, &bytes)) {
-    ThrowFileError(u"Не удалось прочитать копию базы"_s, QFile::decodeName(file), error);
+    ThrowFileError(u"Не удалось прочитать копию базы"_s, DecodePath(file), error);
   }
   return bytes;
 }

@@ -1,6 +1,5 @@
 #include "books/copies/CopyCompare.h"
 
-#include <QFile>
 #include <algorithm>
 #include <map>
 #include <optional>
@@ -13,6 +12,7 @@
 #include "formats/LedgerFile.h"
 #include "formats/Numbers.h"
 #include "formats/Ordering.h"
+#include "system/PathNames.h"
 
 namespace kladez {
 namespace {
@@ -31,7 +31,7 @@ using Contents = std::map<QByteArray, Kept>;
 constexpr qsizetype kLongestHead = 1000;
 
 std::optional<DocumentKind> KindOf(const QByteArray& name) {
-  const QString folded = FoldCase(QFile::decodeName(name));
+  const QString folded = FoldCase(DecodePath(name));
   for (const DocumentKind kind :
        {DocumentKind::kReceipt, DocumentKind::kShipment, DocumentKind::kTransfer}) {
     if (folded.endsWith(FoldCase(FormatOf(kind).extension))) return kind;
@@ -41,7 +41,7 @@ std::optional<DocumentKind> KindOf(const QByteArray& name) {
 
 Sort SortOf(const QByteArray& name) {
   if (KindOf(name)) return Sort::kDocument;
-  const QString folded = FoldCase(QFile::decodeName(name).section(u'/', 1).replace(u'/', u'\\'));
+  const QString folded = FoldCase(DecodePath(name).section(u'/', 1).replace(u'/', u'\\'));
   if (folded == FoldCase(files::kGoods.toString())) return Sort::kGoods;
   const bool ledger = folded.endsWith(FoldCase(QString(u'\\' + files::kLedger.toString())));
   return ledger ? Sort::kLedger : Sort::kOther;
@@ -68,7 +68,7 @@ using Values = std::map<QString, QString>;
 class Comparison {
  public:
   void Compare(const QByteArray& name, const QByteArray& was, const QByteArray& now) {
-    const QString path = QFile::decodeName(name);
+    const QString path = DecodePath(name);
     const QString warehouse = path.section(u'/', 1, 1);
     switch (SortOf(name)) {
       case Sort::kDocument:

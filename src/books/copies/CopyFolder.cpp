@@ -10,7 +10,8 @@
 #include <set>
 
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -39,7 +40,7 @@ QByteArray Made(const QString& directory) {
   if (!QDir().mkpath(directory)) {
     ThrowFileError(u"Не удалось создать каталог для копий"_s, directory, EACCES);
   }
-  return QFile::encodeName(QFileInfo(directory).canonicalFilePath());
+  return EncodePath(QFileInfo(directory).canonicalFilePath());
 }
 
 // The end of a plain file; nothing of anything else.
@@ -52,8 +53,7 @@ QByteArray EndOf(const QFileInfo& file) {
 
 void CheckCopied(int error, const QByteArray& path) {
   if (error != 0) {
-    ThrowFileError(u"Не удалось записать копию базы во второе место"_s, QFile::decodeName(path),
-                   error);
+    ThrowFileError(u"Не удалось записать копию базы во второе место"_s, DecodePath(path), error);
   }
 }
 
@@ -66,12 +66,12 @@ QByteArray StateDirectory() {
 }
 
 QByteArray CopiesFolder(const DataDir& data) {
-  QString folder = QFile::decodeName(StateDirectory()) + u"/copies"_s;
+  QString folder = DecodePath(StateDirectory()) + u"/copies"_s;
   const QString usual =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/kladez"_s;
   if (data.Root() != QFileInfo(usual).canonicalFilePath()) {
     const QByteArray own =
-        QCryptographicHash::hash(QFile::encodeName(data.Root()), QCryptographicHash::Sha256);
+        QCryptographicHash::hash(EncodePath(data.Root()), QCryptographicHash::Sha256);
     folder += u"/%1-%2"_s.arg(QFileInfo(data.Root()).fileName(),
                               QString::fromLatin1(own.toHex().first(8)));
   }
@@ -80,10 +80,10 @@ QByteArray CopiesFolder(const DataDir& data) {
 
 std::vector<StoredCopy> ListCopies(const QByteArray& folder) {
   std::vector<StoredCopy> copies;
-  const QDir directory(QFile::decodeName(folder));
+  const QDir directory(DecodePath(folder));
   for (const QFileInfo& file : directory.entryInfoList({u'*' + kCopyExtension}, QDir::Files)) {
     if (auto note = ReadNote(EndOf(file))) {
-      copies.push_back({QFile::encodeName(file.filePath()), file.size(), *std::move(note)});
+      copies.push_back({EncodePath(file.filePath()), file.size(), *std::move(note)});
     }
   }
   std::stable_sort(copies.begin(), copies.end(), [](const StoredCopy& a, const StoredCopy& b) {
@@ -102,13 +102,13 @@ std::optional<QDateTime> LastCopyOf(const DataDir& data, const Session& session)
 }
 
 QByteArray NewCopyFile(const QByteArray& folder, const CopyNote& note) {
-  const QString name = QFile::decodeName(folder) + u'/' + note.base + u' ' +
-                       note.time.toString(u"yyyy-MM-dd HH-mm-ss"_s);
+  const QString name =
+      DecodePath(folder) + u'/' + note.base + u' ' + note.time.toString(u"yyyy-MM-dd HH-mm-ss"_s);
   QString file = name + kCopyExtension;
   for (int number = 2; QFileInfo::exists(file); ++number) {
     file = u"%1 (%2)%3"_s.arg(name, QString::number(number), kCopyExtension);
   }
-  return QFile::encodeName(file);
+  return EncodePath(file);
 }
 
 std::vector<size_t> OutlivedCopies(std::span<const StoredCopy> copies, QDate today, qint64 room) {
@@ -142,16 +142,16 @@ void RemoveOutlivedCopies(const QByteArray& folder, QDate today, qint64 room) {
   for (const size_t place : OutlivedCopies(copies, today, room)) {
     const int error = syscalls::Unlink(copies[place].file);
     if (error != 0 && error != ENOENT) {
-      ThrowFileError(u"Не удалось удалить старую копию базы"_s,
-                     QFile::decodeName(copies[place].file), error);
+      ThrowFileError(u"Не удалось удалить старую копию базы"_s, DecodePath(copies[place].file),
+                     error);
     }
   }
 }
 
 bool FillSecondPlace(const QByteArray& folder, const QByteArray& second, QDate today, qint64 room) {
-  const QFileInfo place(QFile::decodeName(second));
+  const QFileInfo place(DecodePath(second));
   if (second.isEmpty() || !place.isDir()) return false;
-  const QByteArray target = QFile::encodeName(place.canonicalFilePath());
+  const QByteArray target = EncodePath(place.canonicalFilePath());
   for (const StoredCopy& copy : ListCopies(folder)) {
     const QByteArray file = target + copy.file.mid(copy.file.lastIndexOf('/'));
     if (syscalls::Exists(file)) continue;

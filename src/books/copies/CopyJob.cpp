@@ -1,79 +1,41 @@
 #include "books/copies/CopyJob.h"
 
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <QFile>
+#include <QCoreApplication>
 #include <algorithm>
 #include <cerrno>
-#include <memory>
 
 #include "books/copies/Archive.h"
 #include "books/copies/CopyFolder.h"
 #include "books/store/Errors.h"
 #include "books/store/ReadAhead.h"
-#include "books/store/SystemCalls.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/DocumentFile.h"
 #include "formats/GoodsFile.h"
 #include "formats/Ordering.h"
+#include "system/OpenFile.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
+using syscalls::OpenFile;
 
 constexpr qint64 kLargestFile = qint64{1} << 30;
+constexpr qint64 kNanoseconds = 1'000'000'000;  // of a second
 
 [[noreturn]] void FailReading(const QByteArray& path, int error) {
-  ThrowFileError(u"Не удалось прочитать для копии базы"_s, QFile::decodeName(path), error);
+  ThrowFileError(u"Не удалось прочитать для копии базы"_s, DecodePath(path), error);
 }
 
-// A descriptor that closes itself.
-class OpenFile {
- public:
-  OpenFile(int parent, const char* name, int flags)
-      : fd_(::openat(parent, name, flags | O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK)) {}
-  ~OpenFile() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-  int Get() const { return fd_; }
-
- private:
-  const int fd_;
-};
-
-std::vector<QByteArray> NamesOf(int directory, const QByteArray& path) {
-  const int again = ::openat(directory, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  const std::unique_ptr<DIR, int (*)(DIR*)> entries(again < 0 ? nullptr : ::fdopendir(again),
-                                                    &::closedir);
-  if (!entries) FailReading(path, errno);
+std::vector<QByteArray> NamesOf(const OpenFile& directory, const QByteArray& path) {
   std::vector<QByteArray> names;
-  while (const dirent* entry = ::readdir(entries.get())) {
-    const QByteArray name(entry->d_name);
-    if (name != "." && name != "..") names.push_back(name);
-  }
+  const int error = directory.ForEachEntry(
+      [&](const char* name, FileStatus::Kind) { names.push_back(QByteArray(name)); });
+  if (error != 0) FailReading(path, error);
   std::sort(names.begin(), names.end());
   return names;
-}
-
-// All that an open file has, in a buffer that many share.
-void ReadAll(int fd, qint64 size, QByteArray& bytes, const QByteArray& path) {
-  if (size > kLargestFile) FailReading(path, EFBIG);
-  bytes.resize(size);
-  qint64 done = 0;
-  while (done < size) {
-    const ssize_t got = ::read(fd, bytes.data() + done, static_cast<size_t>(size - done));
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) FailReading(path, errno);
-    if (got == 0) break;
-    done += got;
-  }
-  bytes.truncate(done);
 }
 
 bool IsDocument(const QString& folded) {
@@ -85,7 +47,7 @@ bool IsDocument(const QString& folded) {
 }
 
 QByteArray PartOf(const QByteArray& folder) {
-  return folder + "/.part-" + QByteArray::number(static_cast<qint64>(::getpid()));
+  return folder + "/.part-" + QByteArray::number(QCoreApplication::applicationPid());
 }
 
 }  // namespace
@@ -102,11 +64,11 @@ void CopyJob::Keep(const QByteArray& path) {
     return;
   const std::lock_guard lock(mutex_);
   if (kept_.contains(name)) return;
-  struct stat status;
+  FileStatus status;
   if (syscalls::Look(path, &status) != 0) {
     kept_[name] = std::nullopt;
-  } else if (S_ISREG(status.st_mode)) {
-    File file{{}, status.st_mtim.tv_sec};
+  } else if (status.IsFile()) {
+    File file{{}, status.modified / kNanoseconds};
     if (const int error = syscalls::ReadPlainFile(path, kLargestFile, &file.bytes)) {
       FailReading(path, error);
     }
@@ -141,10 +103,10 @@ void CopyJob::Run() {
 
 void CopyJob::Write(const QByteArray& part) {
   ArchiveWriter writer(part);
-  const OpenFile root(AT_FDCWD, order_.root.constData(), O_DIRECTORY);
-  if (root.Get() < 0) FailReading(order_.root, errno);
-  WriteTree(writer, root.Get(), order_.descriptor);
-  WriteTree(writer, root.Get(), order_.tree);
+  OpenFile root;
+  if (const int error = root.Open(order_.root)) FailReading(order_.root, error);
+  WriteTree(writer, root, order_.descriptor);
+  WriteTree(writer, root, order_.tree);
   WriteKept(writer);
   writer.Finish([this](quint64 sum) {
     order_.note.sum = sum;
@@ -153,25 +115,28 @@ void CopyJob::Write(const QByteArray& part) {
 }
 
 // A file or a directory with all it holds; `name` is its path from the data directory.
-void CopyJob::WriteTree(ArchiveWriter& writer, int parent, const QByteArray& name) {
-  const OpenFile open(parent, name.constData() + name.lastIndexOf('/') + 1, 0);
+void CopyJob::WriteTree(ArchiveWriter& writer, const OpenFile& parent, const QByteArray& name) {
+  OpenFile open;
+  FileStatus status;
+  int error = open.OpenIn(parent, name.constData() + name.lastIndexOf('/') + 1);
   // What was deleted meanwhile has been handed over.
-  if (open.Get() < 0 && errno == ENOENT) return;
-  struct stat status;
-  if (open.Get() < 0 || ::fstat(open.Get(), &status) < 0) FailReading(name, errno);
-  if (S_ISDIR(status.st_mode)) {
+  if (error == ENOENT) return;
+  if (error == 0) error = open.Status(&status);
+  if (error != 0) FailReading(name, error);
+  const qint64 modified = status.modified / kNanoseconds;
+  if (status.IsDirectory()) {
     {
       const std::lock_guard lock(mutex_);
       if (kept_.contains(name)) return;  // made after the copy was asked for
     }
-    writer.AddDirectory(name, status.st_mtim.tv_sec);
-    WriteDirectory(writer, open.Get(), name);
+    writer.AddDirectory(name, modified);
+    WriteDirectory(writer, open, name);
     return;
   }
-  if (!S_ISREG(status.st_mode)) FailReading(name, EINVAL);
+  if (!status.IsFile()) FailReading(name, EINVAL);
   thread_local File file;
-  file.modified = status.st_mtim.tv_sec;
-  ReadAll(open.Get(), status.st_size, file.bytes, name);
+  file.modified = modified;
+  if ((error = open.ReadWhole(kLargestFile, file.bytes)) != 0) FailReading(name, error);
   {
     // It may have been written as it was read: the old state was handed over before that.
     const std::lock_guard lock(mutex_);
@@ -181,7 +146,8 @@ void CopyJob::WriteTree(ArchiveWriter& writer, int parent, const QByteArray& nam
   WriteFile(writer, name, file);
 }
 
-void CopyJob::WriteDirectory(ArchiveWriter& writer, int directory, const QByteArray& name) {
+void CopyJob::WriteDirectory(ArchiveWriter& writer, const OpenFile& directory,
+                             const QByteArray& name) {
   const std::vector<QByteArray> names = NamesOf(directory, name);
   ReadAhead ahead(directory, static_cast<qsizetype>(names.size()),
                   [&](qsizetype place) { return names[place].constData(); });
@@ -210,7 +176,7 @@ void CopyJob::Check(const QByteArray& part) {
   const quint64 sum = ReadArchive(bytes, part, [](const ArchivedFile&) { return true; });
   if (sum != order_.note.sum || ReadNote(bytes) != ReadNote(NoteFrame(order_.note))) {
     ThrowFileError(u"Копия базы читается не так, как была записана; проверьте диск"_s,
-                   QFile::decodeName(part), EIO);
+                   DecodePath(part), EIO);
   }
   // Nothing has changed since the last copy: one is enough.
   std::vector<StoredCopy> copies = ListCopies(order_.folder);
@@ -223,15 +189,15 @@ void CopyJob::Check(const QByteArray& part) {
   int error = syscalls::RenameToNew(part, file);
   if (error == 0) error = syscalls::SyncDirectory(order_.folder);
   if (error != 0) {
-    ThrowFileError(u"Не удалось записать копию базы"_s, QFile::decodeName(file), error);
+    ThrowFileError(u"Не удалось записать копию базы"_s, DecodePath(file), error);
   }
 }
 
 void CopyJob::Count(const QByteArray& name, QByteArrayView bytes) {
   ++order_.note.files;
-  const QString folded = FoldCase(QFile::decodeName(name));
+  const QString folded = FoldCase(DecodePath(name));
   if (IsDocument(folded)) ++order_.note.documents;
-  const QString goods = QFile::decodeName(order_.tree) + u'/' + files::kGoods;
+  const QString goods = DecodePath(order_.tree) + u'/' + files::kGoods;
   if (folded != FoldCase(QString(goods).replace(u'\\', u'/'))) return;
   ForEachGoods(bytes, [this](const RawGoods& row) { order_.note.goods += !row.IsGroup(); });
 }

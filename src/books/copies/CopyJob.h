@@ -13,6 +13,7 @@
 #include <thread>
 
 #include "books/copies/CopyNote.h"
+#include "system/OpenFile.h"
 
 namespace kladez {
 
@@ -53,8 +54,9 @@ class CopyJob {
 
   void Run();
   void Write(const QByteArray& part);
-  void WriteTree(ArchiveWriter& writer, int parent, const QByteArray& name);
-  void WriteDirectory(ArchiveWriter& writer, int directory, const QByteArray& name);
+  void WriteTree(ArchiveWriter& writer, const syscalls::OpenFile& parent, const QByteArray& name);
+  void WriteDirectory(ArchiveWriter& writer, const syscalls::OpenFile& directory,
+                      const QByteArray& name);
   void WriteFile(ArchiveWriter& writer, const QByteArray& name, const File& file);
   void WriteKept(ArchiveWriter& writer);
   void Check(const QByteArray& part);

@@ -1,6 +1,5 @@
 #include "books/copies/CopyKeeper.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -10,6 +9,7 @@
 #include "formats/DatabaseFiles.h"
 #include "formats/Ordering.h"
 #include "formats/Progress.h"
+#include "system/PathNames.h"
 
 namespace kladez {
 namespace {
@@ -23,7 +23,7 @@ constexpr qint64 kMegabyte = 1 << 20;
 
 // The first part of a path below the data directory.
 QString TopOf(const QByteArray& path, const QString& root) {
-  const QString inner = QFile::decodeName(path).mid(root.size() + 1);
+  const QString inner = DecodePath(path).mid(root.size() + 1);
   return inner.left(inner.indexOf(u'/'));
 }
 
@@ -96,11 +96,11 @@ void CopyKeeper::Start(const CatalogueEntry& base, const QString& why) {
   const QString tree = QFileInfo(data_.Resolve(base.descriptor.path)).fileName();
   job_base_ = base.descriptor.path.chopped(1);
   job_ = std::make_unique<CopyJob>(CopyJob::Order{
-      .root = QFile::encodeName(data_.Root()),
-      .tree = QFile::encodeName(tree),
-      .descriptor = QFile::encodeName(QFileInfo(data_.Resolve(base.file)).fileName()),
+      .root = EncodePath(data_.Root()),
+      .tree = EncodePath(tree),
+      .descriptor = EncodePath(QFileInfo(data_.Resolve(base.file)).fileName()),
       .folder = CopiesFolder(data_),
-      .second = QFile::encodeName(settings_.Read(settings::kSecondPlace)),
+      .second = EncodePath(settings_.Read(settings::kSecondPlace)),
       .room = Room() * kMegabyte,
       .note = {.base = job_base_, .name = base.descriptor.name, .time = clock_.Now(), .why = why}});
   copied_[job_base_] = clock_.Today();

@@ -1,15 +1,13 @@
 #include "books/copies/UndoLog.h"
 
-#include <sys/stat.h>
-
 #include <QDirIterator>
-#include <QFile>
 #include <algorithm>
 #include <cerrno>
 #include <set>
 
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -28,7 +26,7 @@ bool Lies(const QString& path, const QString& directory) {
 }  // namespace
 
 QString UndoLog::SystemPath(const QByteArray& path) const {
-  return QFile::decodeName(path).mid(data_.Root().size() + 1).replace(u'/', u'\\');
+  return DecodePath(path).mid(data_.Root().size() + 1).replace(u'/', u'\\');
 }
 
 void UndoLog::BeforeSave(const SaveSet& save) {
@@ -48,12 +46,12 @@ UndoLog::OldState UndoLog::StateBefore(const SaveSet::Change& change, Step& step
                  .made = {},
                  .directories = {},
                  .files = {}};
-  struct stat status;
+  FileStatus status;
   state.existed = syscalls::Look(change.path, &status) == 0;
   // The outside has its say later, when the command itself meets it.
   if (change.contents) step.too_much = true;
   if (!state.existed) return state;
-  if (S_ISREG(status.st_mode) && (change.kind == Kind::kWrite || change.kind == Kind::kDelete)) {
+  if (status.IsFile() && (change.kind == Kind::kWrite || change.kind == Kind::kDelete)) {
     if (syscalls::ReadPlainFile(change.path, kMostBytes - step.bytes, &state.bytes) != 0) {
       step.too_much = true;
     }
@@ -66,11 +64,11 @@ UndoLog::OldState UndoLog::StateBefore(const SaveSet::Change& change, Step& step
 void UndoLog::KeepTree(const QByteArray& directory, OldState& state, Step& step) const {
   constexpr qsizetype kPerFile = 256;  // a tree of empty files takes its room, too
   state.directories.append(state.path);
-  QDirIterator walk(QFile::decodeName(directory),
+  QDirIterator walk(DecodePath(directory),
                     QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
   while (walk.hasNext() && !step.too_much) {
-    const QByteArray path = QFile::encodeName(walk.next());
+    const QByteArray path = EncodePath(walk.next());
     const QFileInfo info = walk.fileInfo();
     step.bytes += kPerFile;
     if (info.isDir() && !info.isSymLink()) {
@@ -177,7 +175,7 @@ void UndoLog::RequireOnlyItsOwn(const Step& step, const QString& directory) cons
                     QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
   while (walk.hasNext()) {
-    const QString path = SystemPath(QFile::encodeName(walk.next()));
+    const QString path = SystemPath(EncodePath(walk.next()));
     const auto own = std::find_if(step.states.begin(), step.states.end(),
                                   [&](const OldState& state) { return state.path == path; });
     if (own == step.states.end() || !IsStill(own->made, data_, path)) {

@@ -1,10 +1,7 @@
 #include "books/copies/UnpackedCopy.h"
 
-#include <signal.h>
-#include <unistd.h>
-
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <algorithm>
 #include <cerrno>
 
@@ -13,8 +10,10 @@
 #include "books/stock/DocumentScan.h"
 #include "books/store/Backup.h"
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
 #include "formats/DatabaseFiles.h"
+#include "system/PathNames.h"
+#include "system/Process.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -25,26 +24,27 @@ const QString kLookPrefix = u"look-"_s;
 
 void CheckUnpacked(int error, const QByteArray& path) {
   if (error != 0) {
-    ThrowFileError(u"Не удалось распаковать копию базы"_s, QFile::decodeName(path), error);
+    ThrowFileError(u"Не удалось распаковать копию базы"_s, DecodePath(path), error);
   }
 }
 
 // A program that was killed has left what it looked into.
 void RemoveStale(const QString& state) {
   for (const QString& name : QDir(state).entryList({kLookPrefix + u'*'}, QDir::Dirs)) {
-    const int owner = name.section(u'-', 1, 1).toInt();
-    if (owner > 0 && ::kill(owner, 0) != 0 && errno == ESRCH) {
-      syscalls::RemoveTree(QFile::encodeName(state + u'/' + name));
+    const qint64 owner = name.section(u'-', 1, 1).toLongLong();
+    if (!syscalls::IsRunning(owner)) {
+      syscalls::RemoveTree(EncodePath(state + u'/' + name));
     }
   }
 }
 
 QByteArray NewPlace() {
   static int number = 0;
-  const QString state = QFile::decodeName(StateDirectory());
+  const QString state = DecodePath(StateDirectory());
   RemoveStale(state);
-  return QFile::encodeName(u"%1/%2%3-%4"_s.arg(state, kLookPrefix, QString::number(::getpid()),
-                                               QString::number(++number)));
+  return EncodePath(u"%1/%2%3-%4"_s.arg(state, kLookPrefix,
+                                        QString::number(QCoreApplication::applicationPid()),
+                                        QString::number(++number)));
 }
 
 void WriteUnpacked(const QByteArray& path, const ArchivedFile& file) {
@@ -76,12 +76,12 @@ UnpackedCopy::UnpackedCopy(const StoredCopy& copy, const Progress& progress)
     : note_(copy.note), place_(NewPlace()) {
   try {
     Unpack(copy, progress);
-    data_.emplace(QFile::decodeName(place_));
+    data_.emplace(DecodePath(place_));
     const std::vector<CatalogueEntry> bases = ListDatabases(*data_);
     if (bases.size() == 1) entry_ = bases[0];
     session_.chosen_base = entry_.descriptor.path;
     if (!OpenDatabase(session_, *data_)) {
-      ThrowFileError(u"В копии нет базы"_s, QFile::decodeName(copy.file), EBADMSG);
+      ThrowFileError(u"В копии нет базы"_s, DecodePath(copy.file), EBADMSG);
     }
   } catch (...) {
     syscalls::RemoveTree(place_);
@@ -107,8 +107,8 @@ void UnpackedCopy::Unpack(const StoredCopy& copy, const Progress& progress) {
         return true;
       });
   if (sum != note_.sum) {
-    ThrowFileError(u"Копия повреждена: в ней не то, что было записано"_s,
-                   QFile::decodeName(copy.file), EBADMSG);
+    ThrowFileError(u"Копия повреждена: в ней не то, что было записано"_s, DecodePath(copy.file),
+                   EBADMSG);
   }
 }
 

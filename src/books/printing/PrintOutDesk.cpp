@@ -6,10 +6,10 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryFile>
-#include <cerrno>
 
 #include "books/store/Errors.h"
 #include "formats/DatabaseFiles.h"
+#include "system/Process.h"
 
 namespace kladez {
 
@@ -33,8 +33,9 @@ void PrintOutDesk::Write(const QString& name, const QByteArray& bytes) const {
 void PrintOutDesk::WriteInPieces(const QString& name, const SaveSet::Contents& contents) const {
   // Made beforehand: making it may take long, and the commit holds the lock of the directory.
   QTemporaryFile made;
+  syscalls::ForgetErrors();
   const auto check = [&made](bool good) {
-    if (!good) ThrowFileError(u"Не удалось записать"_s, made.fileName(), errno);
+    if (!good) ThrowFileError(u"Не удалось записать"_s, made.fileName(), syscalls::LastError());
   };
   check(made.open());
   contents([&](QByteArrayView piece) { check(made.write(piece.data(), piece.size()) >= 0); });

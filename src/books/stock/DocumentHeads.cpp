@@ -1,7 +1,8 @@
 #include "books/stock/DocumentHeads.h"
 
-#include <QFile>
 #include <QScopedValueRollback>
+
+#include "system/PathNames.h"
 
 namespace kladez {
 
@@ -14,7 +15,7 @@ void DocumentHeads::Scan(const DataDir& data, const QString& directory, const Vi
     return;
   }
   const QScopedValueRollback busy(busy_, true);
-  const QByteArray path = QFile::encodeName(data.Resolve(directory));
+  const QByteArray path = EncodePath(data.Resolve(directory));
   const auto changed = watch_->Changes(path);
   // Watched from before the first file is read, so that no change falls between.
   if (!changed) watch_->Start(path);
@@ -63,7 +64,7 @@ void DocumentHeads::ReadChanged(const DataDir& data, const QString& directory,
   QHash<QString, const Kept*> before;
   for (const Kept& kept : kept_) before.insert(kept.file, &kept);
   for (const QString& file : data.List(directory, FormatOf(kind_).extension)) {
-    const Kept* kept = changed.contains(QFile::encodeName(file)) ? nullptr : before.value(file);
+    const Kept* kept = changed.contains(EncodePath(file)) ? nullptr : before.value(file);
     const QByteArray read = kept == nullptr ? data.Read(directory + u'\\' + file) : QByteArray();
     const QByteArrayView bytes = kept == nullptr
                                      ? QByteArrayView(read)

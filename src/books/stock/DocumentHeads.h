@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "books/stock/DocumentScan.h"
-#include "books/store/DirectoryWatch.h"
+#include "system/DirectoryWatch.h"
 
 namespace kladez {
 

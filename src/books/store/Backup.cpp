@@ -1,16 +1,16 @@
 #include "books/store/Backup.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <cerrno>
 #include <set>
 
 #include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
-#include "books/store/SystemCalls.h"
 #include "books/store/TreeCopy.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/Dates.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 constexpr QStringView kUnfinishedRestore = u".kladez-restore";
 
 void Check(int error, const QString& doing, const QByteArray& path) {
-  if (error != 0) ThrowFileError(doing, QFile::decodeName(path), error);
+  if (error != 0) ThrowFileError(doing, DecodePath(path), error);
 }
 
 // Removes a tree at the end, however that is reached, unless it was given its own name.
@@ -45,11 +45,11 @@ QByteArray TreeOf(const DataDir& data, const CatalogueEntry& entry) {
     ThrowFileError(u"Нет каталога базы «"_s + entry.descriptor.name + u'»',
                    data.Root() + u'/' + entry.descriptor.path.chopped(1), ENOENT);
   }
-  return QFile::encodeName(data.Resolve(entry.descriptor.path));
+  return EncodePath(data.Resolve(entry.descriptor.path));
 }
 
 void RefuseInside(const QByteArray& tree, const QString& folder) {
-  const QByteArray target = QFile::encodeName(QFileInfo(folder).canonicalFilePath());
+  const QByteArray target = EncodePath(QFileInfo(folder).canonicalFilePath());
   if (target == tree || target.startsWith(QByteArray(tree + '/'))) {
     ThrowFileError(u"Копия не может лежать внутри самой базы данных"_s, folder, EINVAL);
   }
@@ -66,12 +66,12 @@ void MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
                 const QString& folder, QDate day, const Progress& progress) {
   // The user's own choice may lead through links; nothing that is copied does.
   const QString plain = QFileInfo(folder).canonicalFilePath();
-  const QByteArray target = QFile::encodeName(BackupTarget(plain.isEmpty() ? folder : plain, day));
+  const QByteArray target = EncodePath(BackupTarget(plain.isEmpty() ? folder : plain, day));
   if (syscalls::Exists(target)) {
     Check(EEXIST, u"Копия за это число уже есть в выбранной папке, она оставлена как есть"_s,
           target);
   }
-  const QByteArray partial = target + QFile::encodeName(u" (не закончена)"_s);
+  const QByteArray partial = target + EncodePath(u" (не закончена)"_s);
   TreeCopy copy;
   std::vector<BackupEntry> index;
   std::set<QByteArray> trees;  // two descriptors may share one
@@ -79,16 +79,15 @@ void MakeBackup(const DataDir& data, const std::vector<CatalogueEntry>& chosen,
     const CatalogueEntry entry{listed.file, ReadDescriptor(data.Read(listed.file))};
     const QByteArray tree = TreeOf(data, entry);
     RefuseInside(tree, folder);
-    copy.AddFile(QFile::encodeName(data.Resolve(entry.file)),
-                 partial + '/' + QFile::encodeName(entry.file));
-    const QByteArray name = QFile::encodeName(entry.descriptor.path.chopped(1));
+    copy.AddFile(EncodePath(data.Resolve(entry.file)), partial + '/' + EncodePath(entry.file));
+    const QByteArray name = EncodePath(entry.descriptor.path.chopped(1));
     if (trees.insert(name).second) copy.AddTree(tree, partial + '/' + name);
     index.push_back({entry.file, entry.descriptor});
   }
   const Unfinished unfinished(partial);
   Check(syscalls::MakeDirectory(partial), u"Не удалось создать каталог"_s, partial);
   copy.Run(progress);
-  const QByteArray index_file = partial + '/' + QFile::encodeName(files::kBackupIndex.toString());
+  const QByteArray index_file = partial + '/' + EncodePath(files::kBackupIndex.toString());
   Check(syscalls::WriteNewFile(index_file, WriteBackupIndex(index), 0),
         u"Не удалось записать файл"_s, index_file);
   Check(syscalls::SyncFileSystem(partial), u"Не удалось записать копию на диск"_s, partial);
@@ -104,7 +103,7 @@ bool IsBackupFolder(const QString& folder) {
 
 void RestoreDatabases(const DataDir& data, const DataDir& backup,
                       const std::vector<CatalogueEntry>& chosen, const Progress& progress) {
-  const QByteArray aside = QFile::encodeName(data.Root() + u'/' + kUnfinishedRestore);
+  const QByteArray aside = EncodePath(data.Root() + u'/' + kUnfinishedRestore);
   std::vector<TreeCopy> copies(chosen.size());
   qint64 size = 0;
   for (size_t i = 0; i < chosen.size(); ++i) {
@@ -128,7 +127,7 @@ void RestoreDatabases(const DataDir& data, const DataDir& backup,
 }
 
 void RemoveUnfinishedRestore(const DataDir& data) {
-  const QByteArray aside = QFile::encodeName(data.Root() + u'/' + kUnfinishedRestore);
+  const QByteArray aside = EncodePath(data.Root() + u'/' + kUnfinishedRestore);
   Check(syscalls::RemoveTree(aside), u"Не удалось удалить незаконченное восстановление"_s, aside);
 }
 

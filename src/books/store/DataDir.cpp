@@ -1,32 +1,24 @@
 #include "books/store/DataDir.h"
 
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
-#include <memory>
 
 #include "books/store/Errors.h"
 #include "books/store/FileNames.h"
 #include "books/store/ReadAhead.h"
 #include "formats/Ordering.h"
+#include "system/OpenFile.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-using Directory = std::unique_ptr<DIR, int (*)(DIR*)>;
-
-Directory OpenDirectory(const QString& path) {
-  return Directory(::opendir(QFile::encodeName(path).constData()), &::closedir);
-}
+using syscalls::OpenFile;
 
 bool IsPlainPart(QStringView part) {
   return !part.isEmpty() && part != u"." && part != u".." && !part.contains(u'/') &&
@@ -34,87 +26,37 @@ bool IsPlainPart(QStringView part) {
 }
 
 // Files are read whole; a larger one is no file of a shop, and memory might not hold it.
-constexpr off_t kLargestFile = off_t{1} << 30;
+constexpr qint64 kLargestFile = qint64{1} << 30;
 
 // The spelling under which a name lies in a directory; the name itself where it does not.
 QString SpellingIn(const QString& directory, const QString& name) {
-  const Directory entries = OpenDirectory(directory);
-  if (!entries) return name;
+  OpenFile open;
+  if (open.Open(EncodePath(directory)) != 0) return name;
   const QString folded = FoldCase(name);
   QString found = name;
-  while (const dirent* entry = ::readdir(entries.get())) {
-    const QString spelling = QFile::decodeName(entry->d_name);
+  open.ForEachEntry([&](const char* entry, FileStatus::Kind) {
+    const QString spelling = DecodePath(entry);
     // Of several that differ in case only, the first in order, so that all machines agree.
     if (FoldCase(spelling) == folded && (found == name || spelling < found)) found = spelling;
-  }
+  });
   return found;
-}
-
-// The length of what is open, nothing with errno set for what can't be read whole.
-std::optional<qsizetype> LengthOf(int fd) {
-  struct stat status;
-  if (::fstat(fd, &status) < 0) return std::nullopt;
-  if (!S_ISREG(status.st_mode)) {
-    errno = EISDIR;
-    return std::nullopt;
-  }
-  if (status.st_size > kLargestFile) {
-    errno = EFBIG;
-    return std::nullopt;
-  }
-  return status.st_size;
-}
-
-// Fills the bytes from `done` on, and adds to it what came; less than room is the end of the file.
-bool ReadOn(int fd, QByteArray& bytes, qsizetype& done) {
-  while (done < bytes.size()) {
-    const ssize_t got = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return false;
-    done += got;
-    if (got == 0) break;
-  }
-  return true;
-}
-
-bool ReadWhole(int fd, QByteArray& bytes) {
-  const auto length = LengthOf(fd);
-  if (!length) return false;
-  bytes.resize(*length);
-  qsizetype done = 0;
-  if (!ReadOn(fd, bytes, done)) return false;
-  bytes.truncate(done);
-  return true;
-}
-
-// Without O_NONBLOCK a pipe in the place of a file would hang the program.
-int OpenAt(int directory, const char* name) {
-  return ::openat(directory, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
 }
 
 // Reads into a buffer that many files share, and gives how much came. Nearly all documents come in
 // the one read: an answer shorter than the room is the whole of a file.
-std::optional<qsizetype> ReadShared(int fd, QByteArray& buffer) {
-  const ssize_t first = ::read(fd, buffer.data(), static_cast<size_t>(buffer.size()));
-  if (0 < first && first < buffer.size()) return first;
-  const auto length = LengthOf(fd);
-  if (!length) return std::nullopt;
-  qsizetype done = std::max<ssize_t>(0, first);
-  if (*length >= buffer.size()) buffer.resize(*length + 1);
-  if (!ReadOn(fd, buffer, done)) return std::nullopt;
+std::optional<qsizetype> ReadShared(const OpenFile& directory, const char* name,
+                                    QByteArray& buffer) {
+  OpenFile file;
+  if (file.OpenIn(directory, name) != 0) return std::nullopt;
+  qsizetype done = std::max<qint64>(0, file.Read(buffer.data(), buffer.size()));
+  if (0 < done && done < buffer.size()) return done;
+  FileStatus status;
+  if (file.Status(&status) != 0 || !status.IsFile() || status.size > kLargestFile) {
+    return std::nullopt;
+  }
+  if (status.size >= buffer.size()) buffer.resize(status.size + 1);
+  if (file.ReadOn(buffer, done) != 0) return std::nullopt;
   return done;
-}
-
-// Does `read` with the file open; errno is that of the read where it fails.
-template <typename Read>
-auto WithFile(int directory, const char* name, Read read) -> decltype(read(0)) {
-  const int fd = OpenAt(directory, name);
-  if (fd < 0) return {};
-  const auto result = read(fd);
-  const int error = errno;
-  ::close(fd);
-  errno = error;
-  return result;
 }
 
 }  // namespace
@@ -138,15 +80,15 @@ QString DataDir::Resolve(const QString& path) const {
     const QString parent = resolved;
     resolved += u'/' + part.toString();
     if (!exists) continue;
-    struct stat status;
+    FileStatus status;
     const auto look = [&] {
-      return ::lstat(QFile::encodeName(resolved).constData(), &status) == 0;
+      return syscalls::LookThroughLinks(EncodePath(resolved), &status) == 0;
     };
     if (!look()) {
       resolved = parent + u'/' + SpellingIn(parent, part.toString());
       exists = look();
     }
-    if (exists && S_ISLNK(status.st_mode)) {
+    if (exists && status.kind == FileStatus::Kind::kLink) {
       const QString target = QFileInfo(resolved).canonicalFilePath();
       if (!target.startsWith(root_ + u'/') || !QFileInfo::exists(resolved)) refuse(ELOOP);
       resolved = target;
@@ -168,10 +110,10 @@ bool DataDir::DirectoryExists(const QString& path) const {
 QByteArray DataDir::Read(const QString& path) const {
   const QString file = Resolve(path);
   QByteArray bytes;
-  const auto read = [&](int fd) { return ReadWhole(fd, bytes); };
-  if (!WithFile(AT_FDCWD, QFile::encodeName(file).constData(), read)) {
-    ThrowFileError(u"Не удалось прочитать файл"_s, file, errno);
-  }
+  OpenFile open;
+  int error = open.Open(EncodePath(file));
+  if (error == 0) error = open.ReadWhole(kLargestFile, bytes);
+  if (error != 0) ThrowFileError(u"Не удалось прочитать файл"_s, file, error);
   return bytes;
 }
 
@@ -183,19 +125,21 @@ std::optional<QByteArray> DataDir::ReadIfAny(const QString& path) const {
 
 namespace {
 
-// An empty path is the data directory itself.
-Directory OpenListed(const DataDir& data, const QString& directory) {
+// Opens a directory and lists its files. An empty path is the data directory itself.
+void OpenListed(const DataDir& data, const QString& directory, QStringView extension,
+                OpenFile& open, FileNames& names) {
   const QString path = directory.isEmpty() ? data.Root() : data.Resolve(directory);
-  Directory entries = OpenDirectory(path);
-  if (!entries) ThrowFileError(u"Не удалось прочитать каталог"_s, path, errno);
-  return entries;
+  int error = open.Open(EncodePath(path));
+  if (error == 0) error = names.Read(open, extension);
+  if (error != 0) ThrowFileError(u"Не удалось прочитать каталог"_s, path, error);
 }
 
 }  // namespace
 
 QStringList DataDir::List(const QString& directory, QStringView extension) const {
-  const Directory entries = OpenListed(*this, directory);
-  const FileNames found(entries.get(), extension);
+  OpenFile open;
+  FileNames found;
+  OpenListed(*this, directory, extension, open, found);
   QStringList names(found.Count());
   for (qsizetype i = 0; i < found.Count(); ++i) found.ToText(i, names[i]);
   return names;
@@ -203,10 +147,10 @@ QStringList DataDir::List(const QString& directory, QStringView extension) const
 
 void DataDir::ForEachFile(const QString& directory, QStringView extension, const Visitor& visit,
                           const Wanted& wanted) const {
-  const Directory entries = OpenListed(*this, directory);
-  const FileNames names(entries.get(), extension);
-  const int fd = ::dirfd(entries.get());
-  ReadAhead ahead(fd, names.Count(), [&](qsizetype place) { return names.At(place); });
+  OpenFile open;
+  FileNames names;
+  OpenListed(*this, directory, extension, open, names);
+  ReadAhead ahead(open, names.Count(), [&](qsizetype place) { return names.At(place); });
   constexpr qsizetype kRoom = 1 << 14;
   QByteArray buffer(kRoom, Qt::Uninitialized);
   QString name;
@@ -214,7 +158,7 @@ void DataDir::ForEachFile(const QString& directory, QStringView extension, const
     names.ToText(i, name);
     if (wanted && !wanted(name)) continue;
     ahead.Reached(i);
-    const auto size = WithFile(fd, names.At(i), [&](int file) { return ReadShared(file, buffer); });
+    const auto size = ReadShared(open, names.At(i), buffer);
     std::optional<QByteArrayView> bytes;
     if (size) bytes = QByteArrayView(buffer).first(*size);
     if (!visit({name, bytes, i, names.Count()})) return;

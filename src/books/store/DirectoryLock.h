@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <chrono>
 
+#include "system/Process.h"
+
 namespace kladez {
 
 class DirectoryLock {
@@ -13,12 +15,9 @@ class DirectoryLock {
   // when the directory can't be opened. A file system without locks is worked on without.
   explicit DirectoryLock(const QByteArray& directory,
                          std::chrono::milliseconds patience = std::chrono::seconds(5));
-  ~DirectoryLock();
-  DirectoryLock(const DirectoryLock&) = delete;
-  DirectoryLock& operator=(const DirectoryLock&) = delete;
 
  private:
-  int fd_;
+  syscalls::LockHandle handle_;
 };
 
 }  // namespace kladez

@@ -1,8 +1,7 @@
 #include "books/store/Errors.h"
 
-#include <QFile>
-
 #include "formats/SystemReasons.h"
+#include "system/PathNames.h"
 
 namespace kladez {
 namespace {
@@ -20,9 +19,9 @@ QString Doing(const std::system_error& error) {
 }  // namespace
 
 void ThrowFileError(const QString& doing, const QString& path, int error_number) {
-  throw std::filesystem::filesystem_error(
-      doing.toStdString(), std::filesystem::path(QFile::encodeName(path).toStdString()),
-      std::error_code(error_number, std::generic_category()));
+  throw std::filesystem::filesystem_error(doing.toStdString(),
+                                          std::filesystem::path(EncodePath(path).toStdString()),
+                                          std::error_code(error_number, std::generic_category()));
 }
 
 QString ErrorText(const std::exception& error) {
@@ -30,7 +29,7 @@ QString ErrorText(const std::exception& error) {
   if (system == nullptr) return QString::fromUtf8(error.what());
   QString text = Doing(*system);
   if (const auto* file = dynamic_cast<const std::filesystem::filesystem_error*>(&error)) {
-    text += u'\n' + QFile::decodeName(file->path1().c_str());
+    text += u'\n' + DecodePath(QByteArray::fromStdString(file->path1().string()));
   }
   return text + u'\n' + ReasonText(system->code());
 }

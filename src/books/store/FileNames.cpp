@@ -1,25 +1,15 @@
 #include "books/store/FileNames.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
-#include <QFile>
 #include <algorithm>
 #include <cstring>
 #include <limits>
 #include <stdexcept>
 
 #include "formats/Ordering.h"
+#include "system/PathNames.h"
 
 namespace kladez {
 namespace {
-
-bool MayBeFile(int directory, const dirent& entry) {
-  if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_REG;
-  struct stat status;
-  return ::fstatat(directory, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-         S_ISREG(status.st_mode);
-}
 
 unsigned char Upper(char c) {
   return static_cast<unsigned char>('a' <= c && c <= 'z' ? c - 'a' + 'A' : c);
@@ -70,12 +60,13 @@ quint64 HeadOf(const char* key) {
 
 }  // namespace
 
-FileNames::FileNames(DIR* directory, QStringView extension) {
-  while (const dirent* entry = ::readdir(directory)) {
-    if (MayBeFile(::dirfd(directory), *entry)) Add(entry->d_name, extension);
-  }
+int FileNames::Read(const syscalls::OpenFile& directory, QStringView extension) {
+  const int error = directory.ForEachEntry([&](const char* name, FileStatus::Kind kind) {
+    if (kind == FileStatus::Kind::kFile) Add(name, extension);
+  });
   std::sort(entries_.begin(), entries_.end(),
             [this](const Entry& a, const Entry& b) { return Less(a, b); });
+  return error;
 }
 
 void FileNames::Add(const char* name, QStringView extension) {
@@ -86,10 +77,10 @@ void FileNames::Add(const char* name, QStringView extension) {
     entries_.push_back({HeadOf(name), kept, kept});
     return;
   }
-  const QString text = QFile::decodeName(name);
+  const QString text = DecodePath(name);
   if (!text.endsWith(extension, Qt::CaseInsensitive)) return;
   const QByteArray key = KeyOf(text);
-  const quint32 kept = Keep(QFile::encodeName(text));
+  const quint32 kept = Keep(EncodePath(text));
   entries_.push_back({HeadOf(key.constData()), kept, Keep(key)});
 }
 
@@ -108,7 +99,7 @@ bool FileNames::Less(const Entry& a, const Entry& b) const {
   for (; Upper(*left) == Upper(*right); ++left, ++right) {
     // Of names that differ in letter case only, the one with the lower codes.
     if (*left == '\0') {
-      return QFile::decodeName(text_.data() + a.name) < QFile::decodeName(text_.data() + b.name);
+      return DecodePath(text_.data() + a.name) < DecodePath(text_.data() + b.name);
     }
   }
   return Upper(*left) < Upper(*right);
@@ -118,7 +109,7 @@ void FileNames::ToText(qsizetype place, QString& into) const {
   if (entries_[place].key == entries_[place].name) {
     into = QLatin1StringView(At(place));
   } else {
-    into = QFile::decodeName(At(place));
+    into = DecodePath(At(place));
   }
 }
 

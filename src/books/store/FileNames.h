@@ -3,17 +3,18 @@
 // and compared as bytes.
 #pragma once
 
-#include <dirent.h>
-
 #include <QString>
 #include <vector>
+
+#include "system/OpenFile.h"
 
 namespace kladez {
 
 class FileNames {
  public:
-  // The plain files of an open directory whose names end in `extension`, whatever its case.
-  FileNames(DIR* directory, QStringView extension);
+  // The plain files of an open directory whose names end in `extension`, whatever its case. 0 or an
+  // errno.
+  int Read(const syscalls::OpenFile& directory, QStringView extension);
 
   // How many there are; places go from 0.
   qsizetype Count() const { return static_cast<qsizetype>(entries_.size()); }

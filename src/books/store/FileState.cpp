@@ -1,37 +1,31 @@
 #include "books/store/FileState.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
-#include <QFile>
 #include <QtEndian>
 #include <array>
-#include <cerrno>
 #include <cstring>
 
 #include "books/store/Errors.h"
+#include "system/ErrorNumbers.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-qint64 Nanoseconds(const timespec& time) {
-  return qint64{time.tv_sec} * 1'000'000'000 + qint64{time.tv_nsec};
-}
-
 // False where there is no such file. Throws where that can't be seen.
 bool Look(const QByteArray& file, FileState& state) {
-  struct stat status;
-  if (::lstat(file.constData(), &status) != 0) {
-    if (errno == ENOENT || errno == ENOTDIR) return false;
-    ThrowFileError(u"Не удалось прочитать файл"_s, QFile::decodeName(file), errno);
+  FileStatus status;
+  if (const int error = syscalls::LookThroughLinks(file, &status)) {
+    if (error == ENOENT || error == ENOTDIR) return false;
+    ThrowFileError(u"Не удалось прочитать файл"_s, DecodePath(file), error);
   }
   state.exists = true;
-  state.inode = status.st_ino;
-  state.size = status.st_size;
-  state.modified = Nanoseconds(status.st_mtim);
-  state.changed = Nanoseconds(status.st_ctim);
+  state.inode = status.inode;
+  state.size = status.size;
+  state.modified = status.modified;
+  state.changed = status.changed;
   return true;
 }
 
@@ -72,7 +66,7 @@ quint64 Fingerprint(QByteArrayView bytes) {
 
 QByteArray ReadWithState(const DataDir& data, const QString& path, FileState& state) {
   state = {};
-  const QByteArray file = QFile::encodeName(data.Resolve(path));
+  const QByteArray file = EncodePath(data.Resolve(path));
   // Somebody may write at this very moment: what was read and the state must belong together.
   for (int tries = 0;; ++tries) {
     FileState before, after;
@@ -90,7 +84,7 @@ QByteArray ReadWithState(const DataDir& data, const QString& path, FileState& st
 QByteArray ReadIfThere(const DataDir& data, const QString& path, FileState& state) {
   state = {};
   FileState found;
-  if (Look(QFile::encodeName(data.Resolve(path)), found)) return ReadWithState(data, path, state);
+  if (Look(EncodePath(data.Resolve(path)), found)) return ReadWithState(data, path, state);
   state = FileState::Missing();
   return {};
 }
@@ -102,15 +96,14 @@ bool IsStill(const FileState& state, const QByteArray& file) {
   if (SameStatus(now, state)) return true;
   if (now.size != state.size) return false;
   const qsizetype slash = file.lastIndexOf('/');
-  const DataDir directory(QFile::decodeName(file.left(slash)));
-  const QByteArray bytes = directory.Read(QFile::decodeName(file.mid(slash + 1)));
+  const DataDir directory(DecodePath(file.left(slash)));
+  const QByteArray bytes = directory.Read(DecodePath(file.mid(slash + 1)));
   return Fingerprint(bytes) == state.fingerprint;
 }
 
 bool IsStill(const FileState& state, const DataDir& data, const QString& path) {
   bool still = false;
-  return IgnoreErrors([&] { still = IsStill(state, QFile::encodeName(data.Resolve(path))); }) &&
-         still;
+  return IgnoreErrors([&] { still = IsStill(state, EncodePath(data.Resolve(path))); }) && still;
 }
 
 FileState StateOfWritten(const QByteArray& file, quint64 fingerprint) {
@@ -127,7 +120,7 @@ StaleFile::StaleFile(const QString& file, bool appeared)
                : u"Файл изменён другой программой или в другом окне, после того как был "
                  u"прочитан. Чтобы ничего не пропало, ничего не записано"_s)
               .toStdString(),
-          std::filesystem::path(QFile::encodeName(file).toStdString()),
+          std::filesystem::path(EncodePath(file).toStdString()),
           std::error_code(appeared ? EEXIST : ESTALE, std::generic_category())) {}
 
 }  // namespace kladez

@@ -1,19 +1,19 @@
 #include "books/store/Import.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <array>
 #include <set>
 
 #include "books/store/Errors.h"
 #include "books/store/SaveSet.h"
-#include "books/store/SystemCalls.h"
 #include "formats/CurrencyFile.h"
 #include "formats/DatabaseFiles.h"
 #include "formats/InOrder.h"
 #include "formats/Ordering.h"
 #include "formats/PartyFile.h"
 #include "formats/TextLines.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -108,8 +108,7 @@ class Gathering {
     const QString path = data_.Resolve(destination_ + name);
     const QFileInfo there(path);
     if (!TakesFiles(there.path())) return;
-    if (there.exists() &&
-        (!there.isFile() || syscalls::WriteRefusal(QFile::encodeName(path)) != 0)) {
+    if (there.exists() && (!there.isFile() || syscalls::WriteRefusal(EncodePath(path)) != 0)) {
       return;
     }
     save_.Write(destination_ + name, bytes);
@@ -117,8 +116,7 @@ class Gathering {
 
   bool TakesFiles(const QString& directory) const {
     if (made_exactly_.contains(directory)) return true;
-    return QFileInfo(directory).isDir() &&
-           syscalls::WriteRefusal(QFile::encodeName(directory)) == 0;
+    return QFileInfo(directory).isDir() && syscalls::WriteRefusal(EncodePath(directory)) == 0;
   }
 
   const DataDir& data_;

@@ -1,9 +1,5 @@
 #include "books/store/ReadAhead.h"
 
-#include <fcntl.h>
-#include <sys/resource.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <system_error>
@@ -18,19 +14,12 @@ constexpr qsizetype kTake = 8;          // files at once
 constexpr qsizetype kFarAhead = 1024;   // files
 constexpr qsizetype kEnough = 4 * 256;  // files read without a wait
 
-// How often this thread has given way of itself, which in reading files is to wait for the disk.
-long Waits() {
-  struct rusage usage;
-  return ::getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_nvcsw : 0;
-}
-
-void ReadIntoNowhere(int directory, const char* name) {
-  const int fd = ::openat(directory, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-  if (fd < 0) return;
+void ReadIntoNowhere(const syscalls::OpenFile& directory, const char* name) {
+  syscalls::OpenFile file;
+  if (file.OpenIn(directory, name) != 0) return;
   std::array<char, 1 << 14> nowhere;
   // What is longer the system reads ahead by itself once it is being read.
-  [[maybe_unused]] const ssize_t got = ::read(fd, nowhere.data(), nowhere.size());
-  ::close(fd);
+  file.Read(nowhere.data(), nowhere.size());
 }
 
 }  // namespace
@@ -38,7 +27,7 @@ void ReadIntoNowhere(int directory, const char* name) {
 void ReadAhead::Look(qsizetype place) {
   next_look_ = place + kLookEvery;
   if (threads_.empty()) {
-    const long waits = Waits();
+    const qint64 waits = syscalls::WaitsOfThread();
     const bool slow = place > 0 && waits - waits_before_ >= kManyWaits;
     waits_before_ = waits;
     visited_ = place;
@@ -55,7 +44,7 @@ void ReadAhead::Look(qsizetype place) {
   moved_.notify_all();
   if (enough) {
     Stop();
-    waits_before_ = Waits();
+    waits_before_ = syscalls::WaitsOfThread();
   }
 }
 
@@ -97,11 +86,11 @@ void ReadAhead::Work() {
   while (true) {
     const Places places = Take(waits);
     if (places.begin == places.end) return;
-    const long before = Waits();
+    const qint64 before = syscalls::WaitsOfThread();
     for (qsizetype i = places.begin; i < places.end; ++i) {
       ReadIntoNowhere(directory_, name_at_(i));
     }
-    waits = Waits() - before;
+    waits = syscalls::WaitsOfThread() - before;
   }
 }
 

@@ -13,14 +13,16 @@
 #include <utility>
 #include <vector>
 
+#include "system/OpenFile.h"
+
 namespace kladez {
 
 class ReadAhead {
  public:
   // The name at a place, from 0 below `count`; asked by several threads at once.
   using NameAt = std::function<const char*(qsizetype place)>;
-  // `directory` is an open descriptor, which must outlive this, as the names must.
-  ReadAhead(int directory, qsizetype count, NameAt name_at)
+  // The open directory must outlive this, as the names must.
+  ReadAhead(const syscalls::OpenFile& directory, qsizetype count, NameAt name_at)
       : directory_(directory), count_(count), name_at_(std::move(name_at)) {}
   ~ReadAhead() { Stop(); }
   ReadAhead(const ReadAhead&) = delete;
@@ -43,11 +45,11 @@ class ReadAhead {
   };
   Places Take(qsizetype waits);
 
-  const int directory_;
+  const syscalls::OpenFile& directory_;
   const qsizetype count_;
   const NameAt name_at_;
   qsizetype next_look_ = 0;
-  long waits_before_ = 0;  // of the visitor's thread
+  qint64 waits_before_ = 0;  // of the visitor's thread
 
   std::mutex mutex_;
   std::condition_variable moved_;

@@ -1,8 +1,5 @@
 #include "books/store/SaveJournal.h"
 
-#include <sys/stat.h>
-
-#include <QFile>
 #include <cerrno>
 #include <optional>
 #include <set>
@@ -10,7 +7,8 @@
 #include "books/store/Errors.h"
 #include "books/store/Notes.h"
 #include "books/store/SaveManifest.h"
-#include "books/store/SystemCalls.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -20,12 +18,12 @@ using Kind = SaveSet::Kind;
 using Change = SaveSet::Change;
 
 void Check(int error, const QByteArray& path) {
-  if (error != 0) ThrowFileError(u"Не удалось записать"_s, QFile::decodeName(path), error);
+  if (error != 0) ThrowFileError(u"Не удалось записать"_s, DecodePath(path), error);
 }
 
 // What can't be looked at is not taken for absent: a step would be passed over.
-std::optional<struct stat> Status(const QByteArray& path) {
-  struct stat status;
+std::optional<FileStatus> Status(const QByteArray& path) {
+  FileStatus status;
   const int error = syscalls::Look(path, &status);
   if (error == 0) return status;
   if (error != ENOENT && error != ENOTDIR) Check(error, path);
@@ -34,15 +32,15 @@ std::optional<struct stat> Status(const QByteArray& path) {
 
 QByteArray ParentOf(const QByteArray& path) { return path.left(path.lastIndexOf('/')); }
 
-void RefuseOtherThanFile(const struct stat& status, const QByteArray& path) {
-  if (!S_ISREG(status.st_mode)) Check(S_ISDIR(status.st_mode) ? EISDIR : EPERM, path);
+void RefuseOtherThanFile(const FileStatus& status, const QByteArray& path) {
+  if (!status.IsFile()) Check(status.IsDirectory() ? EISDIR : EPERM, path);
   Check(syscalls::WriteRefusal(path), path);
 }
 
 void RefuseStale(std::span<const SaveSet::Expectation> expected) {
   for (const auto& [path, state, written] : expected) {
     if (IsStill(state, path)) continue;
-    throw StaleFile(QFile::decodeName(path), state.known && !state.exists);
+    throw StaleFile(DecodePath(path), state.known && !state.exists);
   }
 }
 
@@ -61,7 +59,7 @@ void SyncParents(std::span<const Change> changes) {
 }  // namespace
 
 SaveJournal::SaveJournal(const DataDir& data)
-    : root_(QFile::encodeName(data.Root())), stage_(root_ + '/' + kStagingName), lock_(root_) {}
+    : root_(EncodePath(data.Root())), stage_(root_ + '/' + kStagingName), lock_(root_) {}
 
 void SaveJournal::Commit(std::vector<Change>& changes,
                          std::span<const SaveSet::Expectation> expected) {
@@ -69,7 +67,7 @@ void SaveJournal::Commit(std::vector<Change>& changes,
     ThrowFileError(
         u"Прежняя запись прервалась; её файлы сейчас приведены в порядок. "
         u"Откройте окно заново и повторите"_s,
-        QFile::decodeName(root_), ECANCELED);
+        DecodePath(root_), ECANCELED);
   }
   try {
     RefuseStale(expected);
@@ -140,7 +138,8 @@ void SaveJournal::Tell(const std::filesystem::filesystem_error& error) {
       : carried_on ? u"Команда записана не до конца; следующий запуск программы её закончит, "
                      u"повторять её не нужно"_s
                    : u"На диске осталось прежнее, команда не записана"_s;
-  ThrowFileError(state, QFile::decodeName(QByteArray(error.path1().c_str())), error.code().value());
+  ThrowFileError(state, DecodePath(QByteArray::fromStdString(error.path1().string())),
+                 error.code().value());
 }
 
 void SaveJournal::Recover() { Heal(); }
@@ -148,7 +147,7 @@ void SaveJournal::Recover() { Heal(); }
 bool SaveJournal::Heal() {
   const auto status = Status(stage_);
   if (!status) return false;
-  bool touched = S_ISDIR(status->st_mode);
+  bool touched = status->IsDirectory();
   if (touched && Status(TakingBack())) {
     TakeBack(Interrupted(TakingBack()));
   } else if (touched && Status(Manifest())) {
@@ -178,7 +177,7 @@ std::vector<Change> SaveJournal::Interrupted(const QByteArray& manifest) {
 void SaveJournal::RefuseForeign(size_t index, const Change& change) {
   const auto refuse_links = [](const QByteArray& path) {
     const QByteArray parent = ParentOf(path);
-    struct stat status;
+    FileStatus status;
     const int error = syscalls::Look(path, &status);
     if (error != 0 && error != ENOENT) Check(error == ENOTDIR ? ELOOP : error, parent);
   };
@@ -187,14 +186,14 @@ void SaveJournal::RefuseForeign(size_t index, const Change& change) {
   if (change.kind != Kind::kWrite) return;
   for (const QByteArray& staged : {New(index), Old(index)}) {
     const auto status = Status(staged);
-    if (status && !S_ISREG(status->st_mode)) Check(EBADMSG, staged);
+    if (status && !status->IsFile()) Check(EBADMSG, staged);
   }
 }
 
 void SaveJournal::PutAside(const std::filesystem::filesystem_error& error) {
   QByteArray aside;
   for (int number = 1;; ++number) {
-    aside = root_ + '/' + QFile::encodeName(u"Прерванная запись %1"_s.arg(number));
+    aside = root_ + '/' + EncodePath(u"Прерванная запись %1"_s.arg(number));
     if (syscalls::Exists(aside)) continue;
     const int failed = syscalls::RenameToNew(stage_, aside);
     if (failed == EEXIST) continue;
@@ -206,8 +205,8 @@ void SaveJournal::PutAside(const std::filesystem::filesystem_error& error) {
       u"Запись, прерванную в прошлый раз, закончить нельзя: её список изменений "
       u"повреждён. Что было записать, лежит в каталоге «%1». Проверьте последние "
       u"документы и остатки; если чего-то нет, восстановите базу из копии"_s.arg(
-          QFile::decodeName(aside.mid(root_.size() + 1))),
-      QFile::decodeName(QByteArray(error.path1().c_str())), error.code().value());
+          DecodePath(aside.mid(root_.size() + 1))),
+      DecodePath(QByteArray::fromStdString(error.path1().string())), error.code().value());
 }
 
 void SaveJournal::Stage(std::vector<Change>& changes) {
@@ -257,7 +256,7 @@ void SaveJournal::StageWrite(size_t index, Change& change) {
   if (status) {
     RefuseOtherThanFile(*status, change.path);
     Check(syscalls::KeepCopy(change.path, Old(index)), change.path);
-    mode = status->st_mode & 0777;
+    mode = status->mode & 0777;
   }
   syscalls::NewFile file(New(index));
   const ByteSink write = [&](QByteArrayView piece) { Check(file.Write(piece), change.path); };
@@ -358,8 +357,8 @@ void SaveJournal::TakeBackOne(size_t index, const Change& change) {
 }
 
 int SaveJournal::Discard() {
-  struct stat status;
-  if (syscalls::Look(stage_, &status) == 0 && !S_ISDIR(status.st_mode)) {
+  FileStatus status;
+  if (syscalls::Look(stage_, &status) == 0 && !status.IsDirectory()) {
     return syscalls::Unlink(stage_);  // a link, wherever it leads
   }
   // The marks go first and for good. Where one stays, all stays, so that Recover may repeat the

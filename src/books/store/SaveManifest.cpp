@@ -1,11 +1,11 @@
 #include "books/store/SaveManifest.h"
 
-#include <QFile>
 #include <algorithm>
 #include <cerrno>
 
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -68,7 +68,7 @@ std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArr
   if (error == 0) {
     if (auto changes = ParseManifest(bytes, root)) return *std::move(changes);
   }
-  ThrowFileError(u"Не удалось прочитать список прерванной записи"_s, QFile::decodeName(file),
+  ThrowFileError(u"Не удалось прочитать список прерванной записи"_s, DecodePath(file),
                  error == 0 ? EBADMSG : error);
 }
 

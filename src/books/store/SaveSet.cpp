@@ -1,27 +1,27 @@
 #include "books/store/SaveSet.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
 #include "books/store/Errors.h"
 #include "books/store/SaveJournal.h"
 #include "books/store/SaveWatch.h"
+#include "system/PathNames.h"
 
 namespace kladez {
 
 // What this set makes is found whatever its letter case, as if it lay on the disk already.
 QByteArray SaveSet::Target(const QString& path) const {
   QString target = data_.Resolve(path);
-  if (QFileInfo::exists(target)) return QFile::encodeName(target);
+  if (QFileInfo::exists(target)) return EncodePath(target);
   for (const Change& change : changes_) {
     if (change.kind != Kind::kWrite && change.kind != Kind::kMakeDirectory) continue;
-    const QString made = QFile::decodeName(change.path);
+    const QString made = DecodePath(change.path);
     if (!target.startsWith(made, Qt::CaseInsensitive)) continue;
     if (target.size() > made.size() && target[made.size()] != u'/') continue;
     target.replace(0, made.size(), made);
   }
-  return QFile::encodeName(target);
+  return EncodePath(target);
 }
 
 SaveSet::Change* SaveSet::LastChangeOf(const QByteArray& target) {
@@ -92,7 +92,7 @@ void SaveSet::MakeDirectory(const QString& path) {
   const QByteArray target = Target(path);
   const Change* last = LastChangeOf(target);
   const bool made = last != nullptr && last->kind == Kind::kMakeDirectory;
-  if (!made && !QFileInfo(QFile::decodeName(target)).isDir()) MakeNewDirectory(path);
+  if (!made && !QFileInfo(DecodePath(target)).isDir()) MakeNewDirectory(path);
 }
 
 void SaveSet::MakeNewDirectory(const QString& path) {
@@ -107,7 +107,7 @@ void SaveSet::RenameDirectory(const QString& from, const QString& to) {
     QStringView name(to);
     if (name.endsWith(u'\\')) name.chop(1);
     name = name.sliced(name.lastIndexOf(u'\\') + 1);
-    target = target.left(target.lastIndexOf('/') + 1) + QFile::encodeName(name.toString());
+    target = target.left(target.lastIndexOf('/') + 1) + EncodePath(name.toString());
   }
   changes_.push_back(
       {.kind = Kind::kRename, .path = std::move(source), .to = std::move(target), .bytes = {}});

@@ -1,9 +1,6 @@
 #include "books/store/SettingsStore.h"
 
-#include <sys/stat.h>
-
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <cerrno>
@@ -11,8 +8,9 @@
 
 #include "books/store/DirectoryLock.h"
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
 #include "formats/Numbers.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
@@ -33,14 +31,14 @@ QString KeyOf(const Setting& setting) {
 // Where the file really lies: a user may keep it, or its directory, elsewhere by a link.
 QByteArray PlainPath(const QString& file) {
   const QFileInfo there(file);
-  if (there.exists()) return QFile::encodeName(there.canonicalFilePath());
+  if (there.exists()) return EncodePath(there.canonicalFilePath());
   const QString directory = QFileInfo(there.absolutePath()).canonicalFilePath();
-  return QFile::encodeName(directory + u'/' + there.fileName());
+  return EncodePath(directory + u'/' + there.fileName());
 }
 
 void CheckWritten(int error, const QByteArray& path) {
   if (error != 0) {
-    ThrowFileError(u"Не удалось записать настройки"_s, QFile::decodeName(path), error);
+    ThrowFileError(u"Не удалось записать настройки"_s, DecodePath(path), error);
   }
 }
 
@@ -49,8 +47,8 @@ void Replace(const QByteArray& path, const QByteArray& bytes) {
   const QByteArray directory = path.left(path.lastIndexOf('/'));
   const DirectoryLock lock(directory, std::chrono::milliseconds(200));
   const QByteArray draft = path + ".new";
-  struct stat status;
-  const unsigned mode = syscalls::Look(path, &status) == 0 ? status.st_mode & 0777 : 0600;
+  FileStatus status;
+  const unsigned mode = syscalls::Look(path, &status) == 0 ? status.mode & 0777 : 0600;
   if (syscalls::Exists(draft)) CheckWritten(syscalls::Unlink(draft), draft);  // a crash left it
   try {
     CheckWritten(syscalls::WriteNewFile(draft, bytes, mode), draft);

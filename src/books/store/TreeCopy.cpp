@@ -1,39 +1,34 @@
 #include "books/store/TreeCopy.h"
 
-#include <sys/stat.h>
-
-#include <QFile>
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
+#include "system/OpenFile.h"
+#include "system/PathNames.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {
 
 using namespace Qt::StringLiterals;
-namespace fs = std::filesystem;
 
 // A directory or an empty file takes its time too.
 constexpr qint64 kWorkPerPiece = 4096;
 
 [[noreturn]] void Fail(const QString& doing, const QByteArray& path, int error) {
-  ThrowFileError(doing, QFile::decodeName(path), error);
+  ThrowFileError(doing, DecodePath(path), error);
 }
 
-fs::path PathOf(const QByteArray& path) { return fs::path(path.toStdString()); }
-
 std::vector<QByteArray> NamesIn(const QByteArray& directory) {
-  std::error_code error;
+  syscalls::OpenFile open;
   std::vector<QByteArray> names;
-  fs::directory_iterator entry(PathOf(directory), error);
-  while (!error && entry != fs::directory_iterator()) {
-    names.push_back(QByteArray::fromStdString(entry->path().filename().string()));
-    entry.increment(error);
+  int error = open.Open(directory);
+  if (error == 0) {
+    error = open.ForEachEntry(
+        [&](const char* name, FileStatus::Kind) { names.push_back(QByteArray(name)); });
   }
-  if (error) Fail(u"Не удалось прочитать каталог"_s, directory, error.value());
+  if (error != 0) Fail(u"Не удалось прочитать каталог"_s, directory, error);
   std::sort(names.begin(), names.end());
   return names;
 }
@@ -41,14 +36,13 @@ std::vector<QByteArray> NamesIn(const QByteArray& directory) {
 }  // namespace
 
 void TreeCopy::AddFile(const QByteArray& from, const QByteArray& to) {
-  std::error_code error;
-  const auto status = fs::symlink_status(PathOf(from), error);
-  if (error) Fail(u"Не удалось прочитать файл"_s, from, error.value());
-  if (fs::is_symlink(status)) Fail(u"Ссылки не копируются"_s, from, ELOOP);
-  if (!fs::is_regular_file(status)) Fail(u"Это не файл, он не копируется"_s, from, EINVAL);
-  const auto bytes = static_cast<qint64>(fs::file_size(PathOf(from), error));
-  if (error) Fail(u"Не удалось прочитать файл"_s, from, error.value());
-  pieces_.push_back({from, to, bytes + kWorkPerPiece});
+  FileStatus status;
+  if (const int error = syscalls::LookThroughLinks(from, &status)) {
+    Fail(u"Не удалось прочитать файл"_s, from, error);
+  }
+  if (status.kind == FileStatus::Kind::kLink) Fail(u"Ссылки не копируются"_s, from, ELOOP);
+  if (!status.IsFile()) Fail(u"Это не файл, он не копируется"_s, from, EINVAL);
+  pieces_.push_back({from, to, status.size + kWorkPerPiece});
   size_ += pieces_.back().size;
 }
 
@@ -57,8 +51,8 @@ void TreeCopy::AddTree(const QByteArray& from, const QByteArray& to) {
   size_ += kWorkPerPiece;
   for (const QByteArray& name : NamesIn(from)) {
     const QByteArray path = from + '/' + name;
-    std::error_code error;
-    if (fs::is_directory(fs::symlink_status(PathOf(path), error))) {
+    FileStatus status;
+    if (syscalls::LookThroughLinks(path, &status) == 0 && status.IsDirectory()) {
       AddTree(path, to + '/' + name);
     } else {
       AddFile(path, to + '/' + name);
@@ -81,7 +75,7 @@ void TreeCopy::Run(const Progress& progress) const {
   }
   // An empty file has no byte that could have failed to be written.
   for (const Piece& piece : pieces_) {
-    struct stat status;
+    FileStatus status;
     if (const int error = syscalls::Look(piece.to, &status)) {
       Fail(u"В копии нет файла"_s, piece.to, error);
     }

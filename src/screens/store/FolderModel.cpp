@@ -1,11 +1,11 @@
 #include "screens/store/FolderModel.h"
 
 #include <QDir>
-#include <QFile>
 #include <algorithm>
 #include <filesystem>
 
 #include "formats/Ordering.h"
+#include "system/PathNames.h"
 #include "ui/controls/Look.h"
 
 namespace kladez {
@@ -27,11 +27,11 @@ QStringList FoldersIn(const QString& path) {
   namespace fs = std::filesystem;
   QStringList names;
   std::error_code error;
-  fs::directory_iterator entry(QFile::encodeName(path).toStdString(), error);
+  fs::directory_iterator entry(EncodePath(path).toStdString(), error);
   for (int count = 0; !error && entry != fs::directory_iterator() && count < kMostEntries;
        ++count, entry.increment(error)) {
     std::error_code unknown;
-    const QString name = QFile::decodeName(entry->path().filename().c_str());
+    const QString name = DecodePath(QByteArray::fromStdString(entry->path().filename().string()));
     if (!name.startsWith(u'.') && entry->is_directory(unknown)) names.append(name);
   }
   std::sort(names.begin(), names.end(),

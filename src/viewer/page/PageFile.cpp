@@ -1,12 +1,9 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <QFile>
 #include <QImageReader>
 #include <cerrno>
 #include <system_error>
 
+#include "system/Process.h"
 #include "viewer/page/Limits.h"
 #include "viewer/page/PagePaths.h"
 #include "viewer/page/PageReader.h"
@@ -21,21 +18,8 @@ namespace {
   throw std::system_error(error != 0 ? error : EIO, std::generic_category(), path.toStdString());
 }
 
-// Opens a plain file to be read. What hangs or never ends, such as a pipe or a device, is refused
-// with ESPIPE; nobody is waited for.
 void OpenPlain(const QString& path, QFile& file) {
-  const int descriptor =
-      ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-  if (descriptor < 0) ThrowFor(path, errno);
-  struct stat status = {};
-  const int failure = ::fstat(descriptor, &status) != 0 ? errno
-                      : S_ISDIR(status.st_mode)         ? EISDIR
-                      : S_ISREG(status.st_mode)         ? 0
-                                                        : ESPIPE;
-  if (failure != 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
-    ::close(descriptor);
-    ThrowFor(path, failure);
-  }
+  if (const int error = syscalls::OpenToRead(path, file)) ThrowFor(path, error);
 }
 
 // A picture of a print-out lies beside it, whatever the case of its letters.
@@ -76,9 +60,9 @@ Page ReadPageFile(const QDir& directory, const QString& name, const Progress& pr
   {
     QFile file;
     OpenPlain(path, file);
-    errno = 0;
+    syscalls::ForgetErrors();
     const QByteArray bytes = file.read(limits::kBytes + 1);
-    if (file.error() != QFileDevice::NoError) ThrowFor(path, errno);
+    if (file.error() != QFileDevice::NoError) ThrowFor(path, syscalls::LastError());
     text = DecodePage(bytes);
   }
   qsizetype room = limits::kPicturePoints;

@@ -4,9 +4,10 @@
 #include <QPdfWriter>
 #include <QRegularExpression>
 #include <QSaveFile>
-#include <cerrno>
 #include <numeric>
 #include <system_error>
+
+#include "system/Process.h"
 
 namespace kladez::viewer {
 using namespace Qt::StringLiterals;
@@ -16,7 +17,7 @@ namespace {
 constexpr int kPdfDpi = 600;
 
 [[noreturn]] void ThrowFor(const QString& path) {
-  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), path.toStdString());
+  throw std::system_error(syscalls::LastError(), std::generic_category(), path.toStdString());
 }
 
 }  // namespace
@@ -34,7 +35,7 @@ bool DrawSheets(const PaperLayout& layout, const std::vector<int>& sheets,
 void WritePdf(const PaperLayout& layout, const QString& title, const QString& path,
               const Progress& progress) {
   QSaveFile file(path);
-  errno = 0;
+  syscalls::ForgetErrors();
   if (!file.open(QIODevice::WriteOnly)) ThrowFor(path);
   QPdfWriter writer(&file);
   writer.setTitle(title);
@@ -46,10 +47,10 @@ void WritePdf(const PaperLayout& layout, const QString& title, const QString& pa
   if (!painter.begin(&writer)) ThrowFor(path);
   std::vector<int> sheets(static_cast<size_t>(layout.SheetCount()));
   std::iota(sheets.begin(), sheets.end(), 0);
-  errno = 0;
+  syscalls::ForgetErrors();
   if (!DrawSheets(layout, sheets, writer, painter, progress)) ThrowFor(path);
   painter.end();
-  errno = 0;
+  syscalls::ForgetErrors();
   if (!file.commit()) ThrowFor(path);
 }
 
@@ -72,7 +73,7 @@ QStringList ExportSheetPictures(std::shared_ptr<const Page> page, const QString&
     layout.Draw(painter, sheet, dpi);
     painter.end();
     paths << QDir(directory).filePath(u"%1-%2.png"_s.arg(name).arg(sheet + 1));
-    errno = 0;
+    syscalls::ForgetErrors();
     if (!picture.save(paths.last())) ThrowFor(paths.last());
   }
   return paths;

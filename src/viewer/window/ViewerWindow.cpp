@@ -9,10 +9,10 @@
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <cerrno>
 #include <system_error>
 #include <utility>
 
+#include "system/Process.h"
 #include "viewer/page/PageName.h"
 #include "viewer/window/Mail.h"
 #include "viewer/window/PreviewDialog.h"
@@ -240,9 +240,9 @@ void RenderWindowPicture(std::shared_ptr<const Page> page, const QString& path) 
   ViewerWindow window(QDir(), {});
   window.ShowPage(std::move(page));
   window.resize(window.findChild<PageView*>()->WidthForPage(), kMostHeight);
-  errno = 0;
+  syscalls::ForgetErrors();
   if (!window.grab().save(path))
-    throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), path.toStdString());
+    throw std::system_error(syscalls::LastError(), std::generic_category(), path.toStdString());
 }
 
 }  // namespace kladez::viewer

@@ -6,8 +6,8 @@
 #include "books/copies/CopiesWorld.h"
 #include "books/store/Errors.h"
 #include "books/store/Notes.h"
-#include "books/store/SystemCalls.h"
 #include "formats/Progress.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "SmallBooks.h"
 #include "books/prices/PriceStore.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

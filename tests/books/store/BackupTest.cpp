@@ -4,7 +4,7 @@
 #include "TempData.h"
 #include "books/store/Backup.h"
 #include "books/store/Errors.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

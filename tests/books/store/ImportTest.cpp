@@ -4,7 +4,7 @@
 #include "books/store/Catalogue.h"
 #include "books/store/Errors.h"
 #include "books/store/Import.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

@@ -5,7 +5,7 @@
 #include "SaveFailure.h"
 #include "SaveScenarios.h"
 #include "books/store/Notes.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

@@ -1,7 +1,7 @@
 #include "SaveScenarios.h"
 
 #include "books/store/Catalogue.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 

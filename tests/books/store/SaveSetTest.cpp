@@ -10,7 +10,7 @@
 #include "books/store/DirectoryLock.h"
 #include "books/store/Notes.h"
 #include "books/store/SaveSet.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "DiesAtStep.h"
 #include "books/store/SettingsStore.h"
-#include "books/store/SystemCalls.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

@@ -3,9 +3,9 @@
 
 #include "ScreenDriver.h"
 #include "SmallBooks.h"
-#include "books/store/SystemCalls.h"
 #include "screens/prices/PricePicker.h"
 #include "screens/prices/PriceScreen.h"
+#include "system/SystemCalls.h"
 #include "ui/controls/RecordList.h"
 
 namespace kladez {

@@ -5,6 +5,7 @@
 #include "screens/store/CatalogueDialog.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

@@ -4,12 +4,12 @@
 
 #include "ScreenDriver.h"
 #include "books/store/Catalogue.h"
-#include "books/store/SystemCalls.h"
 #include "screens/store/BackupWizard.h"
 #include "screens/store/CatalogueList.h"
 #include "screens/store/FolderChooser.h"
 #include "screens/store/FolderModel.h"
 #include "screens/store/RestoreWizard.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

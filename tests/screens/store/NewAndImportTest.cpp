@@ -1,7 +1,7 @@
 #include "CatalogueWorld.h"
-#include "books/store/SystemCalls.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
+#include "system/SystemCalls.h"
 
 namespace kladez {
 namespace {

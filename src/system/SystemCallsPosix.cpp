@@ -1,5 +1,3 @@
-#include "books/store/SystemCalls.h"
-
 #include <dirent.h>
 #include <fcntl.h>
 #include <linux/openat2.h>
@@ -15,27 +13,20 @@
 #include <cerrno>
 #include <memory>
 
+#include "system/FaultHooks.h"
+#include "system/StatusPosix.h"
+
 namespace kladez::syscalls {
 namespace {
 
-FaultHook& Hook() {
-  static FaultHook hook;
-  return hook;
-}
-
-int Fault(std::string_view call, const QByteArray& path) { return Hook() ? Hook()(call, path) : 0; }
-
-Recorder& TheRecorder() {
-  static Recorder recorder;
-  return recorder;
-}
+int Of(qintptr handle) { return static_cast<int>(handle); }
 
 int Result(int returned) { return returned < 0 ? errno : 0; }
 
 // The result of a change, told to the recorder where it was made.
 int Result(int returned, const Made& made) {
   if (returned < 0) return errno;
-  if (TheRecorder()) TheRecorder()(made);
+  TellMade(made);
   return 0;
 }
 
@@ -193,42 +184,31 @@ int RemoveAt(int directory, const QByteArray& name, const QByteArray& path) {
 
 }  // namespace
 
-void SetFaultHook(FaultHook hook) { Hook() = std::move(hook); }
-
-void SetRecorder(Recorder recorder) { TheRecorder() = std::move(recorder); }
-
 void PretendOldKernel(bool old) { OldKernel() = old; }
 
 NewFile::~NewFile() {
-  if (fd_ >= 0) ::close(fd_);
+  if (handle_ >= 0) ::close(Of(handle_));
 }
 
 int NewFile::Create(unsigned mode) {
   if (const int error = Fault("create", path_)) return error;
-  fd_ = OpenPlain(path_, O_WRONLY | O_CREAT | O_EXCL, 0666);
-  if (const int error = Result(fd_, {.call = "create", .path = path_})) return error;
-  if (mode != 0) ::fchmod(fd_, mode);  // file systems without modes refuse, and need none
+  handle_ = OpenPlain(path_, O_WRONLY | O_CREAT | O_EXCL, 0666);
+  if (const int error = Result(Of(handle_), {.call = "create", .path = path_})) return error;
+  if (mode != 0) ::fchmod(Of(handle_), mode);  // file systems without modes refuse, and need none
   return 0;
 }
 
-int NewFile::Write(QByteArrayView bytes) { return WriteAll(fd_, bytes, path_); }
+int NewFile::Write(QByteArrayView bytes) { return WriteAll(Of(handle_), bytes, path_); }
 
 int NewFile::Sync() {
   if (const int error = Fault("fsync", path_)) return error;
-  return Result(::fsync(fd_), {.call = "fsync", .path = path_});
+  return Result(::fsync(Of(handle_)), {.call = "fsync", .path = path_});
 }
 
 void NewFile::SetTime(qint64 seconds) {
   const timespec time = {.tv_sec = seconds, .tv_nsec = 0};
   const std::array<timespec, 2> times = {time, time};
-  ::futimens(fd_, times.data());
-}
-
-int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {
-  NewFile file(path);
-  if (const int error = file.Create(mode)) return error;
-  if (const int error = file.Write(bytes)) return error;
-  return file.Sync();
+  ::futimens(Of(handle_), times.data());
 }
 
 int SyncDirectory(const QByteArray& path) {
@@ -254,16 +234,16 @@ int RenameToNew(const QByteArray& from, const QByteArray& to) {
 
 int MoveAway(const QByteArray& from, const QByteArray& to) {
   const int error = Rename(from, to);
-  struct stat status;
-  if (error != EACCES || Look(from, &status) != 0 || !S_ISDIR(status.st_mode)) return error;
+  FileStatus status;
+  if (error != EACCES || Look(from, &status) != 0 || !status.IsDirectory()) return error;
   // A directory's own entry of its parent is written by the move, which takes the right to write.
   const Place place(from);
   const auto set_mode = [&](mode_t mode) {
     return ::fchmodat(place.Directory(), place.Name(), mode & 07777, AT_SYMLINK_NOFOLLOW);
   };
-  if (set_mode(status.st_mode | 0700) < 0) return errno;
+  if (set_mode(status.mode | 0700) < 0) return errno;
   const int again = Rename(from, to);
-  if (again != 0) set_mode(status.st_mode);
+  if (again != 0) set_mode(status.mode);
   return again;
 }
 
@@ -334,10 +314,20 @@ int RemoveTree(const QByteArray& path) {
   return RemoveAt(place.Directory(), place.Name(), path);
 }
 
-int Look(const QByteArray& path, struct stat* status) {
+int Look(const QByteArray& path, FileStatus* status) {
   const Place place(path);
   if (place.Error() != 0) return place.Error();
-  return Result(::fstatat(place.Directory(), place.Name(), status, AT_SYMLINK_NOFOLLOW));
+  struct stat found;
+  if (::fstatat(place.Directory(), place.Name(), &found, AT_SYMLINK_NOFOLLOW) < 0) return errno;
+  *status = StatusOf(found);
+  return 0;
+}
+
+int LookThroughLinks(const QByteArray& path, FileStatus* status) {
+  struct stat found;
+  if (::lstat(path.constData(), &found) < 0) return errno;
+  *status = StatusOf(found);
+  return 0;
 }
 
 bool Exists(const QByteArray& path) {
@@ -368,10 +358,10 @@ int ReadPlainFile(const QByteArray& path, qint64 most, QByteArray* bytes) {
 }
 
 int WriteRefusal(const QByteArray& path) {
-  struct stat status;
+  FileStatus status;
   if (const int error = Look(path, &status)) return error;
-  if (S_ISLNK(status.st_mode)) return ELOOP;
-  if ((status.st_mode & 0222) == 0) return EACCES;
+  if (status.kind == FileStatus::Kind::kLink) return ELOOP;
+  if ((status.mode & 0222) == 0) return EACCES;
   return ::access(path.constData(), W_OK) < 0 ? errno : 0;
 }
 

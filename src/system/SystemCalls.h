@@ -7,7 +7,7 @@
 #include <functional>
 #include <string_view>
 
-struct stat;
+#include "system/FileStatus.h"
 
 namespace kladez::syscalls {
 
@@ -48,7 +48,9 @@ int RemoveTree(const QByteArray& path);  // with all that it holds, read-only or
 
 bool Exists(const QByteArray& path);  // a link counts, wherever it leads
 // What lies there, a link being a link; ENOENT where nothing does.
-int Look(const QByteArray& path, struct stat* status);
+int Look(const QByteArray& path, FileStatus* status);
+// The same where directories on the way may be links.
+int LookThroughLinks(const QByteArray& path, FileStatus* status);
 // The bytes of a plain file, EFBIG where there are more of them; nothing else is read from.
 int ReadPlainFile(const QByteArray& path, qint64 most, QByteArray* bytes);
 // As on a kernel that can't look a path up without links by itself; for tests.
@@ -76,7 +78,7 @@ class NewFile {
 
  private:
   const QByteArray path_;
-  int fd_ = -1;
+  qintptr handle_ = -1;
 };
 
 }  // namespace kladez::syscalls

@@ -1,5 +1,3 @@
-#include "books/store/DirectoryWatch.h"
-
 #include <linux/magic.h>
 #include <sys/inotify.h>
 #include <sys/stat.h>
@@ -9,6 +7,8 @@
 #include <array>
 #include <cerrno>
 #include <initializer_list>
+
+#include "system/DirectoryWatch.h"
 
 namespace kladez {
 namespace {

@@ -1,0 +1,37 @@
+#include "system/SystemCalls.h"
+
+#include "system/FaultHooks.h"
+
+namespace kladez::syscalls {
+namespace {
+
+FaultHook& Hook() {
+  static FaultHook hook;
+  return hook;
+}
+
+Recorder& TheRecorder() {
+  static Recorder recorder;
+  return recorder;
+}
+
+}  // namespace
+
+void SetFaultHook(FaultHook hook) { Hook() = std::move(hook); }
+
+void SetRecorder(Recorder recorder) { TheRecorder() = std::move(recorder); }
+
+int Fault(std::string_view call, const QByteArray& path) { return Hook() ? Hook()(call, path) : 0; }
+
+void TellMade(const Made& made) {
+  if (TheRecorder()) TheRecorder()(made);
+}
+
+int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {
+  NewFile file(path);
+  if (const int error = file.Create(mode)) return error;
+  if (const int error = file.Write(bytes)) return error;
+  return file.Sync();
+}
+
+}  // namespace kladez::syscalls
