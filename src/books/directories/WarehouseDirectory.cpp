@@ -1,5 +1,6 @@
 #include "books/directories/WarehouseDirectory.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <cerrno>
 
@@ -23,10 +24,35 @@ QString PathOf(const Session& session, const QString& name) {
   return session.Path(name);
 }
 
-void RefuseAllWarehouses(const QString& name) {
-  if (name != kAllWarehouses) return;
-  ThrowFileError(u"Эти слова означают все склады вместе, назвать так один склад нельзя"_s, name,
-                 EINVAL);
+// Names of devices in Windows, with whatever stands behind a point.
+bool IsDevice(const QString& name) {
+  static const QRegularExpression kDevice(
+      u"^(CON|PRN|AUX|NUL|CONIN\\$|CONOUT\\$|(COM|LPT)[1-9¹²³]) *(\\.|$)"_s,
+      QRegularExpression::CaseInsensitiveOption);
+  return kDevice.match(name).hasMatch();
+}
+
+// Books travel: what no directory of Windows may be called is refused everywhere. Warehouses that
+// are called so already are left alone.
+void RefuseNameForNew(const QString& name) {
+  if (name == kAllWarehouses) {
+    ThrowFileError(u"Эти слова означают все склады вместе, назвать так один склад нельзя"_s, name,
+                   EINVAL);
+  }
+  if (IsDevice(name)) {
+    ThrowFileError(
+        u"Имя склада служит именем его каталога, а это имя в Windows занято устройством: "
+        u"CON, PRN, AUX, NUL, COM1–COM9, LPT1–LPT9"_s,
+        name, EINVAL);
+  }
+  const bool control =
+      std::any_of(name.begin(), name.end(), [](QChar c) { return c.unicode() < 0x20; });
+  if (control || HoldsForbiddenCharacter(name) || name.endsWith(u' ') || name.endsWith(u'.')) {
+    ThrowFileError(
+        u"Имя склада служит именем его каталога и должно годиться для Windows: без пробела "
+        u"или точки в конце, без табуляции и знаков \\/:*?\"<>|"_s,
+        name, EINVAL);
+  }
 }
 
 }  // namespace
@@ -51,8 +77,8 @@ void WarehouseDirectory::WriteList(SaveSet& save, const QStringList& names) cons
 }
 
 void WarehouseDirectory::Create(const QString& name) {
-  RefuseAllWarehouses(name);
   const QString path = PathOf(session_, name);
+  RefuseNameForNew(name);
   // A directory that is there already, be it the Database's own, must not become a warehouse.
   if (data_.DirectoryExists(path)) {
     ThrowFileError(u"Не удалось создать склад"_s, path, EEXIST);
@@ -68,9 +94,10 @@ void WarehouseDirectory::Create(const QString& name) {
 
 void WarehouseDirectory::Rename(int row, const QString& name) {
   if (name == names_[row]) return;
-  RefuseAllWarehouses(name);
+  const QString path = PathOf(session_, name);
+  RefuseNameForNew(name);
   SaveSet save(data_, u"склад «%1» переименован"_s.arg(names_[row]));
-  save.RenameDirectory(PathOf(session_, names_[row]), PathOf(session_, name));
+  save.RenameDirectory(PathOf(session_, names_[row]), path);
   save.Commit();
   names_[row] = name;
 }

@@ -59,6 +59,28 @@ TEST_F(WarehouseDirectoryTest, RefusedNamesChangeNeitherListNorDisk) {
   }
 }
 
+TEST_F(WarehouseDirectoryTest, NamesThatWindowsKeepsForItselfAreForOldWarehousesOnly) {
+  const QStringList kept = {u"CON"_s,      u"nul"_s,  u"Aux.старый"_s, u"prn ."_s,  u"COM1"_s,
+                            u"lpt9.txt"_s, u"com³"_s, u"CONIN$"_s,     u"Лавка "_s, u"Лавка."_s,
+                            u"а\tб"_s,     u"а:б"_s,  u"а\x1F"_s};
+  world_.Remember();
+  WarehouseDirectory warehouses = Open();
+  for (const QString& name : kept) {
+    SCOPED_TRACE(name.toStdString());
+    EXPECT_THROW(warehouses.Create(name), FileError);
+    EXPECT_THROW(warehouses.Rename(0, name), FileError);
+    world_.ExpectUnchanged();
+  }
+  // Made elsewhere: it is worked with as any other, and may get a better name.
+  QDir(world_.Temp().Root()).mkpath(u"0001/con"_s);
+  world_.TheSession().warehouses.append(u"con"_s);
+  WarehouseDirectory old = Open();
+  old.Rename(1, u"con"_s);
+  old.Rename(1, u"Конный двор"_s);
+  EXPECT_TRUE(world_.Data().DirectoryExists(u"0001\\Конный двор"_s));
+  for (const QString& name : {u" COM"_s, u"COM10"_s, u"Consul"_s, u".nul"_s}) old.Create(name);
+}
+
 TEST_F(WarehouseDirectoryTest, RenameMovesTheDirectoryAloneUntilItIsSaved) {
   Open().Create(u"Второй"_s);
   world_.PutLines(u"Второй\\товар.usl"_s, {u"Чай"_s, u"1"_s, u"пач."_s});
