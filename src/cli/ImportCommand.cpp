@@ -1,7 +1,7 @@
 #include "books/copies/Safekeeping.h"
 #include "books/prices/GoodsBringer.h"
 #include "books/prices/PriceStore.h"
-#include "books/store/OutsideFile.h"
+#include "books/prices/SheetFile.h"
 #include "cli/Commands.h"
 #include "cli/OpenedBooks.h"
 
@@ -66,8 +66,7 @@ ExitCode RunImport(Words& words, QTextStream& out) {
   TakePriceList(words.TakeValue(u"--prices"_s), books, choice);
   const QString columns = words.TakeValue(u"--columns"_s);
   const bool only_try = words.TakeFlag(u"--try"_s);
-  const Sheet sheet =
-      ReadSheet(DecodeSheet(ReadOutside(words.TakeRest(1, 1).value(0), kMostSheetBytes)));
+  const Sheet sheet = ReadSheetFile(words.TakeRest(1, 1).value(0));
   const bool to_prices = choice.price_list >= 0;
   choice.layout = GuessLayout(sheet, to_prices ? PlainPrice::kSale : PlainPrice::kPurchase);
   TakeColumns(columns, choice.layout);

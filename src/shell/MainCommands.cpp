@@ -37,6 +37,7 @@ constexpr auto kAsides = std::to_array<AsideRow>({
     {kCheck, &Run<CheckDialog>},
     {kUndo, nullptr},
     {kTimeMachine, nullptr},
+    {kLoadTable, nullptr},
     {kHelp, [](AppContext& context, QWidget* parent) { OpenHelpFile(parent, context.data); }},
     {kProductPage, [](AppContext&, QWidget* parent) { OpenAddress(parent, kProductAddress); }},
     {kNewsPage, [](AppContext&, QWidget* parent) { OpenAddress(parent, kNewsAddress); }},

@@ -34,6 +34,7 @@ constexpr auto kCommands = std::to_array<CommandRow>({
     {u"mnuFile", Command::kCheck, u"mnuCheck", u"&Проверка базы…", true},
     {u"mnuFile", Command::kTimeMachine, u"mnuTimeMachine", u"&Машина времени…"},
     {u"mnuFile", Command::kUndo, u"mnuUndo", u"О&тменить"},
+    {u"mnuFile", Command::kLoadTable, u"mnuLoadTable", u"За&грузить таблицу…", true},
     {u"mnHelp", Command::kHelp, u"mnuHelp", u"&Справка по Kladez 4.8..."},
     {u"mnHelp", Command::kProductPage, u"mnWeb", u"&Kladez в Интернете", true},
     {u"mnHelp", Command::kNewsPage, u"mnNews", u"&Новости Kladez"},
@@ -134,6 +135,7 @@ void MainMenu::EnableDatabaseCommands(bool enable) {
   commands_[Command::kImport]->setEnabled(enable);
   commands_[Command::kClose]->setEnabled(enable);
   commands_[Command::kCheck]->setEnabled(enable);
+  commands_[Command::kLoadTable]->setEnabled(enable);
 }
 
 void MainMenu::ShowUndo(const QString& what) {

@@ -26,6 +26,7 @@ enum class Command {
   kCheck,
   kUndo,
   kTimeMachine,
+  kLoadTable,
   kHelp,
   kProductPage,
   kNewsPage,
@@ -40,7 +41,8 @@ class MainMenu : public QObject {
   MainMenu(QMenuBar* bar, QObject* parent);
 
   void ShowDatabaseMenus(bool show);  // "Склад", "Отчеты", "Справочники"
-  void EnableDatabaseCommands(bool enable);  // "Импорт...", "Закрыть", "Проверка базы…"
+  void EnableDatabaseCommands(
+      bool enable);  // "Импорт...", "Закрыть", "Проверка базы…", "Загрузить таблицу…"
   // What the seller may not do is greyed; everything else is enabled.
   void ApplyRole(bool seller);
   // The choice "Оформление", at the end of "Файл"; the stored one holds from now on.

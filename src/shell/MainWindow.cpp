@@ -10,6 +10,7 @@
 #include "books/store/Catalogue.h"
 #include "books/store/SaveSet.h"
 #include "formats/DatabaseFiles.h"
+#include "screens/directories/LoadTableDialog.h"
 #include "screens/store/ImportSourceDialog.h"
 #include "screens/store/NewDatabaseDialog.h"
 #include "screens/store/TimeMachineDialog.h"
@@ -273,6 +274,13 @@ void MainWindow::Do(Command command) {
       break;
     case Command::kTimeMachine:
       OpenTimeMachine();
+      break;
+    case Command::kLoadTable:
+      if (LoadTable(context_, this)) {
+        OpenDatabase();
+      } else {
+        Return();
+      }
       break;
     default:
       RunAside(command, context_, this);

@@ -1,5 +1,7 @@
 #include "tour/Visits.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <array>
 
 namespace kladez {
@@ -149,6 +151,18 @@ void VisitCatalogue(Robot& robot) {
   robot.Picture(u"Main"_s);  // with the first steps
 }
 
+// The list of a supplier on the clipboard: new goods, another price, a row that is refused.
+void VisitLoadTable(Robot& robot) {
+  robot.OpenMenu(u"mnuLoadTable"_s);
+  robot.WaitFor(u"loadtable"_s);
+  QGuiApplication::clipboard()->setText(
+      u"Наименование\tЕд.\tЦена закупа\tШтрихкод\nНовинки\n"
+      "Цикорий «Утро», 100 г\tпач.\t89,50\t4601234567893\nЧай «Ладья»\t\t1 051,00\t\n"
+      "Сушки\tкг\tпо запросу\t\n"_s);
+  robot.Press(Qt::Key_V, Qt::ControlModifier);
+  ShowAndLeave(robot, u"loadtable"_s);
+}
+
 void VisitCheck(Robot& robot) {
   robot.OpenMenu(u"mnuCheck"_s);
   robot.WaitFor(u"check"_s);
@@ -233,6 +247,7 @@ void VisitScreens(Robot& robot) {
   VisitReportList(robot);
   robot.OpenMenu(u"mnu_order"_s);
   ShowAndLeave(robot, u"order"_s);
+  VisitLoadTable(robot);
   VisitCheck(robot);
   VisitTimeMachine(robot);
   VisitCatalogue(robot);

@@ -24,7 +24,7 @@ TEST(HelpPages, EveryTopicOfAScreenHasItsPage) {
   for (const QString& topic :
        {u"workdb"_s, u"price"_s, u"ost"_s, u"vnot1"_s, u"vnot2"_s, u"vnot3"_s, u"vnot4"_s,
         u"vnot5"_s, u"vnot6"_s, u"vnot7"_s, u"vnot8"_s, u"vnot9"_s, u"otlist"_s, u"history"_s,
-        u"barcode"_s, u"order"_s, u"priceprint"_s, u"uhodchfakt"_s}) {
+        u"barcode"_s, u"order"_s, u"priceprint"_s, u"loadtable"_s, u"uhodchfakt"_s}) {
     EXPECT_TRUE(QFile::exists(kHelp + u'/' + topic + u".htm"_s)) << topic.toStdString();
   }
 }

@@ -1,6 +1,8 @@
 #include "GoldenCases.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QTest>
 #include <fstream>
@@ -167,6 +169,27 @@ std::vector<GoldenCase> DirectoryCases() {
        Changed(kBase + "SPR/товар.spr",
                u" Бакалея\nЧай\nИндия\n\nпач.\n45.00\nСоль\nРоссия\n\nкг\n9.50\n"
                u"Сахар\nРоссия\n\nкг\n55.50"_s)},
+      {"loadtable", "загрузка таблицы",
+       Menu(u"mnuLoadTable"_s, u"loadtable"_s) >>
+           [](Robot& robot) {
+             QGuiApplication::clipboard()->setText(
+                 u"Наименование\tЗакуп\tРозница\tМинимум\nЧай\t46,5\t70\t\nСахар\t1 000\t\t3"_s);
+             robot.Click(u"paste"_s);
+             robot.Type(u"group"_s, u"Бакалея"_s);
+             robot.Choose(u"Combo2"_s, u"Опт"_s);
+           },
+       Click(u"ok"_s),
+       [](Tree& tree) {
+         tree[kBase + "SPR/товар.spr"] = Lines(
+             u" Бакалея\nЧай\nИндия\n\nпач.\n46.50\nСоль\nРоссия\n\nкг\n9.50\n"
+             "Сахар\n\n\n\n1000.00"_s);
+         tree[kBase + "kladez/"] = "";
+         tree[kBase + "kladez/товары.usd"] = Lines(u"Сахар\nМинимум\n3\n\n"_s);
+         tree[kBase + "Главный склад/PRICE/0003.prc"] = Lines(
+             u" Бакалея\nЧай\nпач.\n46.50\n70.00\nСоль\nкг\n9.50\n9.50\n"
+             "Сахар\n\n1000.00\n1000.00"_s);
+       },
+       Beside::kNothing, "loadtable"},
       {"sprTovar sprTovNew", "товары: штрихкод и минимум",
        Menu(u"mnu_Sprav_T"_s, u"sprTovar"_s) >> Select(u"Соль"_s) >>
            Open(u"change"_s, u"sprTovNew"_s) >>

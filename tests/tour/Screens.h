@@ -29,6 +29,7 @@ inline const std::set<QString> kScreens = {
     QStringLiteral("sprSklad"),    QStringLiteral("sprTovNew"),    QStringLiteral("sprTovar"),
     QStringLiteral("sprklient"),   QStringLiteral("sprklientnew"), QStringLiteral("sprpostnew"),
     QStringLiteral("sprtovar2"),   QStringLiteral("vnNakl"),       QStringLiteral("vnutr"),
-    QStringLiteral("vnutrNew"),    QStringLiteral("vnutr_Ass"),    QStringLiteral("waitplease")};
+    QStringLiteral("vnutrNew"),    QStringLiteral("vnutr_Ass"),    QStringLiteral("waitplease"),
+    QStringLiteral("loadtable")};
 
 }  // namespace kladez

@@ -28,7 +28,6 @@ struct Sheet {
 // The limits: what lies behind them is left out, and said so.
 inline constexpr int kMostSheetColumns = 64;
 inline constexpr qsizetype kMostSheetCells = 2'000'000;
-inline constexpr qint64 kMostSheetBytes = qint64{64} << 20;  // of a file
 
 // The text of a file, whatever of the encodings it is in; never fails.
 QString DecodeSheet(QByteArrayView bytes);

@@ -9,6 +9,7 @@
 
 #include "screens/directories/GoodsBrowser.h"
 #include "screens/directories/GoodsForm.h"
+#include "screens/directories/LoadTableDialog.h"
 #include "screens/directories/PickQuestion.h"
 #include "ui/HistoryCommand.h"
 #include "ui/controls/Commands.h"
@@ -33,6 +34,7 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
       remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
       sort_(NewCommand(this, u"sort"_s, u"Сортиро&вка"_s, IconName::kSort)),
       chart_(NewCommand(this, u"chart"_s, u"Г&рафик..."_s, IconName::kChart)),
+      table_(NewCommand(this, u"table"_s, u"Из табли&цы…"_s, IconName::kOpen)),
       history_(NewHistoryCommand(this, context, [this] { return browser_->ForHistory(); })),
       choose_(NewCommand(this, u"Command7"_s, u"Вы&брать"_s, IconName::kPick)),
       close_(NewCommand(this, u"Command9"_s, u"&Закрыть"_s)),
@@ -60,6 +62,7 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, PickFor pick_for
   resize(look::ByLetters(this, 100, 70));
   choose_->show();
   chart_->hide();
+  table_->hide();
   browser_->SelectForPick(context.settings.Read(settings::kLastPick));
 }
 
@@ -82,7 +85,7 @@ void GoodsDirectoryScreen::BuildLayout() {
   look::SetPanelMargins(layout);
   layout->addWidget(browser_, 1);
   layout->addLayout(
-      NewCommandRow({add_, change_, remove_, sort_, chart_, history_}, {choose_, close_}));
+      NewCommandRow({add_, change_, remove_, sort_, table_, chart_, history_}, {choose_, close_}));
   TabByEye(this);
 }
 
@@ -91,6 +94,7 @@ void GoodsDirectoryScreen::Wire() {
   connect(change_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Change);
   connect(remove_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Remove);
   connect(sort_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Sort);
+  connect(table_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Bring);
   connect(chart_, &QPushButton::clicked, this, &GoodsDirectoryScreen::AskForChart);
   connect(choose_, &QPushButton::clicked, this, &GoodsDirectoryScreen::Choose);
   connect(close_, &QPushButton::clicked, this, &GoodsDirectoryScreen::CloseSaved);
@@ -176,6 +180,11 @@ QString GoodsDirectoryScreen::WhatGoes(const GoodsRecord& record) const {
 
 void GoodsDirectoryScreen::Sort() {
   browser_->ShowAnew([this] { Directory().Sort(); });
+}
+
+void GoodsDirectoryScreen::Bring() {
+  if (!unsaved_->MayGo() || !LoadTable(context_, this)) return;
+  browser_->ShowAnew([this] { Directory().Reload(Directory().View()); });
 }
 
 void GoodsDirectoryScreen::Move(bool up) {

@@ -46,6 +46,7 @@ class GoodsDirectoryScreen : public QWidget {
   void Change();
   void Remove();
   void Sort();
+  void Bring();
   void Move(bool up);
   void Choose();
   void AskForChart();
@@ -66,6 +67,7 @@ class GoodsDirectoryScreen : public QWidget {
   QPushButton* remove_;   // "Удалить"
   QPushButton* sort_;     // "Сортировка"
   QPushButton* chart_;    // "График..."
+  QPushButton* table_;    // "Из таблицы…"
   QPushButton* history_;  // "История…"
   QPushButton* choose_;   // "Выбрать"
   QPushButton* close_;    // "Закрыть"

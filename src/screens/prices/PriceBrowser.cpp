@@ -7,6 +7,7 @@
 
 #include "formats/Numbers.h"
 #include "screens/directories/GoodsDirectoryScreen.h"
+#include "screens/directories/LoadTableDialog.h"
 #include "screens/directories/QuantityDialog.h"
 #include "screens/prices/PriceRows.h"
 #include "screens/prices/SalePriceDialog.h"
@@ -58,6 +59,7 @@ std::vector<PriceBrowser::Command> PriceBrowser::CommandsOf(PriceUse use) {
           {u"Command2"_s, u"&Изменить"_s, IconName::kChange, &P::Change},
           copy,
           paste,
+          {u"table"_s, u"Из табли&цы…"_s, IconName::kOpen, &P::Bring},
           {u"Command9"_s, u"П&ечать"_s, IconName::kPrint, &P::Print},
           {u"Command10"_s, u"О&бновить"_s, IconName::kRefresh, &P::Refresh, Place::kPanel},
           {u"Command5"_s, u"Со&хранить"_s, IconName::kSave, &P::SaveList, Place::kRight},
@@ -357,6 +359,10 @@ void PriceBrowser::Paste() {
     if (store_.Paste(prices_, warehouse_->currentText(), price_list_->currentIndex()))
       ShowRows(selected);
   });
+}
+
+void PriceBrowser::Bring() {
+  if (MayReplace() && LoadTable(context_, this, shown_.warehouse, shown_.list)) Load();
 }
 
 void PriceBrowser::Print() {

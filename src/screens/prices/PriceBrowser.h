@@ -72,6 +72,7 @@ class PriceBrowser : public QWidget {
   void Pick();
   void Copy();
   void Paste();
+  void Bring();
   void Print();
   void SaveList();
   bool Save();
