@@ -391,6 +391,7 @@ std::vector<GoldenCase> PageCases() {
       Page("pricePrint", "прайс-лист",
            Menu(u"mnu_Sklad_PL"_s, u"Price"_s) >> Open(u"Command9"_s, u"pricePrint"_s)),
       Page("Sklad", "наличие", Menu(u"mnu_Sklad_NT"_s, u"Sklad"_s), u"Command2"_s),
+      Page("TovUhod", "журнал расхода", Menu(u"mnu_Sklad_R"_s, u"TovUhod"_s), u"Command9"_s),
       Page("otppr", "отчет по продажам", Menu(u"mnu_Otchet_OPP"_s, u"otppr"_s)),
       Page("otrpt", "скорость реализации", Menu(u"mnu_Otchet_RPVT"_s, u"otrpt"_s)),
       Page("otpruh", "поступление и реализация", Menu(u"mnu_Otchet_DB"_s, u"otpruh"_s)),

@@ -12,6 +12,7 @@
 #include "screens/stock/documents/CopyDialog.h"
 #include "screens/stock/documents/DocumentEditor.h"
 #include "screens/stock/documents/DocumentProperties.h"
+#include "screens/stock/documents/JournalPrinting.h"
 #include "screens/stock/documents/RegisterFilterPanel.h"
 #include "ui/Help.h"
 #include "ui/controls/Commands.h"
@@ -125,8 +126,9 @@ QLayout* DocumentRegisterScreen::NewCommands() {
   if (!screens_.has_journal) {
     return NewCommandRow({add_, change_, remove_, copy_, view_}, {close_});
   }
-  // There is no journal to print: the command has its place and does nothing.
   journal_ = NewCommand(this, u"Command9"_s, u"Печать &журнала"_s, IconName::kPrint);
+  connect(journal_, &QPushButton::clicked, this,
+          [this] { PrintJournal(context_, screens_, *filter_, shown_, this); });
   return NewCommandRow({add_, change_, remove_, copy_, view_, journal_}, {close_});
 }
 
