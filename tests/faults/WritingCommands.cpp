@@ -93,7 +93,8 @@ WritingCommand OfParties(const std::string& name, PartyKind kind) {
             Party party = list->Rows().empty() ? Party{} : list->Rows().front();
             party.resize(kind == PartyKind::kFirm ? 15 : 14);
             party[0] = u"ООО «Заря»"_s;
-            list->Add(party);
+            list->Add(party,
+                      kind == PartyKind::kClient ? ClientTerms{u"Опт"_s, u"5"_s} : ClientTerms());
             return [=] { list->Save(); };
           }};
 }

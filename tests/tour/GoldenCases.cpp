@@ -216,6 +216,18 @@ std::vector<GoldenCase> DirectoryCases() {
       {"sprklient sprklientnew", "клиенты: добавление",
        AddParty(u"mnu_Sprav_K"_s, u"sprklient"_s, u"sprklientnew"_s), Click(u"ok"_s),
        Changed(kBase + "SPR/klient.spr", u"ООО «Заря»"_s + u"\n"_s.repeated(13))},
+      {"sprklient sprklientnew", "клиенты: условия",
+       Menu(u"mnu_Sprav_K"_s, u"sprklient"_s) >> Open(u"add"_s, u"sprklientnew"_s) >>
+           [](Robot& robot) {
+             robot.Type(u"field1"_s, u"ООО «Заря»"_s);
+             robot.Type(u"price_list"_s, u"Опт"_s);
+             robot.Type(u"discount"_s, u"5"_s);
+           } >>
+           Open(u"ok"_s, u"sprklient"_s),
+       Click(u"ok"_s),
+       Changed(kBase + "SPR/klient.spr", u"ООО «Заря»"_s + u"\n"_s.repeated(13)) +
+           Empty(kBase + "kladez/") +
+           Changed(kBase + "kladez/условия.usd", u"ООО «Заря»\nСкидка, %\n5\nЦены\nОпт\n\n"_s)},
       {"sprSklad", "склады: создание", Menu(u"mnu_Sprav_S"_s, u"sprSklad"_s),
        Click(u"add"_s) >> Answer(u"AskText"_s, u"Ларёк"_s),
        Copied(kShop, kKiosk) + Empty(kKiosk + "товар.usl") +

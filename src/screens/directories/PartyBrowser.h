@@ -4,6 +4,7 @@
 
 #include "books/directories/PartyDirectory.h"
 #include "screens/directories/DirectoryDialog.h"
+#include "screens/directories/PartyForm.h"
 #include "ui/AppContext.h"
 
 namespace kladez {
@@ -23,6 +24,9 @@ class PartyBrowser : public DirectoryDialog {
   bool IsChanged() const override { return directory_.IsChanged(); }
 
  private:
+  std::optional<TermsEntry> EntryOf(const ClientTerms& terms) const;
+
+  AppContext& context_;
   PartyDirectory directory_;
 };
 

@@ -1,11 +1,17 @@
 #include "screens/directories/PartyForm.h"
 
+#include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 
+#include "formats/Numbers.h"
 #include "screens/directories/PartyTexts.h"
+#include "ui/Hints.h"
+#include "ui/controls/Choice.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
+#include "ui/controls/Forms.h"
 #include "ui/controls/TabOrder.h"
 #include "ui/controls/UnsavedWork.h"
 
@@ -26,7 +32,9 @@ bool IsWide(PartyField field) {
 
 }  // namespace
 
-PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDialog(parent) {
+PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent,
+                     const std::optional<TermsEntry>& terms)
+    : QDialog(parent) {
   setObjectName(ScreensOf(kind).form.toString());
   setWindowTitle(ScreensOf(kind).form_title.toString());
   auto* grid = new QGridLayout;
@@ -59,12 +67,13 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(grid);
+  if (terms) AddTerms(layout, *terms);
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
   TabByEye(this);
   resize(sizeHint().expandedTo(QSize(look::ByLetters(this, 85), 0)));
   fields_.front()->setFocus();
-  new UnsavedWork(this, {.is_changed = [this, before = Record()] { return Record() != before; },
+  new UnsavedWork(this, {.is_changed = [this, before = Texts()] { return Texts() != before; },
                          .save =
                              [this] {
                                Ok();
@@ -72,6 +81,32 @@ PartyForm::PartyForm(PartyKind kind, const Party& party, QWidget* parent) : QDia
                              }});
   connect(ok, &QPushButton::clicked, this, &PartyForm::Ok);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void PartyForm::AddTerms(QVBoxLayout* layout, const TermsEntry& entry) {
+  price_list_ = NewFreeChoice(this, u"price_list"_s);
+  price_list_->addItem({});
+  price_list_->addItems(entry.price_lists);
+  price_list_->setCurrentText(entry.terms.price_list);
+  discount_ = new TextLineNumber(this);
+  discount_->setObjectName(u"discount"_s);
+  discount_->setText(entry.terms.discount);
+  discount_->setFixedWidth(look::ByLetters(discount_, 10));
+  auto* row = new QHBoxLayout;
+  AddChoice(row, u"Прайс-лист:"_s, price_list_, HintFor(u"sprklientnew", u"Прайс-лист"));
+  row->addSpacing(look::kGrid);
+  row->addWidget(NewLabel(u"Скидка %:"_s, discount_, this));
+  row->addLayout(WithHint(discount_, HintFor(u"sprklientnew", u"Скидка %")));
+  layout->addLayout(row);
+}
+
+ClientTerms PartyForm::Terms() const {
+  if (price_list_ == nullptr) return {};
+  return {price_list_->currentText(), discount_->text()};
+}
+
+QStringList PartyForm::Texts() const {
+  return Record() + QStringList{Terms().price_list, Terms().discount};
 }
 
 Party PartyForm::Record() const {
@@ -83,6 +118,11 @@ Party PartyForm::Record() const {
 void PartyForm::Ok() {
   if (fields_.front()->text().isEmpty()) {
     fields_.front()->setFocus();
+    return;
+  }
+  if (NumberOr(Terms().discount) > 100) {
+    discount_->setFocus();
+    discount_->SetFault(u"Скидка не бывает больше 100 %"_s);
     return;
   }
   accept();

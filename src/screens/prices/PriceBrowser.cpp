@@ -212,6 +212,11 @@ void PriceBrowser::ListLists() {
   Load();
 }
 
+void PriceBrowser::ChooseListNamed(const QString& name) {
+  const int row = price_list_->findText(name, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+  if (row >= 0) price_list_->setCurrentIndex(row);
+}
+
 QString PriceBrowser::SelectedName() const {
   const int row = list_->CurrentRow();
   return row < 0 ? QString() : prices_.Rows()[row].name;

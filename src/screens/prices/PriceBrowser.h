@@ -33,6 +33,8 @@ class PriceBrowser : public QWidget {
   // Chooses a warehouse and shows its first list. A list that can't be read is told in a message
   // and leaves the screen empty.
   void ChooseWarehouse(const QString& warehouse);
+  // Shows its list of that name, where it has one.
+  void ChooseListNamed(const QString& name);
   // Saves the ticks and the chosen view, as every way out does.
   void Leave();
   // What the document that picks says of the goods in its warehouse.

@@ -10,7 +10,8 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
-PricePicker::PricePicker(AppContext& context, const QString& warehouse, QWidget* parent)
+PricePicker::PricePicker(AppContext& context, const QString& warehouse, const QString& price_list,
+                         QWidget* parent)
     : QDialog(parent), browser_(new PriceBrowser(context, PriceUse::kPicker, this)) {
   setObjectName(u"price2"_s);
   setWindowTitle(u"Прайс-лист"_s);
@@ -23,6 +24,7 @@ PricePicker::PricePicker(AppContext& context, const QString& warehouse, QWidget*
   connect(browser_, &PriceBrowser::CloseAsked, this, &QDialog::reject);
   connect(browser_, &PriceBrowser::Picked, this, &PricePicker::Picked);
   browser_->ChooseWarehouse(warehouse);
+  if (!price_list.isEmpty()) browser_->ChooseListNamed(price_list);
 }
 
 void PricePicker::TellOnHand(StockAfter on_hand) { browser_->TellOnHand(std::move(on_hand)); }

@@ -17,8 +17,10 @@ class PricePicker : public QDialog {
   Q_OBJECT
 
  public:
-  // Shows the price lists of the warehouse that the goods leave.
-  PricePicker(AppContext& context, const QString& warehouse, QWidget* parent = nullptr);
+  // Shows the price lists of the warehouse that the goods leave, the named one first where there is
+  // one.
+  PricePicker(AppContext& context, const QString& warehouse, const QString& price_list,
+              QWidget* parent = nullptr);
 
   // What the document says of the goods in its warehouse, told beside the quantity.
   void TellOnHand(StockAfter on_hand);

@@ -260,7 +260,7 @@ TEST_F(PriceScreens, AFailedSaveIsToldAndTheRowKeepsItsPrice) {
 }
 
 TEST_F(PriceScreens, ThePickerHandsOverWhatWasAnsweredAndStaysOpen) {
-  PricePicker screen(world_.Context(), u"Лавка"_s);
+  PricePicker screen(world_.Context(), u"Лавка"_s, {});
   ShowActive(&screen);
   std::vector<GoodsPick> picks;
   QObject::connect(&screen, &PricePicker::Picked,
@@ -307,7 +307,7 @@ TEST_F(PriceScreens, TypingInTheListSearchesByTheBeginningOfAName) {
 
 TEST_F(PriceScreens, EnterInAnEmptyListPicksNothingAndThePickerStays) {
   Temp().PutLines(u"0001\\spr\\товар.spr"_s, {});
-  PricePicker picker(world_.Context(), u"Лавка"_s);
+  PricePicker picker(world_.Context(), u"Лавка"_s, {});
   int picks = 0;
   QObject::connect(&picker, &PricePicker::Picked, [&] { ++picks; });
   ShowActive(&picker);

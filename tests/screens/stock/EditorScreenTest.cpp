@@ -18,6 +18,25 @@ class Editors : public testing::Test {
   DocumentWorld world_;
 };
 
+TEST_F(Editors, AClientsTermsAreProposedWhenHeIsChosenAndMayBeChanged) {
+  world_.Temp().PutLines(u"0001\\kladez\\условия.usd"_s, u"ООО Свет|Скидка, %|5|Цены|Опт||"_lines);
+  world_.Temp().PutLines(u"0001\\Склад\\price.usd"_s, u"Розница|Опт"_lines);
+  DocumentEditor editor(world_.Context(), DocumentDraft::New(world_.In(DocumentKind::kShipment),
+                                                             QDate(2026, 11, 22)));
+  ShowActive(&editor);
+  auto* client = Find<TextChoice>(&editor, "party");
+  auto* list = Find<TextChoice>(&editor, "price_list");
+  EXPECT_EQ(list->Chosen(), u"Розница");
+  client->Choose(u"ООО Свет"_s);
+  EXPECT_EQ(list->Chosen(), u"Опт");
+  EXPECT_EQ(TextOf(&editor, "Text19"), u"5");
+  client->Choose(u"ИП Петров"_s);
+  EXPECT_EQ(TextOf(&editor, "Text19"), u"0");
+  Find<QLineEdit>(&editor, "Text19")->setText(u"3"_s);
+  client->Choose(u"ООО Свет"_s);
+  EXPECT_EQ(TextOf(&editor, "Text19"), u"3") << "typed by hand";
+}
+
 // From the empty register to the ledger by keys alone.
 TEST_F(Editors, AReceiptIsEnteredPickedClosedAndPosted) {
   DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
@@ -175,7 +194,7 @@ TEST_F(Editors, TheTabKeyGoesAsTheEyeDoes) {
   order.removeAll(u"DecText1"_s);
   EXPECT_EQ(order,
             QStringList(u"number|date|party|add|change|remove|ListView1|Check1|prn|prs|prp|pri|"
-                        u"Text2|Text19|ok|cancel"_lines));
+                        u"Text2|price_list|Text19|ok|cancel"_lines));
 }
 
 TEST_F(Editors, AClosedDocumentKeepsItsFlagAndItsPartyThatIsGone) {

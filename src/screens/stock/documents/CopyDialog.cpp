@@ -71,12 +71,17 @@ void CopyDialog::BuildPrices(QFormLayout* form) {
   lists_->setObjectName(u"price_list"_s);
   form->addRow(NewLabel(u"&Прайс-лист:"_s, lists_, this),
                WithHint(lists_, HintFor(u"copydoc", u"Прайс-лист")));
+  if (document_.Kind() == DocumentKind::kShipment) {
+    terms_ = FindTerms(context_.data, context_.session, document_.Head().party);
+    if (lists.contains(terms_.price_list)) lists_->Choose(terms_.price_list);
+  }
   connect(todays_, &QRadioButton::toggled, lists_, &QWidget::setEnabled);
 }
 
 CopyChoice CopyDialog::Choice() const {
   return {.todays_prices = todays_->isChecked(),
-          .price_list = lists_ == nullptr ? QString() : lists_->Chosen()};
+          .price_list = lists_ == nullptr ? QString() : lists_->Chosen(),
+          .discount = todays_->isChecked() ? terms_.discount : QString()};
 }
 
 // The same goods lack a price in every list: those that have left the directory.

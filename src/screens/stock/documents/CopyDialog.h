@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+#include "books/directories/ClientTerms.h"
 #include "books/prices/DocumentCopy.h"
 #include "ui/AppContext.h"
 
@@ -29,6 +30,7 @@ class CopyDialog : public QDialog {
 
   AppContext& context_;
   const DocumentDraft& document_;
+  ClientTerms terms_;            // go with today's prices
   QRadioButton* todays_;         // "Сегодняшние"
   QRadioButton* of_document_;    // "Как в документе"
   TextChoice* lists_ = nullptr;  // "Прайс-лист:", where there is any

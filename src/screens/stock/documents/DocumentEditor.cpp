@@ -6,7 +6,10 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "books/directories/ClientTerms.h"
+#include "books/prices/PriceStore.h"
 #include "formats/Dates.h"
+#include "formats/Numbers.h"
 #include "screens/stock/documents/DocumentLines.h"
 #include "screens/stock/documents/DocumentNotes.h"
 #include "screens/stock/documents/DraftSaving.h"
@@ -164,6 +167,7 @@ QLayout* DocumentEditor::NewTotals() {
   });
   if (!screens_.HasDiscount()) return form;
 
+  AddPriceList(form);
   discount_ = new TextLineNumber(this);
   discount_->setText(draft_.Head().discount);
   AddTotal(form, u"С&кидка %:"_s, discount_, u"Text19"_s, u"Скидка"_s);
@@ -179,6 +183,40 @@ QLayout* DocumentEditor::NewTotals() {
   net_sum_->setFont(bold);
   AddTotal(form, u"Сумма со скидкой:"_s, net_sum_, u"DecText1"_s, u"Сумма по счету"_s);
   return form;
+}
+
+void DocumentEditor::AddPriceList(QFormLayout* form) {
+  const QStringList lists = PriceStore(context_.data, context_.session).Names(draft_.Warehouse());
+  price_list_ = new TextChoice(lists, this);
+  price_list_->setObjectName(u"price_list"_s);
+  price_list_->setFixedWidth(look::ByLetters(price_list_, 16));
+  price_list_->setEnabled(!lists.isEmpty());
+  form->addRow(NewLabel(u"Пра&йс:"_s, price_list_, this),
+               WithHint(price_list_, HintFor(screens_.editor_name, u"Прайс")));
+  const auto take = [this] { lines_->SetPriceList(price_list_->Chosen()); };
+  connect(price_list_, &QComboBox::currentIndexChanged, this, take);
+  take();
+  ProposePriceList();
+  connect(party_, &QComboBox::currentIndexChanged, this, [this] {
+    ProposePriceList();
+    ProposeDiscount();
+  });
+}
+
+// What was agreed with the client is proposed when he is chosen.
+void DocumentEditor::ProposePriceList() {
+  const ClientTerms terms = FindTerms(context_.data, context_.session, party_->Chosen());
+  const int list = price_list_->findData(terms.price_list);
+  if (list >= 0) price_list_->setCurrentIndex(list);
+}
+
+// A discount that somebody has typed stays.
+void DocumentEditor::ProposeDiscount() {
+  const ClientTerms terms = FindTerms(context_.data, context_.session, party_->Chosen());
+  const QString now = discount_->text();
+  const bool untouched = now == proposed_discount_ || NumberOr(now) == 0;
+  proposed_discount_ = terms.discount.isEmpty() ? u"0"_s : terms.discount;
+  if (untouched) discount_->setText(proposed_discount_);
 }
 
 QLayout* DocumentEditor::NewPrints() {
@@ -226,7 +264,7 @@ void DocumentEditor::OrderTabs() {
   order.insert(order.end(), lines_->Commands().begin(), lines_->Commands().end());
   order.insert(order.end(), {lines_->List(), closed_});
   order.insert(order.end(), prints_.begin(), prints_.end());
-  order.insert(order.end(), {sum_, discount_, ok_, cancel_});
+  order.insert(order.end(), {sum_, price_list_, discount_, ok_, cancel_});
   std::erase(order, nullptr);
   for (size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }

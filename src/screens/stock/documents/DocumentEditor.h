@@ -42,6 +42,9 @@ class DocumentEditor : public QDialog {
  private:
   QLayout* NewHead();
   QLayout* NewTotals();
+  void AddPriceList(QFormLayout* form);
+  void ProposePriceList();
+  void ProposeDiscount();
   QLayout* NewFoot();
   QLayout* NewPrints();
   TextChoice* NewWarehouse(QString DocumentHead::*side);
@@ -75,7 +78,9 @@ class DocumentEditor : public QDialog {
   TextChoice* party_;                  // "Поставщик:", "Клиент:", "Откуда:"
   TextChoice* destination_ = nullptr;  // "Куда:"
   QCheckBox* closed_ = nullptr;        // "Счет закрыт"
-  TextLineDecimal* sum_;  // "Сумма по счету:", "Сумма:", "Сумма :"
+  TextLineDecimal* sum_;       // "Сумма по счету:", "Сумма:", "Сумма :"
+  QString proposed_discount_;  // that of the client chosen last
+  TextChoice* price_list_ = nullptr;    // "Прайс:"
   TextLineNumber* discount_ = nullptr;  // "Скидка %:"
   TextLineDecimal* net_sum_ = nullptr;  // "Сумма со скидкой:"
   QPushButton* ok_;                     // "OK"

@@ -87,7 +87,7 @@ void DocumentLines::Add() {
     const StockAfter on_hand = [this](const QString& goods) {
       return stock_ ? stock_->OnHand(goods) : std::nullopt;
     };
-    screens_.pick(context_, draft_.Warehouse(), window(), on_hand,
+    screens_.pick(context_, draft_.Warehouse(), price_list_, window(), on_hand,
                   [this](const GoodsPick& pick) { TakePick(pick); });
   });
   list_->setFocus();
@@ -101,7 +101,7 @@ void DocumentLines::TakeScan(const QString& code) {
   Guarded(this, [&] {
     const QString goods = FindByBarcode(context_.data, context_.session, code);
     const TodaysPrices prices(context_.data, context_.session, screens_.kind, draft_.Warehouse(),
-                              {});
+                              price_list_);
     const auto pick = goods.isEmpty() ? std::nullopt : prices.PickOf(goods);
     if (!pick) return TellUnknownBarcode(window(), code, goods);
     TakeStock();

@@ -28,6 +28,8 @@ class DocumentLines : public QWidget {
   const std::vector<QWidget*>& Commands() const { return commands_; }
   // Reads the stock anew, marks what the warehouse lacks and shows the lines.
   void Refresh();
+  // The price list that picks and scans begin with; empty: the first.
+  void SetPriceList(const QString& name) { price_list_ = name; }
   // Adds one piece of the goods with this barcode.
   void TakeScan(const QString& code);
 
@@ -49,7 +51,8 @@ class DocumentLines : public QWidget {
   DocumentDraft& draft_;
   const DocumentScreens& screens_;
   std::optional<DraftStock> stock_;  // where directory and ledger can be read
-  std::vector<bool> short_lines_;    // the warehouse runs out with them
+  QString price_list_;
+  std::vector<bool> short_lines_;  // the warehouse runs out with them
   RecordList* list_;
   std::vector<QWidget*> commands_;
 };

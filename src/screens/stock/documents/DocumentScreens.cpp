@@ -25,7 +25,7 @@ void RunCashOrder(AppContext& context, const PrintSource& source, QWidget* paren
   CashOrderScreen(context, source, parent).exec();
 }
 
-void PickFromDirectory(AppContext& context, const QString&, QWidget* parent,
+void PickFromDirectory(AppContext& context, const QString&, const QString&, QWidget* parent,
                        const StockAfter& on_hand, const TakePick& take) {
   GoodsPicker picker(context, PickFor::kReceipt, parent);
   picker.TellOnHand(on_hand);
@@ -34,9 +34,9 @@ void PickFromDirectory(AppContext& context, const QString&, QWidget* parent,
 }
 
 // Stays open from one pick to the next.
-void PickFromPrices(AppContext& context, const QString& warehouse, QWidget* parent,
-                    const StockAfter& on_hand, const TakePick& take) {
-  PricePicker picker(context, warehouse, parent);
+void PickFromPrices(AppContext& context, const QString& warehouse, const QString& price_list,
+                    QWidget* parent, const StockAfter& on_hand, const TakePick& take) {
+  PricePicker picker(context, warehouse, price_list, parent);
   picker.TellOnHand(on_hand);
   QObject::connect(&picker, &PricePicker::Picked, parent, take);
   picker.exec();

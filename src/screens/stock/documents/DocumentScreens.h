@@ -52,10 +52,10 @@ struct DocumentScreens {
   QString sum_caption;
   QString sum_hint;
   std::vector<LineColumn> editor_columns;
-  // Opens the picker of goods of a warehouse, which tells what is on hand, and hands over each
-  // pick.
-  void (*pick)(AppContext&, const QString& warehouse, QWidget* parent, const StockAfter& on_hand,
-               const TakePick& take);
+  // Opens the picker of goods of a warehouse, at a price list where one is named; it tells what is
+  // on hand, and hands over each pick.
+  void (*pick)(AppContext&, const QString& warehouse, const QString& price_list, QWidget* parent,
+               const StockAfter& on_hand, const TakePick& take);
   std::vector<PrintCommand> prints;
 
   QString properties_name;
