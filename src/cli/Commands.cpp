@@ -19,6 +19,9 @@ constexpr CommandRow kCommands[] = {
     {u"import", RunImport,
      u"[--data КАТАЛОГ] [--base БАЗА] [--group ГРУППА] [--prices СКЛАД/ПРАЙС] [--known]\n"
      u"                     [--columns \"Наименование=1,Цена закупа=4\"] [--try] ФАЙЛ"},
+    {u"list", RunList,
+     u"[--data КАТАЛОГ] [--base БАЗА] [--warehouse СКЛАД] [--list ПРАЙС]\n"
+     u"                   [--from ДД.ММ.ГГГГ] [--to ДД.ММ.ГГГГ] [--json] [--out ФАЙЛ] СПИСОК"},
 };
 
 void TellUsage(QTextStream& errors) {

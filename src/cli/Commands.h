@@ -28,4 +28,7 @@ ExitCode RunCheck(Words& words, QTextStream& out);
 // tells of each row that changes something or is refused, parted by tabs.
 ExitCode RunImport(Words& words, QTextStream& out);
 
+// Writes a list or a report (Lists.h) as CSV or, with "--json", as JSON; into a file with "--out".
+ExitCode RunList(Words& words, QTextStream& out);
+
 }  // namespace kladez

@@ -1,6 +1,7 @@
 #include "SmallBooks.h"
 #include "books/store/Catalogue.h"
 #include "cli/Commands.h"
+#include "cli/Lists.h"
 
 namespace kladez {
 namespace {
@@ -91,6 +92,44 @@ TEST_F(Commands, ImportBringsATableInOrTriesIt) {
   EXPECT_EQ(Run({u"import"_s, data, u"--base=Лавка"_s, u"--try"_s, u"--prices=Подвал/Опт"_s, file}),
             ExitCode::kNotDone);
   EXPECT_EQ(Run({u"import"_s, data, u"--base=0001"_s, outside_.path()}), ExitCode::kNotDone);
+}
+
+TEST_F(Commands, ListsGoOutAsCsvAndJson) {
+  Session session;
+  SmallBooks books(temp_.Data(), session, u"Лавка"_s);
+  books.Goods(u" Чай|Улун|Китай|-|пач.|90.00"_lines);
+  books.Ship(0, u"0001.uhd"_s, u"05.03.2026"_s, u"0"_s, u"240.00"_s,
+             u"Улун|2|пач.|90.00|120.00|120.00"_lines);
+  books.Ship(0, u"0002.uhd"_s, u"06.04.2026"_s, u"0"_s, u"10.50"_s, {});
+  const QStringList list{u"list"_s, u"--data"_s, temp_.Root()};
+  const auto before = temp_.Tree();
+  EXPECT_EQ(Run(list + QStringList{u"goods"_s}), ExitCode::kSound) << errors_.toStdString();
+  EXPECT_EQ(out_.toStdString(),
+            "Наименование;Страна;N декларации;Ед.изм.;Цена закупа;Штрихкод;Минимум\r\n"
+            " Чай;;;;;;\r\nУлун;Китай;-;пач.;90,00;;\r\n");
+  EXPECT_EQ(Run(list + QStringList{u"--to=31.03.2026"_s, u"shipments"_s}), ExitCode::kSound);
+  EXPECT_TRUE(
+      out_.endsWith(u"0001.uhd;7;05.03.2026;Клиент;Главный склад;240,00;да\r\n"
+                    "Итого;;;;;240,00;\r\n"_s))
+      << out_.toStdString();
+  const QString file = outside_.filePath(u"sales.json"_s);
+  EXPECT_EQ(Run(list + QStringList{u"sales"_s, u"--json"_s, u"--out"_s, file}), ExitCode::kSound);
+  QFile json(file);
+  ASSERT_TRUE(json.open(QIODevice::ReadOnly));
+  const QByteArray text = json.readAll();
+  EXPECT_TRUE(text.contains("\"2026-03-05\"") && text.contains("\"Сумма\": 240")) << text.data();
+  for (const QString& name : ListNames()) {
+    EXPECT_EQ(Run(list + QStringList{name}), ExitCode::kSound) << name.toStdString();
+  }
+  EXPECT_EQ(temp_.Tree(), before);
+  for (const QStringList& wrong : {QStringList{u"goods"_s, u"--from=вчера"_s},
+                                   {u"goods"_s, u"--warehouse=Подвал"_s},
+                                   {u"prices"_s, u"--list=Нет"_s},
+                                   {u"чего-нибудь"_s},
+                                   {}}) {
+    EXPECT_EQ(Run(list + wrong), ExitCode::kNotDone);
+    EXPECT_TRUE(out_.isEmpty());
+  }
 }
 
 }  // namespace

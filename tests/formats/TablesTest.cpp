@@ -38,6 +38,12 @@ TEST(Tables, GoAsTextWithADecimalComma) {
             "Без группы;05.03.2026;-5;0,10;1,5\r\n Чай <&>;;;;\r\n"
             "\"\"\"Ассам\"\"; 100 г\";вчера;нет;1234,20;2\r\n\"=1+1\tи\nещё\";;7;;\r\n"
             "Итого;;;1234,30;3,5\r\n");
+  const QByteArray json = TableAsJson(Sample());
+  for (const char* part :
+       {"\"group\": \"Чай <&>\"", "\"Дата\": \"2026-03-05\"", "\"Кол-во\": -5", "\"Сумма\": 1234.2",
+        "\"Сумма 2\": 3.5", "\"Дата\": \"вчера\"", "\"group\": \"\""}) {
+    EXPECT_TRUE(json.contains(part)) << part << json.toStdString();
+  }
 }
 
 TEST(Tables, KindsAreGuessedFromAllCells) {
@@ -47,6 +53,9 @@ TEST(Tables, KindsAreGuessedFromAllCells) {
   EXPECT_EQ(GuessKind(rows, 3, true), CellKind::kMoney);
   EXPECT_EQ(GuessKind(rows, 4, true), CellKind::kNumber);
   EXPECT_EQ(GuessKind({}, 0, false), CellKind::kText);
+  EXPECT_EQ(GuessKind({{{u"05.03.26"_s}}, {{u"31.12.99"_s}}}, 0, false), CellKind::kDate);
+  EXPECT_EQ(GuessKind({{{u"05.03.26"_s}}, {{u"45.03.26"_s}}}, 0, false), CellKind::kText);
+  EXPECT_EQ(DateOfCell(CellKind::kDate, u"31.12.99"_s), QDate(1999, 12, 31));
 }
 
 // The files inside a workbook.

@@ -9,6 +9,24 @@ namespace kladez {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Reports tell days with two digits of the year: "05.03.26".
+std::optional<QDate> DayOf(const QString& text) {
+  constexpr int kFirstOfCentury = 80;
+  const auto day = ParseDate(text);
+  if (day || text.size() != 8 || text[5] != u'.') return day;
+  const bool before = text.last(2).toInt() >= kFirstOfCentury;
+  const QString whole = text.first(6) + (before ? u"19"_s : u"20"_s) + text.last(2);
+  return ParseDate(whole);
+}
+
+}  // namespace
+
+bool Table::HasGroups() const {
+  return std::any_of(rows.begin(), rows.end(), [](const TableRow& row) { return row.is_group; });
+}
+
 bool Table::HasTotals() const {
   return std::any_of(columns.begin(), columns.end(),
                      [](const TableColumn& column) { return column.total; });
@@ -24,7 +42,7 @@ std::optional<double> NumberOfCell(CellKind kind, const QString& text) {
 }
 
 std::optional<QDate> DateOfCell(CellKind kind, const QString& text) {
-  return kind == CellKind::kDate ? ParseDate(text) : std::nullopt;
+  return kind == CellKind::kDate ? DayOf(text) : std::nullopt;
 }
 
 double TotalOf(const Table& table, size_t column) {
@@ -57,8 +75,7 @@ CellKind GuessKind(const std::vector<TableRow>& rows, size_t column, bool is_num
     const QString text = CellOf(row, column);
     if (row.is_group || text.isEmpty()) continue;
     any = true;
-    all =
-        is_number ? text.size() > 3 && text[text.size() - 3] == u'.' : ParseDate(text).has_value();
+    all = is_number ? text.size() > 3 && text[text.size() - 3] == u'.' : DayOf(text).has_value();
     if (!all) break;
   }
   if (is_number) return any && all ? CellKind::kMoney : CellKind::kNumber;

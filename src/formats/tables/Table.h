@@ -35,7 +35,8 @@ struct Table {
   std::vector<TableColumn> columns;
   std::vector<TableRow> rows;
 
-  // Whether any column is summed up.
+  // Whether any row heads a group; whether any column is summed up.
+  bool HasGroups() const;
   bool HasTotals() const;
 };
 

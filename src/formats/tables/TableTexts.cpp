@@ -1,5 +1,9 @@
 #include "formats/tables/TableTexts.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace kladez {
 namespace {
 
@@ -47,6 +51,30 @@ QStringList TitlesOf(const Table& table) {
   return titles;
 }
 
+QStringList KeysOf(const Table& table) {
+  QStringList keys;
+  for (const TableColumn& column : table.columns) {
+    QString key = column.title;
+    for (int i = 2; keys.contains(key); ++i) key = column.title + u' ' + QString::number(i);
+    keys << key;
+  }
+  return keys;
+}
+
+QJsonValue ValueOf(const TableColumn& column, const QString& text) {
+  if (const auto number = NumberOfCell(column.kind, text)) return *number;
+  if (const auto date = DateOfCell(column.kind, text)) return date->toString(Qt::ISODate);
+  return text;
+}
+
+QJsonObject ObjectOf(const Table& table, const QStringList& keys, const TableRow& row) {
+  QJsonObject object;
+  for (size_t i = 0; i < table.columns.size(); ++i) {
+    object[keys[static_cast<qsizetype>(i)]] = ValueOf(table.columns[i], CellOf(row, i));
+  }
+  return object;
+}
+
 }  // namespace
 
 QString TableAsTabs(const Table& table, bool headings) {
@@ -70,6 +98,34 @@ QByteArray TableAsCsv(const Table& table) {
   for (const TableRow& row : table.rows) add(CellsOf(table, row, Quoted));
   if (table.HasTotals()) add(CellsOf(table, TotalRow(table), Quoted));
   return bytes;
+}
+
+QByteArray TableAsJson(const Table& table) {
+  const QStringList keys = KeysOf(table);
+  const bool groups = table.HasGroups();
+  QString group;
+  QJsonArray rows;
+  for (const TableRow& row : table.rows) {
+    if (row.is_group) {
+      group = CellOf(row, 0).trimmed();
+      continue;
+    }
+    QJsonObject object = ObjectOf(table, keys, row);
+    if (groups) object[u"group"_s] = group;
+    rows << object;
+  }
+  QJsonObject whole{{u"title"_s, table.title},
+                    {u"note"_s, table.note},
+                    {u"columns"_s, QJsonArray::fromStringList(keys)},
+                    {u"rows"_s, rows}};
+  if (table.HasTotals()) {
+    QJsonObject totals;
+    for (size_t i = 0; i < table.columns.size(); ++i) {
+      if (table.columns[i].total) totals[keys[static_cast<qsizetype>(i)]] = TotalOf(table, i);
+    }
+    whole[u"totals"_s] = totals;
+  }
+  return QJsonDocument(whole).toJson();
 }
 
 }  // namespace kladez

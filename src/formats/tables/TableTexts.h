@@ -1,4 +1,4 @@
-// A table as a text that other programs take in: rows parted by tabs for the clipboard, CSV.
+// A table as a text that other programs take in: rows parted by tabs for the clipboard, CSV, JSON.
 //
 //   Наименование;Ед.изм.;Цена закупа          CSV: UTF-8 with its mark, so that spreadsheets know
 //   it
@@ -22,5 +22,10 @@ QString TableAsTabs(const Table& table, bool headings);
 // break or a blank at an end stands in quotation marks. The name of a group keeps its leading
 // blank, so that the file can be brought in again. Totals stand below the rows.
 QByteArray TableAsCsv(const Table& table);
+
+// {"title", "note", "columns": [titles], "rows": [{title: value}], "totals": {title: value}} in
+// UTF-8: numbers as numbers, dates as "2026-11-23", the name of a row's group as "group" where the
+// table has groups. Of columns of one title the later ones are told with a number: "Сумма 2".
+QByteArray TableAsJson(const Table& table);
 
 }  // namespace kladez
