@@ -9,6 +9,10 @@ namespace kladez::syscalls {
 // Books are nobody else's business, unless the user has told the system otherwise.
 void KeepToOwner();
 
+// Where this user's programs keep what they can make anew or others never look into: copies, what
+// is being looked into. Absolute; the folder of a program in it is its own.
+QString StateHome();
+
 // Whether a program of that number runs; true where it can't be known.
 bool IsRunning(qint64 program);
 

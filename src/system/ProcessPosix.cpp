@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <cerrno>
 
 #include "system/Process.h"
@@ -14,6 +15,11 @@ void KeepToOwner() {
   constexpr mode_t kUsual = 022;
   const mode_t mask = ::umask(077);
   if (mask != kUsual) ::umask(mask);
+}
+
+QString StateHome() {
+  const QString set = qEnvironmentVariable("XDG_STATE_HOME");
+  return set.startsWith(u'/') ? set : QDir::homePath() + QStringLiteral("/.local/state");
 }
 
 bool IsRunning(qint64 program) {

@@ -1,6 +1,8 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include <QDir>
+#include <QStandardPaths>
 #include <cerrno>
 
 #include "system/HandlesWindows.h"
@@ -10,6 +12,14 @@
 namespace kladez::syscalls {
 
 void KeepToOwner() {}  // a user's own folders are nobody else's already
+
+// Beside the books and not among them: what lies with them is taken for theirs.
+QString StateHome() {
+  const QString set = qEnvironmentVariable("XDG_STATE_HOME");  // as tests do
+  if (QDir::isAbsolutePath(set)) return QDir::fromNativeSeparators(set);
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+         QStringLiteral("/kladez-state");
+}
 
 bool IsRunning(qint64 program) {
   if (program <= 0) return true;

@@ -11,6 +11,7 @@
 
 #include "books/store/Errors.h"
 #include "system/PathNames.h"
+#include "system/Process.h"
 #include "system/SystemCalls.h"
 
 namespace kladez {
@@ -59,11 +60,7 @@ void CheckCopied(int error, const QByteArray& path) {
 
 }  // namespace
 
-QByteArray StateDirectory() {
-  QString state = qEnvironmentVariable("XDG_STATE_HOME");
-  if (!state.startsWith(u'/')) state = QDir::homePath() + u"/.local/state"_s;
-  return Made(state + u"/kladez"_s);
-}
+QByteArray StateDirectory() { return Made(syscalls::StateHome() + u"/kladez"_s); }
 
 QByteArray CopiesFolder(const DataDir& data) {
   QString folder = DecodePath(StateDirectory()) + u"/copies"_s;

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryFile>
@@ -64,10 +63,10 @@ void PrintOutDesk::Show(const QString& name, const QByteArray& bytes) const {
 }
 
 bool StartReportViewer(const DataDir& data, const QStringList& arguments) {
-  const QString beside = QCoreApplication::applicationDirPath() + u"/kladez-report"_s;
-  const QString program = QFileInfo(beside).isExecutable()
-                              ? beside
-                              : QStandardPaths::findExecutable(u"kladez-report"_s);
+  // The one beside this program first, however the system ends the names of programs.
+  QString program =
+      QStandardPaths::findExecutable(u"kladez-report"_s, {QCoreApplication::applicationDirPath()});
+  if (program.isEmpty()) program = QStandardPaths::findExecutable(u"kladez-report"_s);
   return !program.isEmpty() && QProcess::startDetached(program, arguments, data.Root());
 }
 
