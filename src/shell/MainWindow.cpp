@@ -24,6 +24,7 @@
 #include "shell/SplashScreen.h"
 #include "ui/Help.h"
 #include "ui/HintWindow.h"
+#include "ui/controls/ChoiceAccess.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/HintPicture.h"
 #include "ui/controls/LongWork.h"
@@ -47,6 +48,7 @@ MainWindow::MainWindow(AppContext& context)
   setWindowTitle(kTitle.toString());
   setWindowIcon(look::Icon(look::IconName::kProgram));
   HintPicture::SetOpener(&HintWindow::Show);
+  ChoiceAccess::Install();
   KeepTableFolder(&context.settings, &context.clock);
   menu_->OfferSchemes(context_.settings);
   BuildLayout();

@@ -217,7 +217,10 @@ QStringList UnnamedControls(QWidget* window) {
   for (QWidget* control : ControlsOf(window)) {
     if (!IsInteractive(control) || IsContainer(control)) continue;
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
-    if (face == nullptr || face->text(QAccessible::Name).trimmed().isEmpty()) {
+    const QString name = face == nullptr ? QString() : face->text(QAccessible::Name).trimmed();
+    // A list to choose from that only says what is chosen says not what for.
+    const auto* choice = qobject_cast<const QComboBox*>(control);
+    if (name.isEmpty() || (choice != nullptr && name == choice->currentText())) {
       unnamed.append(Named(control));
     }
   }
