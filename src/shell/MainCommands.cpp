@@ -9,15 +9,29 @@
 #include "screens/store/RestoreWizard.h"
 #include "shell/AboutDialog.h"
 #include "ui/Help.h"
+#include "ui/controls/ListTable.h"
+#include "ui/controls/Messages.h"
+#include "ui/controls/RecordList.h"
 
 namespace kladez {
 namespace {
 
+using namespace Qt::StringLiterals;
 using enum Command;
 
 template <typename Dialog>
 void Run(AppContext& context, QWidget* parent) {
   Dialog(context, parent).exec();
+}
+
+// The list of the child screen that is shown.
+void SaveListInFront(AppContext&, QWidget* parent) {
+  for (RecordList* list : parent->findChildren<RecordList*>()) {
+    if (!list->isVisible() || list->window() != parent) continue;
+    SaveListAsTable(list);
+    return;
+  }
+  ShowMessage(parent, u"Сначала откройте список: наличие, документы, товары или прайс-лист."_s);
 }
 
 struct AsideRow {
@@ -38,6 +52,7 @@ constexpr auto kAsides = std::to_array<AsideRow>({
     {kUndo, nullptr},
     {kTimeMachine, nullptr},
     {kLoadTable, nullptr},
+    {kSaveTable, &SaveListInFront},
     {kHelp, [](AppContext& context, QWidget* parent) { OpenHelpFile(parent, context.data); }},
     {kProductPage, [](AppContext&, QWidget* parent) { OpenAddress(parent, kProductAddress); }},
     {kNewsPage, [](AppContext&, QWidget* parent) { OpenAddress(parent, kNewsAddress); }},

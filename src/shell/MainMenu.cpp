@@ -35,6 +35,7 @@ constexpr auto kCommands = std::to_array<CommandRow>({
     {u"mnuFile", Command::kTimeMachine, u"mnuTimeMachine", u"&Машина времени…"},
     {u"mnuFile", Command::kUndo, u"mnuUndo", u"О&тменить"},
     {u"mnuFile", Command::kLoadTable, u"mnuLoadTable", u"За&грузить таблицу…", true},
+    {u"mnuFile", Command::kSaveTable, u"mnuSaveTable", u"Сохранить список &как таблицу…"},
     {u"mnHelp", Command::kHelp, u"mnuHelp", u"&Справка по Kladez 4.8..."},
     {u"mnHelp", Command::kProductPage, u"mnWeb", u"&Kladez в Интернете", true},
     {u"mnHelp", Command::kNewsPage, u"mnNews", u"&Новости Kladez"},
@@ -136,6 +137,7 @@ void MainMenu::EnableDatabaseCommands(bool enable) {
   commands_[Command::kClose]->setEnabled(enable);
   commands_[Command::kCheck]->setEnabled(enable);
   commands_[Command::kLoadTable]->setEnabled(enable);
+  commands_[Command::kSaveTable]->setEnabled(enable);
 }
 
 void MainMenu::ShowUndo(const QString& what) {

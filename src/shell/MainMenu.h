@@ -27,6 +27,7 @@ enum class Command {
   kUndo,
   kTimeMachine,
   kLoadTable,
+  kSaveTable,
   kHelp,
   kProductPage,
   kNewsPage,
@@ -41,8 +42,8 @@ class MainMenu : public QObject {
   MainMenu(QMenuBar* bar, QObject* parent);
 
   void ShowDatabaseMenus(bool show);  // "Склад", "Отчеты", "Справочники"
-  void EnableDatabaseCommands(
-      bool enable);  // "Импорт...", "Закрыть", "Проверка базы…", "Загрузить таблицу…"
+  void EnableDatabaseCommands(bool enable);  // "Импорт...", "Закрыть", "Проверка базы…", "Загрузить
+                                             // таблицу…", "Сохранить список…"
   // What the seller may not do is greyed; everything else is enabled.
   void ApplyRole(bool seller);
   // The choice "Оформление", at the end of "Файл"; the stored one holds from now on.

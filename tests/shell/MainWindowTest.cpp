@@ -46,6 +46,17 @@ TEST_F(MainWindowShown, RemovedDatabaseLandsSilentlyAndKeepsTheKey) {
   EXPECT_EQ(Setting(settings::kBaseName), u"0001\\"_s);
 }
 
+TEST_F(MainWindowShown, TheListInFrontIsSavedAsATable) {
+  StartOpen();
+  Entry(u"mnu_Sklad_NT"_s)->trigger();
+  ModalAnswers answers{[](QWidget* chooser) {
+    EXPECT_EQ(chooser->objectName(), u"save_table"_s);
+    qobject_cast<QDialog*>(chooser)->reject();
+  }};
+  Entry(u"mnuSaveTable"_s)->trigger();
+  EXPECT_EQ(ChildName(), u"Sklad"_s);
+}
+
 TEST_F(MainWindowShown, TheTwoWaysOutDifferInTheScratchFile) {
   StartOpen();
   world_.Temp().Put(u"temp.prc"_s, "x");
