@@ -45,7 +45,7 @@ void GoodsDirectory::Reload(GoodsView view) {
   FileState file;
   const QByteArray bytes = ReadWithState(data_, path_, file);
   file_ = file;
-  copy_ = view == GoodsView::kGoodsOnly ? GoodsRows(bytes) : GoodsRows();
+  KeepCopy(view == GoodsView::kGoodsOnly ? bytes : QByteArray());
   extras_.emplace(data_, extras_path_);
   Show(bytes, view);
 }
@@ -67,7 +67,17 @@ void GoodsDirectory::ShowGoodsOnly() {
     Write(bytes);
   }
   Show(bytes, GoodsView::kGoodsOnly);
-  copy_ = GoodsRows(on_disk);
+  KeepCopy(on_disk);
+}
+
+void GoodsDirectory::KeepCopy(const QByteArray& bytes) {
+  copy_bytes_ = bytes;
+  copy_.reset();
+}
+
+GoodsRows& GoodsDirectory::Copy() {
+  if (!copy_) copy_ = GoodsRows(copy_bytes_);
+  return *copy_;
 }
 
 bool GoodsDirectory::IsChanged() const {
@@ -82,7 +92,7 @@ void GoodsDirectory::BeforeChange() {
 // Goods of one name share what is kept under it: it stays while one of them has the name.
 void GoodsDirectory::TakeExtras(const GoodsRecord& before, const GoodsRecord& after,
                                 const std::optional<GoodsExtras>& extras) {
-  const GoodsRows& rows = view_ == GoodsView::kGroups ? rows_ : copy_;
+  const GoodsRows& rows = view_ == GoodsView::kGroups ? rows_ : Copy();
   if (before.name != after.name && !before.IsGroup() && rows.RowOfGoods(before.name) < 0) {
     extras_->records.Follow({{before.name, after.IsGroup() ? QString() : after.name}});
   }
@@ -171,36 +181,37 @@ void GoodsDirectory::SaveChange(int row) {
   // An empty name begins every text and would fall on the first group.
   if (changed.name.isEmpty()) return;
   // The first beginning counts, even of a longer name: that is how changes have always been joined.
+  GoodsRows& copy = Copy();
   size_t same = 0;
-  while (same < copy_.size() && !copy_.Text(same, &GoodsRecord::name).startsWith(changed.name)) {
+  while (same < copy.size() && !copy.Text(same, &GoodsRecord::name).startsWith(changed.name)) {
     ++same;
   }
-  if (same == copy_.size()) return;
-  copy_.Set(same, changed);
+  if (same == copy.size()) return;
+  copy.Set(same, changed);
   const bool waits = !renamed_.empty() && renamed_.back().after == changed;
   if (waits) TakeExtras(renamed_.back().before, changed, renamed_.back().extras);
-  Write(copy_.Bytes());
+  Write(copy.Bytes());
   if (waits) renamed_.pop_back();
 }
 
 void GoodsDirectory::Save() {
-  Write((view_ == GoodsView::kGroups ? rows_ : copy_).Bytes());
+  Write((view_ == GoodsView::kGroups ? rows_ : Copy()).Bytes());
   saved_.reset();
 }
 
 void GoodsDirectory::SaveAll() {
-  GoodsRows copy = copy_;
+  GoodsRows copy = Copy();
   for (const Renamed& renamed : renamed_) {
     const int same = copy.RowOf(renamed.before);
     if (same >= 0) copy.Set(same, renamed.after);
   }
-  std::swap(copy, copy_);
+  std::swap(copy, Copy());
   const OwnRecords extras = extras_->records;
   for (const Renamed& renamed : renamed_) TakeExtras(renamed.before, renamed.after, renamed.extras);
   try {
     Save();
   } catch (...) {
-    std::swap(copy, copy_);
+    std::swap(copy, Copy());
     extras_->records = extras;
     throw;
   }

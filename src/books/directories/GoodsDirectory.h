@@ -71,6 +71,8 @@ class GoodsDirectory {
  private:
   void Show(const QByteArray& bytes, GoodsView view);
   void Write(const QByteArray& bytes);
+  void KeepCopy(const QByteArray& bytes);
+  GoodsRows& Copy();
   void BeforeChange();
   void TakeExtras(const GoodsRecord& before, const GoodsRecord& after,
                   const std::optional<GoodsExtras>& extras);
@@ -89,7 +91,10 @@ class GoodsDirectory {
   GoodsView view_ = GoodsView::kGroups;
   GoodsRows rows_;
   std::optional<GoodsRows> saved_;  // the rows before the first change to them
-  GoodsRows copy_;
+  // With the goods alone shown, the file as it lies on the disk; most showings end without its
+  // rows.
+  QByteArray copy_bytes_;
+  std::optional<GoodsRows> copy_;
   bool sorted_ = false;           // since the last save
   std::vector<Renamed> renamed_;  // with the goods alone shown: what is not in the copy
 };

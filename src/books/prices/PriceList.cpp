@@ -29,6 +29,7 @@ class DirectoryRows {
         first_.push_back(places_.size());
       }
       places_.push_back({.goods = PlaceIn(goods, record.name)});
+      if (view == GoodsView::kGoodsOnly) to_sort_.push_back(record.name);
     });
   }
   // The first row of a name; null where there is none.
@@ -36,16 +37,12 @@ class DirectoryRows {
     const int number = names_.Find(name);
     return number < 0 ? nullptr : &places_[first_[static_cast<size_t>(number)]];
   }
-  std::vector<PricePlace> Take(GoodsView view, const QByteArray& goods) const {
-    if (view == GoodsView::kGroups) return places_;
-    std::vector<QByteArrayView> names;
-    names.reserve(places_.size());
-    for (const PricePlace& place : places_) {
-      names.push_back(LineReader(QByteArrayView(goods).sliced(place.goods)).NextRaw());
-    }
+  // In the order of the view.
+  std::vector<PricePlace> Take() const {
+    if (to_sort_.empty()) return places_;
     std::vector<PricePlace> sorted;
     sorted.reserve(places_.size());
-    for (const size_t at : PlacesInOrder(names)) sorted.push_back(places_[at]);
+    for (const size_t at : PlacesInOrder(to_sort_)) sorted.push_back(places_[at]);
     return sorted;
   }
 
@@ -53,6 +50,7 @@ class DirectoryRows {
   TextPool names_{TextPool::Keeps::kPlaces};
   std::vector<size_t> first_;  // by the name's number
   std::vector<PricePlace> places_;
+  std::vector<QByteArrayView> to_sort_;  // their names, where the view has them in order
 };
 
 }  // namespace
@@ -90,7 +88,7 @@ PriceList::PriceList(const QByteArray& goods, const QByteArray& prices, QByteArr
     if (PricePlace* row = rows.Find(reader.NextRaw())) row->ticked = true;
   }
   // Sorted only now: rows of one name keep their order, so the first of them is the same one.
-  rows_ = PriceRows({{goods}, prices}, rows.Take(view, goods));
+  rows_ = PriceRows({{goods}, prices}, rows.Take());
 }
 
 bool PriceList::IsTicked(int row) const {
