@@ -94,7 +94,7 @@ std::vector<Seed> Seeds() {
       {"archive", SampleArchive()},
       {"check", WriteDocument(DocumentKind::kShipment, SampleDocument({})).replace("\r\n", "\n")},
       {"settings", QByteArray("[Kladez4]\nMain\\basename=\"0001\\\\\"\nOptions\\Tip=1\n")},
-      {"manifest", ManifestBytes(changes, "/d")},
+      {"manifest", ManifestBytes("k.", changes, "/d")},
       {"paths", QByteArray("0001\\spr\\firma.spr")},
       {"numbers", QByteArray("- 1 234,50e-2")},
       {"dates", QByteArray("05.03.2026 ")},

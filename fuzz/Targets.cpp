@@ -179,16 +179,19 @@ void Backups(QByteArrayView bytes) { RequireStable(bytes, ReadBackupIndex, Write
 
 void Manifests(QByteArrayView bytes) {
   const QByteArray root = "/root";
-  const auto changes = ParseManifest(bytes.toByteArray(), root);
-  if (!changes) return;
-  for (const SaveSet::Change& change : *changes) {
+  const auto manifest = ParseManifest(bytes.toByteArray(), root);
+  if (!manifest) return;
+  Require(!manifest->key.contains('/'), "the key of staged files leads nowhere");
+  for (const SaveSet::Change& change : manifest->changes) {
     for (const QByteArray& path : {change.path, change.to}) {
       Require(path.isEmpty() || (path.startsWith("/root/") && !path.contains("/../")),
               "a manifest names paths inside the data directory only");
     }
   }
-  const auto again = ParseManifest(ManifestBytes(*changes, root), root);
-  Require(again && again->size() == changes->size(), "a manifest is read as it was written");
+  const QByteArray key = manifest->key.isEmpty() ? QByteArray("k.") : manifest->key;
+  const auto again = ParseManifest(ManifestBytes(key, manifest->changes, root), root);
+  Require(again && again->changes.size() == manifest->changes.size(),
+          "a manifest is read as it was written");
 }
 
 void Paths(QByteArrayView bytes) {

@@ -74,7 +74,8 @@ QString DataDir::Resolve(const QString& path) const {
   QString resolved = root_;
   bool exists = true;
   const QList<QStringView> parts = plain.split(u'\\');
-  if (FoldCase(parts.first()) == FoldCase(QString::fromLatin1(kStagingName))) refuse(EINVAL);
+  const QString staged = FoldCase(QString::fromLatin1(kStagingName)) + u'.';
+  if (QString(FoldCase(parts.first()) + u'.').startsWith(staged)) refuse(EINVAL);
   for (QStringView part : parts) {
     if (!IsPlainPart(part)) refuse(EINVAL);
     const QString parent = resolved;

@@ -11,8 +11,8 @@
 
 namespace kladez {
 
-// The directory inside the data directory where saves are staged; no path of the system leads
-// there.
+// What saves are staged under in the data directory, with a point and more behind it; no path of
+// the system leads there.
 inline constexpr char kStagingName[] = ".kladez-save";
 
 class SaveWatch;

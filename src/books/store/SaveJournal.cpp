@@ -59,7 +59,7 @@ void SyncParents(std::span<const Change> changes) {
 }  // namespace
 
 SaveJournal::SaveJournal(const DataDir& data)
-    : root_(EncodePath(data.Root())), stage_(root_ + '/' + kStagingName), lock_(root_) {}
+    : root_(EncodePath(data.Root())), stage_(root_), lock_(root_) {}
 
 void SaveJournal::Commit(std::vector<Change>& changes,
                          std::span<const SaveSet::Expectation> expected) {
@@ -75,10 +75,10 @@ void SaveJournal::Commit(std::vector<Change>& changes,
     // Staging takes its time, and an editor minds no lock.
     RefuseStale(expected);
     // One change is all or nothing by itself.
-    if (changes.size() > 1) MakeFinal(changes);
+    if (changes.size() > 1) MakeFinal(changes, expected);
   } catch (const std::filesystem::filesystem_error& error) {
     // A list of changes that can't be removed any more is carried out by the next start.
-    if (Discard() != 0 && Discard() != 0 && syscalls::Exists(Manifest())) Tell(error);
+    if (Discard() != 0 && Discard() != 0 && syscalls::Exists(stage_.Manifest())) Tell(error);
     throw;
   } catch (...) {
     Discard();
@@ -97,14 +97,16 @@ void SaveJournal::Commit(std::vector<Change>& changes,
         ErrorText(error));
     return;
   }
-  if (Discard() != 0) Discard();
+  // A list that a power cut brings back does nothing where it tells all.
+  const bool for_good = !TellsAll(changes);
+  if (Discard(for_good) != 0) Discard(for_good);
 }
 
 // What a second look at the disk shows after a save that could neither be ended nor taken back.
 bool SaveJournal::IsDone(std::span<const Change> changes) {
   bool done = false;
   IgnoreErrors([&] {
-    if (Status(TakingBack())) return;
+    if (Status(stage_.TakingBack())) return;
     done = true;
     for (size_t i = 0; i < changes.size(); ++i) done = done && IsMade(i, changes[i]);
   });
@@ -114,11 +116,11 @@ bool SaveJournal::IsDone(std::span<const Change> changes) {
 bool SaveJournal::IsMade(size_t index, const Change& change) {
   switch (change.kind) {
     case Kind::kWrite:
-      if (Status(New(index))) return false;
-      return change.fresh ? Status(change.path).has_value() : Status(Old(index)).has_value();
+      if (Status(stage_.New(index))) return false;
+      return change.fresh ? Status(change.path).has_value() : Status(stage_.Old(index)).has_value();
     case Kind::kDelete:
     case Kind::kDeleteTree:
-      return Status(Old(index)).has_value();
+      return Status(stage_.Old(index)).has_value();
     case Kind::kMakeDirectory:
       return Status(change.path).has_value();
     case Kind::kRename:
@@ -130,8 +132,8 @@ bool SaveJournal::IsMade(size_t index, const Change& change) {
 void SaveJournal::Tell(const std::filesystem::filesystem_error& error) {
   bool carried_on = false, taken_back = false;
   IgnoreErrors([&] {
-    carried_on = Status(Manifest()).has_value();
-    taken_back = Status(TakingBack()).has_value();
+    carried_on = Status(stage_.Manifest()).has_value();
+    taken_back = Status(stage_.TakingBack()).has_value();
   });
   const QString state =
       taken_back   ? u"Не удалось записать; следующий запуск программы вернёт всё, как было"_s
@@ -145,25 +147,44 @@ void SaveJournal::Tell(const std::filesystem::filesystem_error& error) {
 void SaveJournal::Recover() { Heal(); }
 
 bool SaveJournal::Heal() {
-  const auto status = Status(stage_);
-  if (!status) return false;
-  bool touched = status->IsDirectory();
-  if (touched && Status(TakingBack())) {
-    TakeBack(Interrupted(TakingBack()));
-  } else if (touched && Status(Manifest())) {
-    CarryOut(Interrupted(Manifest()));
-  } else {
-    touched = false;
+  bool touched = false;
+  for (const auto form : {SaveStage::Form::kDirectory, SaveStage::Form::kFlat}) {
+    touched = HealForm(form) || touched;
   }
-  Check(Discard(), stage_);
+  Check(Discard(), root_);
   return touched;
+}
+
+bool SaveJournal::HealForm(SaveStage::Form form) {
+  stage_ = SaveStage(root_, form);
+  if (!stage_.IsThere()) return false;
+  if (Status(stage_.TakingBack())) {
+    TakeBack(Interrupted(stage_.TakingBack()));
+    return true;
+  }
+  if (!Status(stage_.Manifest())) return false;
+  const std::vector<Change> changes = Interrupted(stage_.Manifest());
+  if (NeverBegan(changes)) return false;
+  CarryOut(changes);
+  return true;
+}
+
+bool SaveJournal::NeverBegan(std::span<const Change> changes) {
+  for (size_t i = 0; i < changes.size(); ++i) {
+    const Change& change = changes[i];
+    // What somebody else has changed since is not as it was, and counts as made.
+    if (change.before.isEmpty() || Status(stage_.New(i))) continue;
+    if (WhatIsThere(change.path) == change.before) return true;
+  }
+  return false;
 }
 
 // The changes of a list that a crash left. One that can't be followed is no reason to stop each
 // start: it is put aside, with what was to be written, and told.
 std::vector<Change> SaveJournal::Interrupted(const QByteArray& manifest) {
   try {
-    std::vector<Change> changes = ReadManifest(manifest, root_);
+    auto [key, changes] = ReadManifest(manifest, root_);
+    stage_.SetKey(key);
     for (size_t i = 0; i < changes.size(); ++i) RefuseForeign(i, changes[i]);
     return changes;
   } catch (const std::filesystem::filesystem_error& error) {
@@ -184,7 +205,7 @@ void SaveJournal::RefuseForeign(size_t index, const Change& change) {
   refuse_links(change.path);
   if (change.kind == Kind::kRename) refuse_links(change.to);
   if (change.kind != Kind::kWrite) return;
-  for (const QByteArray& staged : {New(index), Old(index)}) {
+  for (const QByteArray& staged : {stage_.New(index), stage_.Old(index)}) {
     const auto status = Status(staged);
     if (status && !status->IsFile()) Check(EBADMSG, staged);
   }
@@ -195,9 +216,9 @@ void SaveJournal::PutAside(const std::filesystem::filesystem_error& error) {
   for (int number = 1;; ++number) {
     aside = root_ + '/' + EncodePath(u"Прерванная запись %1"_s.arg(number));
     if (syscalls::Exists(aside)) continue;
-    const int failed = syscalls::RenameToNew(stage_, aside);
+    const int failed = stage_.PutAside(aside);
     if (failed == EEXIST) continue;
-    Check(failed, stage_);
+    Check(failed, aside);
     break;
   }
   syscalls::SyncDirectory(root_);
@@ -210,7 +231,8 @@ void SaveJournal::PutAside(const std::filesystem::filesystem_error& error) {
 }
 
 void SaveJournal::Stage(std::vector<Change>& changes) {
-  Check(syscalls::MakeDirectory(stage_), stage_);
+  stage_ = SaveStage(root_);
+  stage_.SetKey(SaveStage::NewKey());
   std::set<QByteArray> made;
   const auto check_parent = [&](const QByteArray& path) {
     const QByteArray parent = ParentOf(path);
@@ -255,10 +277,10 @@ void SaveJournal::StageWrite(size_t index, Change& change) {
   if (status && change.only_new) Check(EEXIST, change.path);
   if (status) {
     RefuseOtherThanFile(*status, change.path);
-    Check(syscalls::KeepCopy(change.path, Old(index)), change.path);
+    Check(syscalls::KeepCopy(change.path, stage_.Old(index)), change.path);
     mode = status->mode & 0777;
   }
-  syscalls::NewFile file(New(index));
+  syscalls::NewFile file(stage_.New(index));
   const ByteSink write = [&](QByteArrayView piece) { Check(file.Write(piece), change.path); };
   Check(file.Create(mode), change.path);
   if (change.contents) {
@@ -269,16 +291,18 @@ void SaveJournal::StageWrite(size_t index, Change& change) {
   Check(file.Sync(), change.path);
 }
 
-void SaveJournal::MakeFinal(std::span<const Change> changes) {
-  const QByteArray draft = Manifest() + ".draft";
-  const QByteArray bytes = ManifestBytes(changes, root_);
-  if (bytes.size() > kLongestManifest) Check(EFBIG, draft);
-  Check(syscalls::WriteNewFile(draft, bytes, 0), draft);
-  // The manifest must not reach the disk before what it speaks of.
-  Check(syscalls::SyncDirectory(stage_), stage_);
-  Check(syscalls::SyncDirectory(root_), root_);
-  Check(syscalls::Rename(draft, Manifest()), Manifest());
-  Check(syscalls::SyncDirectory(stage_), stage_);
+void SaveJournal::MakeFinal(std::vector<Change>& changes,
+                            std::span<const SaveSet::Expectation> expected) {
+  const bool tells_all = TellsAll(changes);
+  if (tells_all) TellBefore(changes, expected);
+  const QByteArray bytes = ManifestBytes(stage_.Key(), changes, root_);
+  if (bytes.size() > kLongestManifest) Check(EFBIG, stage_.Draft());
+  Check(syscalls::WriteNewFile(stage_.Draft(), bytes, 0), stage_.Draft());
+  // The manifest must not reach the disk before what it speaks of, where it does not tell whether
+  // all of that is there.
+  if (!tells_all) Check(stage_.Sync(), root_);
+  Check(syscalls::Rename(stage_.Draft(), stage_.Manifest()), stage_.Manifest());
+  Check(stage_.Sync(), root_);
 }
 
 void SaveJournal::CarryOut(std::span<const Change> changes) {
@@ -297,15 +321,15 @@ void SaveJournal::CarryOut(std::span<const Change> changes) {
 void SaveJournal::MakeOne(size_t index, const Change& change) {
   switch (change.kind) {
     case Kind::kWrite:
-      if (!Status(New(index))) break;
-      Check(change.only_new ? syscalls::RenameToNew(New(index), change.path)
-                            : syscalls::Rename(New(index), change.path),
+      if (!Status(stage_.New(index))) break;
+      Check(change.only_new ? syscalls::RenameToNew(stage_.New(index), change.path)
+                            : syscalls::Rename(stage_.New(index), change.path),
             change.path);
       break;
     case Kind::kDelete:
     case Kind::kDeleteTree:
-      if (Status(change.path) && !Status(Old(index))) {
-        Check(syscalls::MoveAway(change.path, Old(index)), change.path);
+      if (Status(change.path) && !Status(stage_.Old(index))) {
+        Check(syscalls::MoveAway(change.path, stage_.Old(index)), change.path);
       }
       break;
     case Kind::kMakeDirectory:
@@ -319,9 +343,11 @@ void SaveJournal::MakeOne(size_t index, const Change& change) {
 
 void SaveJournal::TakeBack(std::span<const Change> changes) {
   // A crash while taking back must go on taking back, not carry the set out.
-  if (Status(Manifest())) Check(syscalls::Rename(Manifest(), TakingBack()), Manifest());
+  if (Status(stage_.Manifest())) {
+    Check(syscalls::Rename(stage_.Manifest(), stage_.TakingBack()), stage_.Manifest());
+  }
   // Once more where a try before this one got no further.
-  if (Status(TakingBack())) Check(syscalls::SyncDirectory(stage_), stage_);
+  if (Status(stage_.TakingBack())) Check(stage_.Sync(), root_);
   for (size_t i = changes.size(); i-- > 0;) TakeBackOne(i, changes[i]);
   SyncParents(changes);
   Discard();
@@ -330,16 +356,18 @@ void SaveJournal::TakeBack(std::span<const Change> changes) {
 void SaveJournal::TakeBackOne(size_t index, const Change& change) {
   switch (change.kind) {
     case Kind::kWrite:
-      if (Status(New(index))) break;  // was not made
+      if (Status(stage_.New(index))) break;  // was not made
       if (!change.fresh) {
-        if (Status(Old(index))) Check(syscalls::Rename(Old(index), change.path), change.path);
+        if (Status(stage_.Old(index)))
+          Check(syscalls::Rename(stage_.Old(index), change.path), change.path);
       } else if (Status(change.path)) {
         Check(syscalls::Unlink(change.path), change.path);
       }
       break;
     case Kind::kDelete:
     case Kind::kDeleteTree:
-      if (Status(Old(index))) Check(syscalls::Rename(Old(index), change.path), change.path);
+      if (Status(stage_.Old(index)))
+        Check(syscalls::Rename(stage_.Old(index), change.path), change.path);
       break;
     case Kind::kMakeDirectory:
       if (Status(change.path)) {
@@ -354,21 +382,6 @@ void SaveJournal::TakeBackOne(size_t index, const Change& change) {
       }
       break;
   }
-}
-
-int SaveJournal::Discard() {
-  FileStatus status;
-  if (syscalls::Look(stage_, &status) == 0 && !status.IsDirectory()) {
-    return syscalls::Unlink(stage_);  // a link, wherever it leads
-  }
-  // The marks go first and for good. Where one stays, all stays, so that Recover may repeat the
-  // set; where only other files stay, Recover throws them away.
-  for (const QByteArray& mark : {Manifest(), TakingBack()}) {
-    if (!syscalls::Exists(mark)) continue;
-    if (const int error = syscalls::Unlink(mark)) return error;
-    if (const int error = syscalls::SyncDirectory(stage_)) return error;
-  }
-  return syscalls::RemoveTree(stage_);
 }
 
 }  // namespace kladez

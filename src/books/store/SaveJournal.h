@@ -1,4 +1,4 @@
-// The staging directory of a SaveSet and the steps by which a set is staged, made final, carried
+// The steps by which a set is staged, made final, carried
 // out and taken back. Every step may be repeated after a crash without harm. The data directory is
 // locked for as long as the journal lives.
 #pragma once
@@ -10,6 +10,7 @@
 
 #include "books/store/DirectoryLock.h"
 #include "books/store/SaveSet.h"
+#include "books/store/SaveStage.h"
 
 namespace kladez {
 
@@ -28,21 +29,16 @@ class SaveJournal {
  private:
   using Change = SaveSet::Change;
 
-  QByteArray Staged(const char* name, size_t index) const {
-    return stage_ + '/' + name + '.' + QByteArray::number(static_cast<qulonglong>(index));
-  }
-  QByteArray New(size_t index) const { return Staged("new", index); }
-  QByteArray Old(size_t index) const { return Staged("old", index); }
-  QByteArray Manifest() const { return stage_ + "/manifest"; }
-  QByteArray TakingBack() const { return stage_ + "/taking-back"; }
-
   // False where only leftovers without meaning lay there, or nothing.
   bool Heal();
+  bool HealForm(SaveStage::Form form);
   std::vector<Change> Interrupted(const QByteArray& manifest);
   void RefuseForeign(size_t index, const Change& change);
   [[noreturn]] void PutAside(const std::filesystem::filesystem_error& error);
   bool IsDone(std::span<const Change> changes);
   bool IsMade(size_t index, const Change& change);
+  // The list of changes reached the disk, and not all of their new contents did.
+  bool NeverBegan(std::span<const Change> changes);
   // Tells which of both states holds.
   [[noreturn]] void Tell(const std::filesystem::filesystem_error& error);
   // Writes new contents and keeps what they will replace.
@@ -50,16 +46,16 @@ class SaveJournal {
   void StageOne(size_t index, Change& change);
   void StageWrite(size_t index, Change& change);
   // From here on the set survives a crash.
-  void MakeFinal(std::span<const Change> changes);
+  void MakeFinal(std::vector<Change>& changes, std::span<const SaveSet::Expectation> expected);
   void CarryOut(std::span<const Change> changes);
   void MakeOne(size_t index, const Change& change);
   void TakeBack(std::span<const Change> changes);
   void TakeBackOne(size_t index, const Change& change);
-  // Removes the staging directory, whose contents are no longer needed; 0 or an errno.
-  int Discard();
+  // Removes what is staged, which is no longer needed; 0 or an errno.
+  int Discard(bool for_good = true) { return SaveStage::Discard(root_, for_good); }
 
   QByteArray root_;
-  QByteArray stage_;
+  SaveStage stage_;
   DirectoryLock lock_;
 };
 

@@ -13,14 +13,27 @@ namespace kladez {
 // No set of a shop has a longer list; what is longer is none.
 inline constexpr qint64 kLongestManifest = 16 << 20;
 
+struct SaveManifest {
+  QByteArray key;  // of the staged files (SaveStage.h); lists of earlier versions have none
+  std::vector<SaveSet::Change> changes;
+};
+
+// Whether the list alone can tell how far a set has come: it changes contents of files, all known.
+bool TellsAll(std::span<const SaveSet::Change> changes);
+// Puts into each write of such a set what it replaces; `expected` may know it without reading.
+void TellBefore(std::vector<SaveSet::Change>& changes,
+                std::span<const SaveSet::Expectation> expected);
+// What lies at a path, as a change tells it. Throws filesystem_error.
+QByteArray WhatIsThere(const QByteArray& path);
+
 // Paths are kept relative to `root`, the data directory, which may have another name after a crash.
-QByteArray ManifestBytes(std::span<const SaveSet::Change> changes, const QByteArray& root);
+QByteArray ManifestBytes(const QByteArray& key, std::span<const SaveSet::Change> changes,
+                         const QByteArray& root);
 
 // Nothing where the bytes are cut or name a path outside `root`.
-std::optional<std::vector<SaveSet::Change>> ParseManifest(const QByteArray& bytes,
-                                                          const QByteArray& root);
+std::optional<SaveManifest> ParseManifest(const QByteArray& bytes, const QByteArray& root);
 
 // The manifest in a file. Throws filesystem_error where it can't be read or is damaged.
-std::vector<SaveSet::Change> ReadManifest(const QByteArray& file, const QByteArray& root);
+SaveManifest ReadManifest(const QByteArray& file, const QByteArray& root);
 
 }  // namespace kladez

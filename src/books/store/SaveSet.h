@@ -2,9 +2,9 @@
 // contents of all files that it changes and commits once; after a crash, a power cut or a full disk
 // at any instant the directory holds, after the next Recover, either all of the changes or none.
 //
-// How: new contents are written and synced beside the Databases in ".kladez-save", with links to
-// what they replace; then a manifest makes the set final, the changes are made one by one, and the
-// whole ".kladez-save" is removed. A manifest that a crash left is carried out by Recover; staged
+// How: new contents are written and synced beside the Databases in files ".kladez-save...", with
+// links to what they replace; then a manifest makes the set final, the changes are made one by one,
+// and all these files are removed. A manifest that a crash left is carried out by Recover; staged
 // files without a manifest are thrown away. An error on the way takes every change back.
 #pragma once
 
@@ -71,6 +71,9 @@ class SaveSet {
     QByteArray bytes;
     Contents contents = {};  // of a write, instead of the bytes
     bool only_new = false;   // nothing may stand at the path
+    // Of a write whose list may reach the disk before its new contents do: what stood at the path,
+    // "none", or a fingerprint. Empty where the list never does.
+    QByteArray before = {};
   };
   struct Expectation {
     QByteArray path;

@@ -54,6 +54,7 @@ TEST(DataDir, PathsThatLeadOutAreRefused) {
       {u"../x"_s, EINVAL},
       {QString(u"0001\\f\0.txt"_s), EINVAL},
       {u".kladez-save"_s, EINVAL},
+      {u".Kladez-Save.new.0"_s, EINVAL},
       {u".KLADEZ-save\\manifest"_s, EINVAL},
       {u"out"_s, ELOOP},
       {u"OUT\\passwd"_s, ELOOP},

@@ -10,6 +10,9 @@
 namespace kladez {
 namespace {
 
+// What this version stages, and what those before it did, lies at these.
+const QString kStages[] = {u"/.kladez-save."_s, u"/.kladez-save/"_s};
+
 // The caller of the next save has read files that were changed in part: its contents are stale.
 TEST(SaveRecovery, ASaveAfterAnUnhealedOneHealsAndRefuses) {
   TempData temp;
@@ -43,8 +46,8 @@ TEST(SaveRecovery, ASyncOrRemovalThatFailsOnceOnTheWayBackIsRepeated) {
     temp.Put(u"b"_s, "old");
     const Tree before = temp.Tree();
     const auto is_final = [&] {
-      const QDir stage(temp.Root() + u"/.kladez-save"_s);
-      return stage.exists(u"manifest"_s) || stage.exists(u"taking-back"_s);
+      const QString stage = temp.Root() + kStages[0];
+      return QFile::exists(stage + u"manifest"_s) || QFile::exists(stage + u"taking-back"_s);
     };
     ++victim;
     missed.clear();
@@ -84,9 +87,9 @@ TEST(SaveRecovery, StagedFilesWithoutAManifestAreThrownAway) {
   EXPECT_EQ(temp.Tree().size(), 1u);
 }
 
-void PutManifest(const TempData& temp, const QByteArray& manifest) {
+void PutManifest(const TempData& temp, const QString& stage, const QByteArray& manifest) {
   QDir(temp.Root()).mkpath(u".kladez-save"_s);
-  QFile file(temp.Root() + u"/.kladez-save/manifest"_s);
+  QFile file(temp.Root() + stage + u"manifest"_s);
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write(manifest);
 }
@@ -96,19 +99,24 @@ TEST(SaveRecovery, ADamagedManifestIsPutAsideAndToldOnce) {
   for (const QByteArray& manifest :
        {QByteArray(), QByteArray("junk"), QByteArray("0\0a\0\0001\0", 8),
         QByteArray("0\0../a\0\0001\0end", 14), QByteArray("2\0\0\0000\0end", 9),
-        QByteArray("4\0a\0b/../../c\0000\0end", 19), QByteArray("9\0a\0\0001\0end", 11)}) {
-    TempData temp;
-    temp.Put(u"a"_s, "old");
-    PutManifest(temp, manifest);
-    const Failure failure = FailureOf([&] { SaveSet::Recover(temp.Data()); });
-    EXPECT_EQ(failure.error, EBADMSG) << manifest.toHex(' ').constData();
-    const std::map<std::string, std::string> expected = {
-        {"a", "old"},
-        {"Прерванная запись 1/", ""},
-        {"Прерванная запись 1/manifest", manifest.toStdString()}};
-    EXPECT_EQ(temp.Tree(), expected);
-    EXPECT_EQ(FailureOf([&] { SaveSet::Recover(temp.Data()); }).error, 0);
-    EXPECT_EQ(CommitFailure(temp, [](SaveSet& save) { save.Write(u"a"_s, "new"); }).error, 0);
+        QByteArray("4\0a\0b/../../c\0000\0end", 19), QByteArray("9\0a\0\0001\0end", 11),
+        QByteArray("keyed\0\0000\0a\0\0001\0none\0end", 23),
+        QByteArray("keyed\0../\0000\0a\0\0001\0none\0end", 26),
+        QByteArray("keyed\0k.\0000\0a\0\0001\0end", 20)}) {
+    for (const QString& stage : kStages) {
+      TempData temp;
+      temp.Put(u"a"_s, "old");
+      PutManifest(temp, stage, manifest);
+      const Failure failure = FailureOf([&] { SaveSet::Recover(temp.Data()); });
+      EXPECT_EQ(failure.error, EBADMSG) << manifest.toHex(' ').constData();
+      EXPECT_EQ(FailureOf([&] { SaveSet::Recover(temp.Data()); }).error, 0);
+      const std::map<std::string, std::string> expected = {
+          {"a", "old"},
+          {"Прерванная запись 1/", ""},
+          {"Прерванная запись 1/manifest", manifest.toStdString()}};
+      EXPECT_EQ(temp.Tree(), expected);
+      EXPECT_EQ(CommitFailure(temp, [](SaveSet& save) { save.Write(u"a"_s, "new"); }).error, 0);
+    }
   }
 }
 
@@ -119,12 +127,13 @@ TEST(SaveRecovery, RecoveryStaysInsideAndReadsPlainFilesOnly) {
   const auto link = [](const QString& to, const QString& from) {
     ASSERT_TRUE(QFile::link(to, from));
   };
+  QString stage;
   const QByteArray write_through("0\0way/a\0\0000\0end", 15);
   const Prepare through_link = [&](auto& temp, auto& outside) {
     link(outside, temp.Root() + u"/way"_s);
-    PutManifest(temp, write_through);
+    PutManifest(temp, stage, write_through);
     temp.Put(u"new"_s, "new");
-    QFile::rename(temp.Root() + u"/new"_s, temp.Root() + u"/.kladez-save/new.0"_s);
+    QFile::rename(temp.Root() + u"/new"_s, temp.Root() + stage + u"new.0"_s);
   };
   const struct {
     const char* name;
@@ -136,32 +145,33 @@ TEST(SaveRecovery, RecoveryStaysInsideAndReadsPlainFilesOnly) {
       {"the manifest is a link",
        [&](auto& temp, auto& outside) {
          QDir(temp.Root()).mkpath(u".kladez-save"_s);
-         link(outside + u"/manifest"_s, temp.Root() + u"/.kladez-save/manifest"_s);
+         link(outside + u"/manifest"_s, temp.Root() + stage + u"manifest"_s);
        }},
       {"the manifest is a pipe",
        [&](auto& temp, auto&) {
          QDir(temp.Root()).mkpath(u".kladez-save"_s);
-         ::mkfifo(QFile::encodeName(temp.Root() + u"/.kladez-save/manifest"_s).constData(), 0600);
+         ::mkfifo(QFile::encodeName(temp.Root() + stage + u"manifest"_s).constData(), 0600);
        }},
       {"the manifest has 3 GB",
        [&](auto& temp, auto&) {
-         PutManifest(temp, {});
-         QFile file(temp.Root() + u"/.kladez-save/manifest"_s);
+         PutManifest(temp, stage, {});
+         QFile file(temp.Root() + stage + u"manifest"_s);
          ASSERT_TRUE(file.resize(qint64{3} << 30));
        }},
       {"a new file is a link",
        [&](auto& temp, auto& outside) {
-         PutManifest(temp, QByteArray("0\0a\0\0000\0end", 11));
-         link(outside + u"/a"_s, temp.Root() + u"/.kladez-save/new.0"_s);
+         PutManifest(temp, stage, QByteArray("0\0a\0\0000\0end", 11));
+         link(outside + u"/a"_s, temp.Root() + stage + u"new.0"_s);
        }},
       {"a staged directory is a link",
        [&](auto& temp, auto& outside) {
          QDir(temp.Root()).mkpath(u".kladez-save"_s);
-         link(outside, temp.Root() + u"/.kladez-save/old.0"_s);
+         link(outside, temp.Root() + stage + u"old.0"_s);
        }},
   };
-  for (const bool old_kernel : {false, true}) {
-    syscalls::PretendOldKernel(old_kernel);
+  for (int round = 0; round < 4; ++round) {
+    syscalls::PretendOldKernel(round % 2 == 1);
+    stage = kStages[round / 2];
     for (const auto& c : cases) {
       TempData outside, temp;
       outside.Put(u"a"_s, "outside");
@@ -174,7 +184,9 @@ TEST(SaveRecovery, RecoveryStaysInsideAndReadsPlainFilesOnly) {
       EXPECT_EQ(outside.Tree(), before) << c.name;
       EXPECT_EQ(temp.Bytes(u"a"_s), "old") << c.name;
       EXPECT_EQ(FailureOf([&] { SaveSet::Recover(temp.Data()); }).error, 0) << c.name;
-      EXPECT_FALSE(QFileInfo::exists(temp.Root() + u"/.kladez-save"_s)) << c.name;
+      const auto anything = QDir::AllEntries | QDir::Hidden | QDir::System;
+      const QStringList left = QDir(temp.Root()).entryList({u".kladez-save*"_s}, anything);
+      EXPECT_TRUE(left.isEmpty()) << c.name << ", " << left.value(0).toStdString();
     }
   }
   syscalls::PretendOldKernel(false);

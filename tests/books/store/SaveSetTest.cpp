@@ -330,5 +330,21 @@ TEST(SaveSet, ALockedDirectoryIsToldAsBusy) {
   EXPECT_EQ(failure.path, root.toStdString());
 }
 
+// A document and a ledger: each file, the list, the names of what is staged, and of both places.
+TEST(SaveSet, TwoFilesAreSavedWithSixSyncs) {
+  TempData temp;
+  temp.Put(u"0001\\a"_s, "old");
+  temp.Put(u"0001\\PRH\\b"_s, "old");
+  int syncs = 0;
+  syscalls::SetFaultHook([&](std::string_view call, auto&) { return syncs += call == "fsync", 0; });
+  const auto write_both = [](SaveSet& save) {
+    save.Write(u"0001\\a"_s, "new");
+    save.Write(u"0001\\PRH\\b"_s, "new");
+  };
+  EXPECT_EQ(CommitFailure(temp, write_both).error, 0);
+  syscalls::SetFaultHook({});
+  EXPECT_LE(syncs, 6);
+}
+
 }  // namespace
 }  // namespace kladez
