@@ -22,6 +22,7 @@ constexpr CommandRow kCommands[] = {
     {u"list", RunList,
      u"[--data КАТАЛОГ] [--base БАЗА] [--warehouse СКЛАД] [--list ПРАЙС]\n"
      u"                   [--from ДД.ММ.ГГГГ] [--to ДД.ММ.ГГГГ] [--json] [--out ФАЙЛ] СПИСОК"},
+    {u"password", RunPassword, u"< ФАЙЛ_С_ПАРОЛЕМ"},
 };
 
 void TellUsage(QTextStream& errors) {

@@ -31,4 +31,8 @@ ExitCode RunImport(Words& words, QTextStream& out);
 // Writes a list or a report (Lists.h) as CSV or, with "--json", as JSON; into a file with "--out".
 ExitCode RunList(Words& words, QTextStream& out);
 
+// Reads a password from the first line of the standard input and tells the line that bases.psw may
+// hold in its place.
+ExitCode RunPassword(Words& words, QTextStream& out);
+
 }  // namespace kladez

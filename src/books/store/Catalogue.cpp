@@ -176,10 +176,4 @@ void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry) {
   save.Commit();
 }
 
-QString DirectorPassword(const DataDir& data) {
-  const QByteArray bytes = data.ReadIfAny(files::kPassword.toString()).value_or(QByteArray());
-  const QString line = LineReader(bytes).Next();
-  return line.left(line.indexOf(u'\n'));
-}
-
 }  // namespace kladez

@@ -75,8 +75,4 @@ QString CreateDatabase(const DataDir& data, const QString& name);  // gives the 
 void RenameDatabase(const DataDir& data, const CatalogueEntry& entry, const QString& name);
 void DeleteDatabase(const DataDir& data, const CatalogueEntry& entry);
 
-// The first line of bases.psw, empty when there is none: no password then. The file is made by hand
-// in any editor, so a line feed alone ends the line too.
-QString DirectorPassword(const DataDir& data);
-
 }  // namespace kladez

@@ -2,9 +2,12 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QFormLayout>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include "books/store/DirectorPassword.h"
 #include "screens/store/CatalogueHost.h"
 #include "screens/store/CatalogueList.h"
 #include "ui/Help.h"
@@ -21,6 +24,14 @@ using namespace Qt::StringLiterals;
 // In twips; the wider list covers the side buttons.
 constexpr int kListWidth = 4875;
 constexpr int kWideListWidth = 6135;
+
+// Whoever tries one password after the other gets no further than one a second. What is typed
+// meanwhile comes afterwards.
+void WaitASecond() {
+  QEventLoop wait;
+  QTimer::singleShot(1000, &wait, &QEventLoop::quit);
+  wait.exec(QEventLoop::ExcludeUserInputEvents);
+}
 
 }  // namespace
 
@@ -110,12 +121,14 @@ void CatalogueDialog::WriteChoice(int position) {
 UserRole CatalogueDialog::Role() const { return static_cast<UserRole>(role_->currentIndex()); }
 
 bool CatalogueDialog::MayEnter() {
-  const QString password = DirectorPassword(context_.data);
-  if (password.isEmpty() || Role() != UserRole::kDirector) return true;
+  if (Role() != UserRole::kDirector) return true;
+  const QString line = ReadPasswordLine(context_.data);
+  if (line.isEmpty()) return true;
   const QString answer =
       AskText(this, u"Пароль"_s, u"Введите пароль для входа в базу данных"_s).value_or(QString());
   if (answer.isEmpty()) return false;
-  if (answer != password) {
+  if (!IsPassword(line, answer)) {
+    WaitASecond();
     ShowMessage(this, u"Пароль введен не верно"_s);
     return false;
   }

@@ -3,6 +3,7 @@
 
 #include "TempData.h"
 #include "books/store/Catalogue.h"
+#include "books/store/DirectorPassword.h"
 #include "books/store/Errors.h"
 #include "system/SystemCalls.h"
 
@@ -248,18 +249,44 @@ TEST(Catalogue, PositionPicksTheRowThatWasLeft) {
   }
 }
 
+TEST(Catalogue, APasswordIsKnownByItsHashToo) {
+  const QString line =
+      u"{kladez}4096$73616c74$c5e478d59288c841aa530db6845c4c8d962893a001ce4e11a4963873aa98134a"_s;
+  EXPECT_TRUE(IsPassword(line, u"password"_s));
+  for (const QString& wrong : {u"Password"_s, QString(), line}) {
+    EXPECT_FALSE(IsPassword(line, wrong)) << wrong.toStdString();
+  }
+  const QString made = HashedPasswordLine(u"Пароль"_s);
+  EXPECT_NE(made, HashedPasswordLine(u"Пароль"_s));
+  EXPECT_TRUE(IsPassword(made, u"Пароль"_s));
+  EXPECT_FALSE(IsPassword(made, u"пароль"_s));
+  // What only looks like our form is a password as it stands.
+  for (const QString& plain : {u"{kladez}1$2"_s, u"{kladez}0$00$00"_s, u"secret"_s}) {
+    EXPECT_TRUE(IsPassword(plain, plain)) << plain.toStdString();
+  }
+}
+
+TEST(Catalogue, ThePasswordIsForItsOwnerOnlyOnceItIsRead) {
+  const TempData temp;
+  temp.PutLines(u"bases.psw"_s, {u"secret"_s});
+  const QString file = temp.Data().Resolve(u"bases.psw"_s);
+  QFile::setPermissions(file, QFile::Permissions(0x6644));
+  EXPECT_EQ(ReadPasswordLine(temp.Data()), u"secret"_s);
+  EXPECT_EQ(QFile::permissions(file) & 0x0077, 0);
+}
+
 TEST(Catalogue, PasswordIsTheFirstLineOnly) {
   const TempData temp;
-  EXPECT_EQ(DirectorPassword(temp.Data()), QString());
+  EXPECT_EQ(ReadPasswordLine(temp.Data()), QString());
   temp.Put(u"bases.psw"_s, "\r\nsecond\r\n");
-  EXPECT_EQ(DirectorPassword(temp.Data()), QString());
+  EXPECT_EQ(ReadPasswordLine(temp.Data()), QString());
   temp.PutLines(u"BASES.PSW"_s, {u" Пароль "_s, u"x"_s});
-  EXPECT_EQ(DirectorPassword(temp.Data()), u" Пароль "_s);
+  EXPECT_EQ(ReadPasswordLine(temp.Data()), u" Пароль "_s);
   // The file is placed by hand, and most editors here end a line otherwise.
   temp.Put(u"BASES.PSW"_s, "secret\n");
-  EXPECT_EQ(DirectorPassword(temp.Data()), u"secret"_s);
+  EXPECT_EQ(ReadPasswordLine(temp.Data()), u"secret"_s);
   temp.Put(u"BASES.PSW"_s, "\nsecond\n");
-  EXPECT_EQ(DirectorPassword(temp.Data()), QString());
+  EXPECT_EQ(ReadPasswordLine(temp.Data()), QString());
 }
 
 }  // namespace
