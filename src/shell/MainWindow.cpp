@@ -49,6 +49,7 @@ MainWindow::MainWindow(AppContext& context)
   setWindowIcon(look::Icon(look::IconName::kProgram));
   HintPicture::SetOpener(&HintWindow::Show);
   ChoiceAccess::Install();
+  FollowHelpKey(this, context.data);
   KeepTableFolder(&context.settings, &context.clock);
   menu_->OfferSchemes(context_.settings);
   BuildLayout();

@@ -1,6 +1,6 @@
 #include "ui/Help.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPointer>
@@ -9,6 +9,7 @@
 
 #include "books/printing/PrintOutDesk.h"
 #include "ui/Desktop.h"
+#include "ui/HelpPages.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Messages.h"
 
@@ -40,60 +41,69 @@ QString FindPage(const DataDir& data, const QString& page) {
   return {};
 }
 
-void OpenFile(QWidget* parent, const DataDir& data, const QString& file, const QString& name) {
+void OpenFile(QWidget* parent, const DataDir& data, const QString& file, const QString& name,
+              const QString& place = {}) {
   if (file.isEmpty()) {
     ShowInformation(
         parent, u"Нет файла справки «"_s + name + u"».\nПоложите его в каталог "_s + data.Root());
     return;
   }
-  Opener()(QUrl::fromLocalFile(file), [parent = QPointer(parent), &data, file] {
+  QUrl address = QUrl::fromLocalFile(file);
+  if (!place.isEmpty()) address.setFragment(place);
+  Opener()(address, [parent = QPointer(parent), &data, file] {
     const bool page = file.endsWith(".htm"_L1, Qt::CaseInsensitive);
     if (page && Viewer()(data, file)) return;
     ShowInformation(parent, u"Не найдена программа, которая показала бы файл\n"_s + file);
   });
 }
 
-// Takes the help key before the menu of the main window does, which a shortcut of the screen's own
-// would only get in the way of.
+void OpenHelpFor(QWidget* widget, const DataDir& data) {
+  const QStringView page = HelpPageFor(widget);
+  if (page == kHelpIndex) {
+    OpenHelpFile(widget, data);
+  } else {
+    OpenHelpPage(widget, data, page);
+  }
+}
+
+// Takes the help key before the menu of the main window does.
 class HelpKey : public QObject {
  public:
-  HelpKey(QWidget* window, std::function<void()> show) : QObject(window), show_(std::move(show)) {
-    window->installEventFilter(this);
+  HelpKey(QObject* owner, const DataDir& data) : QObject(owner), data_(data) {
+    qApp->installEventFilter(this);
   }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     const bool press = event->type() == QEvent::KeyPress;
-    if (!press && event->type() != QEvent::ShortcutOverride) {
-      return QObject::eventFilter(watched, event);
+    if ((!press && event->type() != QEvent::ShortcutOverride) || !watched->isWidgetType() ||
+        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents)) {
+      return false;
     }
-    if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents)) return false;
     event->accept();
-    if (press) show_();
+    if (press) OpenHelpFor(static_cast<QWidget*>(watched), data_);
     return true;
   }
 
  private:
-  std::function<void()> show_;
+  const DataDir& data_;
 };
 
 }  // namespace
 
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page) {
-  OpenFile(parent, data, FindPage(data, page.toString()), u"help\\"_s + page);
+  const qsizetype sharp = page.indexOf(u'#');
+  const QStringView file = sharp < 0 ? page : page.first(sharp);
+  OpenFile(parent, data, FindPage(data, file.toString()), u"help\\"_s + file,
+           sharp < 0 ? QString() : page.sliced(sharp + 1).toString());
 }
 
-void SetHelpPage(QWidget* window, const DataDir& data, QStringView page) {
-  new HelpKey(window,
-              [window, &data, page = page.toString()] { OpenHelpPage(window, data, page); });
-}
+void FollowHelpKey(QObject* owner, const DataDir& data) { new HelpKey(owner, data); }
 
-QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page,
-                            QStringView name) {
+QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView name) {
   QPushButton* command = NewCommand(screen, name.toString(), u"Справка"_s, look::IconName::kHint);
-  new HelpKey(screen, [command] { command->click(); });
   QObject::connect(command, &QPushButton::clicked, screen,
-                   [screen, &data, page = page.toString()] { OpenHelpPage(screen, data, page); });
+                   [screen, &data] { OpenHelpFor(screen, data); });
   return command;
 }
 

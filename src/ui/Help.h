@@ -8,6 +8,7 @@
 
 #include "books/store/DataDir.h"
 
+class QObject;
 class QPushButton;
 class QUrl;
 class QWidget;
@@ -20,16 +21,14 @@ inline constexpr QStringView kProductAddress = u"https://kladez.example/";
 inline constexpr QStringView kNewsAddress = u"https://kladez.example/news/";
 inline constexpr QStringView kProductMail = u"mailto:info@kladez.example";
 
-// A page of the folder "help", such as "workdb.htm": beside the Databases, else as it came with the
-// program.
+// A page of the folder "help", such as "workdb.htm" or "documents.htm#lines": beside the Databases,
+// else as it came with the program.
 void OpenHelpPage(QWidget* parent, const DataDir& data, QStringView page);
-// The help key opens the page while the keyboard is in the window; for one without the command
-// below.
-void SetHelpPage(QWidget* window, const DataDir& data, QStringView page);
-// The command "Справка" of a screen that has a page; the help key gives it too, while the keyboard
-// is in the screen. `name` is the control's name.
-QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView page,
-                            QStringView name = u"help");
+// From now on, and as long as `owner` lives, the help key opens the page of the window that has the
+// keyboard (HelpPages.h), the help file where that is the first one.
+void FollowHelpKey(QObject* owner, const DataDir& data);
+// The command "Справка" of a screen that has a page. `name` is the control's name.
+QPushButton* NewHelpCommand(QWidget* screen, const DataDir& data, QStringView name = u"help");
 // The help file beside the Databases, else the first page of the guide.
 void OpenHelpFile(QWidget* parent, const DataDir& data);
 void OpenAddress(QWidget* parent, QStringView address);

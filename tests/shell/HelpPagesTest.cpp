@@ -6,8 +6,10 @@
 #include <set>
 
 #include "ScreenDriver.h"
+#include "tour/Screens.h"
 #include "ui/Desktop.h"
 #include "ui/Help.h"
+#include "ui/HelpPages.h"
 
 namespace kladez {
 namespace {
@@ -20,12 +22,13 @@ QString TextOf(const QString& page) {
   return QString::fromUtf8(file.readAll());
 }
 
-TEST(HelpPages, EveryTopicOfAScreenHasItsPage) {
-  for (const QString& topic :
-       {u"workdb"_s, u"price"_s, u"ost"_s, u"vnot1"_s, u"vnot2"_s, u"vnot3"_s, u"vnot4"_s,
-        u"vnot5"_s, u"vnot6"_s, u"vnot7"_s, u"vnot8"_s, u"vnot9"_s, u"otlist"_s, u"history"_s,
-        u"barcode"_s, u"order"_s, u"priceprint"_s, u"loadtable"_s, u"uhodchfakt"_s}) {
-    EXPECT_TRUE(QFile::exists(kHelp + u'/' + topic + u".htm"_s)) << topic.toStdString();
+TEST(HelpPages, EveryWindowHasItsPageAndPlace) {
+  for (const QString& window : kScreens) {
+    const QStringList page = HelpPageOf(window).toString().split(u'#');
+    EXPECT_TRUE(TextOf(page[0]).contains(u"<h1>"_s)) << window.toStdString();
+    if (page.size() > 1) {
+      EXPECT_TRUE(TextOf(page[0]).contains(u" id=\"%1\""_s.arg(page[1]))) << window.toStdString();
+    }
   }
 }
 

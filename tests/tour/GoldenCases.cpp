@@ -55,13 +55,23 @@ Step Answer(const QString& screen, const QString& typed) {
   };
 }
 
-Step Yes() {
-  return [](Robot& robot) {
+Step Press(QMessageBox::StandardButton button) {
+  return [=](Robot& robot) {
     robot.WaitForMessage();
-    robot.InWindow([] {
+    robot.InWindow([=] {
       auto* box = qobject_cast<QMessageBox*>(eyes::Front());
-      QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
+      QTest::mouseClick(box->button(button), Qt::LeftButton);
     });
+  };
+}
+
+Step Yes() { return Press(QMessageBox::Yes); }
+
+// Out of the window, and what would wait in it is let go.
+Step LeaveUnsaved() {
+  return [](Robot& robot) {
+    robot.Press(Qt::Key_Escape);
+    Press(QMessageBox::No)(robot);
   };
 }
 
@@ -232,9 +242,14 @@ std::vector<GoldenCase> DirectoryCases() {
        Click(u"add"_s) >> Answer(u"AskText"_s, u"Ларёк"_s),
        Copied(kShop, kKiosk) + Empty(kKiosk + "товар.usl") +
            Changed(kBase + "склад.usd", u"Главный склад\nМагазин\nЛарёк"_s)},
-      {"sprSklad", "склады: переименование",
+      {"sprSklad",
+       "склады: переименование",
        Menu(u"mnu_Sprav_S"_s, u"sprSklad"_s) >> Select(u"Магазин"_s),
-       Click(u"change"_s) >> Answer(u"AskText"_s, u"Ларёк"_s), Copied(kShop, kKiosk) + Gone(kShop)},
+       Click(u"change"_s) >> Answer(u"AskText"_s, u"Ларёк"_s),
+       Copied(kShop, kKiosk) + Gone(kShop),
+       Beside::kNothing,
+       {},
+       LeaveUnsaved()},
       {"sprSklad", "склады: удаление",
        Menu(u"mnu_Sprav_S"_s, u"sprSklad"_s) >> Select(u"Магазин"_s), Click(u"remove"_s) >> Yes(),
        Gone(kShop) + Changed(kBase + "склад.usd", u"Главный склад"_s)},

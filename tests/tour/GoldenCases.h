@@ -25,6 +25,8 @@ struct GoldenCase {
   std::function<void(Tree&)> change;
   Beside beside = Beside::kNothing;
   std::string gone = {};  // the screen whose closing is the end of the command
+  // The way out, where work waits in the screen that is not to be saved.
+  std::function<void(Robot&)> leave = {};
 
   // What GoogleTest prints of a case.
   friend void PrintTo(const GoldenCase& golden, std::ostream* out) { *out << golden.what; }

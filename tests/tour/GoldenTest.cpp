@@ -84,6 +84,7 @@ TEST_P(Golden, TheFullDiskIsToldAndTheSecondTryLeavesTheseBytes) {
     } else {
       player.WaitUntilGone(QString::fromStdString(golden.gone));
     }
+    if (golden.leave) golden.leave(player);
   });
 
   Tree expected = before;

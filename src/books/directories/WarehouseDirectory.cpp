@@ -65,6 +65,15 @@ bool HoldsForbiddenCharacter(QStringView name) {
 WarehouseDirectory::WarehouseDirectory(const DataDir& data, Session& session)
     : data_(data), session_(session), names_(session.warehouses) {}
 
+bool WarehouseDirectory::IsCurrent() const {
+  return IsStill(session_.warehouses_file, data_, session_.Path(files::kWarehouses));
+}
+
+void WarehouseDirectory::Reload() {
+  ReadWarehouses(session_, data_);
+  names_ = session_.warehouses;
+}
+
 void WarehouseDirectory::WriteList(SaveSet& save, const QStringList& names) const {
   const QString path = session_.Path(files::kWarehouses);
   if (!session_.warehouses_file.known) {

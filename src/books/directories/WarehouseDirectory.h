@@ -29,6 +29,13 @@ class WarehouseDirectory {
   const QStringList& Names() const { return names_; }
   bool Contains(const QString& name) const { return names_.contains(name); }  // letter case counts
 
+  // Whether a new name waits for Save.
+  bool IsChanged() const { return names_ != session_.warehouses; }
+  // Whether the file is still the list that the session has.
+  bool IsCurrent() const;
+  // Reads the file again, for the session too, and loses new names that were not saved.
+  void Reload();
+
   // Makes the directory with all that a new warehouse holds, and writes the list: one save.
   void Create(const QString& name);
   // Renames the directory. The list file and the session keep the old name until Save.

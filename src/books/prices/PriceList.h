@@ -98,6 +98,7 @@ class PriceList {
   // What the list was read from.
   FileState price_file = FileState::Missing();
   FileState marks_file = FileState::Missing();
+  FileState goods_file;
 
  private:
   void BeforeChange();

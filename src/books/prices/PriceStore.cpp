@@ -38,7 +38,11 @@ QString PriceStore::FileOf(const QString& warehouse, int index) const {
 
 PriceList PriceStore::Load(const QString& warehouse, int index, GoodsView view,
                            const Progress& progress) const {
-  return LoadOver(data_.Read(session_.Path(files::kGoods)), warehouse, index, view, progress);
+  FileState goods_file;
+  const QByteArray goods = ReadWithState(data_, session_.Path(files::kGoods), goods_file);
+  PriceList list = LoadOver(goods, warehouse, index, view, progress);
+  list.goods_file = goods_file;
+  return list;
 }
 
 PriceList PriceStore::LoadOver(const QByteArray& goods, const QString& warehouse, int index,
@@ -58,6 +62,14 @@ PriceList PriceStore::LoadOver(const QByteArray& goods, const QString& warehouse
 
 void PriceStore::Gather(SaveSet& save, PriceList& list, const QString& warehouse, int index) const {
   save.Write(FileOf(warehouse, index), list.PriceBytes(), list.price_file);
+}
+
+bool PriceStore::IsCurrent(const PriceList& list, const QString& warehouse, int index) const {
+  const QStringList files = Files(warehouse);
+  const bool has_file = index >= 0 && index < files.size();
+  return (has_file ? IsStill(list.price_file, data_, files[index]) : !list.price_file.known) &&
+         IsStill(list.marks_file, data_, MarksPath(session_)) &&
+         IsStill(list.goods_file, data_, session_.Path(files::kGoods));
 }
 
 void PriceStore::Save(PriceList& list, const QString& warehouse, int index) const {

@@ -36,6 +36,9 @@ class PriceStore {
   // filesystem_error where the list has no file.
   void Gather(SaveSet& save, PriceList& list, const QString& warehouse, int index) const;
 
+  // Whether the list is still that of the files of its place.
+  bool IsCurrent(const PriceList& list, const QString& warehouse, int index) const;
+
   // Each is one save, all or nothing, and throws filesystem_error.
   void Save(PriceList& list, const QString& warehouse, int index) const;  // ticks too
   void SaveTicks(PriceList& list) const;

@@ -5,6 +5,14 @@
 #include "system/PathNames.h"
 
 namespace kladez {
+namespace {
+
+std::filesystem::file_time_type TimeOf(const QByteArray& path) {
+  std::error_code none;
+  return std::filesystem::last_write_time(path.toStdString(), none);
+}
+
+}  // namespace
 
 void DocumentHeads::Scan(const DataDir& data, const QString& directory, const Visit& visit) {
   if (busy_) {  // whoever shows the progress of a scan may start another
@@ -16,7 +24,10 @@ void DocumentHeads::Scan(const DataDir& data, const QString& directory, const Vi
   }
   const QScopedValueRollback busy(busy_, true);
   const QByteArray path = EncodePath(data.Resolve(directory));
-  const auto changed = watch_->Changes(path);
+  auto changed = watch_->Changes(path);
+  if (changed) changed->merge(changed_);
+  changed_.clear();
+  time_ = TimeOf(path);
   // Watched from before the first file is read, so that no change falls between.
   if (!changed) watch_->Start(path);
   try {
@@ -31,6 +42,16 @@ void DocumentHeads::Scan(const DataDir& data, const QString& directory, const Vi
     watch_->Stop();
     throw;
   }
+}
+
+bool DocumentHeads::MayHaveChanged(const DataDir& data, const QString& directory) {
+  if (busy_) return false;
+  const QByteArray path = EncodePath(data.Resolve(directory));
+  auto changed = watch_->Changes(path);
+  // What the system does not tell, the directory's time does, but for files written in place.
+  if (!changed) return TimeOf(path) != time_;
+  changed_.merge(*changed);
+  return !changed_.empty();
 }
 
 void DocumentHeads::Keep(const ScannedDocument& document) {

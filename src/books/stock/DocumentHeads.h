@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -23,6 +24,8 @@ class DocumentHeads {
   // Visits the documents as ScanDocuments with Unreadable::kStop does, without their lines. What
   // it throws, and what `visit` throws, leaves nothing kept.
   void Scan(const DataDir& data, const QString& directory, const Visit& visit);
+  // Whether the directory may hold other documents than at the last scan.
+  bool MayHaveChanged(const DataDir& data, const QString& directory);
 
  private:
   struct Kept {
@@ -40,7 +43,9 @@ class DocumentHeads {
   DocumentKind kind_;
   bool busy_ = false;
   std::unique_ptr<DirectoryWatch> watch_ = std::make_unique<DirectoryWatch>();
-  std::vector<Kept> kept_;  // in the order of names
+  std::filesystem::file_time_type time_;  // of the directory, at the last scan
+  DirectoryWatch::Names changed_;         // told by the watch, and not read yet
+  std::vector<Kept> kept_;                // in the order of names
   std::vector<char> bytes_;
 };
 

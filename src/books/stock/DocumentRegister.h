@@ -50,6 +50,10 @@ class DocumentRegister {
   // that can't be read, and WorkCancelled; the rows stay as they were then.
   void Load(const QString& warehouse, const RegisterFilter& filter, QDate today, bool descending,
             const Progress& progress = {});
+  // Whether the documents of the warehouse may be others than those of the last Load.
+  bool MayHaveChanged(const QString& warehouse) {
+    return heads_.MayHaveChanged(data_, DocumentDirectory(session_, kind_, warehouse));
+  }
   void Clear() { *this = DocumentRegister(data_, session_, kind_); }
 
   // In the order that Load was asked for.

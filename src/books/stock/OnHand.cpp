@@ -57,7 +57,8 @@ void SaveLedger(OnHandList& list, const DataDir& data, const Session& session,
       data, (zeroed ? u"склад «%1» обнулён"_s : u"остатки склада «%1» записаны"_s).arg(warehouse));
   if (zeroed) save.CopyFirst();
   save.Expect(GoodsPath(session), list.goods_file);
-  save.Write(LedgerPath(session, warehouse), std::move(bytes), list.ledger_file);
+  list.ledger_files.resize(1);
+  save.Write(LedgerPath(session, warehouse), std::move(bytes), list.ledger_files.front());
   save.Commit();
 }
 
@@ -187,17 +188,26 @@ QByteArray OnHandList::ZeroedLedgerBytes() const {
 
 OnHandList LoadOnHand(const DataDir& data, const Session& session, const QStringList& warehouses,
                       GoodsView view) {
-  FileState goods, ledger;
+  FileState goods;
+  std::vector<FileState> ledgers;
   OnHandJoin join(ReadWithState(data, GoodsPath(session), goods), view);
   for (const QString& warehouse : warehouses) {
-    const QString path = LedgerPath(session, warehouse);
-    // Only a list of one ledger is saved, and needs to know what it was.
-    join.Add(warehouses.size() == 1 ? ReadWithState(data, path, ledger) : data.Read(path));
+    join.Add(ReadWithState(data, LedgerPath(session, warehouse), ledgers.emplace_back()));
   }
   OnHandList list = join.Take();
   list.goods_file = goods;
-  list.ledger_file = ledger;
+  list.ledger_files = std::move(ledgers);
   return list;
+}
+
+bool IsCurrent(const OnHandList& list, const DataDir& data, const Session& session,
+               const QStringList& warehouses) {
+  if (list.ledger_files.size() != static_cast<size_t>(warehouses.size())) return false;
+  if (!IsStill(list.goods_file, data, GoodsPath(session))) return false;
+  return std::equal(warehouses.begin(), warehouses.end(), list.ledger_files.begin(),
+                    [&](const QString& warehouse, const FileState& file) {
+                      return IsStill(file, data, LedgerPath(session, warehouse));
+                    });
 }
 
 void SaveOnHand(OnHandList& list, const DataDir& data, const Session& session,

@@ -83,7 +83,7 @@ class OnHandList {
 
   // What the list was read from: the directory too, as a name that it lacks leaves the ledger.
   FileState goods_file;
-  FileState ledger_file;  // where it was one
+  std::vector<FileState> ledger_files;  // in the order of the warehouses
 
  private:
   // Whether a row goes into a ledger.
@@ -110,6 +110,10 @@ class OnHandJoin {
 // Reads the directory and the ledgers of the named warehouses. Throws filesystem_error.
 OnHandList LoadOnHand(const DataDir& data, const Session& session, const QStringList& warehouses,
                       GoodsView view);
+
+// Whether the list is still that of the files. The warehouses are those that it was loaded with.
+bool IsCurrent(const OnHandList& list, const DataDir& data, const Session& session,
+               const QStringList& warehouses);
 
 // Each writes the ledger of one warehouse. Throws filesystem_error; nothing has changed then.
 void SaveOnHand(OnHandList& list, const DataDir& data, const Session& session,

@@ -57,10 +57,8 @@ bool OpenDatabase(Session& session, const DataDir& data) {
   }
   // Without the list, a missing one too, no name is known that a new list could be made of.
   session.warehouses.clear();
-  NoteUnread([&] {
-    session.warehouses =
-        DecodeLines(ReadWithState(data, session.Path(files::kWarehouses), session.warehouses_file));
-  });
+  session.warehouses_file = {};
+  NoteUnread([&] { ReadWarehouses(session, data); });
   FileState marks;
   NoteUnread([&] { ReadIfThere(data, session.Path(u"marked"_s), marks); });
   session.currency_name = ShortCurrency(session, data);
@@ -69,6 +67,12 @@ bool OpenDatabase(Session& session, const DataDir& data) {
     NoteUnread([&] { session.Parties(kind) = PartyNames(session, data, kind); });
   }
   return true;
+}
+
+void ReadWarehouses(Session& session, const DataDir& data) {
+  FileState file;
+  session.warehouses = DecodeLines(ReadWithState(data, session.Path(files::kWarehouses), file));
+  session.warehouses_file = file;
 }
 
 QString LedgerPath(const Session& session, const QString& warehouse) {

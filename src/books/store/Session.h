@@ -46,6 +46,9 @@ struct Session {
 // and told (see Notes.h).
 bool OpenDatabase(Session& session, const DataDir& data);
 
+// Reads the names of its warehouses. Throws filesystem_error, the names as before then.
+void ReadWarehouses(Session& session, const DataDir& data);
+
 // The stock ledger of a warehouse, "0001\Главный склад\товар.usl".
 QString LedgerPath(const Session& session, const QString& warehouse);
 

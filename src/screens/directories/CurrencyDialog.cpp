@@ -6,9 +6,11 @@
 
 #include "books/directories/MainCurrency.h"
 #include "books/printing/DocumentTotals.h"
+#include "formats/DatabaseFiles.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
-#include "ui/controls/Guard.h"
+#include "ui/controls/FollowedFiles.h"
+#include "ui/controls/Messages.h"
 #include "ui/controls/TabOrder.h"
 #include "ui/controls/UnsavedWork.h"
 
@@ -42,11 +44,13 @@ CurrencyDialog::CurrencyDialog(AppContext& context, QWidget* parent)
   layout->addSpacing(look::kGrid);
   layout->addLayout(NewEndingRow(ok, cancel));
   TabByEye(this);
-  const Currency currency = LoadMainCurrency(context.data, context.session, file_);
-  for (size_t i = 0; i < fields_.size(); ++i) fields_[i]->setText(currency.forms[i]);
+  Read();
   fields_.front()->setFocus();
-  new UnsavedWork(this, {.is_changed = [this, before = Texts()] { return Texts() != before; },
-                         .save = [this] { return Save(); }});
+  const auto is_changed = [this] { return Texts() != read_; };
+  new UnsavedWork(this, {.is_changed = is_changed, .save = [this] { return Save(); }});
+  files_ = new FollowedFiles(this, {.is_current = [this] { return IsCurrent(); },
+                                    .is_changed = is_changed,
+                                    .read_again = [this] { Read(); }});
   connect(ok, &QPushButton::clicked, this, [this] {
     if (Save()) accept();
   });
@@ -82,16 +86,12 @@ QGroupBox* CurrencyDialog::NewTaxes() {
   auto* grid = new QGridLayout(frame);
   look::SetDialogMargins(grid);
   grid->setColumnStretch(3, 1);
-  const std::optional<TaxRates> rates = LoadTaxRates(context_.data, context_.session, rates_file_);
-  const TaxRates known = rates.value_or(TaxRates());
   const PrintParameters papers;
-  const auto add = [&](const QString& name, const QString& caption, const QString& percent,
-                       const QString& otherwise) {
+  const auto add = [&](const QString& name, const QString& caption, const QString& otherwise) {
     auto* field = new TextLine(frame);
     field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     field->setFixedWidth(look::ByLetters(field, 8));
     field->setObjectName(name);
-    field->setText(percent);
     auto* label = new QLabel(caption, frame);
     label->setBuddy(field);
     auto* example = new QLabel(u"(пусто: "_s + otherwise + u')', frame);
@@ -102,15 +102,29 @@ QGroupBox* CurrencyDialog::NewTaxes() {
     grid->addWidget(example, row, 2);
     return field;
   };
-  vat_ = add(u"vat"_s, u"Н&ДС, %:"_s, known.vat, papers.vat);
-  sales_tax_ = add(u"sales_tax"_s, u"Н&СП, %:"_s, known.sales_tax, papers.sales_tax);
-  if (!rates) {
-    auto* damaged = new QLabel(u"Файл ставок повреждён: запишите их снова."_s, frame);
-    damaged->setObjectName(u"no_taxes"_s);
-    look::MakeWarning(damaged);
-    grid->addWidget(damaged, grid->rowCount(), 0, 1, -1);
-  }
+  vat_ = add(u"vat"_s, u"Н&ДС, %:"_s, papers.vat);
+  sales_tax_ = add(u"sales_tax"_s, u"Н&СП, %:"_s, papers.sales_tax);
+  no_taxes_ = new QLabel(u"Файл ставок повреждён: запишите их снова."_s, frame);
+  no_taxes_->setObjectName(u"no_taxes"_s);
+  look::MakeWarning(no_taxes_);
+  grid->addWidget(no_taxes_, grid->rowCount(), 0, 1, -1);
   return frame;
+}
+
+void CurrencyDialog::Read() {
+  const Currency currency = LoadMainCurrency(context_.data, context_.session, file_);
+  for (size_t i = 0; i < fields_.size(); ++i) fields_[i]->setText(currency.forms[i]);
+  const std::optional<TaxRates> rates = LoadTaxRates(context_.data, context_.session, rates_file_);
+  vat_->setText(rates.value_or(TaxRates()).vat);
+  sales_tax_->setText(rates.value_or(TaxRates()).sales_tax);
+  no_taxes_->setVisible(!rates);
+  read_ = Texts();
+}
+
+bool CurrencyDialog::IsCurrent() const {
+  const Session& session = context_.session;
+  return IsStill(file_, context_.data, session.Path(files::kCurrency)) &&
+         IsStill(rates_file_, context_.data, session.Path(files::kTaxRates));
 }
 
 QStringList CurrencyDialog::Texts() const {
@@ -135,7 +149,7 @@ bool CurrencyDialog::Save() {
     }
     rates.*percent = *kept;
   }
-  return Guarded(this, [&] {
+  return files_->Save([&] {
     SaveMainCurrency(context_.data, context_.session, currency, file_, rates, rates_file_);
   });
 }

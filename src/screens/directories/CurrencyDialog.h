@@ -9,9 +9,11 @@
 #include "ui/AppContext.h"
 
 class QGroupBox;
+class QLabel;
 
 namespace kladez {
 
+class FollowedFiles;
 class TextLine;
 
 class CurrencyDialog : public QDialog {
@@ -25,14 +27,19 @@ class CurrencyDialog : public QDialog {
   QGroupBox* NewFrame(const QString& title, const QString& name, int first);
   QGroupBox* NewTaxes();
   QStringList Texts() const;  // of all fields
+  void Read();
+  bool IsCurrent() const;
   bool Save();
 
   AppContext& context_;
   FileState file_;
   FileState rates_file_;
+  FollowedFiles* files_ = nullptr;
+  QStringList read_;                 // the texts of all fields as they were read
   std::array<TextLine*, 8> fields_;  // in the order of the file
   TextLine* vat_;
   TextLine* sales_tax_;
+  QLabel* no_taxes_;  // their file is damaged
 };
 
 }  // namespace kladez

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "ui/controls/Commands.h"
-#include "ui/controls/Guard.h"
+#include "ui/controls/FollowedFiles.h"
 #include "ui/controls/ListSearch.h"
 #include "ui/controls/TabOrder.h"
 #include "ui/controls/UnsavedWork.h"
@@ -43,14 +43,17 @@ DirectoryDialog::DirectoryDialog(const QString& name, const QString& title, Endi
   TabByEye(this);
   list_->setFocus();
   new UnsavedWork(this, {.is_changed = [this] { return IsChanged(); },
-                         .save = [this] { return Guarded(this, [this] { Save(); }); }});
+                         .save = [this] { return Write([this] { Save(); }); }});
+  files_ = new FollowedFiles(this, {.is_current = [this] { return IsCurrent(); },
+                                    .is_changed = [this] { return IsChanged(); },
+                                    .read_again = [this] { ShowRead(); }});
 
   ShareListKeys(this, list_);
   connect(add_, &QPushButton::clicked, this, [this] { Add(); });
   connect(change_, &QPushButton::clicked, this, [this] { OnRow(&DirectoryDialog::Change); });
   connect(remove_, &QPushButton::clicked, this, [this] { OnRow(&DirectoryDialog::Remove); });
   connect(ok_, &QPushButton::clicked, this, [this] {
-    if (Guarded(this, [this] { Save(); })) accept();
+    if (Write([this] { Save(); })) accept();
   });
   connect(list_, &RecordList::InsertPressed, add_, &QPushButton::click);
   connect(list_, &RecordList::DeletePressed, remove_, &QPushButton::click);
@@ -58,6 +61,18 @@ DirectoryDialog::DirectoryDialog(const QString& name, const QString& title, Endi
   connect(list_, &RecordList::EnterPressed, change_, &QPushButton::click);
   connect(list_, &RecordList::DoubleClicked, change_, &QPushButton::click);
 }
+
+void DirectoryDialog::ShowRead() {
+  const int row = std::max(0, list_->CurrentRow());
+  const QString name = model_->index(row, 0).data().toString();
+  ReadAgain();
+  ShowAnew(row);
+  for (int now = 0; now < model_->rowCount(); ++now) {
+    if (model_->index(now, 0).data().toString() == name) return list_->SelectRow(now);
+  }
+}
+
+bool DirectoryDialog::Write(const std::function<void()>& command) { return files_->Save(command); }
 
 void DirectoryDialog::OnRow(void (DirectoryDialog::*command)(int row)) {
   const int row = list_->CurrentRow();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <vector>
 
 #include "ui/controls/RecordList.h"
@@ -10,6 +11,8 @@
 class QPushButton;
 
 namespace kladez {
+
+class FollowedFiles;
 
 class DirectoryDialog : public QDialog {
   Q_OBJECT
@@ -31,12 +34,20 @@ class DirectoryDialog : public QDialog {
   virtual void Save() = 0;
   // Whether there are changes that Save has not made last.
   virtual bool IsChanged() const = 0;
+  // Whether the file is still the one that was read; reads it again, may throw.
+  virtual bool IsCurrent() const = 0;
+  virtual void ReadAgain() = 0;
+
+  // Runs a command that writes the file, and offers to read again where that is refused.
+  bool Write(const std::function<void()>& command);
 
  private:
+  void ShowRead();
   void OnRow(void (DirectoryDialog::*command)(int row));
 
   RecordList* list_;
   RecordModel* model_ = nullptr;
+  FollowedFiles* files_ = nullptr;
   QPushButton* add_;     // "Добавить"
   QPushButton* change_;  // "Изменить"
   QPushButton* remove_;  // "Удалить"

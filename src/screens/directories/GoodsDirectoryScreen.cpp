@@ -13,6 +13,7 @@
 #include "screens/directories/PickQuestion.h"
 #include "ui/HistoryCommand.h"
 #include "ui/controls/Commands.h"
+#include "ui/controls/FollowedFiles.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/TabOrder.h"
 #include "ui/controls/UnsavedWork.h"
@@ -26,9 +27,8 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
     : QWidget(parent),
       context_(context),
       browser_(new GoodsBrowser(context, u"sprTovar", {}, this)),
-      unsaved_(new UnsavedWork(
-          this, {.is_changed = [this] { return Directory().IsChanged(); },
-                 .save = [this] { return Guarded(this, [this] { Directory().SaveAll(); }); }})),
+      unsaved_(new UnsavedWork(this, {.is_changed = [this] { return Directory().IsChanged(); },
+                                      .save = [this] { return Save(&GoodsDirectory::SaveAll); }})),
       add_(NewCommand(this, u"add"_s, u"&Добавить"_s, IconName::kAdd)),
       change_(NewCommand(this, u"change"_s, u"&Изменить"_s, IconName::kChange)),
       remove_(NewCommand(this, u"remove"_s, u"&Удалить"_s, IconName::kRemove)),
@@ -49,6 +49,12 @@ GoodsDirectoryScreen::GoodsDirectoryScreen(AppContext& context, QWidget* parent)
         u"Остальное в порядке; когда Вы впишете штрихкод или минимум, файл будет записан заново."_s);
   }
   BuildLayout();
+  files_ = new FollowedFiles(
+      this,
+      {.is_current = [this] { return Directory().IsCurrent(); },
+       .is_changed = [this] { return Directory().IsChanged(); },
+       .read_again =
+           [this] { browser_->ShowAnew([this] { Directory().Reload(Directory().View()); }); }});
   Wire();
   ShowView();
   setFocusProxy(browser_->List());
@@ -146,7 +152,7 @@ void GoodsDirectoryScreen::Change() {
     browser_->Model()->Reset();
     browser_->List()->SelectRow(row);
   }
-  Guarded(this, [&] { Directory().SaveChange(row); });
+  files_->Save([&] { Directory().SaveChange(row); });
 }
 
 void GoodsDirectoryScreen::Remove() {
@@ -205,7 +211,7 @@ void GoodsDirectoryScreen::ChangeOrChoose() {
 }
 
 void GoodsDirectoryScreen::Choose() {
-  if (!Guarded(this, [this] { Directory().SaveBeforePick(); })) return;
+  if (!Save(&GoodsDirectory::SaveBeforePick)) return;
   const std::optional<GoodsRecord> record = browser_->Selected();
   if (!record) return;
   const auto pick = AskPick(this, *record, pick_for_);
@@ -224,7 +230,11 @@ void GoodsDirectoryScreen::CloseSaved() {
   // With the goods alone shown the told save leaves changed names out.
   const bool leaves_out = Directory().View() == GoodsView::kGoodsOnly;
   if (leaves_out && !unsaved_->MayGo()) return;
-  if (Guarded(this, [this] { Directory().Save(); })) close();
+  if (Save(&GoodsDirectory::Save)) close();
+}
+
+bool GoodsDirectoryScreen::Save(void (GoodsDirectory::*save)()) {
+  return files_->Save([=, this] { (Directory().*save)(); });
 }
 
 void GoodsDirectoryScreen::ChooseView(GoodsView view) {
@@ -235,7 +245,7 @@ void GoodsDirectoryScreen::ChooseView(GoodsView view) {
     return;
   }
   browser_->SaveWidths();
-  Guarded(this, [&] {
+  files_->Save([&] {
     browser_->ShowAnew([&] {
       if (view == GoodsView::kGoodsOnly) {
         Directory().ShowGoodsOnly();

@@ -14,6 +14,7 @@ class QPushButton;
 
 namespace kladez {
 
+class FollowedFiles;
 class GoodsBrowser;
 class GoodsDirectory;
 class UnsavedWork;
@@ -55,6 +56,7 @@ class GoodsDirectoryScreen : public QWidget {
   void ChooseView(GoodsView view);
   void ShowView();
   void Refresh();
+  bool Save(void (GoodsDirectory::*save)());
   QString WhatGoes(const GoodsRecord& record) const;
   GoodsDirectory& Directory();
 
@@ -62,6 +64,7 @@ class GoodsDirectoryScreen : public QWidget {
   PickFor pick_for_ = PickFor::kPriceList;
   GoodsBrowser* browser_;
   UnsavedWork* unsaved_;
+  FollowedFiles* files_ = nullptr;
   QPushButton* add_;      // "Добавить"
   QPushButton* change_;   // "Изменить"
   QPushButton* remove_;   // "Удалить"

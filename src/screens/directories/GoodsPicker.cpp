@@ -10,8 +10,11 @@
 #include "books/store/SaveSet.h"
 #include "screens/directories/GoodsBrowser.h"
 #include "screens/directories/PickQuestion.h"
+#include "ui/Hints.h"
 #include "ui/HistoryCommand.h"
 #include "ui/controls/Commands.h"
+#include "ui/controls/FollowedFiles.h"
+#include "ui/controls/Forms.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/TabOrder.h"
 
@@ -43,6 +46,9 @@ GoodsPicker::GoodsPicker(AppContext& context, PickFor pick_for, QWidget* parent)
   browser_->SelectForPick(context.settings.Read(settings::kLastPick));
   browser_->List()->setFocus();
 
+  new FollowedFiles(this, {.is_current = [this] { return browser_->Directory().IsCurrent(); },
+                           .is_changed = {},
+                           .read_again = [this] { ReadAgain(browser_->Directory().View()); }});
   ShareListKeys(this, browser_->List());
   connect(choose_, &QPushButton::clicked, this, &GoodsPicker::Choose);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -97,20 +103,22 @@ void GoodsPicker::AddStayTick(QBoxLayout* row) {
   count_ = new QLabel(this);
   count_->setObjectName(u"count"_s);
   look::MakeQuiet(count_);
-  row->insertWidget(0, stay_);
+  row->insertLayout(0, WithHint(stay_, HintFor(u"sprtovar2", u"Не закрывать")));
   row->insertSpacing(1, look::kGrid);
   row->insertWidget(2, count_);
 }
 
 void GoodsPicker::ChooseView(GoodsView view) {
   browser_->SaveWidths();
-  const bool good = Guarded(this, [&] {
-    browser_->ShowAnew([&] {
-      browser_->Directory().Reload(view);
-      TickAnew();
-    });
+  if (!Guarded(this, [&] { ReadAgain(view); }))
+    browser_->Filter()->SetView(browser_->Directory().View());
+}
+
+void GoodsPicker::ReadAgain(GoodsView view) {
+  browser_->ShowAnew([&] {
+    browser_->Directory().Reload(view);
+    TickAnew();
   });
-  if (!good) browser_->Filter()->SetView(browser_->Directory().View());
 }
 
 void GoodsPicker::done(int result) {

@@ -48,6 +48,7 @@ class GoodsPicker : public QDialog {
   void Take(const GoodsPick& pick);
   void Choose();
   void ChooseView(GoodsView view);
+  void ReadAgain(GoodsView view);
   void TickAnew();
 
   AppContext& context_;

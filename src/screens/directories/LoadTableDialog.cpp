@@ -108,7 +108,7 @@ void LoadTableDialog::BuildLayout() {
   foot->addWidget(NewLabel(u"&Показать:"_s, filter_, this));
   foot->addWidget(filter_);
   auto* ending = NewEndingRow(load_, cancel_);
-  ending->insertWidget(0, NewHelpCommand(this, context_.data, u"loadtable.htm"));
+  ending->insertWidget(0, NewHelpCommand(this, context_.data));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(top);

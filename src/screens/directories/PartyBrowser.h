@@ -22,6 +22,8 @@ class PartyBrowser : public DirectoryDialog {
   void Remove(int row) override;
   void Save() override;
   bool IsChanged() const override { return directory_.IsChanged(); }
+  bool IsCurrent() const override { return directory_.IsCurrent(); }
+  void ReadAgain() override { directory_.Reload(); }
 
  private:
   std::optional<TermsEntry> EntryOf(const ClientTerms& terms) const;

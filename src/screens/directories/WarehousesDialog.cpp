@@ -1,7 +1,7 @@
 #include "screens/directories/WarehousesDialog.h"
 
-#include "ui/controls/Guard.h"
 #include "ui/controls/Look.h"
+#include "ui/controls/Messages.h"
 
 namespace kladez {
 
@@ -34,7 +34,7 @@ void WarehousesDialog::Add() {
     ShowMessage(this, u"Такой склад уже существует"_s);
     return;
   }
-  Guarded(this, [&] {
+  Write([&] {
     directory_.Create(name);
     ShowAnew(static_cast<int>(directory_.Names().size()) - 1);
   });
@@ -43,7 +43,7 @@ void WarehousesDialog::Add() {
 void WarehousesDialog::Change(int row) {
   const QString name = AskName(u"Введите новое название склада"_s, directory_.Names()[row]);
   if (name.isEmpty()) return;
-  Guarded(this, [&] {
+  Write([&] {
     directory_.Rename(row, name);
     ShowAnew(row);
   });
@@ -56,7 +56,7 @@ void WarehousesDialog::Remove(int row) {
                 u"которые в нём лежат."_s.arg(directory_.Names()[row]))) {
     return;
   }
-  Guarded(this, [&] {
+  Write([&] {
     directory_.Delete(row);
     ShowAnew(row);
   });

@@ -19,8 +19,9 @@ class WarehousesDialog : public DirectoryDialog {
   void Change(int row) override;
   void Remove(int row) override;
   void Save() override;
-  // Each command is on the disk at once; that a new name is in the list only after "OK" is told.
-  bool IsChanged() const override { return false; }
+  bool IsChanged() const override { return directory_.IsChanged(); }
+  bool IsCurrent() const override { return directory_.IsCurrent(); }
+  void ReadAgain() override { directory_.Reload(); }
 
  private:
   // Asks until the name may be one or the user gives up; empty then.

@@ -19,6 +19,7 @@
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
 #include "ui/controls/Commands.h"
+#include "ui/controls/FollowedFiles.h"
 #include "ui/controls/Forms.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/TabOrder.h"
@@ -84,7 +85,10 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceUse use, QWidget* parent)
     taken_->setObjectName(u"taken"_s);
     taken_->setWordWrap(true);
     look::MakeQuiet(taken_);
-    layout->addWidget(taken_);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(taken_, 1);
+    foot->addWidget(new HintPicture(HintFor(u"price2", u"Выбрано строк"), {}, this));
+    layout->addLayout(foot);
   }
   auto* commands = new WrapRow(look::kGrid, look::kTight);
   AddCommands(commands, Place::kLeft);
@@ -101,6 +105,7 @@ PriceBrowser::PriceBrowser(AppContext& context, PriceUse use, QWidget* parent)
   TabByEye(this);
   ShareListKeys(this, list_, findChild<QPushButton*>(u"Command9"_s));
   SelectByScanner(this, context, list_);
+  FollowFiles();
   Wire();
 }
 
@@ -141,7 +146,7 @@ void PriceBrowser::BuildPanel(QVBoxLayout* layout) {
   auto* commands = new QHBoxLayout;
   commands->setSpacing(look::kTight);
   AddCommands(commands, Place::kPanel);
-  commands->addWidget(NewHelpCommand(this, context_.data, u"price.htm"));
+  commands->addWidget(NewHelpCommand(this, context_.data));
   choices->Add(commands, 0);
   filter_ = new GoodsFilter(context_.settings, {settings::kPriceGroups, settings::kPriceGoodsOnly},
                             screen, this);
@@ -237,24 +242,39 @@ void PriceBrowser::ShowRows(const QString& selected_name) {
 }
 
 void PriceBrowser::Load() {
-  const QString selected = SelectedName();
   PriceList list;
   loaded_ = false;
   shown_ = {warehouse_->currentText(), warehouse_->currentIndex(), price_list_->currentIndex()};
   if (warehouse_->currentIndex() >= 0 && price_list_->currentIndex() >= 0) {
     context_.show_progress.Tell(0);
-    loaded_ = Guarded(this, [&] {
-      list = store_.Load(warehouse_->currentText(), price_list_->currentIndex(), filter_->View(),
-                         context_.show_progress);
-    });
+    loaded_ = Guarded(this, [&] { list = ReadList(); });
     context_.show_progress.Tell(1);
   }
+  TakeList(std::move(list));
+}
+
+PriceList PriceBrowser::ReadList() {
+  return store_.Load(shown_.warehouse, shown_.list, filter_->View(), context_.show_progress);
+}
+
+void PriceBrowser::TakeList(PriceList list) {
+  const QString selected = SelectedName();
   prices_ = std::move(list);
+  marked_ = prices_.MarkedBytes();
   ShowRows(selected);
 }
 
+void PriceBrowser::FollowFiles() {
+  files_ = new FollowedFiles(
+      this,
+      {.is_current =
+           [this] { return !loaded_ || store_.IsCurrent(prices_, shown_.warehouse, shown_.list); },
+       .is_changed = [this] { return prices_.IsChanged() || prices_.MarkedBytes() != marked_; },
+       .read_again = [this] { TakeList(ReadList()); }});
+}
+
 void PriceBrowser::SwitchView(GoodsView view) {
-  if (!MayReplace() || (loaded_ && !Guarded(this, [this] { store_.SaveTicks(prices_); }))) {
+  if (!MayReplace() || (loaded_ && !files_->Save([this] { store_.SaveTicks(prices_); }))) {
     filter_->SetView(view == GoodsView::kGroups ? GoodsView::kGoodsOnly : GoodsView::kGroups);
     return;
   }
@@ -308,7 +328,7 @@ void PriceBrowser::Change() {
   if (dialog.exec() != QDialog::Accepted) return;
   PriceList changed = prices_;
   changed.SetSalePrice(row, dialog.Price());
-  if (!Guarded(this, [&] { store_.Save(changed, shown_.warehouse, shown_.list); })) {
+  if (!files_->Save([&] { store_.Save(changed, shown_.warehouse, shown_.list); })) {
     return;
   }
   changed.TakeAsSaved();
@@ -359,7 +379,7 @@ void PriceBrowser::Copy() {
 
 void PriceBrowser::Paste() {
   if (RefusedToSeller() || !loaded_) return;
-  Guarded(this, [this] {
+  files_->Save([this] {
     const QString selected = SelectedName();
     if (store_.Paste(prices_, warehouse_->currentText(), price_list_->currentIndex()))
       ShowRows(selected);
@@ -380,7 +400,7 @@ void PriceBrowser::SaveList() { Save(); }
 
 bool PriceBrowser::Save() {
   const bool saved =
-      loaded_ && Guarded(this, [this] { store_.Save(prices_, shown_.warehouse, shown_.list); });
+      loaded_ && files_->Save([this] { store_.Save(prices_, shown_.warehouse, shown_.list); });
   if (saved) prices_.TakeAsSaved();
   return saved;
 }

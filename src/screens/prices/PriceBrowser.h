@@ -19,6 +19,7 @@ class QVBoxLayout;
 
 namespace kladez {
 
+class FollowedFiles;
 class GoodsDirectoryScreen;
 class UnsavedWork;
 
@@ -62,6 +63,9 @@ class PriceBrowser : public QWidget {
   void Refresh();
   void ListLists();
   void Load();
+  PriceList ReadList();
+  void TakeList(PriceList list);
+  void FollowFiles();
   void ShowRows(const QString& selected_name);
   QString SelectedName() const;
   void SwitchView(GoodsView view);
@@ -99,6 +103,8 @@ class PriceBrowser : public QWidget {
     int list = -1;
   };
   Shown shown_;
+  FollowedFiles* files_ = nullptr;
+  QByteArray marked_;               // the ticks as they were read
   UnsavedWork* unsaved_ = nullptr;  // of the editor
   QLabel* taken_ = nullptr;         // of the picker: what "Выбрать" takes, and has taken
   StockAfter on_hand_;

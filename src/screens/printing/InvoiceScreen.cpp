@@ -178,7 +178,7 @@ void InvoiceScreen::Build() {
   notes->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
   layout->addLayout(notes);
   QBoxLayout* row = NewCommands(u"П&ечать"_s, [this] { Print(); });
-  row->insertWidget(0, NewHelpCommand(this, Context().data, u"uhodchfakt.htm", u"Command5"));
+  row->insertWidget(0, NewHelpCommand(this, Context().data, u"Command5"));
   row->setContentsMargins(look::kMargin, 0, look::kMargin, 0);
   layout->addLayout(row);
 

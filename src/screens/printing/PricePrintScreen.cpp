@@ -221,7 +221,7 @@ void PricePrintScreen::BuildLayout(QPushButton* print, QPushButton* cancel) {
   panels->setColumnStretch(0, 1);
   auto* fold = new FoldButton(u"GoldButton1"_s, u"В&ид"_s, panel, true, this);
   auto* ending = NewEndingRow(print, cancel);
-  ending->insertWidget(0, NewHelpCommand(this, context_.data, u"priceprint.htm"));
+  ending->insertWidget(0, NewHelpCommand(this, context_.data));
   effect_ = new QLabel(this);
   effect_->setObjectName(u"effect"_s);
   effect_->hide();

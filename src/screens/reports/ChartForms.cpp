@@ -14,7 +14,7 @@ ChartGrid CollectWithoutGoods(const DataDir& data, const Session& session, const
 }  // namespace
 
 const ChartForm& SalesChartForm() {
-  static const ChartForm form{.texts = {u"otgr", u"График продаж", u"vnot3.htm", kBuild, kClose},
+  static const ChartForm form{.texts = {u"otgr", u"График продаж", kBuild, kClose},
                               .asks_goods = false,
                               .build_twin = u"Command3",
                               .close_twin = u"Command4",
@@ -24,7 +24,7 @@ const ChartForm& SalesChartForm() {
 
 const ChartForm& GoodsChartForm() {
   static const ChartForm form{
-      .texts = {u"otspeed", u"График реализации по видам товара", u"vnot4.htm", kBuild, kClose},
+      .texts = {u"otspeed", u"График реализации по видам товара", kBuild, kClose},
       .asks_goods = true,
       .build_twin = u"Command4",
       .close_twin = u"Command5",

@@ -50,7 +50,7 @@ DocumentListDialog::DocumentListDialog(AppContext& context, const QString& of,
   layout->addWidget(list_, 1);
   layout->addWidget(status);
   layout->addWidget(look::NewSeparator(this));
-  auto* help = NewHelpCommand(this, context.data, u"otlist.htm");
+  auto* help = NewHelpCommand(this, context.data);
   layout->addLayout(NewCommandRow({open_}, {help, close_}));
   resize(look::ByLetters(this, 100, 56));
   TabByEye(this);

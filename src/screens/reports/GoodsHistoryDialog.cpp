@@ -72,7 +72,7 @@ GoodsHistoryDialog::GoodsHistoryDialog(AppContext& context, GoodsHistory history
   layout->addWidget(list_, 1);
   layout->addWidget(status_);
   layout->addWidget(look::NewSeparator(this));
-  auto* help = NewHelpCommand(this, context.data, u"history.htm");
+  auto* help = NewHelpCommand(this, context.data);
   layout->addLayout(NewCommandRow({open_}, {help, close_}));
   resize(look::ByLetters(this, 116, 64));
   TabByEye(this);

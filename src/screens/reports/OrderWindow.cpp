@@ -26,8 +26,7 @@ void ShowOrder(AppContext& context, QWidget* parent) {
       });
     };
     const ReportWindowTexts texts{
-        u"order", u"order.htm",
-        u"Всего хватает, заказывать нечего. Минимум вписывают в карточку товара."};
+        u"order", u"Всего хватает, заказывать нечего. Минимум вписывают в карточку товара."};
     ReportWindow(context, order, scope, print, parent, texts).exec();
   });
 }

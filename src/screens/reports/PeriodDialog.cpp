@@ -37,7 +37,7 @@ PeriodDialog::PeriodDialog(AppContext& context, const PeriodTexts& texts, QWidge
   yes_ = NewCommand(this, u"Command1"_s, texts.yes.toString());
   no_ = NewCommand(this, u"Command2"_s, texts.no.toString());
   ending_ = NewEndingRow(yes_, no_);
-  ending_->insertWidget(0, NewHelpCommand(this, context_.data, texts.help));
+  ending_->insertWidget(0, NewHelpCommand(this, context_.data));
 
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);

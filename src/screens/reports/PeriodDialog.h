@@ -1,5 +1,5 @@
 // What the dialogs of reports and charts have in common: the warehouse or all of them, the frame
-// that chooses the period, the help page, and the commands that end the dialog.
+// that chooses the period, and the commands that end the dialog.
 #pragma once
 
 #include <QDialog>
@@ -19,8 +19,7 @@ class TextChoice;
 struct PeriodTexts {
   QStringView name;  // of the screen
   QStringView caption;
-  QStringView help;  // the page of the folder "help"
-  QStringView yes;   // captions of the two commands
+  QStringView yes;  // captions of the two commands
   QStringView no;
 };
 

@@ -27,50 +27,47 @@ constexpr QStringView kCancel = u"О&тмена";
 }  // namespace
 
 const ReportForm& SalesReportForm() {
-  static const ReportForm form{{u"otppr", u"Отчет по продажам", u"vnot1.htm", kOk, kCancel},
+  static const ReportForm form{{u"otppr", u"Отчет по продажам", kOk, kCancel},
                                &Make<&CollectSales, &WriteSalesReport>,
                                &CollectSalesTable};
   return form;
 }
 
 const ReportForm& SpeedReportForm() {
-  static const ReportForm form{{u"otrpt", u"Скорость реализации", u"vnot2.htm", kOk, kCancel},
+  static const ReportForm form{{u"otrpt", u"Скорость реализации", kOk, kCancel},
                                &Make<&CollectSpeed, &WriteSpeedReport>,
                                &CollectSpeedTable};
   return form;
 }
 
 const ReportForm& FlowReportForm() {
-  static const ReportForm form{
-      {u"otpruh", u"Отчет по поступлению/реализации", u"vnot5.htm", kOk, kCancel},
-      &Make<&CollectFlow, &WriteFlowReport>,
-      &CollectFlowTable};
+  static const ReportForm form{{u"otpruh", u"Отчет по поступлению/реализации", kOk, kCancel},
+                               &Make<&CollectFlow, &WriteFlowReport>,
+                               &CollectFlowTable};
   return form;
 }
 
 const ReportForm& ClientsReportForm() {
   static const ReportForm form{
-      {u"otklient", u"Отчет по клиентам", u"vnot6.htm", kOk, kCancel}, nullptr, &CollectClients};
+      {u"otklient", u"Отчет по клиентам", kOk, kCancel}, nullptr, &CollectClients};
   return form;
 }
 
 const ReportForm& SuppliersReportForm() {
   static const ReportForm form{
-      {u"otpost", u"Отчет по поставщикам", u"vnot7.htm", kOk, kCancel}, nullptr, &CollectSuppliers};
+      {u"otpost", u"Отчет по поставщикам", kOk, kCancel}, nullptr, &CollectSuppliers};
   return form;
 }
 
 const ReportForm& MarginReportForm() {
   static const ReportForm form{
-      {u"otval", u"Валовая прибыль по товарам", u"vnot8.htm", kOk, kCancel},
-      nullptr,
-      &CollectMargins};
+      {u"otval", u"Валовая прибыль по товарам", kOk, kCancel}, nullptr, &CollectMargins};
   return form;
 }
 
 const ReportForm& AbcReportForm() {
   static const ReportForm form{
-      {u"otabc", u"ABC-анализ по выручке", u"vnot9.htm", kOk, kCancel}, nullptr, &CollectAbc};
+      {u"otabc", u"ABC-анализ по выручке", kOk, kCancel}, nullptr, &CollectAbc};
   return form;
 }
 

@@ -73,7 +73,7 @@ ReportWindow::ReportWindow(AppContext& context, TableReport report, const Report
     layout->addWidget(note);
   }
   layout->addWidget(look::NewSeparator(this));
-  auto* help = NewHelpCommand(this, context.data, texts.help);
+  auto* help = NewHelpCommand(this, context.data);
   layout->addLayout(NewCommandRow({documents_, chart_, print_}, {help, close_}));
   chart_->setVisible(!report_.charted.empty() && report_.rows > 0);
   resize(look::ByLetters(this, 112, 68));

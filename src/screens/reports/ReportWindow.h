@@ -17,7 +17,6 @@ class RecordList;
 // In what the windows of this kind differ.
 struct ReportWindowTexts {
   QStringView name = u"otlist";  // of the screen
-  QStringView help = u"otlist.htm";
   QStringView empty = u"За выбранное время документов нет.";
 };
 

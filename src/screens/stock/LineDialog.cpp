@@ -101,7 +101,7 @@ void LineDialog::ShowNotes() {
     label->setVisible(!note.text.isEmpty());
   };
   show(stock_note_, around_.on_hand
-                        ? NoteOnHand(*around_.on_hand, Quantity(), line_.unit, Flow::kOut)
+                        ? NoteOnHand(*around_.on_hand, Quantity(), line_.unit, around_.flow)
                         : LineNote());
   show(price_note_,
        around_.is_sold ? NoteOnPrice(Price(), line_.cost, around_.cost_is) : LineNote());

@@ -18,7 +18,8 @@ class TextLineNumber;
 // What the dialog tells of the line besides; what is left empty is not told.
 struct LineSurroundings {
   std::optional<double> on_hand;  // what the warehouse holds after the other lines
-  bool is_sold = false;           // its price is compared with its cost
+  Flow flow = Flow::kOut;
+  bool is_sold = false;  // its price is compared with its cost
   CostIs cost_is = CostIs::kShown;
 };
 

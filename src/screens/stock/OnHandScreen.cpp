@@ -9,11 +9,11 @@
 #include "books/printing/OnHandPage.h"
 #include "formats/Numbers.h"
 #include "screens/directories/QuantityDialog.h"
-#include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/ScannerSearch.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Commands.h"
+#include "ui/controls/FollowedFiles.h"
 #include "ui/controls/Guard.h"
 
 namespace kladez {
@@ -53,7 +53,6 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
   setFocusProxy(list_);
   ShareListKeys(this, list_, print_);
   SelectByScanner(this, context, list_);
-  SetHelpPage(this, context.data, u"stock.htm");
 
   connect(warehouse_, &QComboBox::currentIndexChanged, this, &OnHandScreen::Fill);
   connect(filter_, &GoodsFilter::ViewChosen, this, &OnHandScreen::Fill);
@@ -64,6 +63,17 @@ OnHandScreen::OnHandScreen(AppContext& context, QWidget* parent)
   connect(list_, &RecordList::DoubleClicked, change_, &QPushButton::click);
   // Unlike a double click, Enter changes the shown row with all warehouses chosen too.
   connect(list_, &RecordList::EnterPressed, this, &OnHandScreen::Change);
+  files_ = new FollowedFiles(
+      this, {.is_current =
+                 [this] {
+                   return !loaded_ ||
+                          IsCurrent(on_hand_, context_.data, context_.session, Warehouses());
+                 },
+             .is_changed = {},
+             .read_again =
+                 [this] {
+                   Show(LoadOnHand(context_.data, context_.session, Warehouses(), filter_->View()));
+                 }});
   Fill();
 }
 
@@ -117,15 +127,21 @@ bool OnHandScreen::RefusedToSeller() {
 void OnHandScreen::Fill() {
   change_->setEnabled(!AllChosen());
   zero_->setEnabled(!AllChosen());
-  const int selected = list_->CurrentRow();
-  const QString name = selected < 0 ? QString() : on_hand_.Rows()[selected].name;
-  const QStringList warehouses =
-      AllChosen() ? context_.session.warehouses : QStringList{warehouse_->currentText()};
   OnHandList filled;
   loaded_ = Guarded(this, [&] {
-    filled = LoadOnHand(context_.data, context_.session, warehouses, filter_->View());
+    filled = LoadOnHand(context_.data, context_.session, Warehouses(), filter_->View());
   });
-  on_hand_ = std::move(filled);
+  Show(std::move(filled));
+}
+
+QStringList OnHandScreen::Warehouses() const {
+  return AllChosen() ? context_.session.warehouses : QStringList{warehouse_->currentText()};
+}
+
+void OnHandScreen::Show(OnHandList list) {
+  const int selected = list_->CurrentRow();
+  const QString name = selected < 0 ? QString() : on_hand_.Rows()[selected].name;
+  on_hand_ = std::move(list);
   model_->Reset();
   list_->SelectRow(std::max(0, on_hand_.RowOfName(name)));
   status_->setText(on_hand_.StatusText());
@@ -140,7 +156,7 @@ void OnHandScreen::Change() {
   if (!answer) return;
   OnHandList changed = on_hand_;
   if (!changed.ChangeQuantity(row, answer->quantity)) return;
-  if (!AllChosen() && !SaveOrReadAnew([&] {
+  if (!AllChosen() && !files_->Save([&] {
         SaveOnHand(changed, context_.data, context_.session, warehouse_->currentText());
       })) {
     return;
@@ -157,22 +173,9 @@ void OnHandScreen::Zero() {
                 kAttention.toString(), DefaultAnswer::kNo)) {
     return;
   }
-  SaveOrReadAnew([this] {
+  files_->Save([this] {
     ZeroOnHand(on_hand_, context_.data, context_.session, warehouse_->currentText());
     Fill();
-  });
-}
-
-// A list that is no longer that of the files is told, and shown as it is now.
-bool OnHandScreen::SaveOrReadAnew(const std::function<void()>& save) {
-  return Guarded(this, [&] {
-    try {
-      save();
-    } catch (const StaleFile& error) {
-      ShowError(this, ErrorText(error));
-      Fill();
-      throw WorkCancelled();
-    }
   });
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 
 #include "books/stock/OnHand.h"
 #include "screens/directories/GoodsFilter.h"
@@ -15,6 +14,8 @@ class QLabel;
 class QPushButton;
 
 namespace kladez {
+
+class FollowedFiles;
 
 class OnHandScreen : public QWidget {
   Q_OBJECT
@@ -31,16 +32,18 @@ class OnHandScreen : public QWidget {
   bool AllChosen() const;
   GoodsInWarehouse ForHistory() const;
   bool RefusedToSeller();
+  QStringList Warehouses() const;
   void Fill();
+  void Show(OnHandList list);
   void Change();
   void Zero();
-  bool SaveOrReadAnew(const std::function<void()>& save);
   void Print();
 
   AppContext& context_;
   OnHandList on_hand_;
   bool loaded_ = false;  // a list that could not be read is never written
   GoodsFilter* filter_;
+  FollowedFiles* files_ = nullptr;
   RecordModel* model_;
   QComboBox* warehouse_;  // "Склад:"
   RecordList* list_;

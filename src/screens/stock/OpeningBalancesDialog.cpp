@@ -89,7 +89,7 @@ void OpeningBalancesDialog::BuildLayout() {
   for (QPushButton* command : {add_, change_, remove_}) commands->addWidget(command);
   commands->addStretch();
   auto* ending = NewEndingRow(ok_, cancel_);
-  ending->insertWidget(0, NewHelpCommand(this, context_.data, u"ost.htm"));
+  ending->insertWidget(0, NewHelpCommand(this, context_.data));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(choice);

@@ -82,7 +82,7 @@ void CatalogueDialog::BuildLayout(Mode mode) {
   fields->addRow(u"По&льзователь:"_s, role_);
   fields->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   auto* ending = NewEndingRow(open_, cancel_);
-  ending->insertWidget(0, NewHelpCommand(this, context_.data, u"workdb.htm", u"Command3"));
+  ending->insertWidget(0, NewHelpCommand(this, context_.data, u"Command3"));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addLayout(top, 1);

@@ -89,7 +89,7 @@ CheckDialog::CheckDialog(AppContext& context, QWidget* parent)
       mend_(NewCommand(this, u"mend"_s, u"&Починить..."_s, look::IconName::kChange)),
       place_(NewCommand(this, u"place"_s, u"Показать &место"_s, look::IconName::kOpen)),
       again_(NewCommand(this, u"again"_s, u"Проверить &снова"_s, look::IconName::kRefresh)),
-      help_(NewHelpCommand(this, context.data, u"check.htm", u"help")),
+      help_(NewHelpCommand(this, context.data)),
       cancel_(NewCommand(this, u"cancel"_s, u"&Закрыть"_s)) {
   setObjectName(u"check"_s);
   setWindowTitle(u"Проверка базы"_s);

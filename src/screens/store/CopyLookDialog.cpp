@@ -89,7 +89,7 @@ CopyLookDialog::CopyLookDialog(AppContext& context, const UnpackedCopy& copy, QW
       stock_(AddList(u"stock"_s, u"&Товары и остатки"_s, &stock_model_)),
       lists_list_(AddList(u"lists"_s, u"&Списки"_s, &lists_model_)),
       back_(NewCommand(this, u"back"_s, u"&Вернуть..."_s, look::IconName::kRefresh)),
-      help_(NewHelpCommand(this, context.data, u"timemachine.htm", u"help")),
+      help_(NewHelpCommand(this, context.data)),
       cancel_(NewCommand(this, u"cancel"_s, u"&Закрыть"_s)) {
   setObjectName(u"copylook"_s);
   setWindowTitle(u"%1, какой она была %2"_s.arg(copy.Note().name,

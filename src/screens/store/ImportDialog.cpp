@@ -63,7 +63,7 @@ ImportDialog::ImportDialog(AppContext& context, const QString& source, QWidget* 
   auto* ok = NewCommand(this, u"Command1"_s, u"OK"_s);
   auto* cancel = NewCommand(this, u"Command2"_s, u"О&тмена"_s);
   auto* ending = NewEndingRow(ok, cancel);
-  ending->insertWidget(0, NewHelpCommand(this, context.data, u"workdb.htm", u"Command3"));
+  ending->insertWidget(0, NewHelpCommand(this, context.data, u"Command3"));
   auto* layout = new QVBoxLayout(this);
   look::SetDialogMargins(layout);
   layout->addWidget(frame, 1);

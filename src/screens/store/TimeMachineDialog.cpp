@@ -73,7 +73,7 @@ TimeMachineDialog::TimeMachineDialog(AppContext& context, QWidget* parent)
       compare_(NewCommand(this, u"compare"_s, u"&Сравнить"_s)),
       make_(NewCommand(this, u"make"_s, u"Сделать &копию"_s, look::IconName::kCopy)),
       settings_(NewCommand(this, u"settings"_s, u"&Настройка..."_s)),
-      help_(NewHelpCommand(this, context.data, u"timemachine.htm", u"help")),
+      help_(NewHelpCommand(this, context.data)),
       cancel_(NewCommand(this, u"cancel"_s, u"&Закрыть"_s)) {
   setObjectName(u"timemachine"_s);
   setWindowTitle(u"Машина времени"_s);

@@ -55,6 +55,8 @@ LongWork::LongWork(QWidget* parent, const QString& doing) : parent_(parent), doi
   since_start_.start();
 }
 
+bool LongWork::IsRunning() { return !Running().empty(); }
+
 LongWork::~LongWork() {
   std::erase(Running(), this);
   qApp->removeEventFilter(this);

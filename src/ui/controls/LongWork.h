@@ -39,6 +39,8 @@ class LongWork : public QObject {
   // running, it is cancelled, `command` comes as soon as it is over, and true is the answer. Of two
   // commands the later comes. Nothing comes once `context` is gone.
   static bool LeaveFor(QObject* context, const std::function<void()>& command);
+  // Whether any work is running now.
+  static bool IsRunning();
   // A panel or menu whose clicks pass the bar, as each of them begins with LeaveFor.
   static void LetPass(QWidget* way_out);
 

@@ -150,9 +150,10 @@ TEST_F(sprSkladTest, RefusedNamesAreAskedAgainAndAnEqualNameEndsTheCommand) {
 }
 
 TEST_F(sprSkladTest, OnlyOkWritesANewNameOfAWarehouse) {
-  ModalAnswers answers({AnswerText(u"Лавка"_s), AnswerText(u"Двор"_s)});
+  ModalAnswers answers({AnswerText(u"Лавка"_s), Press(QMessageBox::No, u"Сохранить изменения?"_s),
+                        AnswerText(u"Двор"_s)});
   QTest::keyClick(list_, Qt::Key_Slash, Qt::KeypadModifier);
-  screen_.reject();
+  QTest::keyClick(list_, Qt::Key_Escape);
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), QStringList{u"Главный склад"_s});
   screen_.show();
   Click(&screen_, "add");

@@ -6,7 +6,6 @@
 
 #include "books/prices/PriceStore.h"
 #include "books/prices/TodaysPrices.h"
-#include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Forms.h"
@@ -48,7 +47,6 @@ CopyDialog::CopyDialog(AppContext& context, const DocumentDraft& document, QWidg
   layout->addStretch();
   layout->addLayout(NewEndingRow(ok, cancel));
   setMinimumWidth(look::ByLetters(this, 56));
-  SetHelpPage(this, context.data, u"documents.htm");
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   ShowNote();

@@ -4,6 +4,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 
 #include "books/directories/ClientTerms.h"
@@ -13,7 +14,6 @@
 #include "screens/stock/documents/DocumentLines.h"
 #include "screens/stock/documents/DocumentNotes.h"
 #include "screens/stock/documents/DraftSaving.h"
-#include "ui/Help.h"
 #include "ui/Hints.h"
 #include "ui/controls/Choice.h"
 #include "ui/controls/Columns.h"
@@ -64,7 +64,6 @@ DocumentEditor::DocumentEditor(AppContext& context, DocumentDraft draft, QWidget
 
   ShareListKeys(this, lines_->List());
   new ScannerKeys(this, [this](const QString& code) { lines_->TakeScan(code); });
-  SetHelpPage(this, context.data, u"documents.htm");
   OrderTabs();
   TakeFields();
   draft_.MarkUnchanged();
@@ -249,6 +248,11 @@ QLayout* DocumentEditor::NewFoot() {
   ok_ = NewCommand(this, u"ok"_s, u"OK"_s);
   cancel_ = NewCommand(this, u"cancel"_s, u"О&тмена"_s);
   connect(ok_, &QPushButton::clicked, this, &DocumentEditor::Save);
+  // Enter alone changes the line under the cursor.
+  ok_->setToolTip(u"Ctrl+Enter"_s);
+  for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+    connect(new QShortcut(Qt::CTRL | enter, this), &QShortcut::activated, ok_, &QPushButton::click);
+  }
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
 
   auto* foot = new QHBoxLayout;

@@ -31,10 +31,8 @@ DocumentLines::DocumentLines(AppContext& context, DocumentDraft& draft, QWidget*
 void DocumentLines::BuildList() {
   list_ = new RecordList(this);
   list_->setObjectName(u"ListView1"_s);
-  list_->SetRecords(NewLineModel(
-      screens_.editor_columns, context_.session.IsSeller(), draft_.Lines(), this, [this](int row) {
-        return row < static_cast<int>(short_lines_.size()) && short_lines_[row];
-      }));
+  list_->SetRecords(NewLineModel(screens_.editor_columns, context_.session.IsSeller(),
+                                 draft_.Lines(), this, [this](int row) { return IsAmiss(row); }));
   list_->SetEmptyText(u"Список пуст. Нажмите «Добавить» или клавишу Insert."_s);
   connect(list_, &RecordList::InsertPressed, this, &DocumentLines::Add);
   connect(list_, &RecordList::DividePressed, this, &DocumentLines::Change);
@@ -60,12 +58,17 @@ QLayout* DocumentLines::NewCommands() {
   return row;
 }
 
-// What goods come to is never short, so a receipt asks for nothing. Where directory or ledger can't
-// be read nothing is marked; whatever needs them tells so.
+// Where directory or ledger can't be read nothing is marked; whatever needs them tells so.
 void DocumentLines::TakeStock() {
   stock_.reset();
-  if (screens_.kind == DocumentKind::kReceipt) return;
   IgnoreErrors([this] { stock_.emplace(draft_); });
+}
+
+bool DocumentLines::IsAmiss(int row) const {
+  if (row < static_cast<int>(short_lines_.size()) && short_lines_[row]) return true;
+  const DocumentLine& line = draft_.Lines()[row].line;
+  return screens_.kind == DocumentKind::kShipment &&
+         NoteOnPrice(line.price, line.cost, CostIs::kSecret).amiss;
 }
 
 void DocumentLines::Refresh() {
@@ -115,6 +118,7 @@ void DocumentLines::Change() {
   const DraftLine& line = draft_.Lines()[row];
   LineSurroundings around{
       .on_hand = {},
+      .flow = screens_.kind == DocumentKind::kReceipt ? Flow::kIn : Flow::kOut,
       .is_sold = screens_.kind == DocumentKind::kShipment,
       .cost_is = context_.session.IsSeller() ? CostIs::kSecret : CostIs::kShown};
   if (stock_ && !draft_.HasPosted()) around.on_hand = stock_->OnHand(line.line.name, row);

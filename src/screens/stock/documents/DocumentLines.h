@@ -45,6 +45,8 @@ class DocumentLines : public QWidget {
   void Change();
   void Remove();
   void TakeStock();
+  // The warehouse runs out with the line, or it is sold at or below its cost.
+  bool IsAmiss(int row) const;
   void TellChange(int row);
 
   AppContext& context_;

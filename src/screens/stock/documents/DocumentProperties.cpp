@@ -6,7 +6,6 @@
 #include <QMenu>
 
 #include "formats/Numbers.h"
-#include "ui/Help.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
 #include "ui/controls/Forms.h"
@@ -39,7 +38,6 @@ DocumentProperties::DocumentProperties(AppContext& context, DocumentKind kind,
   list_->SetEmptyText(u"В документе нет товаров."_s);
   list_->SelectRow(0);
 
-  SetHelpPage(this, context.data, u"documents.htm");
   close_ = NewCommand(this, u"close"_s, u"&Закрыть"_s);
   connect(close_, &QPushButton::clicked, this, &QDialog::accept);
   auto* commands = new QHBoxLayout;

@@ -14,9 +14,9 @@
 #include "screens/stock/documents/DocumentProperties.h"
 #include "screens/stock/documents/JournalPrinting.h"
 #include "screens/stock/documents/RegisterFilterPanel.h"
-#include "ui/Help.h"
 #include "ui/controls/Commands.h"
 #include "ui/controls/Fields.h"
+#include "ui/controls/FollowedFiles.h"
 #include "ui/controls/Guard.h"
 #include "ui/controls/ListSearch.h"
 #include "ui/controls/LongWork.h"
@@ -55,7 +55,11 @@ DocumentRegisterScreen::DocumentRegisterScreen(AppContext& context, DocumentKind
   connect(filter_, &RegisterFilterPanel::Changed, this, &DocumentRegisterScreen::Rebuild);
   setFocusProxy(list_);
   ShareListKeys(this, list_, journal_);
-  SetHelpPage(this, context.data, u"documents.htm");
+  new FollowedFiles(
+      this,
+      {.is_current = [this] { return !loaded_ || !rows_.MayHaveChanged(filter_->Warehouse()); },
+       .is_changed = {},
+       .read_again = [this] { ReadAgain(); }});
   Rebuild();
 }
 
@@ -138,13 +142,8 @@ void DocumentRegisterScreen::Rebuild() {
   // Transfers lie beside the warehouses, whether there are any or not.
   const bool any = HasWarehouse() || !BookOf(screens_.kind).in_warehouse;
   hidden_note_->hide();
-  goods_.reset();
-  goods_left_out_ = false;
-  const bool good = any && Guarded(this, [&] {
-                      LongWork work(this, u"Читаются документы..."_s);
-                      rows_.Load(filter_->Warehouse(), filter_->Filter(), context_.clock.Today(),
-                                 filter_->Descending(), work.Told());
-                    });
+  const bool good = any && Guarded(this, [&] { Load(); });
+  loaded_ = good;
   // What could not be read is not shown under the new choice.
   if (!good) rows_.Clear();
   shown_.TakeRows();
@@ -240,6 +239,25 @@ void DocumentRegisterScreen::ShowSelection() {
   QString text = u"Выделено: %1, сумма: %2"_s.arg(sums.count).arg(FormatMoney(sums.sum));
   if (screens_.HasDiscount()) text += u", со скидкой: %1"_s.arg(FormatMoney(sums.net_sum));
   selection_->setText(text);
+}
+
+void DocumentRegisterScreen::Load() {
+  goods_.reset();
+  goods_left_out_ = false;
+  LongWork work(this, u"Читаются документы..."_s);
+  rows_.Load(filter_->Warehouse(), filter_->Filter(), context_.clock.Today(), filter_->Descending(),
+             work.Told());
+}
+
+void DocumentRegisterScreen::ReadAgain() {
+  const int row = list_->CurrentRow();
+  const QString file = row < 0 ? QString() : shown_.Row(row).file;
+  Load();
+  shown_.TakeRows();
+  ShowRows();
+  const int now = shown_.PlaceOf(file);
+  list_->SelectRow(std::min(now < 0 ? std::max(row, 0) : now, list_->Records()->rowCount() - 1));
+  SearchGoods();
 }
 
 DocumentDraft::Place DocumentRegisterScreen::PlaceOfNew() const {

@@ -44,6 +44,8 @@ class DocumentRegisterScreen : public QWidget {
   QString EmptyText() const;
   void ShowSelection();
   void FollowLink(const QString& link);
+  void Load();
+  void ReadAgain();
   void Edit(DocumentDraft draft, int row);
   void TellHidden(const DocumentDraft& saved);
   void Add();
@@ -62,6 +64,7 @@ class DocumentRegisterScreen : public QWidget {
   std::optional<DocumentGoods> goods_;  // of the rows, once somebody searches
   bool goods_left_out_ = false;         // their reading was cancelled
   bool was_descending_ = false;
+  bool loaded_ = false;
   RegisterFilterPanel* filter_;
   QTimer* pause_;        // in the typing of a search, before the goods are read
   QLabel* status_;       // "Документов:2     Сумма:10.50"
