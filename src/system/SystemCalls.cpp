@@ -10,7 +10,7 @@ FaultHook& Hook() {
   return hook;
 }
 
-Recorder& TheRecorder() {
+Recorder& CurrentRecorder() {
   static Recorder recorder;
   return recorder;
 }
@@ -19,12 +19,12 @@ Recorder& TheRecorder() {
 
 void SetFaultHook(FaultHook hook) { Hook() = std::move(hook); }
 
-void SetRecorder(Recorder recorder) { TheRecorder() = std::move(recorder); }
+void SetRecorder(Recorder recorder) { CurrentRecorder() = std::move(recorder); }
 
 int Fault(std::string_view call, const QByteArray& path) { return Hook() ? Hook()(call, path) : 0; }
 
 void TellMade(const Made& made) {
-  if (TheRecorder()) TheRecorder()(made);
+  if (CurrentRecorder()) CurrentRecorder()(made);
 }
 
 int WriteNewFile(const QByteArray& path, QByteArrayView bytes, unsigned mode) {

@@ -1,4 +1,0 @@
-// For sources that are being written at this moment; goes with them.
-#pragma once
-
-#include "system/DirectoryWatch.h"
