@@ -1,5 +1,6 @@
 #include "cli/Lists.h"
 
+#include "books/directories/GoodsExtras.h"
 #include "books/directories/PartyDirectory.h"
 #include "books/directories/WarehouseDirectory.h"
 #include "books/prices/PriceStore.h"
