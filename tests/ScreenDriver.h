@@ -38,7 +38,7 @@ class ScreenWorld {
 
   AppContext& Context() { return context_; }
   TempData& Temp() { return temp_; }
-  Session& TheSession() { return session_; }
+  Session& CurrentSession() { return session_; }
   SettingsStore& Settings() { return settings_; }
   int ViewerStarts() const { return viewer_starts_; }
 

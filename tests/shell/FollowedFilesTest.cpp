@@ -81,7 +81,7 @@ class FollowedFilesTest : public testing::Test {
   // Somebody works elsewhere, and comes back.
   void ChangedElsewhere(const Followed& c, QWidget* screen) {
     ShowActive(&other_);
-    QStringList lines = QFile::exists(world_.Data().Resolve(world_.TheSession().Path(c.path)))
+    QStringList lines = QFile::exists(world_.Data().Resolve(world_.CurrentSession().Path(c.path)))
                             ? world_.Lines(c.path)
                             : QStringList();
     lines = lines.mid(0, c.after) + c.added + lines.mid(c.after);
@@ -160,7 +160,7 @@ TEST_F(FollowedFilesTest, AFileThatIsGoneIsToldAtTheFootAndTheListStays) {
   GoodsDirectoryScreen screen(world_.Context());
   ShowActive(&screen);
   ShowActive(&other_);
-  QFile::remove(world_.Data().Resolve(world_.TheSession().Path(kGoods)));
+  QFile::remove(world_.Data().Resolve(world_.CurrentSession().Path(kGoods)));
   ShowActive(&screen);
   QTest::qWait(100);
   EXPECT_TRUE(Find<QLabel>(&screen, "stale_note")->isVisible());

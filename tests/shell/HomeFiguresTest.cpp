@@ -45,7 +45,7 @@ class HomeFigures : public testing::Test, protected ScreenWorld {
     return sums;
   }
 
-  SmallBooks books{Temp().Data(), TheSession()};
+  SmallBooks books{Temp().Data(), CurrentSession()};
 };
 
 TEST_F(HomeFigures, EachActivationCountsAnew) {

@@ -23,7 +23,7 @@ TEST_F(MainMenus, SellerFindsHisMenusGreyedButTheLinksOpen) {
   }
   ClickPanel("go12");
   EXPECT_EQ(ChildName(), u"sprTovar"_s);
-  TheSession().role = UserRole::kDirector;
+  CurrentSession().role = UserRole::kDirector;
   window_.OpenDatabase();
   EXPECT_TRUE(Entry(u"mnu_Sklad_P"_s)->isEnabled() && Entry(u"mnu_Otchet"_s)->isEnabled());
 }

@@ -16,7 +16,7 @@ class MainWindowShown : public testing::Test {
   void SetUp() override { window_.resize(1024, 740); }
 
   const DataDir& Data() { return world_.Temp().Data(); }
-  Session& TheSession() { return world_.TheSession(); }
+  Session& CurrentSession() { return world_.CurrentSession(); }
   QString Setting(const struct Setting& setting) { return world_.Settings().Read(setting); }
 
   // Starts with a Database open, as after a run before.
@@ -24,7 +24,7 @@ class MainWindowShown : public testing::Test {
     CreateDatabase(Data(), u"Первая"_s);
     world_.Settings().Write(settings::kBaseName, u"0001\\"_s);
     world_.Settings().Write(settings::kBaseTitle, u"Первая"_s);
-    TheSession().role = role;
+    CurrentSession().role = role;
     Start();
   }
   void Start() {

@@ -21,9 +21,9 @@ TEST_F(MainWindowShown, LastDatabaseOpensWithFullRights) {
   StartOpen();
   EXPECT_EQ(window_.windowTitle(), u"Kladez - Первая"_s);
   EXPECT_EQ(ChildName(), u"Main"_s);
-  EXPECT_EQ(TheSession().warehouses, QStringList{u"Главный склад"_s});
-  EXPECT_EQ(TheSession().currency_name, u"руб."_s);
-  EXPECT_EQ(TheSession().Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
+  EXPECT_EQ(CurrentSession().warehouses, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(CurrentSession().currency_name, u"руб."_s);
+  EXPECT_EQ(CurrentSession().Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
   for (const QString& menu : kDatabaseMenus) {
     EXPECT_TRUE(Entry(menu)->isVisible() && Entry(menu)->isEnabled());
   }
@@ -74,9 +74,9 @@ TEST_F(MainWindowShown, ClosedDatabaseStaysClosedAtTheNextStart) {
   StartOpen();
   Entry(u"mnuFileClose"_s)->trigger();
   ExpectLanding();
-  EXPECT_FALSE(TheSession().IsOpen());
-  EXPECT_TRUE(TheSession().warehouses.isEmpty() &&
-              TheSession().Parties(PartyKind::kFirm).isEmpty());
+  EXPECT_FALSE(CurrentSession().IsOpen());
+  EXPECT_TRUE(CurrentSession().warehouses.isEmpty() &&
+              CurrentSession().Parties(PartyKind::kFirm).isEmpty());
   MainWindow again(world_.Context());
   again.Start(1);
   EXPECT_EQ(again.windowTitle(), u"Kladez"_s);
@@ -129,7 +129,7 @@ TEST_F(MainWindowShown, AnotherScreenAskedForIsNotGivenAwayForTheHomeScreen) {
 TEST_F(MainWindowShown, ALongWarehouseNameWidensNoScreen) {
   StartOpen();
   const QString name = u"Склад "_s.repeated(40);
-  TheSession().warehouses.append(name);
+  CurrentSession().warehouses.append(name);
   for (const char* link : {"go0", "go1", "go2", "go3", "go4"}) {
     ClickPanel(link);
     ASSERT_NE(window_.Child(), nullptr);
@@ -165,7 +165,7 @@ TEST_F(MainWindowShown, ANewDatabaseHasItsPanelsAndLeadsByFirstSteps) {
   QCoreApplication::processEvents();  // the links lie in their places
   Click(window_.Child(), "open_demonstration");
   EXPECT_EQ(window_.windowTitle(), u"Kladez - Демонстрационная база"_s);
-  EXPECT_EQ(TheSession().base_path, u"0001\\"_s);
+  EXPECT_EQ(CurrentSession().base_path, u"0001\\"_s);
   EXPECT_FALSE(Panel("open_demonstration")->isVisible()) << "it is open already";
 }
 
@@ -302,7 +302,7 @@ TEST_F(MainWindowShown, NewDatabaseIsOpenAtOnce) {
   EXPECT_EQ(ChildName(), u"Main"_s);
   EXPECT_TRUE(Panel("Picture1")->isVisible());
   EXPECT_TRUE(Entry(u"mnuimp"_s)->isEnabled());
-  EXPECT_EQ(TheSession().chosen_base, TheSession().base_path);
+  EXPECT_EQ(CurrentSession().chosen_base, CurrentSession().base_path);
 }
 
 TEST_F(MainWindowShown, CancelledChoiceOpensTheSameDatabaseAgain) {
@@ -314,7 +314,7 @@ TEST_F(MainWindowShown, CancelledChoiceOpensTheSameDatabaseAgain) {
     Entry(u"mnuFileOpen"_s)->trigger();
   }
   EXPECT_EQ(ChildName(), u"Main"_s);
-  EXPECT_EQ(TheSession().warehouses.size(), 2);
+  EXPECT_EQ(CurrentSession().warehouses.size(), 2);
   ClickPanel("go12");
   {
     ModalAnswers answers{Escape()};

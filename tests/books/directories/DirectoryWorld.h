@@ -9,16 +9,16 @@ namespace kladez {
 
 class DirectoryWorld : public ScreenWorld {
  public:
-  DirectoryWorld() { SmallBooks(Temp().Data(), TheSession(), u"Магазин"_s); }
+  DirectoryWorld() { SmallBooks(Temp().Data(), CurrentSession(), u"Магазин"_s); }
 
   const DataDir& Data() { return Temp().Data(); }
-  QStringList Lines(const QString& path) { return Temp().Lines(TheSession().Path(path)); }
+  QStringList Lines(const QString& path) { return Temp().Lines(CurrentSession().Path(path)); }
   void PutLines(const QString& path, const QStringList& lines) {
-    Temp().PutLines(TheSession().Path(path), lines);
+    Temp().PutLines(CurrentSession().Path(path), lines);
   }
   // From then on every attempt to write the file fails, for the superuser too.
   void Protect(const QString& path) {
-    const QString file = Data().Resolve(TheSession().Path(path));
+    const QString file = Data().Resolve(CurrentSession().Path(path));
     ASSERT_TRUE(QFile::setPermissions(file, QFile::ReadOwner));
   }
 

@@ -38,7 +38,7 @@ class GoodsDirectoryTest : public testing::Test {
     PutGoods(rows);
   }
   GoodsDirectory Open(GoodsView view = GoodsView::kGroups) {
-    return GoodsDirectory(world_.Data(), world_.TheSession(), view);
+    return GoodsDirectory(world_.Data(), world_.CurrentSession(), view);
   }
   std::vector<GoodsRecord> File() {
     return ReadGoods(world_.Temp().Bytes(u"0001\\spr\\товар.spr"_s));
@@ -190,18 +190,18 @@ TEST_F(GoodsDirectoryTest, OnHandIsAskedOfEveryRecordOfEveryWarehouse) {
       {"a unit is no name", u"Кофе|5|Чай|3|3|3"_lines, {}, false},
       {"a longer name", u"Чай зелёный|5|пач."_lines, {}, false},
   };
-  world_.TheSession().warehouses = {u"Главный склад"_s, u"Второй"_s};
+  world_.CurrentSession().warehouses = {u"Главный склад"_s, u"Второй"_s};
   for (const Case& test : cases) {
     SCOPED_TRACE(test.fault);
     world_.PutLines(u"Главный склад\\товар.usl"_s, test.first);
     world_.PutLines(u"Второй\\товар.usl"_s, test.second);
-    EXPECT_EQ(IsOnHand(world_.Data(), world_.TheSession(), u"Чай"_s), test.on_hand);
+    EXPECT_EQ(IsOnHand(world_.Data(), world_.CurrentSession(), u"Чай"_s), test.on_hand);
   }
 }
 
 TEST_F(GoodsDirectoryTest, MissingLedgerIsNotTakenForAnEmptyOne) {
-  world_.TheSession().warehouses = {u"Нет такого"_s};
-  EXPECT_THROW(IsOnHand(world_.Data(), world_.TheSession(), u"Чай"_s),
+  world_.CurrentSession().warehouses = {u"Нет такого"_s};
+  EXPECT_THROW(IsOnHand(world_.Data(), world_.CurrentSession(), u"Чай"_s),
                std::filesystem::filesystem_error);
 }
 

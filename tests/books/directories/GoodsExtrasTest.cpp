@@ -36,7 +36,7 @@ class GoodsExtrasKept : public testing::Test, protected DirectoryWorld {
     PutLines(kFile, {u"Соль"_s, u"Минимум"_s, u"5"_s, u"Штрихкод"_s, u"200123"_s, u""_s, u""_s});
   }
   GoodsDirectory Open(GoodsView view = GoodsView::kGroups) {
-    return GoodsDirectory(Data(), TheSession(), view);
+    return GoodsDirectory(Data(), CurrentSession(), view);
   }
   static GoodsRecord Named(GoodsRecord record, const QString& name) {
     record.name = name;
@@ -55,7 +55,7 @@ TEST_F(GoodsExtrasKept, FollowANewNameAndGoWithTheGoods) {
   goods.Save();
   EXPECT_FALSE(goods.IsChanged());
   EXPECT_EQ(Lines(kFile), QStringList{u"Соль морская"_s} + kOfSalt);
-  EXPECT_EQ(FindByBarcode(Data(), TheSession(), u"200123"_s), u"Соль морская"_s);
+  EXPECT_EQ(FindByBarcode(Data(), CurrentSession(), u"200123"_s), u"Соль морская"_s);
   goods.Remove(2);
   goods.Save();
   EXPECT_EQ(Lines(kFile), QStringList{u""_s});
@@ -85,12 +85,12 @@ TEST_F(GoodsExtrasKept, WithTheGoodsAloneANewNameWaitsForItsRecord) {
 }
 
 TEST_F(GoodsExtrasKept, ADamagedFileIsEmptyAndIsLeftAloneUntilSomethingIsEntered) {
-  Temp().Put(TheSession().Path(kFile), "x");
+  Temp().Put(CurrentSession().Path(kFile), "x");
   GoodsDirectory goods = Open();
   EXPECT_TRUE(goods.ExtrasAreDamaged());
   EXPECT_EQ(goods.Extras(2), GoodsExtras());
   goods.Save();
-  EXPECT_EQ(Temp().Bytes(TheSession().Path(kFile)), "x");
+  EXPECT_EQ(Temp().Bytes(CurrentSession().Path(kFile)), "x");
   goods.Change(1, goods.Rows()[1], GoodsExtras{u"200124"_s, {}});
   EXPECT_EQ(goods.OwnerOfBarcode(u"200124"_s, u"Соль"_s), u"Мел"_s);
   goods.Save();

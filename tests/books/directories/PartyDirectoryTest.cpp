@@ -9,30 +9,30 @@ TEST(PartyDirectory, UnreadableFileIsNotTakenForAnEmptyList) {
   const QString file = world.Data().Resolve(u"0001\\spr\\post.spr"_s);
   ASSERT_TRUE(QFile::remove(file));
   EXPECT_TRUE(
-      PartyDirectory(world.Data(), world.TheSession(), PartyKind::kSupplier).Rows().empty());
+      PartyDirectory(world.Data(), world.CurrentSession(), PartyKind::kSupplier).Rows().empty());
   // What leads out of the tree is refused rather than read or replaced.
   ASSERT_TRUE(QFile::link(u"/etc/hostname"_s, file));
-  EXPECT_THROW(PartyDirectory(world.Data(), world.TheSession(), PartyKind::kSupplier),
+  EXPECT_THROW(PartyDirectory(world.Data(), world.CurrentSession(), PartyKind::kSupplier),
                std::filesystem::filesystem_error);
 }
 
-TEST(PartyDirectory, FailedSaveLeavesTheNamesOfTheSession) {
+TEST(PartyDirectory, FailedSaveLeavesTheNamesOfOpenBooks) {
   DirectoryWorld world;
-  PartyDirectory directory(world.Data(), world.TheSession(), PartyKind::kFirm);
+  PartyDirectory directory(world.Data(), world.CurrentSession(), PartyKind::kFirm);
   directory.Remove(0);
   world.Protect(u"spr\\firma.spr"_s);
   EXPECT_THROW(directory.Save(), std::filesystem::filesystem_error);
-  EXPECT_EQ(world.TheSession().Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
+  EXPECT_EQ(world.CurrentSession().Parties(PartyKind::kFirm), QStringList{u"Ваша фирма"_s});
 }
 
 TEST(PartyDirectory, TermsFollowTheirClients) {
   DirectoryWorld world;
   const auto party = [](const QString& name) { return Party{name} + Party(13, QString()); };
   const auto found = [&](const QString& client) -> QString {
-    const ClientTerms terms = FindTerms(world.Data(), world.TheSession(), client);
+    const ClientTerms terms = FindTerms(world.Data(), world.CurrentSession(), client);
     return terms.price_list + u'|' + terms.discount;
   };
-  PartyDirectory list(world.Data(), world.TheSession(), PartyKind::kClient);
+  PartyDirectory list(world.Data(), world.CurrentSession(), PartyKind::kClient);
   while (!list.Rows().empty()) list.Remove(0);
   for (const QString& name : {u"А"_s, u"Б"_s, u"В"_s}) list.Add(party(name), {name, u"5"_s});
   list.Add(party(u"Г"_s), {{}, u"150"_s});
@@ -49,7 +49,7 @@ TEST(PartyDirectory, TermsFollowTheirClients) {
   EXPECT_EQ(found(u"Б"_s), u"А|5"_s);
   EXPECT_EQ(found(u"А"_s), u"Б|7"_s);
   EXPECT_EQ(found(u"В"_s), u"|"_s);
-  PartyDirectory suppliers(world.Data(), world.TheSession(), PartyKind::kSupplier);
+  PartyDirectory suppliers(world.Data(), world.CurrentSession(), PartyKind::kSupplier);
   suppliers.Add(party(u"А"_s));
   suppliers.Save();
   EXPECT_EQ(found(u"А"_s), u"Б|7"_s) << "a supplier of that name is somebody else";

@@ -8,7 +8,7 @@ using FileError = std::filesystem::filesystem_error;
 
 class WarehouseDirectoryTest : public testing::Test {
  protected:
-  WarehouseDirectory Open() { return WarehouseDirectory(world_.Data(), world_.TheSession()); }
+  WarehouseDirectory Open() { return WarehouseDirectory(world_.Data(), world_.CurrentSession()); }
 
   DirectoryWorld world_;
 };
@@ -32,7 +32,7 @@ TEST_F(WarehouseDirectoryTest, NewWarehouseIsMadeWithAllThatItHolds) {
       {"0001/Второй/PRICE/0005.prc", {}},
   };
   world_.ExpectChanged(made);
-  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Главный склад"_s, u"Второй"_s}));
+  EXPECT_EQ(world_.CurrentSession().warehouses, (QStringList{u"Главный склад"_s, u"Второй"_s}));
 }
 
 TEST_F(WarehouseDirectoryTest, RefusedNamesChangeNeitherListNorDisk) {
@@ -73,7 +73,7 @@ TEST_F(WarehouseDirectoryTest, NamesThatWindowsKeepsForItselfAreForOldWarehouses
   }
   // Made elsewhere: it is worked with as any other, and may get a better name.
   QDir(world_.Temp().Root()).mkpath(u"0001/con"_s);
-  world_.TheSession().warehouses.append(u"con"_s);
+  world_.CurrentSession().warehouses.append(u"con"_s);
   WarehouseDirectory old = Open();
   old.Rename(1, u"con"_s);
   old.Rename(1, u"Конный двор"_s);
@@ -89,10 +89,10 @@ TEST_F(WarehouseDirectoryTest, RenameMovesTheDirectoryAloneUntilItIsSaved) {
   EXPECT_EQ(world_.Lines(u"Третий\\товар.usl"_s), (QStringList{u"Чай"_s, u"1"_s, u"пач."_s}));
   EXPECT_FALSE(world_.Data().DirectoryExists(u"0001\\Второй"_s));
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), (QStringList{u"Главный склад"_s, u"Второй"_s}));
-  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Главный склад"_s, u"Второй"_s}));
+  EXPECT_EQ(world_.CurrentSession().warehouses, (QStringList{u"Главный склад"_s, u"Второй"_s}));
   warehouses.Save();
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), (QStringList{u"Главный склад"_s, u"Третий"_s}));
-  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Главный склад"_s, u"Третий"_s}));
+  EXPECT_EQ(world_.CurrentSession().warehouses, (QStringList{u"Главный склад"_s, u"Третий"_s}));
 }
 
 TEST_F(WarehouseDirectoryTest, RenameMayChangeLetterCaseOrNothing) {
@@ -110,7 +110,7 @@ TEST_F(WarehouseDirectoryTest, DeleteTakesTheTreeAndTheNameAtOnce) {
   world_.PutLines(u"Второй\\PRH\\0001.prh"_s, {u"1"_s});
   warehouses.Delete(1);
   world_.ExpectUnchanged();
-  EXPECT_EQ(world_.TheSession().warehouses, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(world_.CurrentSession().warehouses, QStringList{u"Главный склад"_s});
   warehouses.Delete(0);
   world_.ExpectUnchanged();
 }
@@ -125,7 +125,7 @@ TEST_F(WarehouseDirectoryTest, NameWhoseDirectoryIsGoneCanBeDeleted) {
 
 TEST_F(WarehouseDirectoryTest, DeletingAForeignLineOfTheListKeepsTheDatabase) {
   // A list edited by hand: the paths of these would be the Database itself and the catalogue.
-  world_.TheSession().warehouses = {u"Главный склад"_s, {}, u".."_s, u"SPR\\.."_s};
+  world_.CurrentSession().warehouses = {u"Главный склад"_s, {}, u".."_s, u"SPR\\.."_s};
   world_.Remember();
   WarehouseDirectory warehouses = Open();
   for (int row = 1; row <= 3; ++row) EXPECT_THROW(warehouses.Delete(row), FileError);

@@ -13,7 +13,7 @@ namespace {
 class LoadTableTest : public testing::Test {
  protected:
   LoadTableTest() {
-    SmallBooks(world_.Temp().Data(), world_.TheSession(), u"Лавка"_s)
+    SmallBooks(world_.Temp().Data(), world_.CurrentSession(), u"Лавка"_s)
         .Goods(u" Чай|Улун|Китай|-|пач.|90.00"_lines);
   }
   QString Summary(QWidget* dialog) { return Find<QLabel>(dialog, "summary")->text(); }
@@ -93,7 +93,7 @@ TEST_F(LoadTableTest, TheDirectoryShowsWhatWasLoadedAndASellerMayNot) {
     Click(&screen, "table");
   }
   EXPECT_EQ(RowTexts(&screen, 3).first(), u"Соль"_s);
-  world_.TheSession().role = UserRole::kSeller;
+  world_.CurrentSession().role = UserRole::kSeller;
   ModalAnswers answers{Press(QMessageBox::Ok, u"У вас не достаточно полномочий"_s)};
   Click(&screen, "table");
 }

@@ -65,7 +65,8 @@ TEST_P(PartyScreensTest, OkWritesAddedChangedAndDeletedRecords) {
   world_.ExpectUnchanged();
   Click(screen_.get(), "ok");
   world_.ExpectChanged({{GetParam().path, Record(u"Новый"_s) + Record(u"Третий"_s)}});
-  EXPECT_EQ(world_.TheSession().Parties(GetParam().kind), (QStringList{u"Новый"_s, u"Третий"_s}));
+  EXPECT_EQ(world_.CurrentSession().Parties(GetParam().kind),
+            (QStringList{u"Новый"_s, u"Третий"_s}));
 }
 
 TEST_P(PartyScreensTest, CancelLosesTheVisit) {
@@ -88,7 +89,7 @@ TEST_P(PartyScreensTest, TheFrameAsksAndYesSavesARecordToo) {
   EXPECT_FALSE(screen_->close());
   world_.ExpectUnchanged();
   EXPECT_TRUE(screen_->close());
-  EXPECT_EQ(world_.TheSession().Parties(GetParam().kind), (u"Первый|Второй|Новый"_lines));
+  EXPECT_EQ(world_.CurrentSession().Parties(GetParam().kind), (u"Первый|Второй|Новый"_lines));
 }
 
 TEST_P(PartyScreensTest, FormWantsAName) {
@@ -159,7 +160,7 @@ TEST_F(sprSkladTest, OnlyOkWritesANewNameOfAWarehouse) {
   Click(&screen_, "add");
   EXPECT_EQ(world_.Lines(u"склад.usd"_s), (QStringList{u"Лавка"_s, u"Двор"_s}));
   Click(&screen_, "ok");
-  EXPECT_EQ(world_.TheSession().warehouses, (QStringList{u"Лавка"_s, u"Двор"_s}));
+  EXPECT_EQ(world_.CurrentSession().warehouses, (QStringList{u"Лавка"_s, u"Двор"_s}));
 }
 
 TEST_F(sprSkladTest, TheFirstWarehouseIsNotDeletedAnotherIsAtOnce) {
@@ -188,7 +189,7 @@ TEST(currencTest, OkWritesEightLinesAndTheShortForm) {
   }
   Click(&screen, "ok");
   world.ExpectChanged({{"0001/currency.usd", forms}});
-  EXPECT_EQ(world.TheSession().currency_name, u"тг."_s);
+  EXPECT_EQ(world.CurrentSession().currency_name, u"тг."_s);
 }
 
 TEST(currencTest, TaxRatesAreKeptBesideTheCurrencyAndEmptiedAgain) {
@@ -205,7 +206,7 @@ TEST(currencTest, TaxRatesAreKeptBesideTheCurrencyAndEmptiedAgain) {
   };
   const auto kept = [&] {
     FileState file;
-    return LoadTaxRates(world.Context().data, world.TheSession(), file);
+    return LoadTaxRates(world.Context().data, world.CurrentSession(), file);
   };
   EXPECT_TRUE(type(u"20,5"_s));
   EXPECT_EQ(kept(), (TaxRates{u"20.5"_s, {}}));
@@ -227,7 +228,7 @@ TEST(currencTest, FailedSaveAndCancelChangeNothing) {
   Type(QApplication::focusWidget(), u"долл."_s);
   Click(&screen, "ok");
   EXPECT_TRUE(screen.isVisible());
-  EXPECT_EQ(world.TheSession().currency_name, u"руб."_s);
+  EXPECT_EQ(world.CurrentSession().currency_name, u"руб."_s);
   Click(&screen, "cancel");
   world.ExpectUnchanged();
 }

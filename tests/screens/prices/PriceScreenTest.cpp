@@ -18,7 +18,7 @@ const QString kMarked = u"0001\\marked"_s;
 class PriceScreens : public testing::Test {
  protected:
   PriceScreens() {
-    SmallBooks(Temp().Data(), world_.TheSession())
+    SmallBooks(Temp().Data(), world_.CurrentSession())
         .Warehouses(u"Лавка|Подвал"_lines)
         .Goods(u" Чай|Улун|Китай|-|пач.|90|Ассам|Индия|-|пач.|45.00"_lines)
         .PriceLists(u"Лавка"_s, u"Розница|Опт"_lines, {Lines(u"120.00"_s, u"60.00"_s), {}});
@@ -215,7 +215,7 @@ TEST_F(PriceScreens, UnsavedRowsAreAskedForBeforeOthersComeInTheirPlace) {
   }
 }
 TEST_F(PriceScreens, ASellerSeesNoCostAndChangesCopiesAndPastesNothing) {
-  world_.TheSession().role = UserRole::kSeller;
+  world_.CurrentSession().role = UserRole::kSeller;
   Temp().PutLines(u"temp.prc"_s, u"Улун|пач.|1.00|1.00"_lines);
   PriceScreen screen(world_.Context());
   ShowActive(&screen);

@@ -23,7 +23,7 @@ class PricePrinting : public testing::Test {
     firm[1] = u"Самара, юр."_s;
     firm[3] = u"11-22"_s;
     firm[4] = u"33"_s;
-    SmallBooks(world_.Temp().Data(), world_.TheSession())
+    SmallBooks(world_.Temp().Data(), world_.CurrentSession())
         .Warehouses(u"А|Б"_lines)
         .PartyFile(PartyKind::kFirm, firm)
         .Goods(u" Чай|Улун|||шт.|10.00|Ассам|||шт.|10.00"_lines)

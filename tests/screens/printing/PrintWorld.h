@@ -18,7 +18,7 @@ class PrintWorld {
     }
     QStringList client = {u"Ромашка"_s};
     for (int line = 2; line <= 14; ++line) client << u"к"_s + QString::number(line);
-    SmallBooks(world_.Temp().Data(), world_.TheSession())
+    SmallBooks(world_.Temp().Data(), world_.CurrentSession())
         .Warehouses(u"Главный склад|Магазин"_lines)
         .Parties(PartyKind::kFirm, u"Первая|Вторая <&>"_lines)
         .Parties(PartyKind::kClient, {u"Ромашка"_s})

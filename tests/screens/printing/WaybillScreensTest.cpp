@@ -331,7 +331,7 @@ TEST(WaybillScreens, TheButtonFoldsTheParametersAndEscapeCloses) {
 // Neither a longer name nor one in other letters takes the place of what was typed.
 TEST(WaybillScreens, AFreePartyIsPrintedAsTyped) {
   PrintWorld world;
-  world->TheSession().Parties(PartyKind::kClient) = {u"ИП Петров-Водкин"_s, u"ИП ПЕТРОВ"_s};
+  world->CurrentSession().Parties(PartyKind::kClient) = {u"ИП Петров-Водкин"_s, u"ИП ПЕТРОВ"_s};
   WaybillScreen screen(world.Context(), world.source);
   ShowActive(&screen);
   auto* line = Find<QComboBox>(&screen, "Text3")->lineEdit();

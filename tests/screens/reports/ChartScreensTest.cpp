@@ -44,7 +44,7 @@ class ChartScreens : public testing::Test, protected ScreenWorld {
     return grid;
   }
 
-  SmallBooks books{Temp().Data(), TheSession()};
+  SmallBooks books{Temp().Data(), CurrentSession()};
 };
 
 TEST_F(ChartScreens, ChartOfAYearAndOfAMonthFollowTheChosenPeriod) {

@@ -37,7 +37,7 @@ class ReportScreens : public testing::Test, protected ScreenWorld {
   }
 
  private:
-  SmallBooks books_{Temp().Data(), TheSession()};
+  SmallBooks books_{Temp().Data(), CurrentSession()};
 };
 
 TEST_F(ReportScreens, OpenOnAllWarehousesAndTodayWithTheDatesOutOfUse) {

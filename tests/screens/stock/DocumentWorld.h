@@ -29,7 +29,7 @@ class DocumentWorld : public ScreenWorld {
   }
 
  private:
-  SmallBooks books_{Temp().Data(), TheSession()};
+  SmallBooks books_{Temp().Data(), CurrentSession()};
 };
 
 }  // namespace kladez

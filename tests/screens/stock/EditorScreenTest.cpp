@@ -198,14 +198,14 @@ TEST_F(Editors, TheTabKeyGoesAsTheEyeDoes) {
 }
 
 TEST_F(Editors, AClosedDocumentKeepsItsFlagAndItsPartyThatIsGone) {
-  world_.TheSession().Parties(PartyKind::kClient) << u"Бывший клиент"_s;
+  world_.CurrentSession().Parties(PartyKind::kClient) << u"Бывший клиент"_s;
   DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kShipment), QDate(2026, 11, 22));
   draft.SetParty(u"Бывший клиент"_s);
   draft.SetClosed(true);
   draft.AddLine(
       {.name = u"Чай"_s, .quantity = u"1"_s, .unit = u"шт."_s, .cost = u"1"_s, .price = u"1"_s});
   draft.Save();
-  world_.TheSession().Parties(PartyKind::kClient).removeLast();
+  world_.CurrentSession().Parties(PartyKind::kClient).removeLast();
   const auto before = world_.Temp().Tree();
   DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
   ShowActive(&editor);
@@ -233,9 +233,9 @@ TEST_F(Editors, ATransferWithinOneWarehouseIsRefusedInWords) {
 
 TEST_F(Editors, AWarehouseWithoutALedgerIsNotChosen) {
   QFile::remove(world_.Temp().Data().Resolve(u"0001\\Магазин\\товар.usl"_s));
-  world_.TheSession().warehouses = {u"Склад"_s};
+  world_.CurrentSession().warehouses = {u"Склад"_s};
   DocumentDraft draft = DocumentDraft::New(world_.In(DocumentKind::kTransfer), QDate(2026, 11, 22));
-  world_.TheSession().warehouses << u"Магазин"_s;
+  world_.CurrentSession().warehouses << u"Магазин"_s;
   DocumentEditor editor(world_.Context(), std::move(draft));
   ShowActive(&editor);
   ModalAnswers answers({Press(QMessageBox::Ok)});
@@ -246,7 +246,7 @@ TEST_F(Editors, AWarehouseWithoutALedgerIsNotChosen) {
 TEST_F(Editors, TheSellerSeesNoCostsAndTheFileKeepsThem) {
   world_.Put(DocumentKind::kShipment, true);
   for (const UserRole role : {UserRole::kSeller, UserRole::kDirector, UserRole::kNone}) {
-    world_.TheSession().role = role;
+    world_.CurrentSession().role = role;
     DocumentEditor editor(world_.Context(), world_.Open(DocumentKind::kShipment, u"0001.uhd"_s));
     DocumentProperties properties(world_.Context(), DocumentKind::kShipment, u"Склад"_s,
                                   u"0001.uhd"_s);

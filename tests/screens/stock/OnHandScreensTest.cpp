@@ -15,7 +15,7 @@ const QString kShopLedger = u"0001\\Лавка\\товар.usl"_s;
 class StockScreens : public testing::Test {
  protected:
   StockScreens() {
-    SmallBooks(Temp().Data(), world_.TheSession())
+    SmallBooks(Temp().Data(), world_.CurrentSession())
         .Warehouses(u"Лавка|Подвал"_lines)
         .Goods(u" Чай|Улун|Китай|-|пач.|90.00|Ассам|Индия|-|пач.|45.00"_lines)
         .Ledger(u"Лавка"_s, u"Ассам|5|пач.|Сенча|9|пач."_lines)
@@ -110,7 +110,7 @@ TEST_F(OnHandShown, ZeroingAsksFirstAndKeepsTheRows) {
 }
 
 TEST_F(OnHandShown, ASellerIsRefusedBothCorrections) {
-  world_.TheSession().role = UserRole::kSeller;
+  world_.CurrentSession().role = UserRole::kSeller;
   const auto before = Temp().Tree();
   for (const char* command : {"Command1", "Command3"}) {
     ModalAnswers answers({Press(QMessageBox::Ok, u"У вас не достаточно полномочий"_s)});
@@ -138,7 +138,7 @@ TEST_F(OnHandShown, ThePageIsThatOfTheListAndTheViewIsRemembered) {
   EXPECT_EQ(Rows(&screen_), (QStringList{u"Ассам=5"_s, u"Улун=0"_s}));
   Click(&screen_, "Command2");
   const OnHandList list =
-      LoadOnHand(Temp().Data(), world_.TheSession(), {u"Лавка"_s}, GoodsView::kGoodsOnly);
+      LoadOnHand(Temp().Data(), world_.CurrentSession(), {u"Лавка"_s}, GoodsView::kGoodsOnly);
   EXPECT_EQ(Temp().Bytes(u"out.htm"_s), OnHandPage(list, QDate(2026, 11, 22)));
   EXPECT_EQ(world_.ViewerStarts(), 1);
   screen_.close();

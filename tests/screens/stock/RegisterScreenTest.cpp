@@ -339,7 +339,7 @@ TEST_F(RegisterScreens, AWarehouseThatIsGoneShowsNoRowsOfAnother) {
 }
 
 TEST_F(RegisterScreens, WithoutWarehousesTheyOpenEmpty) {
-  world_.TheSession().warehouses.clear();
+  world_.CurrentSession().warehouses.clear();
   ModalAnswers none({});
   DocumentRegisterScreen screen(world_.Context(), DocumentKind::kReceipt);
   ShowActive(&screen);
@@ -348,7 +348,7 @@ TEST_F(RegisterScreens, WithoutWarehousesTheyOpenEmpty) {
 
 TEST_F(RegisterScreens, TransfersAreThereWithoutWarehousesToo) {
   world_.Put(DocumentKind::kTransfer);
-  world_.TheSession().warehouses.clear();
+  world_.CurrentSession().warehouses.clear();
   ModalAnswers none({});
   DocumentRegisterScreen screen(world_.Context(), DocumentKind::kTransfer);
   ShowActive(&screen);

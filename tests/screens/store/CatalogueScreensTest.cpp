@@ -31,7 +31,7 @@ TEST_F(CatalogueScreens, EmptyFolderOffersCreationOnly) {
   EXPECT_TRUE(Tree().contains("0001.us") && Tree().contains("0001/SPR/товар.spr"));
   EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
   EXPECT_EQ(Setting(settings::kRole), u"-1"_s);
-  EXPECT_FALSE(TheSession().IsOpen());
+  EXPECT_FALSE(CurrentSession().IsOpen());
 }
 
 TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
@@ -47,8 +47,8 @@ TEST_F(CatalogueScreens, OpeningWritesTheChoiceAndTellsTheMainWindow) {
   })};
   EXPECT_TRUE(Run(CatalogueDialog::Mode::kOpen));
   EXPECT_EQ(host_.calls, (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s}));
-  EXPECT_EQ(TheSession().chosen_base, u"0002\\"_s);
-  EXPECT_TRUE(TheSession().IsSeller());
+  EXPECT_EQ(CurrentSession().chosen_base, u"0002\\"_s);
+  EXPECT_TRUE(CurrentSession().IsSeller());
   EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
   EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
   EXPECT_EQ(Setting(settings::kRole), u"0"_s);
@@ -95,7 +95,7 @@ TEST_F(CatalogueScreens, RightsChangeOnlyByAnOpeningThatWentThrough) {
   world_.Temp().PutLines(u"bases.psw"_s, {u"Пароль"_s});
   for (const UserRole role : {UserRole::kSeller, UserRole::kDirector, UserRole::kNone}) {
     for (const bool frame : {false, true}) {
-      TheSession().role = role;
+      CurrentSession().role = role;
       ModalAnswers answers{On([&](CatalogueDialog* bases) {
                              auto* choice = Find<QComboBox>(bases, "Combo1");
                              EXPECT_EQ(choice->currentIndex(), static_cast<int>(role));
@@ -106,14 +106,14 @@ TEST_F(CatalogueScreens, RightsChangeOnlyByAnOpeningThatWentThrough) {
                            }),
                            Escape()};  // the password
       EXPECT_FALSE(Run(CatalogueDialog::Mode::kOpen));
-      EXPECT_EQ(TheSession().role, role);
+      EXPECT_EQ(CurrentSession().role, role);
     }
   }
 }
 
 TEST_F(CatalogueScreens, OpenDatabaseIsNeitherRenamedNorDeleted) {
   Create({u"Первая"_s});
-  TheSession().base_path = u"0001\\"_s;
+  CurrentSession().base_path = u"0001\\"_s;
   const auto before = Tree();
   ModalAnswers answers{
       On([](CatalogueDialog* bases) {
@@ -185,8 +185,8 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
     for (const auto& entry : ListDatabases(Data())) DeleteDatabase(Data(), entry);
     if (c.any) Create({u"Первая"_s});
     host_.calls.clear();
-    TheSession().base_path = c.open;
-    TheSession().chosen_base = u"0001\\"_s;
+    CurrentSession().base_path = c.open;
+    CurrentSession().chosen_base = u"0001\\"_s;
     world_.Settings().Write(settings::kFilePos, u"7"_s);
     world_.Settings().Write(settings::kBaseName, u"old"_s);
     ModalAnswers answers{On([&](CatalogueDialog* bases) {
@@ -198,7 +198,7 @@ TEST_F(CatalogueScreens, CancelAndTheFrameDiffer) {
     })};
     EXPECT_FALSE(Run(CatalogueDialog::Mode::kOpen));
     const size_t number = size_t(&c - cases.data());
-    EXPECT_EQ(TheSession().chosen_base, c.text1_after) << number;
+    EXPECT_EQ(CurrentSession().chosen_base, c.text1_after) << number;
     EXPECT_EQ(host_.calls, c.calls) << number;
     EXPECT_EQ(Setting(settings::kFilePos), c.filepos_after) << number;
     EXPECT_EQ(Setting(settings::kBaseName), c.basename_after) << number;
@@ -247,7 +247,7 @@ TEST_F(CatalogueScreens, TreeBehindALinkThatLeadsOutIsNeitherOpenedNorDeletedNor
   }
   EXPECT_EQ(host_.calls, QStringList());
   EXPECT_EQ(ListDatabases(Data()).size(), 2u);
-  TheSession().base_path = u"0001\\"_s;
+  CurrentSession().base_path = u"0001\\"_s;
   ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   SelectRow(&screen, 1);

@@ -24,7 +24,7 @@ class NotedHost : public CatalogueHost {
 class CatalogueScreens : public testing::Test {
  protected:
   const DataDir& Data() { return world_.Temp().Data(); }
-  Session& TheSession() { return world_.TheSession(); }
+  Session& CurrentSession() { return world_.CurrentSession(); }
   QString Setting(const struct Setting& setting) { return world_.Settings().Read(setting); }
   std::map<std::string, std::string> Tree() { return world_.Temp().Tree(); }
 

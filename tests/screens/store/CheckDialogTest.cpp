@@ -10,7 +10,7 @@ namespace {
 class CheckDialogTest : public testing::Test {
  protected:
   CheckDialogTest() {
-    SmallBooks(world_.Temp().Data(), TheSession(), u"Лавка"_s);
+    SmallBooks(world_.Temp().Data(), CurrentSession(), u"Лавка"_s);
     world_.Temp().PutLines(u"0001\\SPR\\товар.spr"_s, {u"Чай"_s, {}, {}, u"пач."_s, u"45.00"_s});
     world_.Temp().Put(u"0001\\marked"_s, EncodeText(u"Чай\nЧай\r\n"));
     world_.Temp().PutLines(u"0001\\Главный склад\\товар.usl"_s, {u"Чай"_s, u"- 2"_s, u"пач."_s});
@@ -20,7 +20,7 @@ class CheckDialogTest : public testing::Test {
     EXPECT_TRUE(QTest::qWaitFor([&] { return findings_->model()->rowCount() == 3; }));
   }
 
-  Session& TheSession() { return world_.TheSession(); }
+  Session& CurrentSession() { return world_.CurrentSession(); }
 
   ScreenWorld world_;
   std::unique_ptr<CheckDialog> screen_;
@@ -50,13 +50,13 @@ TEST_F(CheckDialogTest, ARepairAsksMendsAndChecksAgain) {
     Click(screen_.get(), "mend");
     EXPECT_EQ(world_.Temp().Tree(), before);
   }
-  TheSession().role = UserRole::kSeller;
+  CurrentSession().role = UserRole::kSeller;
   {
     ModalAnswers answers{Press(QMessageBox::Ok, u"У вас не достаточно полномочий"_s)};
     Click(screen_.get(), "mend");
     EXPECT_EQ(world_.Temp().Tree(), before);
   }
-  TheSession().role = UserRole::kDirector;
+  CurrentSession().role = UserRole::kDirector;
   ModalAnswers answers{Press(QMessageBox::Yes, u"Переписать концы строк файла «marked»?"_s)};
   Click(screen_.get(), "mend");
   EXPECT_EQ(world_.Temp().Lines(u"0001\\marked"_s), (QStringList{u"Чай"_s, u"Чай"_s}));

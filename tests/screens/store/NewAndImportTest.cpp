@@ -10,10 +10,10 @@ using NewAndImport = CatalogueScreens;
 
 TEST_F(NewAndImport, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
   Create({u"Первая"_s});
-  TheSession().base_path = TheSession().chosen_base = u"0001\\"_s;
-  TheSession().warehouses = QStringList{u"a"_s, u"b"_s};
-  TheSession().Parties(PartyKind::kFirm) = QStringList{u"Прежняя фирма"_s};
-  TheSession().currency_name = u"тнг"_s;
+  CurrentSession().base_path = CurrentSession().chosen_base = u"0001\\"_s;
+  CurrentSession().warehouses = QStringList{u"a"_s, u"b"_s};
+  CurrentSession().Parties(PartyKind::kFirm) = QStringList{u"Прежняя фирма"_s};
+  CurrentSession().currency_name = u"тнг"_s;
   NewDatabaseDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
   EXPECT_EQ(Find<QLineEdit>(&screen, "Text3")->text(), u"Первая"_s);
@@ -27,11 +27,11 @@ TEST_F(NewAndImport, CreationOpensAtOnceButRefreshesOnlyTheWarehouses) {
   EXPECT_FALSE(screen.isVisible());
   EXPECT_EQ(host_.calls,
             (QStringList{u"CloseChildScreens"_s, u"Title Вторая"_s, u"ShowNewDatabase"_s}));
-  EXPECT_EQ(TheSession().base_path, u"0002\\"_s);
-  EXPECT_EQ(TheSession().chosen_base, u"0002\\"_s);
-  EXPECT_EQ(TheSession().warehouses, QStringList{u"Главный склад"_s});
-  EXPECT_EQ(TheSession().Parties(PartyKind::kFirm), QStringList{u"Прежняя фирма"_s});
-  EXPECT_EQ(TheSession().currency_name, u"тнг"_s);
+  EXPECT_EQ(CurrentSession().base_path, u"0002\\"_s);
+  EXPECT_EQ(CurrentSession().chosen_base, u"0002\\"_s);
+  EXPECT_EQ(CurrentSession().warehouses, QStringList{u"Главный склад"_s});
+  EXPECT_EQ(CurrentSession().Parties(PartyKind::kFirm), QStringList{u"Прежняя фирма"_s});
+  EXPECT_EQ(CurrentSession().currency_name, u"тнг"_s);
   EXPECT_EQ(Setting(settings::kBaseName), u"0002\\"_s);
   EXPECT_EQ(Setting(settings::kBaseTitle), u"Вторая"_s);
   EXPECT_EQ(Setting(settings::kFilePos), u"1"_s);
@@ -51,12 +51,12 @@ TEST_F(NewAndImport, FailedCreationTellsWhyAndLeavesTheScreen) {
   syscalls::SetFaultHook({});
   EXPECT_TRUE(screen.isVisible());
   EXPECT_TRUE(host_.calls.isEmpty());
-  EXPECT_FALSE(TheSession().IsOpen());
+  EXPECT_FALSE(CurrentSession().IsOpen());
 }
 
 TEST_F(NewAndImport, ImportOfADatabaseIntoItselfIsRefused) {
   Create({u"Первая"_s});
-  TheSession().base_path = u"0001\\"_s;
+  CurrentSession().base_path = u"0001\\"_s;
   const auto before = Tree();
   ImportSourceDialog screen(world_.Context(), host_, nullptr);
   ShowActive(&screen);
@@ -68,7 +68,7 @@ TEST_F(NewAndImport, ImportOfADatabaseIntoItselfIsRefused) {
 
 TEST_F(NewAndImport, ImportGoesFromSourceToAreasToFiles) {
   Create({u"Первая"_s, u"Вторая"_s});
-  TheSession().base_path = u"0001\\"_s;
+  CurrentSession().base_path = u"0001\\"_s;
   world_.Temp().PutLines(u"0002\\SPR\\товар.spr"_s, {u" Чай"_s});
   world_.Temp().PutLines(u"0002\\SPR\\firma.spr"_s, {u"не отмечено"_s});
   ImportSourceDialog screen(world_.Context(), host_, nullptr);
